@@ -1,0 +1,56 @@
+# How every target of the project is made: one include tree, one set of warnings and definitions.
+
+# Headers are reached by the same lines from the build tree, from an installed package and from a
+# host's tree, whatever the checkout is called: <MaltoConfiguration/store/ConfStorage.h>. In the
+# build tree links make that so.
+set(MALTO_INCLUDE_DIR ${CMAKE_CURRENT_BINARY_DIR}/include)
+
+# malto_include_tree(<name> <entry>...): each entry of the current source folder appears as
+# include/<name>/<entry>.
+function(malto_include_tree name)
+    file(MAKE_DIRECTORY ${MALTO_INCLUDE_DIR}/${name})
+    foreach(entry IN LISTS ARGN)
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${entry} ${MALTO_INCLUDE_DIR}/${name}/${entry}
+             COPY_ON_ERROR SYMBOLIC)
+    endforeach()
+endfunction()
+
+# Warnings and strict Qt definitions for our own sources; never passed on to a host.
+function(malto_own_code target)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON AUTOUIC ON AUTORCC ON
+        CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+        QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        $<$<BOOL:${MALTO_DEVELOPER}>:-Werror>)
+endfunction()
+
+# A shared library of the project: own code, hidden symbols, the include tree.
+function(malto_library target)
+    malto_own_code(${target})
+    set_target_properties(${target} PROPERTIES
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON POSITION_INDEPENDENT_CODE ON)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${MALTO_INCLUDE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+endfunction()
+
+# malto_companion(<name> <folder> <option> <header>): the target MaltoConfiguration::<name>, from
+# our folder or, with the option on, from a library of that name that the system already has.
+function(malto_companion name folder option header)
+    option(${option} "Link an installed lib${name} instead of building ${folder}" OFF)
+    if(NOT ${option})
+        add_subdirectory(${folder})
+        add_library(MaltoConfiguration::${name} ALIAS ${name})
+        return()
+    endif()
+    find_library(${name}_LIBRARY NAMES ${name} Qxt${name} QxtWidgets REQUIRED)
+    find_path(${name}_INCLUDE_DIR NAMES ${header} PATH_SUFFIXES QxtWidgets REQUIRED)
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${${name}_LIBRARY})
+    target_include_directories(${name} SYSTEM INTERFACE ${${name}_INCLUDE_DIR})
+    add_library(MaltoConfiguration::${name} ALIAS ${name})
+endfunction()

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QtGlobal>
+
+/// One message of Qt's log.
+struct LoggedMessage
+{
+    QtMsgType level;
+    QString text;
+    bool operator==(const LoggedMessage &other) const
+    {
+        return level == other.level && text == other.text;
+    }
+};
+
+/// Collects every message of Qt's log while it lives, instead of printing it.
+class LogCapture
+{
+public:
+    LogCapture() : mPrevious(qInstallMessageHandler(&LogCapture::handle)) { messages().clear(); }
+    ~LogCapture() { qInstallMessageHandler(mPrevious); }
+    Q_DISABLE_COPY(LogCapture)
+
+    /// Everything logged since construction, oldest first.
+    static QList<LoggedMessage> &messages()
+    {
+        static QList<LoggedMessage> sMessages;
+        return sMessages;
+    }
+
+    /// The texts of the messages of one level.
+    static QStringList texts(QtMsgType level)
+    {
+        QStringList result;
+        for (const LoggedMessage &message : qAsConst(messages())) {
+            if (message.level == level)
+                result.append(message.text);
+        }
+        return result;
+    }
+
+private:
+    static void handle(QtMsgType level, const QMessageLogContext &, const QString &text)
+    {
+        messages().append({level, text});
+    }
+
+    QtMessageHandler mPrevious;
+};

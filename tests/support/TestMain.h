@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// Runs the test class `Test` as a program: on the offscreen platform unless another one is asked
+/// for, in the C locale, and in an empty folder of its own, so that programs can run side by side
+/// and nothing that one of them writes is seen by another.
+template<class Test> int runTest(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale::c());
+    const QTemporaryDir folder;
+    if (!folder.isValid() || !QDir::setCurrent(folder.path()))
+        qFatal("no temporary folder for the test: %s", qPrintable(folder.errorString()));
+    QApplication application(argc, argv);
+    Test test;
+    const int failures = QTest::qExec(&test, argc, argv);
+    QDir::setCurrent(QDir::rootPath());
+    return failures;
+}
