@@ -1,0 +1,141 @@
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QDebug>
+#include <QJsonObject>
+#include <QScopedValueRollback>
+
+namespace {
+
+/// How deep callbacks may set off each other. Far above what a host needs, far below what the
+/// stack holds: a callback that sets its own key without end is stopped instead of crashing.
+constexpr int sMaxCallbackDepth = 200;
+
+} // namespace
+
+ConfStorage *ConfStorage::instance()
+{
+    static ConfStorage *sInstance = new ConfStorage;
+    return sInstance;
+}
+
+void ConfStorage::reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current)
+{
+    mConfValues[key] = bound;
+
+    ConfMeta meta;
+    if (isDynamicWithoutPreset(key))
+        meta.flags &= ~FlagIsDefault;
+    const auto preset = mPresetDynamicConfs.constFind(key);
+    if (preset == mPresetDynamicConfs.constEnd()) {
+        meta.defaultValue = current;
+    } else {
+        meta.defaultValue = ConfValue::owned(preset->toObject());
+        if (meta.defaultValue != bound)
+            meta.flags &= ~FlagIsDefault;
+    }
+    mConfMetas[key] = meta;
+}
+
+void ConfStorage::setToDefault(QString const &key, bool updateTime)
+{
+    const auto value = mConfValues.find(key);
+    if (value != mConfValues.end()) {
+        const auto meta = mConfMetas.find(key);
+        if (meta == mConfMetas.end() || (meta->flags & FlagIsDefault))
+            return;
+        value->set(meta->defaultValue);
+        if (updateTime)
+            meta->lastChangeTime = QDateTime::currentDateTimeUtc();
+        meta->flags |= FlagIsDefault;
+        callChangedCallback(key, *meta);
+        mChanged = true;
+        return;
+    }
+
+    const auto preset = mPresetDynamicConfs.constFind(key);
+    if (preset == mPresetDynamicConfs.constEnd()) {
+        // The message of `set` on purpose: both mean that nobody reserved the key.
+        qCritical() << "ConfStorage::set key not found: " << key;
+        return;
+    }
+    // Copies, because the creator may change the presets.
+    const QString name = key;
+    const QJsonValue presetValue = *preset;
+    createDynamicConf(name, presetValue, nullptr);
+    const auto meta = mConfMetas.find(name);
+    if (meta != mConfMetas.end())
+        meta->flags |= FlagIsDefault;
+    mChanged = true;
+}
+
+bool ConfStorage::isEqualToDefault(QString const &key) const
+{
+    const auto meta = mConfMetas.constFind(key);
+    if (meta == mConfMetas.constEnd() || (meta->flags & FlagIsDefault))
+        return true;
+    // Such a key starts out with a default value in its record, but it is nobody's default.
+    if (isDynamicWithoutPreset(key))
+        return false;
+    return meta->defaultValue == mConfValues.value(key);
+}
+
+void ConfStorage::setConfChangedCallback(QString const &key, ConfChangedCallback cb)
+{
+    if (mConfValues.contains(key))
+        mConfMetas[key].changedCallback = std::move(cb);
+    else
+        qDebug() << "ConfStorage::setConfChangedCallback key not found: " << key;
+}
+
+void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
+{
+    const auto stored = mConfValues.find(key);
+    if (stored == mConfValues.end())
+        return;
+    stored->loadFromJsonValue(value);
+    markUserChange(key);
+}
+
+void ConfStorage::markUserChange(QString const &key)
+{
+    ConfMeta &meta = mConfMetas[key];
+    meta.lastChangeTime = QDateTime::currentDateTimeUtc();
+    meta.flags &= ~FlagIsDefault;
+    callChangedCallback(key, meta);
+    mChanged = true;
+}
+
+void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta)
+{
+    if (!meta.changedCallback)
+        return;
+    if (mCallbackDepth >= sMaxCallbackDepth) {
+        qCritical() << "ConfStorage::callChangedCallback nested too deeply: " << key;
+        return;
+    }
+    // Copies, because the callback may remove or reserve again the key whose record it stands in.
+    const QString name = key;
+    const ConfChangedCallback callback = meta.changedCallback;
+    const QScopedValueRollback<int> depth(mCallbackDepth, mCallbackDepth + 1);
+    callback(name, &mConfValues[name]);
+}
+
+bool ConfStorage::isDynamicWithoutPreset(QString const &key) const
+{
+    return !mPresetDynamicConfs.contains(key) && findDynamicConfClass(key);
+}
+
+void ConfStorage::logNullPointer(QString const &key)
+{
+    qCritical() << "ConfStorage::reserveConf null pointer: " << key;
+}
+
+void ConfStorage::logGetNotFound(QString const &key)
+{
+    qCritical() << "ConfStorage::get key not found: " << key;
+}
+
+void ConfStorage::logSetNotFound(QString const &key)
+{
+    qWarning() << "ConfStorage::set key not found: " << key;
+}

@@ -1,0 +1,161 @@
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QDebug>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+void logClassNotFound(QString const &key)
+{
+    // Removal logs the text of creation on purpose: both mean that no class declares the key.
+    qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: " << key;
+}
+
+/// The time that an entry of a dumped configuration bears: of its removal, else of its change, else
+/// the current time.
+QDateTime incomingTime(QJsonObject const &entry)
+{
+    for (const QLatin1String member : {QLatin1String("d"), QLatin1String("t")}) {
+        const auto time = entry.constFind(member);
+        if (time != entry.constEnd())
+            return QDateTime::fromSecsSinceEpoch(time.value().toInt(), Qt::UTC);
+    }
+    return QDateTime::currentDateTimeUtc();
+}
+
+} // namespace
+
+ConfStorage::DynamicConfClass const *ConfStorage::findDynamicConfClass(QString const &key) const
+{
+    const auto found = std::find_if(mDynamicConfClasses.cbegin(), mDynamicConfClasses.cend(),
+                                    [&](const DynamicConfClass *cls) {
+                                        return cls && key.startsWith(cls->prefix);
+                                    });
+    return found != mDynamicConfClasses.cend() ? *found : nullptr;
+}
+
+void ConfStorage::createDynamicConf(QString const &key, QJsonValue const &value,
+                                    DynamicConfClass const *cls)
+{
+    if (!cls)
+        cls = findDynamicConfClass(key);
+    if (!cls) {
+        logClassNotFound(key);
+        return;
+    }
+    if (mConfValues.contains(key)) {
+        qCritical() << "ConfStorage::createDynamicConf() key already exists: " << key;
+        return;
+    }
+    // Copies, because `key` may stand in a map that changes here, and the creator is the host's
+    // code: it may even replace the class.
+    const QString name = key;
+    const QJsonValue initial = value;
+    const auto creator = cls->creator;
+    const quint32 flags = cls->flags;
+
+    mRemovedDynamicConfs.remove(name);
+    if (creator)
+        creator(name, &initial);
+    ConfMeta &meta = mConfMetas[name];
+    meta.lastChangeTime = QDateTime::currentDateTimeUtc();
+    meta.flags |= flags;
+    mChanged = true;
+}
+
+void ConfStorage::removeDynamicConf(QString const &key)
+{
+    const DynamicConfClass *cls = findDynamicConfClass(key);
+    if (!cls) {
+        logClassNotFound(key);
+        return;
+    }
+    if (!mConfValues.contains(key)) {
+        qCritical() << "ConfStorage::removeDynamicConf() key not found: " << key;
+        return;
+    }
+    // Copies, for the reasons given in createDynamicConf.
+    const QString name = key;
+    const auto remover = cls->remover;
+    if (remover)
+        remover(name);
+    mRemovedDynamicConfs[name] = QDateTime::currentDateTimeUtc();
+    mConfValues.remove(name);
+    mConfMetas.remove(name);
+    mChanged = true;
+}
+
+void ConfStorage::restoreDynamicConf(QString const &prefix)
+{
+    const QList<QString> keys = mConfValues.keys();
+    for (const QString &key : keys) {
+        if (!key.startsWith(prefix))
+            continue;
+        if (mPresetDynamicConfs.contains(key))
+            setToDefault(key, true);
+        else if (mConfValues.contains(key)) // not taken away by a callback meanwhile
+            removeDynamicConf(key);
+    }
+    // Every class's presets, not only those of `prefix`: restoring one class is the way to get
+    // deleted presets of the others back, too.
+    const QMap<QString, QJsonValue> presets = mPresetDynamicConfs;
+    for (auto preset = presets.cbegin(); preset != presets.cend(); ++preset) {
+        if (!mConfValues.contains(preset.key()))
+            createDynamicConf(preset.key(), preset.value(), nullptr);
+    }
+    mChanged = true;
+}
+
+void ConfStorage::loadPresetDynamicConf()
+{
+    const QList<QString> keys = mPresetDynamicConfs.keys();
+    for (const QString &key : keys) {
+        if (mConfValues.contains(key) || mRemovedDynamicConfs.contains(key))
+            continue;
+        setToDefault(key, true);
+        // An untouched preset is neither dumped nor counts as a change.
+        const auto meta = mConfMetas.find(key);
+        if (meta != mConfMetas.end())
+            meta->lastChangeTime = QDateTime();
+    }
+}
+
+bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, DynamicConfClass const *cls)
+{
+    const QJsonObject entry = value.toObject();
+    const QDateTime incoming = incomingTime(entry);
+
+    const auto record = mConfMetas.constFind(key);
+    const QDateTime stored = record != mConfMetas.constEnd() ? record->lastChangeTime
+                                                             : mRemovedDynamicConfs.value(key);
+    if (stored.isValid() && stored >= incoming)
+        return true;
+
+    if (entry.contains(QLatin1String("d"))) {
+        const bool present = mConfValues.contains(key);
+        if (present)
+            removeDynamicConf(key);
+        if (present || mRemovedDynamicConfs.value(key) < incoming)
+            mRemovedDynamicConfs[key] = incoming;
+        return true;
+    }
+    if (!entry.contains(QLatin1String("v"))) {
+        setToDefault(key, true);
+        const auto meta = mConfMetas.find(key);
+        if (meta != mConfMetas.end() && entry.contains(QLatin1String("t")))
+            meta->lastChangeTime = incoming;
+        return true;
+    }
+    mRemovedDynamicConfs.remove(key);
+    if (mConfValues.contains(key))
+        return false;
+    createDynamicConf(key, entry.value(QLatin1String("v")), cls);
+    const auto meta = mConfMetas.find(key);
+    if (meta != mConfMetas.end())
+        meta->lastChangeTime = incoming;
+    else
+        qCritical() << "createDynamicConf Not create conf: " << key;
+    return true;
+}

@@ -1,0 +1,107 @@
+#include <MaltoConfiguration/store/ConfValue.h>
+
+#include <QDebug>
+#include <QJsonValue>
+
+namespace {
+
+/// Calls `visitor` with a null `T *`, `T` being the C++ type of `type`; logs an unknown type.
+template<class Visitor> void visitType(ConfValue::ConfType type, Visitor visitor)
+{
+    switch (type) {
+    case ConfValue::TyQColor: visitor(static_cast<QColor *>(nullptr)); return;
+    case ConfValue::TyInt32: visitor(static_cast<int *>(nullptr)); return;
+    case ConfValue::TyQreal: visitor(static_cast<qreal *>(nullptr)); return;
+    case ConfValue::TyBool: visitor(static_cast<bool *>(nullptr)); return;
+    case ConfValue::TyQString: visitor(static_cast<QString *>(nullptr)); return;
+    case ConfValue::TyQFont: visitor(static_cast<QFont *>(nullptr)); return;
+    case ConfValue::TyQKeySequence: visitor(static_cast<QKeySequence *>(nullptr)); return;
+    case ConfValue::TyQJsonObject: visitor(static_cast<QJsonObject *>(nullptr)); return;
+    case ConfValue::TyQJsonArray: visitor(static_cast<QJsonArray *>(nullptr)); return;
+    case ConfValue::TyNone: break;
+    }
+    qCritical() << "restoreDefault: unknow type: " << static_cast<quint32>(type);
+}
+
+QJsonValue toJson(const QColor &color)
+{
+    return color.isValid() ? QString::number(color.rgba(), 16) : QStringLiteral("None");
+}
+QJsonValue toJson(const QFont &font) { return font.toString(); }
+QJsonValue toJson(const QKeySequence &keys) { return keys.toString(QKeySequence::PortableText); }
+template<class T> QJsonValue toJson(const T &value) { return value; }
+
+void fromJson(const QJsonValue &json, QColor &color)
+{
+    const QString text = json.toString();
+    color = text == QLatin1String("None") ? QColor() : QColor::fromRgba(text.toUInt(nullptr, 16));
+}
+void fromJson(const QJsonValue &json, int &number) { number = json.toInt(0); }
+void fromJson(const QJsonValue &json, qreal &number) { number = json.toDouble(0.0); }
+void fromJson(const QJsonValue &json, bool &flag) { flag = json.toBool(false); }
+void fromJson(const QJsonValue &json, QString &text) { text = json.toString(); }
+void fromJson(const QJsonValue &json, QFont &font) { font.fromString(json.toString()); }
+void fromJson(const QJsonValue &json, QKeySequence &keys)
+{
+    keys = QKeySequence::fromString(json.toString(), QKeySequence::PortableText);
+}
+void fromJson(const QJsonValue &json, QJsonObject &object) { object = json.toObject(); }
+void fromJson(const QJsonValue &json, QJsonArray &array) { array = json.toArray(); }
+
+} // namespace
+
+void ConfValue::logGetMismatch()
+{
+    qWarning() << "ConfValue::get() type mismatch";
+}
+
+void ConfValue::set(const ConfValue &other)
+{
+    if (other.mType != mType) {
+        qWarning() << "ConfValue::set() type mismatch";
+        return;
+    }
+    visitType(mType, [&](auto *type) {
+        using T = std::remove_pointer_t<decltype(type)>;
+        set<T>(other.get<T>());
+    });
+}
+
+bool ConfValue::operator==(const ConfValue &other) const
+{
+    bool equal = false;
+    if (mType == other.mType) {
+        visitType(mType, [&](auto *type) {
+            using T = std::remove_pointer_t<decltype(type)>;
+            equal = get<T>() == other.get<T>();
+        });
+    }
+    return equal;
+}
+
+QJsonValue ConfValue::toJsonValue() const
+{
+    if (mType == TyNone || mValue.isNull())
+        return QJsonValue();
+    QJsonValue json;
+    visitType(mType, [&](auto *type) {
+        using T = std::remove_pointer_t<decltype(type)>;
+        json = toJson(get<T>());
+    });
+    return json;
+}
+
+void ConfValue::loadFromJsonValue(const QJsonValue &value)
+{
+    if (value.isNull() || value.isUndefined()) {
+        // Unbinding is wanted: from here on the store treats the key as holding no value.
+        *this = ConfValue();
+        return;
+    }
+    visitType(mType, [&](auto *type) {
+        using T = std::remove_pointer_t<decltype(type)>;
+        T loaded{};
+        fromJson(value, loaded);
+        set<T>(loaded);
+    });
+}
