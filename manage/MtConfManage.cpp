@@ -1,0 +1,90 @@
+#include <MaltoConfiguration/manage/MtConfManage.h>
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace MtConf {
+
+namespace {
+
+/// The element's address. Reached without detaching the list: that would move every element.
+template<class T> T *addressAt(const QList<T> &list, int index)
+{
+    return const_cast<T *>(&list.at(index));
+}
+
+/// The first element that `matches`, or null.
+template<class T, class Predicate> T *findFirst(const QList<T> &list, Predicate matches)
+{
+    const auto found = std::find_if(list.cbegin(), list.cend(), matches);
+    return found != list.cend() ? const_cast<T *>(&*found) : nullptr;
+}
+
+/// Appends without letting the addresses of the elements so far dangle.
+template<class T> T *appendKeepingAddresses(QList<T> &list, const T &element,
+                                            QList<QList<T>> &shared)
+{
+    if (!list.isDetached())
+        shared.append(list);
+    list.append(element);
+    return addressAt(list, list.size() - 1);
+}
+
+} // namespace
+
+MtConfManage::MtConfManage(QObject *parent) : QObject(parent) {}
+
+ConfItem *MtConfManage::addConfItem(ConfItem &item)
+{
+    addMajorConfItemIfNotExist(item.majorName);
+    return appendKeepingAddresses(items, item, mSharedItems);
+}
+
+ConfItem *MtConfManage::getItemByName(const QString &majorName, const QString &name,
+                                      const QString &subName)
+{
+    return findFirst(items, [&](const ConfItem &item) {
+        return item.majorName == majorName && item.name == name && item.subName == subName;
+    });
+}
+
+QList<ConfItem *> MtConfManage::getConfItemList(const QString &majorName)
+{
+    QList<ConfItem *> found;
+    if (!getMajorConfItemByName(majorName)) {
+        qWarning() << "major class not exist: " << majorName;
+        return found;
+    }
+    for (int i = 0; i < items.size(); ++i) {
+        if (items.at(i).majorName == majorName)
+            found.append(addressAt(items, i));
+    }
+    return found;
+}
+
+MajorConfItem *MtConfManage::addMajorConfItemIfNotExist(const QString &name)
+{
+    if (MajorConfItem *existing = getMajorConfItemByName(name))
+        return existing;
+    MajorConfItem major;
+    major.name = name;
+    return appendKeepingAddresses(majorItems, major, mSharedMajorItems);
+}
+
+MajorConfItem *MtConfManage::getMajorConfItemByName(const QString &name)
+{
+    return findFirst(majorItems, [&](const MajorConfItem &major) { return major.name == name; });
+}
+
+void MtConfManage::setMajorWidget(const QString &name, std::function<QWidget *(QWidget *)> factory)
+{
+    addMajorConfItemIfNotExist(name)->majorWidget = std::move(factory);
+}
+
+void MtConfManage::setConfigClassFlag(const QString &name, int flag)
+{
+    addMajorConfItemIfNotExist(name)->classFlag = flag;
+}
+
+} // namespace MtConf

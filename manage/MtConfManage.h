@@ -1,0 +1,127 @@
+#pragma once
+
+#include <MaltoConfiguration/malto_export.h>
+#include <MaltoConfiguration/manage/ConfItem.h>
+#include <MaltoConfiguration/manage/MajorConfItem.h>
+
+#include <QList>
+#include <QObject>
+
+namespace MtConf {
+
+class ConfigurationWindow;
+
+/// What the host declares: its settings and their classes, in order, and the way to the settings
+/// window.
+///
+/// The host makes one manager, calls one `addConf` operation for each setting, then loads its files
+/// and shows the window. The manager must not outlive the `QApplication` with the window still open;
+/// destroying it closes the window. Everything runs on the GUI thread.
+///
+/// Items and classes are only ever added by the manager, and their addresses stay valid as the lists
+/// grow. A host may edit the lists itself, but must not do so while a copy of them is alive, nor
+/// remove an item whose editor is shown.
+class MALTO_EXPORT MtConfManage : public QObject
+{
+    Q_OBJECT
+public:
+    explicit MtConfManage(QObject *parent = nullptr);
+    ~MtConfManage() override;
+
+    // Declaration. `text` is the untranslated label and must outlive the manager, as a literal
+    // does; it is translated in the context "QObject". The three names make the key of the setting.
+    // An empty `creator` stands for the type's own editor.
+
+    /// Declares an integer, edited in a spin box. Its properties "MinValue" and "MaxValue" set the
+    /// range, 0 to 99 without them.
+    ConfItem *addConfInt32(const char *text, int *value, const QString &majorName,
+                           const QString &name, const QString &subName = QString(),
+                           WidgetCreator creator = WidgetCreator());
+    /// Declares a switch, edited in a check box.
+    ConfItem *addConfBool(const char *text, bool *value, const QString &majorName,
+                          const QString &name, const QString &subName = QString(),
+                          WidgetCreator creator = WidgetCreator());
+    /// Declares a text. It has no editor of its own: without a `creator` the window leaves it out.
+    ConfItem *addConfQString(const char *text, QString *value, const QString &majorName,
+                             const QString &name, const QString &subName = QString(),
+                             WidgetCreator creator = WidgetCreator());
+    /// Declares a colour, edited by a colour button.
+    ConfItem *addConfQColor(const char *text, QColor *value, const QString &majorName,
+                            const QString &name, const QString &subName = QString(),
+                            WidgetCreator creator = WidgetCreator());
+    /// Declares a font, edited by a button that opens the font dialog. Its size is kept in pixels.
+    ConfItem *addConfQFont(const char *text, QFont *value, const QString &majorName,
+                           const QString &name, const QString &subName = QString(),
+                           WidgetCreator creator = WidgetCreator());
+    /// Declares the switch for starting at login: a check box whose change calls `setAppAutoRun`.
+    void addConfAutoRun(const char *text, bool *value, const QString &majorName,
+                        const QString &name, const QString &subName = QString());
+
+    /// Adds a copy of an item that the host built itself, and returns the copy.
+    ConfItem *addConfItem(ConfItem &item);
+
+    // Lookup.
+
+    /// The first item with exactly these names, or null.
+    ConfItem *getItemByName(const QString &majorName, const QString &name, const QString &subName);
+    /// The items of a class, in declaration order. Logs the warning "major class not exist: " and
+    /// the name when there is no such class.
+    QList<ConfItem *> getConfItemList(const QString &majorName);
+    /// The class of that name, appended to the list if it is new.
+    MajorConfItem *addMajorConfItemIfNotExist(const QString &name);
+    /// The class of that name, or null.
+    MajorConfItem *getMajorConfItemByName(const QString &name);
+    /// Gives a class, created if it is new, a page of its own making instead of editors.
+    void setMajorWidget(const QString &name, std::function<QWidget *(QWidget *)> factory);
+    /// Sets the flags of a class, created if it is new, to `flag` (`MajorConfFlag` bits).
+    void setConfigClassFlag(const QString &name, int flag);
+
+    // Files and defaults.
+
+    /// Loads a configuration file: a JSON object of values by full name. Keys of unknown items are
+    /// skipped silently; what `readJsonFromFile` logs is all that is logged.
+    void _loadFromFile(QString path);
+    /// `_loadFromFile`, then `runAfterLoadFromFile`.
+    void loadFromFile(QString path);
+    /// Applies what must follow a load: the language.
+    void runAfterLoadFromFile();
+    /// Has the store write its local file, if something changed.
+    void saveToFile();
+    /// Calls `restoreAllHook`, then restores every item to its default.
+    void restoreAllDefault();
+
+    // The settings window.
+
+    /// Shows the one settings window, or raises it, and opens the page `majorName` unless that is
+    /// empty. A window that another manager opened stays that manager's.
+    ConfigurationWindow *ShowWindow(QString majorName = QString());
+    /// Closes the settings window if there is one.
+    void closeConfigWindow();
+    /// Whether the settings window stays above other windows; nothing without a window.
+    void setWindowStayOnTop(bool on);
+    /// The glyphs of the icon font that stand beside the classes in the window, by class name.
+    void setIconMap(QMap<QString, QChar> &map);
+
+    QList<ConfItem> items;             ///< every item, in declaration order
+    QList<MajorConfItem> majorItems;   ///< the classes, in order of first mention
+    QString confFilePath;              ///< the file last given to `_loadFromFile`
+    ConfItem *languageItem = nullptr;  ///< the language setting, if one was declared
+    std::function<void()> restoreAllHook;          ///< called first by `restoreAllDefault`
+    std::function<bool(ConfItem &)> itemFilter;    ///< accepts items flagged `ItemIsFiltered`
+
+Q_SIGNALS:
+    /// The language setting has changed and its translators are installed.
+    void sigLanguageChange();
+
+private:
+    template<class T>
+    ConfItem *addConf(const char *text, T *value, const QString &majorName, const QString &name,
+                      const QString &subName, WidgetCreator creator, WidgetCreator defaultCreator);
+
+    // Lists that somebody held a copy of when the next element came, kept so that pointers to their
+    // elements do not dangle.
+    QList<QList<ConfItem>> mSharedItems;
+    QList<QList<MajorConfItem>> mSharedMajorItems;
+};
+
+} // namespace MtConf
