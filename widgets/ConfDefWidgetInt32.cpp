@@ -1,0 +1,64 @@
+#include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
+
+#include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
+
+#include <OrvUtils/OrvScreenManager.h>
+
+#include <QHBoxLayout>
+
+namespace MtConf {
+
+ConfDefWidgetInt32::ConfDefWidgetInt32(ConfItem *item, QWidget *parent)
+    : ConfigItemWidget(item, parent), mSpinBox(new QSpinBoxDisableWheel(this))
+{
+    mSpinBox->setFocusPolicy(Qt::StrongFocus);
+    applyRange();
+    mSpinBox->setFixedWidth(widthOfMaximum());
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mSpinBox);
+    layout->setSpacing(0);
+    layout->setAlignment(Qt::AlignLeft);
+    connect(mSpinBox, QOverload<int>::of(&QSpinBox::valueChanged),
+            this, &ConfDefWidgetInt32::onValueChanged);
+    loadConf();
+}
+
+ConfigItemWidget *ConfDefWidgetInt32::CreatConfWidget(ConfItem *item, QWidget *parent)
+{
+    return new ConfDefWidgetInt32(item, parent);
+}
+
+void ConfDefWidgetInt32::applyRange()
+{
+    // The maximum first: a minimum above it then raises it, instead of being lowered by it.
+    const auto maximum = mItem->properties.constFind(QStringLiteral("MaxValue"));
+    if (maximum != mItem->properties.constEnd())
+        mSpinBox->setMaximum(maximum->toInt());
+    const auto minimum = mItem->properties.constFind(QStringLiteral("MinValue"));
+    if (minimum != mItem->properties.constEnd())
+        mSpinBox->setMinimum(minimum->toInt());
+}
+
+int ConfDefWidgetInt32::widthOfMaximum() const
+{
+    constexpr int pointsPerDigit = 12;
+    constexpr int pointsBeside = 60;
+    const int digits = QString::number(mSpinBox->maximum()).size();
+    const double dpi = OrvScreenManager::instance()->widgetScreen(window()).dpi;
+    return static_cast<int>((digits * pointsPerDigit + pointsBeside) * dpi / 72);
+}
+
+void ConfDefWidgetInt32::loadConf()
+{
+    // The caption is left alone: onValueChanged refreshes it when it writes.
+    mSpinBox->setValue(readValue<int>());
+}
+
+void ConfDefWidgetInt32::onValueChanged(int value)
+{
+    if (writeValue(value))
+        refreshLabelState();
+}
+
+} // namespace MtConf
