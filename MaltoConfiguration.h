@@ -1,0 +1,20 @@
+#pragma once
+
+/// Everything that a host uses: the store, the manager with its items, the editors and the settings
+/// window.
+
+#include <MaltoConfiguration/manage/ConfItem.h>
+#include <MaltoConfiguration/manage/MajorConfItem.h>
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/manage/helpers.h>
+#include <MaltoConfiguration/store/ConfStorage.h>
+#include <MaltoConfiguration/store/ConfValue.h>
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+#include <MaltoConfiguration/window/replaceSCAWithScaledValue.h>

@@ -1,0 +1,183 @@
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include "ui_ConfigurationWindow.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+
+#include <OrvUtils/SetWindowTopmost.h>
+
+#include <QCloseEvent>
+#include <QDebug>
+#include <QIcon>
+#include <QMessageBox>
+#include <QStandardItemModel>
+
+namespace MtConf {
+
+namespace {
+
+ConfigurationWindow *sWindow = nullptr;
+
+} // namespace
+
+QMap<QString, QChar> ConfigurationWindow::mIconMap;
+
+ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
+{
+    if (ConfigurationWindow *window = ConfigurationWindow::instance()) {
+        if (window->isMinimized())
+            window->showNormal();
+        window->raise();
+        return window;
+    }
+    if (!manager) {
+        qCritical() << "ShowConfigurationWindow without a manager";
+        return nullptr;
+    }
+    auto *window = new ConfigurationWindow(manager);
+    window->show();
+    return window;
+}
+
+void setStaysOnTopHint(bool on)
+{
+    ConfigurationWindow *window = ConfigurationWindow::instance();
+    if (!window)
+        return;
+    SetWindowTopmost(window, on, OrvWindowTypeSettings);
+    window->show();
+    window->raise();
+}
+
+ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
+    : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager)
+{
+    // Known from here on: the first page is built below, by code of the host that may ask for it.
+    if (!sWindow)
+        sWindow = this;
+
+    mUi->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+
+    initConfigClassList();
+    initAppearance();
+
+    connect(mUi->btnRestoreAllDefault, &QAbstractButton::clicked,
+            this, &ConfigurationWindow::restoreAllDefault);
+    connect(mUi->btnRestoreDefault, &QAbstractButton::clicked,
+            this, &ConfigurationWindow::restorePageDefault);
+    connect(mManager, &MtConfManage::sigLanguageChange, this, &ConfigurationWindow::retranslateUi);
+    connect(mUi->configList->selectionModel(), &QItemSelectionModel::currentChanged,
+            this, &ConfigurationWindow::onClassItemChange);
+
+    setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
+    retranslateUi();
+
+    const QModelIndex first = mClassModel->index(0, 0);
+    mUi->configList->setCurrentIndex(first);
+    onClassItemClick(first);
+}
+
+ConfigurationWindow::~ConfigurationWindow()
+{
+    saveGeometryToFile();
+    if (sWindow == this)
+        sWindow = nullptr;
+}
+
+ConfigurationWindow *ConfigurationWindow::instance()
+{
+    return sWindow;
+}
+
+void ConfigurationWindow::switchToView(QString className)
+{
+    QModelIndex found;
+    for (int row = 0; row < mClassModel->rowCount() && !found.isValid(); ++row) {
+        const QModelIndex index = mClassModel->index(row, 0);
+        if (index.data(ClassNameRole).toString() == className)
+            found = index;
+    }
+    mUi->configList->setCurrentIndex(found);
+    onClassItemClick(found);
+}
+
+void ConfigurationWindow::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    mManager->saveToFile();
+}
+
+void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QModelIndex &previous)
+{
+    Q_UNUSED(previous)
+    onClassItemClick(current);
+}
+
+void ConfigurationWindow::restorePageDefault()
+{
+    if (!confirm(tr("Are you sure to restore current page default?")))
+        return;
+    // A callback may rebuild the page, which deletes editors, or close the window.
+    const QPointer<ConfigurationWindow> self(this);
+    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
+    for (const QPointer<ConfigItemWidget> &editor : editors) {
+        if (editor)
+            editor->restoreDefault();
+    }
+    if (self)
+        rebuildPage();
+}
+
+void ConfigurationWindow::restoreAllDefault()
+{
+    if (!confirm(tr("Are you sure to restore all default?")))
+        return;
+    const QPointer<ConfigurationWindow> self(this);
+    mManager->restoreAllDefault();
+    if (self)
+        rebuildPage();
+}
+
+bool ConfigurationWindow::confirm(const QString &question)
+{
+    const QPointer<ConfigurationWindow> self(this);
+    auto *box = new QMessageBox(this);
+    box->setIcon(QMessageBox::Question);
+    // The first text never shows, but translators find it in their catalogues.
+    box->setText(tr("Confirm"));
+    box->setText(question);
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->setDefaultButton(QMessageBox::Yes);
+    const int answer = box->exec();
+    if (!self) // closed while the question stood: the box went with it
+        return false;
+    box->deleteLater();
+    return answer != QMessageBox::No;
+}
+
+void ConfigurationWindow::rebuildPage()
+{
+    onClassItemClick(mUi->configList->currentIndex());
+}
+
+void ConfigurationWindow::initConfigClassList()
+{
+    const double scale = screenScale();
+    mClassModel = new QStandardItemModel(this);
+    mClassModel->setHorizontalHeaderLabels({QStringLiteral("Config")});
+    mUi->configList->setModel(mClassModel);
+    mUi->configList->setMinimumWidth(qRound(200 * scale));
+    const int iconSize = static_cast<int>(28 * scale);
+    mUi->configList->setIconSize(QSize(iconSize, iconSize));
+    for (const MajorConfItem &major : qAsConst(mManager->majorItems)) {
+        auto *row = new QStandardItem(translatedName(major.name));
+        mItemIcons.insert(row, major.name);
+        row->setData(major.name, ClassNameRole);
+        mClassModel->appendRow(row);
+    }
+}
+
+} // namespace MtConf

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <MaltoConfiguration/malto_export.h>
+
+#include <QChar>
+#include <QList>
+#include <QMainWindow>
+#include <QMap>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QModelIndex;
+class QStandardItem;
+class QStandardItemModel;
+class Ui_ConfigurationWindow;
+
+namespace MtConf {
+
+class ConfItem;
+class ConfigItemWidget;
+class ConfigurationWindow;
+class MtConfManage;
+
+/// Shows the settings window of `manager`: the existing window, restored if it is minimised and
+/// raised, whoever opened it, or else a new one. Null, and one critical line on the log, without a
+/// manager.
+MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
+
+/// Whether the settings window stays above other windows; shows and raises it. Does nothing while
+/// no window exists.
+MALTO_EXPORT void setStaysOnTopHint(bool on);
+
+/// Gives `widget` the style sheets of the settings window, expanded for the current theme and for
+/// `scale` (dots per inch divided by 72). The common sheet comes first. A file on disk,
+/// "./res/qss/CommonWindow.qss" and "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss",
+/// goes before the built-in sheet, each by itself.
+MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);
+
+/// The settings window: the classes on the left, the editors of the chosen class on the right.
+///
+/// One window exists at a time. It deletes itself when it is closed, which saves the store's local
+/// file and the window's geometry (in "ConfigurationWindowConfig.ini" in the working directory).
+class MALTO_EXPORT ConfigurationWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    /// Builds the window of `manager`, which must not be null and must outlive the window. Hosts
+    /// call `MtConfManage::ShowWindow` instead.
+    explicit ConfigurationWindow(MtConfManage *manager);
+    ~ConfigurationWindow() override;
+
+    /// The one settings window, or null.
+    static ConfigurationWindow *instance();
+
+    /// The manager that the window shows.
+    MtConfManage *manager() const { return mManager; }
+
+    /// Makes the class of that name current and shows its page; an unknown name shows an empty page.
+    void switchToView(QString className);
+
+    /// The icon font's glyph of each class, by class name; a class without one has no icon.
+    static QMap<QString, QChar> mIconMap;
+
+public Q_SLOTS:
+    /// Applies the style sheets for the window's current screen and theme, and draws the icons of
+    /// the classes again.
+    void loadQss();
+    /// Sets every text again after a change of language.
+    void retranslateUi();
+    /// Asks, then restores the settings of the shown page to their defaults.
+    void restorePageDefault();
+    /// Asks, then restores all settings to their defaults.
+    void restoreAllDefault();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    static constexpr int ClassNameRole = Qt::UserRole + 1;
+
+    void initConfigClassList();
+    void initAppearance();
+    void applyDefaultGeometry();
+    void refreshItemIcon();
+    void saveGeometryToFile() const;
+    double screenScale() const;
+    static QString translatedName(const QString &name);
+
+    void onClassItemChange(const QModelIndex &current, const QModelIndex &previous);
+    void onClassItemClick(const QModelIndex &index);
+    void buildPage(const QString &className);
+    void addItemPage(const QString &className, int classFlag);
+    void addClassItemWidgets(const QString &caption, const QList<ConfItem *> &items, int flags);
+    bool addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid);
+    bool isShown(ConfItem *item) const;
+    void addClassLabel(const QString &caption);
+    void clearConfigItem();
+
+    bool confirm(const QString &question);
+    void rebuildPage();
+
+    const std::unique_ptr<Ui_ConfigurationWindow> mUi;
+    MtConfManage *const mManager;
+    QStandardItemModel *mClassModel = nullptr;
+    QList<QPointer<ConfigItemWidget>> mEditors;
+    QList<QLabel *> mClassCaptions;
+    QMap<QStandardItem *, QString> mItemIcons;
+    double mScale = 1;
+    bool mBuildingPage = false;
+};
+
+} // namespace MtConf

@@ -1,0 +1,144 @@
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include "ui_ConfigurationWindow.h"
+
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+
+#include <OrvUtils/OrvScreenManager.h>
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QIconfont/QIconfont.h>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardItemModel>
+#include <QStyle>
+#include <QTimer>
+
+namespace MtConf {
+
+namespace {
+
+const char sGeometryFile[] = "ConfigurationWindowConfig.ini";
+const char sGeometryKey[] = "Geometry";
+
+/// A sheet on disk goes before the built-in one.
+QString sheetSource(const QString &path, const QString &resource)
+{
+    return QFile::exists(path) ? path : resource;
+}
+
+/// Whether a geometry that was saved earlier lies well inside a screen of today.
+bool isInsideScreen(const QRect &geometry)
+{
+    const QPoint center((geometry.left() + geometry.right()) / 2,
+                        (geometry.top() + geometry.bottom()) / 2);
+    const QScreen *screen = QGuiApplication::screenAt(center);
+    return screen && screen->geometry().contains(geometry, true);
+}
+
+} // namespace
+
+void setQssForWidget(QWidget *widget, double scale)
+{
+    const QStringList sources{
+        sheetSource(QStringLiteral("./res/qss/CommonWindow.qss"),
+                    QStringLiteral(":/qss/CommonWindow")),
+        sheetSource(QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
+                    QStringLiteral(":/qss/ConfigurationWindow"))};
+    QThemeCtrl::instance()->handleQssFile(widget, sources, scale);
+}
+
+double ConfigurationWindow::screenScale() const
+{
+    return OrvScreenManager::instance()->widgetScreen(this).dpi / 72;
+}
+
+void ConfigurationWindow::initAppearance()
+{
+    mScale = screenScale();
+    const QSettings settings(QLatin1String(sGeometryFile), QSettings::IniFormat);
+    if (settings.contains(QLatin1String(sGeometryKey))) {
+        // A geometry that no longer fits leaves the window as the form made it: somebody who moved
+        // the window once wants no window of our choosing back.
+        const QRect geometry = settings.value(QLatin1String(sGeometryKey)).toRect();
+        if (geometry.isValid() && isInsideScreen(geometry))
+            setGeometry(geometry);
+    } else {
+        applyDefaultGeometry();
+    }
+    loadQss();
+    connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged,
+            this, &ConfigurationWindow::loadQss);
+}
+
+void ConfigurationWindow::applyDefaultGeometry()
+{
+    const QRect screen = OrvScreenManager::instance()->primaryScreen().rect;
+    const auto centerX = static_cast<float>((screen.left() + screen.right()) / 2);
+    const auto centerY = static_cast<float>((screen.top() + screen.bottom()) / 2);
+    const auto width = static_cast<float>(768 * mScale);
+    const auto height = static_cast<float>(500 * mScale);
+    setGeometry(qRound(centerX - width / 2), qRound(centerY - height / 2),
+                qRound(width), qRound(height));
+}
+
+void ConfigurationWindow::saveGeometryToFile() const
+{
+    QSettings settings(QLatin1String(sGeometryFile), QSettings::IniFormat);
+    settings.setValue(QLatin1String(sGeometryKey), geometry());
+}
+
+void ConfigurationWindow::loadQss()
+{
+    mScale = screenScale();
+    setQssForWidget(this, mScale);
+    refreshItemIcon();
+    // The button's own style sheet is older than the window's new one until it is polished again.
+    QTimer::singleShot(0, this, [this] {
+        QStyle *style = mUi->btnRestoreDefault->style();
+        style->unpolish(mUi->btnRestoreDefault);
+        style->polish(mUi->btnRestoreDefault);
+    });
+}
+
+void ConfigurationWindow::refreshItemIcon()
+{
+    QColor color;
+    color.setNamedColor(QThemeCtrl::instance()->value(QStringLiteral("ColorFg0")));
+    const int size = static_cast<int>(24 * mScale);
+    for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row) {
+        const auto glyph = mIconMap.constFind(row.value());
+        if (glyph == mIconMap.constEnd()) {
+            row.key()->setIcon(QIcon());
+            continue;
+        }
+        QIcon icon = QIconfont::Icon(*glyph, color, size, QMargins());
+        // The selected row is white on the main colour, and so is its icon.
+        icon.addPixmap(QIconfont::Pixmap(*glyph, Qt::white, size, QMargins()), QIcon::Selected);
+        row.key()->setIcon(icon);
+    }
+}
+
+QString ConfigurationWindow::translatedName(const QString &name)
+{
+    return tr(name.toUtf8().constData());
+}
+
+void ConfigurationWindow::retranslateUi()
+{
+    mUi->retranslateUi(this);
+    for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
+        if (editor)
+            editor->retranslateUi();
+    }
+    for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
+        row.key()->setText(translatedName(row.value()));
+    for (QLabel *caption : qAsConst(mClassCaptions))
+        caption->setText(translatedName(caption->property("SourceText").toString()));
+}
+
+} // namespace MtConf

@@ -1,0 +1,170 @@
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include "ui_ConfigurationWindow.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPersistentModelIndex>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace MtConf {
+
+namespace {
+
+constexpr int sGridSpacing = 12; // points
+
+} // namespace
+
+void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
+{
+    if (mBuildingPage) {
+        // Code of the host that builds part of the page has asked for another page: afterwards.
+        const QPersistentModelIndex later(index);
+        QTimer::singleShot(0, this, [this, later] { onClassItemClick(later); });
+        return;
+    }
+    const QScopedValueRollback<bool> building(mBuildingPage, true);
+    clearConfigItem();
+    buildPage(index.data(ClassNameRole).toString());
+}
+
+void ConfigurationWindow::buildPage(const QString &className)
+{
+    const MajorConfItem *found = mManager->getMajorConfItemByName(className);
+    const MajorConfItem major = found ? *found : MajorConfItem();
+    mUi->btnRestoreDefault->setVisible(!(major.classFlag & ClassWithoutRestoreButton));
+    if (!major.majorWidget) {
+        addItemPage(className, major.classFlag);
+    } else if (QWidget *page = major.majorWidget(this)) {
+        mUi->layoutConfigItem->addWidget(page);
+    }
+}
+
+void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
+{
+    QList<ConfItem *> ungrouped;
+    QStringList groupNames;
+    QHash<QString, QList<ConfItem *>> groups;
+    const QList<ConfItem *> items = mManager->getConfItemList(className);
+    for (ConfItem *item : items) {
+        if (item->subName.isEmpty()) {
+            ungrouped.append(item);
+            continue;
+        }
+        QList<ConfItem *> &group = groups[item->name];
+        if (group.isEmpty())
+            groupNames.append(item->name);
+        group.append(item);
+    }
+    if (!ungrouped.isEmpty())
+        addClassItemWidgets(className, ungrouped, classFlag);
+    for (const QString &name : qAsConst(groupNames))
+        addClassItemWidgets(name, groups.value(name), classFlag);
+
+    mUi->layoutConfigItem->addItem(
+        new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    mUi->scrollArea->ensureVisible(0, 0, 50, 50);
+}
+
+void ConfigurationWindow::addClassItemWidgets(const QString &caption,
+                                              const QList<ConfItem *> &items, int flags)
+{
+    const bool bare = flags & ClassWithoutGroupBoxes;
+    if (!bare)
+        addClassLabel(caption);
+
+    auto *box = new QGroupBox(this);
+    box->setObjectName(QStringLiteral("ConfigGroupBox"));
+    auto *grid = new QGridLayout;
+    grid->setSpacing(0);
+    grid->setObjectName(QStringLiteral("layoutConfigItem"));
+    box->setLayout(grid);
+    if (bare) {
+        box->setProperty("NoGroupBox", QStringLiteral("1"));
+        box->setContentsMargins(0, 0, 0, 0);
+        grid->setContentsMargins(0, 0, 0, 0);
+    } else {
+        const int spacing = static_cast<int>(mScale * sGridSpacing);
+        grid->setContentsMargins(spacing, spacing, spacing, spacing);
+        grid->setSpacing(spacing);
+        grid->setProperty("SourceSpacing", sGridSpacing);
+    }
+
+    for (int i = 0; i < items.size(); ++i) {
+        if (!isShown(items.at(i)) || !addItemWidget(items.at(i), box, grid))
+            continue;
+        if (i + 1 < items.size()) {
+            auto *line = new QFrame(box);
+            line->setProperty("class", QStringLiteral("SplitLine"));
+            line->setFrameShape(QFrame::HLine);
+            line->setFrameShadow(QFrame::Sunken);
+            grid->addWidget(line, grid->rowCount(), 0, 1, 2);
+        }
+    }
+    mUi->layoutConfigItem->addWidget(box);
+}
+
+bool ConfigurationWindow::isShown(ConfItem *item) const
+{
+    if (!(item->flags & ItemIsFiltered))
+        return true;
+    return mManager->itemFilter && mManager->itemFilter(*item);
+}
+
+bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid)
+{
+    // A text without an editor of its own stays out of the window.
+    ConfigItemWidget *editor = item->widgetCreator ? item->widgetCreator(item, box) : nullptr;
+    if (!editor)
+        return false;
+    QWidget *caption = editor->label();
+    const int row = grid->rowCount();
+    if (caption) {
+        grid->addWidget(editor, row, 1);
+        grid->addWidget(caption, row, 0);
+    } else {
+        grid->addWidget(editor, row, 0, 1, 2);
+    }
+    mEditors.append(editor);
+    return true;
+}
+
+void ConfigurationWindow::addClassLabel(const QString &caption)
+{
+    auto *label = new QLabel(translatedName(caption), this);
+    label->setProperty("SourceText", caption);
+    label->setProperty("ClassLabel", QStringLiteral("normal"));
+    mClassCaptions.append(label);
+    mUi->layoutConfigItem->addWidget(label);
+}
+
+void ConfigurationWindow::clearConfigItem()
+{
+    // Editors go at once. Only if one of them is just writing a value, and a callback of the host
+    // asks for another page, its control still runs below us and has to live a little longer.
+    const bool writing = std::any_of(mEditors.cbegin(), mEditors.cend(),
+                                     [](const QPointer<ConfigItemWidget> &editor) {
+                                         return editor && editor->isWriting();
+                                     });
+    while (QLayoutItem *item = mUi->layoutConfigItem->takeAt(0)) {
+        QWidget *widget = item->widget();
+        if (widget && writing) {
+            widget->hide();
+            widget->deleteLater();
+        } else {
+            delete widget;
+        }
+        delete item;
+    }
+    mEditors.clear();
+    mClassCaptions.clear();
+}
+
+} // namespace MtConf
