@@ -67,4 +67,6 @@ void MtConfManage::addConfAutoRun(const char *text, bool *value, const QString &
     });
 }
 
+void MtConfManage::runAfterLoadFromFile() {}
+
 } // namespace MtConf

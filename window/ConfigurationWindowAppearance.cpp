@@ -70,6 +70,9 @@ void ConfigurationWindow::initAppearance()
     } else {
         applyDefaultGeometry();
     }
+    // Parts of the form with a sheet of their own keep the rules from before the window's sheet
+    // unless the window is polished when it gets it.
+    ensurePolished();
     loadQss();
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged,
             this, &ConfigurationWindow::loadQss);

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Draws the icons that the style sheets use. Needs ImageMagick; run after changing a shape.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+# draw <file> <colour> <shape>: a shape in a square of 64 units, with round strokes.
+draw() {
+    convert -size 256x256 xc:none -fill none -stroke "$2" -strokewidth 8 \
+        -draw "scale 4,4 stroke-linecap round stroke-linejoin round $3" \
+        -resize 64x64 -strip -define png:exclude-chunks=date,time "PNG32:$1.png"
+}
+
+white='#ffffff'
+grey='#8a919c' # seen well on the light and on the dark ground
+
+draw check "$white" 'polyline 14,34 27,47 50,19'
+draw partly "$white" 'line 16,32 48,32'
+draw dot "$white" "fill $white stroke-width 0 circle 32,32 32,20"
+draw arrow-down "$grey" 'polyline 14,24 32,42 50,24'
+draw arrow-up "$grey" 'polyline 14,40 32,22 50,40'
