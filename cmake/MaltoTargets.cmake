@@ -15,14 +15,17 @@ function(malto_include_tree name)
     endforeach()
 endfunction()
 
-# Warnings and strict Qt definitions for our own sources; never passed on to a host.
+# malto_own_code(<target> [CASTS]): warnings and strict Qt definitions for our own sources; never
+# passed on to a host. With CASTS literals may become QStrings by themselves, as tests like it.
 function(malto_own_code target)
     set_target_properties(${target} PROPERTIES
         AUTOMOC ON AUTOUIC ON AUTORCC ON
         CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF)
     target_compile_definitions(${target} PRIVATE
-        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
-        QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS)
+        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS)
+    if(NOT "CASTS" IN_LIST ARGN)
+        target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+    endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         $<$<BOOL:${MALTO_DEVELOPER}>:-Werror>)

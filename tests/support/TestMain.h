@@ -7,12 +7,14 @@
 #include <QtTest>
 
 /// Runs the test class `Test` as a program: on the offscreen platform unless another one is asked
-/// for, in the C locale, and in an empty folder of its own, so that programs can run side by side
+/// for, at 96 dots per inch, in the C locale, and in an empty folder of its own, so that programs can run side by side
 /// and nothing that one of them writes is seen by another.
 template<class Test> int runTest(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_FONT_DPI"))
+        qputenv("QT_FONT_DPI", "96");
     QLocale::setDefault(QLocale::c());
     const QTemporaryDir folder;
     if (!folder.isValid() || !QDir::setCurrent(folder.path()))

@@ -1,0 +1,229 @@
+#include "support/EditorFixture.h"
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTranslator>
+
+using MtConf::ConfItem;
+using MtConf::ConfigItemWidget;
+
+namespace {
+
+/// The smallest editor: it counts how often it is loaded and lets the test write.
+class PlainEditor : public ConfigItemWidget
+{
+public:
+    using ConfigItemWidget::ConfigItemWidget;
+    void loadConf() override { ++loads; }
+    void useAsLabel(QWidget *widget) { mLabel = widget; }
+    bool write(int value) { return writeValue(value); }
+    bool store(int value) { return storeValue(value); }
+    int loads = 0;
+};
+
+/// Translates every text into brackets.
+class BracketTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return qstrcmp(context, "QObject") == 0 ? QString("[%1]").arg(source) : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class tst_ConfigItemWidget : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mFixture = std::make_unique<EditorFixture>();
+        mValue = 1;
+        mItem = mFixture->manager.addConfInt32("Size", &mValue, "General", "Size");
+        mItem->widgetCreator = [](ConfItem *item, QWidget *parent) {
+            return new PlainEditor(item, parent);
+        };
+    }
+    void cleanup() { mFixture.reset(); }
+
+    void itemPointsToItsLiveEditor();
+    void olderEditorDoesNotForgetTheNewerOne();
+    void styleHookIsSet();
+    void labelIsMadeOnceBesideTheEditor();
+    void labelOfAnEditorWithoutParentHasNoParent();
+    void nullTextGivesAnEmptyLabel();
+    void changedMarkFollowsTheValue();
+    void refreshWithoutLabelDoesNothing();
+    void restoreDefaultLeavesTheControlAlone();
+    void retranslationReachesLabelsAndButtons();
+    void auxCallbackStaysSilent();
+    void writingTheStoredValueWritesNothing();
+    void storingWritesAlsoTheStoredValue();
+    void editorIsWritingWhileCallbacksRun();
+    void editorDeletedByACallbackIsNotTouchedAgain();
+
+private:
+    PlainEditor *editor() { return mFixture->edit<PlainEditor>(mItem); }
+
+    std::unique_ptr<EditorFixture> mFixture;
+    ConfItem *mItem = nullptr;
+    int mValue = 0;
+};
+
+void tst_ConfigItemWidget::itemPointsToItsLiveEditor()
+{
+    QVERIFY(!mItem->editor);
+    PlainEditor *made = editor();
+    QCOMPARE(mItem->editor, made);
+    delete made;
+    QVERIFY(!mItem->editor);
+}
+
+void tst_ConfigItemWidget::olderEditorDoesNotForgetTheNewerOne()
+{
+    PlainEditor *older = editor();
+    PlainEditor *newer = editor();
+    delete older;
+    QCOMPARE(mItem->editor, newer);
+}
+
+void tst_ConfigItemWidget::styleHookIsSet()
+{
+    QCOMPARE(editor()->property("ConfigItemQFrame"), QVariant("1"));
+}
+
+void tst_ConfigItemWidget::labelIsMadeOnceBesideTheEditor()
+{
+    PlainEditor *made = editor();
+    auto *label = qobject_cast<QLabel *>(made->label());
+    QVERIFY(label);
+    QCOMPARE(label->text(), QString("Size"));
+    QCOMPARE(label->parentWidget(), &mFixture->parent);
+    QCOMPARE(label->property("ConfigItemWidgetLabel"), QVariant("1"));
+    QCOMPARE(label->property("changed"), QVariant("0"));
+    QCOMPARE(made->label(), label);
+    QCOMPARE(mFixture->parent.findChildren<QLabel *>().size(), 1);
+}
+
+void tst_ConfigItemWidget::labelOfAnEditorWithoutParentHasNoParent()
+{
+    PlainEditor made(mItem, nullptr);
+    const std::unique_ptr<QWidget> label(made.label());
+    QVERIFY(!label->parentWidget());
+}
+
+void tst_ConfigItemWidget::nullTextGivesAnEmptyLabel()
+{
+    mItem->displayText = nullptr;
+    QCOMPARE(qobject_cast<QLabel *>(editor()->label())->text(), QString());
+}
+
+void tst_ConfigItemWidget::changedMarkFollowsTheValue()
+{
+    PlainEditor *made = editor();
+    mFixture->store()->set<int>("General.Size", 5);
+    QCOMPARE(changedMark(made), QString("0"));
+    made->refreshLabelState();
+    QCOMPARE(changedMark(made), QString("1"));
+    made->restoreDefault();
+    QCOMPARE(changedMark(made), QString("1"));
+    made->refreshLabelState();
+    QCOMPARE(changedMark(made), QString("0"));
+}
+
+void tst_ConfigItemWidget::refreshWithoutLabelDoesNothing()
+{
+    PlainEditor made(mItem, &mFixture->parent);
+    made.refreshLabelState();
+    made.retranslateUi();
+    QVERIFY(mFixture->parent.findChildren<QLabel *>().isEmpty());
+}
+
+void tst_ConfigItemWidget::restoreDefaultLeavesTheControlAlone()
+{
+    PlainEditor *made = editor();
+    mFixture->store()->set<int>("General.Size", 5);
+    made->restoreDefault();
+    QCOMPARE(mValue, 1);
+    QCOMPARE(made->loads, 0);
+}
+
+void tst_ConfigItemWidget::retranslationReachesLabelsAndButtons()
+{
+    PlainEditor *made = editor();
+    auto *label = qobject_cast<QLabel *>(made->label());
+    QPushButton button;
+    QFrame frame;
+    BracketTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    made->retranslateUi();
+    QCOMPARE(label->text(), QString("[Size]"));
+    made->useAsLabel(&button);
+    made->retranslateUi();
+    QCOMPARE(button.text(), QString("[Size]"));
+    made->useAsLabel(&frame);
+    made->retranslateUi();
+    QCoreApplication::removeTranslator(&translator);
+    made->useAsLabel(label);
+    made->retranslateUi();
+    QCOMPARE(label->text(), QString("Size"));
+}
+
+void tst_ConfigItemWidget::auxCallbackStaysSilent()
+{
+    int calls = 0;
+    mItem->auxCallback = [&](QJsonValue, ConfItem *) { ++calls; };
+    PlainEditor *made = editor();
+    mFixture->store()->set<int>("General.Size", 5);
+    delete made;
+    QCOMPARE(calls, 0);
+}
+
+void tst_ConfigItemWidget::writingTheStoredValueWritesNothing()
+{
+    PlainEditor *made = editor();
+    QVERIFY(!made->write(1));
+    QVERIFY(!mFixture->store()->mChanged);
+    QVERIFY(made->write(2));
+    QCOMPARE(mValue, 2);
+}
+
+void tst_ConfigItemWidget::storingWritesAlsoTheStoredValue()
+{
+    QVERIFY(editor()->store(1));
+    QVERIFY(mFixture->store()->mChanged);
+}
+
+void tst_ConfigItemWidget::editorIsWritingWhileCallbacksRun()
+{
+    PlainEditor *made = editor();
+    bool during = false;
+    mItem->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        during = made->isWriting();
+    });
+    QVERIFY(!made->isWriting());
+    made->write(2);
+    QVERIFY(during);
+    QVERIFY(!made->isWriting());
+}
+
+void tst_ConfigItemWidget::editorDeletedByACallbackIsNotTouchedAgain()
+{
+    PlainEditor *made = editor();
+    mItem->setConfChangedCallback([&](const QString &, const ConfValue *) { delete made; });
+    QVERIFY(!made->write(2));
+    QVERIFY(!mItem->editor);
+    QCOMPARE(mValue, 2);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfigItemWidget>(argc, argv);
+}
+
+#include "tst_ConfigItemWidget.moc"

@@ -1,0 +1,100 @@
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+/// The two controls inside a page that scrolls, turned over by a wheel.
+class tst_WheelControls : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mArea = std::make_unique<QScrollArea>();
+        auto *page = new QWidget;
+        auto *layout = new QVBoxLayout(page);
+        mSpinBox = new QSpinBoxDisableWheel(page);
+        mSpinBox->setValue(50);
+        // As the editor sets it: by the policy of a plain spin box the wheel itself gives the focus.
+        mSpinBox->setFocusPolicy(Qt::StrongFocus);
+        mComboBox = new ComboboxDisableWheel(page);
+        mComboBox->addItems({"one", "two", "three"});
+        mComboBox->setCurrentIndex(1);
+        layout->addWidget(mSpinBox);
+        layout->addWidget(mComboBox);
+        page->setMinimumHeight(2000);
+        mArea->setWidget(page);
+        mArea->resize(300, 200);
+        mArea->show();
+        mArea->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(mArea.get()));
+    }
+    void cleanup() { mArea.reset(); }
+
+    void spinBoxWithoutFocusScrollsThePage();
+    void spinBoxWithFocusChanges();
+    void comboBoxAlwaysScrollsThePage_data();
+    void comboBoxAlwaysScrollsThePage();
+
+private:
+    static void turnWheelOver(QWidget *widget)
+    {
+        const QPointF position(widget->rect().center());
+        QWheelEvent event(position, widget->mapToGlobal(position.toPoint()), QPoint(),
+                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        // Only an event that comes from outside travels on to the parents of a widget.
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(widget, &event);
+    }
+    int scrolled() const { return mArea->verticalScrollBar()->value(); }
+
+    std::unique_ptr<QScrollArea> mArea;
+    QSpinBoxDisableWheel *mSpinBox = nullptr;
+    ComboboxDisableWheel *mComboBox = nullptr;
+};
+
+void tst_WheelControls::spinBoxWithoutFocusScrollsThePage()
+{
+    mComboBox->setFocus();
+    turnWheelOver(mSpinBox);
+    QCOMPARE(mSpinBox->value(), 50);
+    QVERIFY(scrolled() > 0);
+}
+
+void tst_WheelControls::spinBoxWithFocusChanges()
+{
+    mSpinBox->setFocus();
+    QVERIFY(mSpinBox->hasFocus());
+    turnWheelOver(mSpinBox);
+    QCOMPARE(mSpinBox->value(), 49);
+    QCOMPARE(scrolled(), 0);
+}
+
+void tst_WheelControls::comboBoxAlwaysScrollsThePage_data()
+{
+    QTest::addColumn<bool>("focused");
+    QTest::newRow("without focus") << false;
+    QTest::newRow("with focus") << true;
+}
+
+void tst_WheelControls::comboBoxAlwaysScrollsThePage()
+{
+    QFETCH(bool, focused);
+    (focused ? static_cast<QWidget *>(mComboBox) : mSpinBox)->setFocus();
+    QCOMPARE(mComboBox->hasFocus(), focused);
+    turnWheelOver(mComboBox);
+    QCOMPARE(mComboBox->currentIndex(), 1);
+    QVERIFY(scrolled() > 0);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_WheelControls>(argc, argv);
+}
+
+#include "tst_WheelControls.moc"
