@@ -1,0 +1,168 @@
+#include <OrvUtils/ColorSelectButton.h>
+
+#include <QColorDialog>
+#include <QEvent>
+#include <QFontInfo>
+#include <QKeyEvent>
+#include <QPainterPath>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+#include <cmath>
+
+namespace {
+
+constexpr qreal SwatchRadius = 3;
+
+// A texture, so that the cells stay sharp at every device pixel ratio.
+QBrush chequers()
+{
+    constexpr int Cell = 4;
+    QImage cells(2 * Cell, 2 * Cell, QImage::Format_RGB32);
+    cells.fill(Qt::white);
+    QPainter painter(&cells);
+    painter.fillRect(Cell, 0, Cell, Cell, QColor(204, 204, 204));
+    painter.fillRect(0, Cell, Cell, Cell, QColor(204, 204, 204));
+    return QBrush(cells);
+}
+
+} // namespace
+
+ColorSelectButton::ColorSelectButton(QWidget *parent) : QPushButton(parent)
+{
+    // A default button is drawn larger in some styles, and Enter works here without.
+    setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QPushButton::clicked, this, &ColorSelectButton::openDialog);
+    describeColor();
+}
+
+QColor ColorSelectButton::color() const
+{
+    return mColor;
+}
+
+void ColorSelectButton::setColor(const QColor &color)
+{
+    mColor = color;
+    describeColor();
+    update();
+}
+
+void ColorSelectButton::describeColor()
+{
+    QString text = tr("None");
+    if (mColor.isValid())
+        text = mColor.name(mColor.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
+    setToolTip(text);
+    setAccessibleDescription(text);
+}
+
+QSize ColorSelectButton::sizeHint() const
+{
+    ensurePolished();
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const double em = QFontInfo(font()).pixelSize();
+    const QSize swatch(static_cast<int>(std::lround(em * 3.5)), static_cast<int>(std::lround(em * 1.1)));
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, swatch, this);
+}
+
+QSize ColorSelectButton::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void ColorSelectButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        describeColor();
+    QPushButton::changeEvent(event);
+}
+
+void ColorSelectButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void ColorSelectButton::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    option.icon = QIcon();
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+
+    // A sheet that draws the button says with its padding where the swatch begins, and has no margin.
+    const int inset = style()->pixelMetric(QStyle::PM_ButtonMargin, &option, this) / 3;
+    const QRect content = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    drawSwatch(&painter, content.adjusted(inset, inset, -inset, -inset));
+}
+
+void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
+{
+    if (rect.isEmpty())
+        return;
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setOpacity(isEnabled() ? 1 : 0.35);
+
+    QPainterPath outline;
+    outline.addRoundedRect(rect, SwatchRadius, SwatchRadius);
+    painter->save();
+    painter->setClipPath(outline, Qt::IntersectClip);
+    if (!mColor.isValid()) {
+        painter->fillRect(rect, palette().color(QPalette::Base));
+        painter->setPen(QPen(QColor(220, 50, 47), 2));
+        painter->drawLine(rect.bottomLeft(), rect.topRight());
+    } else {
+        if (mColor.alpha() < 255) {
+            painter->setBrushOrigin(rect.topLeft());
+            painter->fillRect(rect, chequers());
+        }
+        painter->fillRect(rect, mColor);
+    }
+    painter->restore();
+
+    // Some of the text's colour shows on every ground, whatever the swatch's own colour.
+    QColor border = palette().color(QPalette::WindowText);
+    border.setAlphaF(0.35);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(border, 1));
+    painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), SwatchRadius, SwatchRadius);
+    if (hasFocus()) {
+        painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), SwatchRadius, SwatchRadius);
+        painter->setPen(QPen(palette().color(QPalette::Base), 1));
+        painter->drawRoundedRect(rect.adjusted(2.5, 2.5, -2.5, -2.5), SwatchRadius - 1, SwatchRadius - 1);
+    }
+}
+
+void ColorSelectButton::openDialog()
+{
+    if (mDialog) {
+        mDialog->raise();
+        mDialog->activateWindow();
+        return;
+    }
+    // Not run in a loop of its own: the dialog is our child and simply goes when we go.
+    mDialog = new QColorDialog(this);
+    mDialog->setAttribute(Qt::WA_DeleteOnClose);
+    // Before the colour: without the option the dialog drops the colour's alpha.
+    mDialog->setOption(QColorDialog::ShowAlphaChannel);
+    mDialog->setCurrentColor(mColor.isValid() ? mColor : QColor(Qt::white));
+    connect(mDialog, &QColorDialog::colorSelected, this, &ColorSelectButton::onColorPicked);
+    mDialog->open();
+}
+
+void ColorSelectButton::onColorPicked(const QColor &color)
+{
+    // Compared as they look: the dialog turns every colour model into its own.
+    if (!color.isValid() || (mColor.isValid() && color.rgba() == mColor.rgba()))
+        return;
+    setColor(color);
+    Q_EMIT sigColorChanged(color);
+}

@@ -1,0 +1,172 @@
+#include "QssMacros_p.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+// No name or number is longer; a limit keeps the nested arguments of a hostile sheet from being read
+// over and over.
+constexpr int MaxArgumentLength = 256;
+constexpr int MaxValueLength = 4096;
+constexpr int MaxValueDepth = 64;
+constexpr int MacroPrefixLength = 4;
+
+bool isWordPart(QChar c)
+{
+    return c.isLetterOrNumber() || c == QLatin1Char('_');
+}
+
+bool beginsWord(const QString &text, int position)
+{
+    if (position == 0)
+        return true;
+    const QChar before = text.at(position - 1);
+    if (isWordPart(before))
+        return false;
+    if (before != QLatin1Char('-') || position == 1)
+        return true;
+    // A lone hyphen is the sign of a negative length, otherwise it joins words.
+    const QChar beforeHyphen = text.at(position - 2);
+    return !isWordPart(beforeHyphen) && beforeHyphen != QLatin1Char('-');
+}
+
+bool isDecimal(const QString &text)
+{
+    int digits = 0;
+    int points = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c >= u'0' && c <= u'9')
+            ++digits;
+        else if (c == u'.')
+            ++points;
+        else if (i != 0 || (c != u'-' && c != u'+'))
+            return false;
+    }
+    return digits > 0 && points <= 1;
+}
+
+bool endsMacros(QChar c)
+{
+    return c == QLatin1Char(';') || c == QLatin1Char('{') || c == QLatin1Char('}')
+           || c == QLatin1Char('"') || c == QLatin1Char('\'');
+}
+
+// Where the comment that begins at `start` ends: behind its last character.
+int commentEnd(const QString &text, int start)
+{
+    const int end = text.indexOf(QLatin1String("*/"), start + 2);
+    return end < 0 ? text.size() : end + 2;
+}
+
+// The quote that is open behind `c`, when `quote` was open before it.
+QChar quoteAfter(QChar quote, QChar c)
+{
+    if (c == QLatin1Char('\n') || c == quote)
+        return QChar();
+    const bool opens = quote.isNull() && (c == QLatin1Char('"') || c == QLatin1Char('\''));
+    return opens ? c : quote;
+}
+
+} // namespace
+
+QssMacros::QssMacros(const QMap<QString, QString> &values, double scale, const Report &report)
+    : mValues(values), mScale(std::isfinite(scale) && scale > 0 ? scale : 1.0), mReport(report)
+{
+}
+
+QString QssMacros::expand(const QString &text)
+{
+    QString out;
+    out.reserve(text.size());
+    QVector<Open> open;
+    QChar quote;
+    for (int i = 0; i < text.size();) {
+        const QChar c = text.at(i);
+        int length = 1;
+        if (quote.isNull() && c == QLatin1Char('/') && text.midRef(i, 2) == QLatin1String("/*")) {
+            length = commentEnd(text, i) - i;
+        } else if (c == QLatin1Char('\\')) {
+            length = qMin(2, text.size() - i);
+        } else if ((c == QLatin1Char('s') || c == QLatin1Char('v')) && beginsWord(text, i)) {
+            const QStringRef prefix = text.midRef(i, MacroPrefixLength);
+            const bool scales = prefix == QLatin1String("sca(");
+            if (scales || prefix == QLatin1String("var(")) {
+                length = MacroPrefixLength;
+                open.append({scales ? Kind::Scale : Kind::Variable, out.size(), out.size() + length});
+            }
+        } else if (c == QLatin1Char('(') && !open.isEmpty()) {
+            open.append({Kind::PlainParenthesis, out.size(), out.size() + 1});
+        } else if (c == QLatin1Char(')') && !open.isEmpty()) {
+            if (expandClosed(open.takeLast(), &out))
+                length = 0;
+        } else {
+            if (endsMacros(c))
+                open.clear();
+            quote = quoteAfter(quote, c);
+        }
+        out.append(text.midRef(i, length));
+        i += qMax(length, 1);
+    }
+    return out;
+}
+
+// Replaces the macro at the end of `out`, its closing parenthesis not yet written, by what it stands
+// for; leaves it as it is, and says so, when it stands for nothing.
+bool QssMacros::expandClosed(const Open &open, QString *out)
+{
+    if (open.kind == Kind::PlainParenthesis || out->size() - open.argument > MaxArgumentLength)
+        return false;
+    const QString argument = out->mid(open.argument).trimmed();
+    bool ok = false;
+    const QString text = open.kind == Kind::Scale ? scaled(argument, &ok) : resolved(argument, &ok);
+    if (ok)
+        out->replace(open.start, out->size() - open.start, text);
+    return ok;
+}
+
+QString QssMacros::scaled(const QString &argument, bool *ok) const
+{
+    *ok = isDecimal(argument);
+    if (!*ok) {
+        // Empty where an unknown name stood, which has been reported.
+        if (!argument.isEmpty())
+            mReport(QStringLiteral("not a number: ") + argument);
+        return QString();
+    }
+    const double rounded = std::floor(argument.toDouble() * mScale + 0.5);
+    const double most = std::numeric_limits<int>::max();
+    return QString::number(static_cast<int>(qBound(-most, rounded, most)));
+}
+
+QString QssMacros::resolved(const QString &name, bool *ok)
+{
+    *ok = true;
+    const auto known = mResolved.constFind(name);
+    if (known != mResolved.constEnd())
+        return *known;
+    const auto value = mValues.constFind(name);
+    if (value == mValues.constEnd()) {
+        mReport(QStringLiteral("unknown name: ") + name);
+        return QString();
+    }
+    *ok = false;
+    if (mInProgress.contains(name)) {
+        mReport(QStringLiteral("name refers to itself: ") + name);
+        return QString();
+    }
+    QString text;
+    if (mInProgress.size() < MaxValueDepth && value->size() <= MaxValueLength) {
+        mInProgress.insert(name);
+        text = expand(*value);
+        mInProgress.remove(name);
+        *ok = text.size() <= MaxValueLength;
+    }
+    if (!*ok) {
+        mReport(QStringLiteral("value too long or too deep: ") + name);
+        return QString();
+    }
+    mResolved.insert(name, text);
+    return text;
+}

@@ -1,0 +1,89 @@
+#include "SheetWatcher_p.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QSet>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+// Longer than an editor's pause between removing a file and writing its successor.
+constexpr int StillMilliseconds = 100;
+
+} // namespace
+
+QByteArray readSheet(const QString &file)
+{
+    QFile sheet(file);
+    if (!QFileInfo(file).isFile() || !sheet.open(QIODevice::ReadOnly))
+        return QByteArray();
+    const QByteArray content = sheet.readAll();
+    return content.isNull() ? QByteArray("") : content;
+}
+
+SheetWatcher::SheetWatcher(QObject *parent) : QObject(parent)
+{
+    mStill.setSingleShot(true);
+    mStill.setInterval(StillMilliseconds);
+    connect(&mStill, &QTimer::timeout, this, &SheetWatcher::compareContents);
+}
+
+void SheetWatcher::watch(QWidget *widget, const QHash<QString, QByteArray> &sheets)
+{
+    const auto isOver = [widget](const Use &use) { return !use.widget || use.widget == widget; };
+    mUses.erase(std::remove_if(mUses.begin(), mUses.end(), isOver), mUses.end());
+    if (!sheets.isEmpty())
+        mUses.append({widget, sheets});
+    watchFiles();
+}
+
+void SheetWatcher::watchFiles()
+{
+    QSet<QString> paths;
+    for (const Use &use : qAsConst(mUses)) {
+        for (auto sheet = use.sheets.cbegin(); use.widget && sheet != use.sheets.cend(); ++sheet) {
+            const QFileInfo file(sheet.key());
+            // The folder tells of a file that was put in the place of the one watched.
+            for (const QString &path : {file.filePath(), file.path()}) {
+                if (QFileInfo::exists(path))
+                    paths.insert(path);
+            }
+        }
+    }
+    if (!mFiles) {
+        if (paths.isEmpty())
+            return;
+        // The application's child: its notifiers must not outlive the application's event dispatcher.
+        mFiles = new QFileSystemWatcher(QCoreApplication::instance());
+        const auto restart = [this] { mStill.start(); };
+        connect(mFiles, &QFileSystemWatcher::fileChanged, this, restart);
+        connect(mFiles, &QFileSystemWatcher::directoryChanged, this, restart);
+    }
+    // All anew: a path may be known and still stand for a file that is no longer there.
+    const QStringList old = mFiles->files() + mFiles->directories();
+    if (!old.isEmpty())
+        mFiles->removePaths(old);
+    if (!paths.isEmpty())
+        mFiles->addPaths(paths.values());
+}
+
+void SheetWatcher::compareContents()
+{
+    watchFiles();
+    bool changed = false;
+    for (Use &use : mUses) {
+        for (auto sheet = use.sheets.begin(); use.widget && sheet != use.sheets.end(); ++sheet) {
+            const QByteArray content = readSheet(sheet.key());
+            if (content == sheet.value() && content.isNull() == sheet.value().isNull())
+                continue;
+            sheet.value() = content;
+            changed = true;
+        }
+    }
+    if (changed)
+        Q_EMIT sheetsChanged();
+}
