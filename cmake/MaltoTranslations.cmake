@@ -1,0 +1,124 @@
+# The translations of a host, ready for the language setting of its settings window.
+#
+#   malto_add_translations(<target>
+#       [TS_DIR <folder>] [LANGUAGES <code>...] [DESTINATION <folder>])
+#
+# For every language this merges the library's own texts (translations/malto_<code>.ts) with those
+# of the host (<TS_DIR>/<code>.ts) into one <code>.qm, and puts Qt's own texts beside it as
+# qt_<code>.qm, where ConfWidgetLanguage looks for them:
+#
+#   <folder of the executable>/../Resources/language/<code>.qm
+#   <folder of the executable>/../Resources/language_qt/qt_<code>.qm
+#
+# In a macOS bundle that is its Resources folder. The files are made with the target and follow
+# every change of a .ts file.
+#
+#   TS_DIR       the host's .ts files, named by the code alone: fr-fr.ts. Where both translate the
+#                same text, the host's translation is taken.
+#   LANGUAGES    the codes to offer. By default those of the .ts files in TS_DIR, or without TS_DIR
+#                all languages of the library. English, "en-us", is built in and never listed.
+#   DESTINATION  a folder to use instead of <folder of the executable>/../Resources.
+#
+# Call it in the CMakeLists.txt that makes the target. It needs Qt's linguist tools; Qt's own texts
+# come from the translations that Qt has installed (Debian: qttranslations5-l10n). A language for
+# which there are none is left out with a message, and its standard buttons stay English.
+
+if(NOT DEFINED MALTO_TRANSLATIONS_DIR)
+    get_filename_component(MALTO_TRANSLATIONS_DIR
+                           ${CMAKE_CURRENT_LIST_DIR}/../translations ABSOLUTE)
+endif()
+# Functions are known to the whole project, plain variables of a subfolder are not.
+set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR ${MALTO_TRANSLATIONS_DIR})
+
+function(malto_add_translations target)
+    cmake_parse_arguments(ARG "" "TS_DIR;DESTINATION" "LANGUAGES" ${ARGN})
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Core LinguistTools)
+    get_property(own_dir GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR)
+    if(ARG_TS_DIR)
+        get_filename_component(ARG_TS_DIR ${ARG_TS_DIR} ABSOLUTE)
+    endif()
+    if(NOT ARG_LANGUAGES)
+        _malto_languages(ARG_LANGUAGES ${own_dir} "${ARG_TS_DIR}")
+    endif()
+    if(NOT ARG_DESTINATION)
+        set(ARG_DESTINATION $<TARGET_FILE_DIR:${target}>/../Resources)
+    endif()
+
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_translations)
+    set(catalogues)
+    foreach(code IN LISTS ARG_LANGUAGES)
+        if(NOT EXISTS ${own_dir}/malto_${code}.ts)
+            message(FATAL_ERROR "malto_add_translations: the library does not know ${code}")
+        endif()
+        set(sources ${own_dir}/malto_${code}.ts)
+        if(ARG_TS_DIR AND EXISTS ${ARG_TS_DIR}/${code}.ts)
+            list(APPEND sources ${ARG_TS_DIR}/${code}.ts)
+        endif()
+        malto_add_catalogue(${folder}/language/${code}.qm ${sources})
+        list(APPEND catalogues ${folder}/language/${code}.qm)
+
+        _malto_qt_sources(sources ${own_dir} ${code})
+        if(sources)
+            malto_add_catalogue(${folder}/language_qt/qt_${code}.qm ${sources})
+            list(APPEND catalogues ${folder}/language_qt/qt_${code}.qm)
+        else()
+            message(STATUS "Qt has no translations for ${code}")
+        endif()
+    endforeach()
+
+    # As sources the files are made with the target; as what it is linked from they have it linked,
+    # and themselves copied, again after a change.
+    target_sources(${target} PRIVATE ${catalogues})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${catalogues})
+    foreach(part language language_qt)
+        add_custom_command(TARGET ${target} POST_BUILD
+            COMMAND ${CMAKE_COMMAND} -E copy_directory ${folder}/${part} ${ARG_DESTINATION}/${part}
+            VERBATIM)
+    endforeach()
+endfunction()
+
+# malto_add_catalogue(<qm> <source>...): makes one .qm of several .ts or .qm files. The last one
+# that translates a text is the one that counts.
+function(malto_add_catalogue catalogue)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+    get_filename_component(folder ${catalogue} DIRECTORY)
+    file(MAKE_DIRECTORY ${folder})
+    set(inputs)
+    foreach(source IN LISTS ARGN)
+        list(APPEND inputs -i ${source})
+    endforeach()
+    add_custom_command(OUTPUT ${catalogue}
+        COMMAND Qt5::lconvert ${inputs} -o ${catalogue}
+        DEPENDS ${ARGN} VERBATIM)
+endfunction()
+
+# The codes of the .ts files in ts_dir, or of the library's own when that is empty.
+function(_malto_languages result own_dir ts_dir)
+    if(ts_dir)
+        file(GLOB files RELATIVE ${ts_dir} CONFIGURE_DEPENDS ${ts_dir}/*.ts)
+        list(TRANSFORM files REPLACE "^(.*)[.]ts$" "\\1")
+    else()
+        file(GLOB files RELATIVE ${own_dir} CONFIGURE_DEPENDS ${own_dir}/malto_*.ts)
+        list(TRANSFORM files REPLACE "^malto_(.*)[.]ts$" "\\1")
+    endif()
+    set(${result} ${files} PARENT_SCOPE)
+endfunction()
+
+# Qt's own texts in a language: those that Qt has installed, or else the most visible ones, which
+# the library keeps for languages that Qt lacks.
+function(_malto_qt_sources result own_dir code)
+    get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+    execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
+        OUTPUT_VARIABLE qt_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
+    string(REGEX REPLACE "-.*" "" language ${code})
+    string(REGEX REPLACE ".*-" "" country ${code})
+    string(TOUPPER ${country} country)
+    string(REPLACE "CHT" "TW" country ${country})
+    set(${result} PARENT_SCOPE)
+    foreach(source ${own_dir}/qt_${code}.ts
+                   ${qt_dir}/qtbase_${language}.qm ${qt_dir}/qtbase_${language}_${country}.qm)
+        if(EXISTS ${source})
+            set(${result} ${source} PARENT_SCOPE)
+        endif()
+    endforeach()
+endfunction()

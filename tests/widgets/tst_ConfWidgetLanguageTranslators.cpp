@@ -1,0 +1,304 @@
+#include "LanguageFolder.h"
+
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <OrvUtils/getPreferredLanguages.h>
+
+#include <memory>
+
+using MtConf::ConfWidgetLanguage;
+
+namespace {
+
+// Libraries of macOS know which library each of their symbols comes from.
+#ifdef Q_OS_MACOS
+constexpr bool sCanBePreferred = false;
+#else
+constexpr bool sCanBePreferred = true;
+#endif
+
+QStringList sPreferred;
+
+} // namespace
+
+/// Stands in for the companion's function of that name: elsewhere the program's own symbols come
+/// first, and so the test says which languages the person prefers.
+QStringList getPreferredLanguages()
+{
+    return sPreferred;
+}
+
+/// The supported languages and their translators.
+class tst_ConfWidgetLanguageTranslators : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void filesLieInTheResourcesBesideTheExecutable();
+    void supportedCodes_data();
+    void supportedCodes();
+    void filesAreLookedUpOnce();
+    void usableCode_data();
+    void usableCode();
+    void fixedLanguageIgnoresTheSystem();
+    void autoIsNeverTheAnswer();
+    void bothTranslatorsAreInstalled();
+    void autoInstallsThePreferredLanguage();
+    void englishRemovesBothTranslators();
+    void anotherLanguageReplacesTheFirst();
+    void sameRequestDoesNothing();
+    void missingQtFileLeavesTheApplicationTranslated();
+    void brokenFileLeavesQtTranslated();
+    void failedLanguageIsTriedAgainAfterAnother();
+    void listWithoutEnglishFallsBackToItsFirst();
+
+private:
+    static QString label() { return QObject::tr("Language"); }
+    static QString cancel() { return QCoreApplication::translate("QPlatformTheme", "Cancel"); }
+
+    QString mDefaultPath;
+    QString mDefaultQtPath;
+    std::unique_ptr<LanguageFolder> mFolder;
+};
+
+void tst_ConfWidgetLanguageTranslators::initTestCase()
+{
+    mDefaultPath = ConfWidgetLanguage::sLanguagePath;
+    mDefaultQtPath = ConfWidgetLanguage::sLanguageQtPath;
+}
+
+void tst_ConfWidgetLanguageTranslators::init()
+{
+    sPreferred = QStringList("C");
+    mFolder = std::make_unique<LanguageFolder>();
+}
+
+void tst_ConfWidgetLanguageTranslators::cleanup()
+{
+    const LogCapture log;
+    mFolder.reset();
+}
+
+void tst_ConfWidgetLanguageTranslators::filesLieInTheResourcesBesideTheExecutable()
+{
+    QCOMPARE(mDefaultPath, QString("/../Resources/language/"));
+    QCOMPARE(mDefaultQtPath, QString("/../Resources/language_qt/"));
+}
+
+void tst_ConfWidgetLanguageTranslators::supportedCodes_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("codes");
+    const auto row = [](const char *name, const QStringList &files, const QStringList &codes) {
+        QTest::newRow(name) << files << (QStringList{"auto", "en-us"} + codes);
+    };
+    row("withoutFilesThereIsEnglish", {}, {});
+    row("filesFollowByName", {"sv-se.qm", "ar-eg.qm", "fr-fr.qm"}, {"ar-eg", "fr-fr", "sv-se"});
+    row("codesAreLowerCase", {"DE-DE.qm", "zh-CN.qm"}, {"de-de", "zh-cn"});
+    row("nameEndsAtTheFirstStop", {"it-it.host.qm"}, {"it-it"});
+    row("englishFileComesTwice", {"en-us.qm"}, {"en-us"});
+    row("languagesWithoutANameCount", {"xx-yy.qm"}, {"xx-yy"});
+    row("otherFilesDoNotCount", {"fr-fr.ts", "readme", "de-de.qm.bak"}, {});
+    row("foldersDoNotCount", {"fr-fr.qm/file"}, {});
+}
+
+void tst_ConfWidgetLanguageTranslators::supportedCodes()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, codes);
+    mFolder->addFiles(files);
+    QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), codes);
+    QCOMPARE(ConfWidgetLanguage::mSupportLangCodes, codes);
+}
+
+void tst_ConfWidgetLanguageTranslators::filesAreLookedUpOnce()
+{
+    ConfWidgetLanguage::loadSupportLanguageCode();
+    mFolder->addFiles({"fr-fr.qm"});
+    QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), QStringList({"auto", "en-us"}));
+}
+
+void tst_ConfWidgetLanguageTranslators::usableCode_data()
+{
+    QTest::addColumn<QStringList>("preferred");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("code");
+
+    const QStringList fileSets[] = {{},
+                                    {"zh-cn.qm"},
+                                    {"en-gb.qm", "fr-fr.qm"},
+                                    {"de-de.qm", "fr-fr.qm", "zh-cn.qm", "zh-cht.qm"}};
+    // One column for each set of files.
+    const struct {
+        QStringList preferred;
+        const char *codes[4];
+    } table[] = {
+        {{}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"C"}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"zh-Hans-CN"}, {"en-us", "zh-cn", "en-us", "zh-cn"}},
+        {{"zh_CN"}, {"en-us", "zh-cn", "en-us", "zh-cn"}},
+        {{"zh-hans-cn"}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"zh-Hant-TW"}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"en_GB"}, {"en-us", "en-us", "en-gb", "en-us"}},
+        {{"en_GB", "de-DE"}, {"en-us", "en-us", "en-gb", "de-de"}},
+        {{"FR_fr", "de_DE"}, {"en-us", "en-us", "fr-fr", "fr-fr"}},
+        {{"de_DE", "FR_fr"}, {"en-us", "en-us", "fr-fr", "de-de"}},
+        {{"fr"}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"en_US", "fr_FR"}, {"en-us", "en-us", "en-us", "en-us"}},
+        {{"auto", "zh_CN"}, {"en-us", "zh-cn", "en-us", "zh-cn"}},
+        {{"", "xx", "zh-Hans-CN"}, {"en-us", "zh-cn", "en-us", "zh-cn"}},
+    };
+    for (const auto &line : table) {
+        for (int set = 0; set < 4; ++set) {
+            QTest::addRow("%s with %s", qPrintable(line.preferred.join('>')),
+                          qPrintable(fileSets[set].join('+')))
+                << line.preferred << fileSets[set] << line.codes[set];
+        }
+    }
+}
+
+void tst_ConfWidgetLanguageTranslators::usableCode()
+{
+    if (!sCanBePreferred)
+        QSKIP("the system's languages cannot be replaced here");
+    QFETCH(QStringList, preferred);
+    QFETCH(QStringList, files);
+    sPreferred = preferred;
+    mFolder->addFiles(files);
+    QTEST(ConfWidgetLanguage::getVaildLanguageCode("auto"), "code");
+    QTEST(ConfWidgetLanguage::getVaildLanguageCode("xx-yy"), "code");
+    QTEST(ConfWidgetLanguage::getVaildLanguageCode("FR-FR"), "code");
+    QTEST(ConfWidgetLanguage::getVaildLanguageCode(QString()), "code");
+}
+
+void tst_ConfWidgetLanguageTranslators::fixedLanguageIgnoresTheSystem()
+{
+    sPreferred = QStringList{"zh-Hans-CN"};
+    mFolder->addFiles({"fr-fr.qm", "xx-yy.qm", "zh-cn.qm"});
+    QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode("fr-fr"), QString("fr-fr"));
+    QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode("xx-yy"), QString("xx-yy"));
+    QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode("en-us"), QString("en-us"));
+}
+
+void tst_ConfWidgetLanguageTranslators::autoIsNeverTheAnswer()
+{
+    mFolder->addFiles({"auto.qm"});
+    sPreferred = QStringList{"auto"};
+    QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode("auto"), QString("en-us"));
+}
+
+void tst_ConfWidgetLanguageTranslators::bothTranslatorsAreInstalled()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Langue"));
+    QCOMPARE(cancel(), QString("Annuler"));
+    QCOMPARE(log.messages(),
+             QList<LoggedMessage>({{QtDebugMsg, "installTranslator:  \"fr-fr\""}}));
+}
+
+void tst_ConfWidgetLanguageTranslators::autoInstallsThePreferredLanguage()
+{
+    if (!sCanBePreferred)
+        QSKIP("the system's languages cannot be replaced here");
+    mFolder->addFrenchAndGerman();
+    sPreferred = QStringList{"it_IT", "fr_FR", "de_DE"};
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("auto");
+    QCOMPARE(label(), QString("Langue"));
+    QCOMPARE(log.texts(QtDebugMsg), QStringList("installTranslator:  \"fr-fr\""));
+}
+
+void tst_ConfWidgetLanguageTranslators::englishRemovesBothTranslators()
+{
+    mFolder->addFrenchAndGerman();
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    ConfWidgetLanguage::installTranslator("en-us");
+    QCOMPARE(label(), QString("Language"));
+    QCOMPARE(cancel(), QString("Cancel"));
+}
+
+void tst_ConfWidgetLanguageTranslators::anotherLanguageReplacesTheFirst()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    ConfWidgetLanguage::installTranslator("de-de");
+    QCOMPARE(label(), QString("Sprache"));
+    QCOMPARE(cancel(), QString("Cancel"));
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Langue"));
+    QCOMPARE(cancel(), QString("Annuler"));
+}
+
+void tst_ConfWidgetLanguageTranslators::sameRequestDoesNothing()
+{
+    mFolder->addFrenchAndGerman();
+    sPreferred = QStringList{"fr_FR"};
+    ConfWidgetLanguage::installTranslator("auto");
+    const QString before = label();
+    sPreferred = QStringList{"de_DE"};
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("auto");
+    QCOMPARE(label(), before);
+    QVERIFY(log.messages().isEmpty());
+}
+
+void tst_ConfWidgetLanguageTranslators::missingQtFileLeavesTheApplicationTranslated()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("de-de");
+    QCOMPARE(label(), QString("Sprache"));
+    const QString path = QCoreApplication::applicationDirPath()
+        + ConfWidgetLanguage::sLanguageQtPath + "qt_de-de.qm";
+    QCOMPARE(log.texts(QtWarningMsg),
+             QStringList("Unable to load Qt office QTranslator :  \"" + path + '"'));
+}
+
+void tst_ConfWidgetLanguageTranslators::brokenFileLeavesQtTranslated()
+{
+    mFolder->addFiles({"fr-fr.qm"});
+    mFolder->addCatalogue("qt_fr-fr.qm");
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Language"));
+    QCOMPARE(cancel(), QString("Annuler"));
+    QCOMPARE(log.texts(QtWarningMsg), QStringList("Unable to load QTranslator"));
+}
+
+void tst_ConfWidgetLanguageTranslators::failedLanguageIsTriedAgainAfterAnother()
+{
+    mFolder->addFiles({"fr-fr.qm"});
+    mFolder->addCatalogue("qt_fr-fr.qm");
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    mFolder->addCatalogue("fr-fr.qm");
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Language"));
+    ConfWidgetLanguage::installTranslator("en-us");
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Langue"));
+}
+
+void tst_ConfWidgetLanguageTranslators::listWithoutEnglishFallsBackToItsFirst()
+{
+    mFolder->addFrenchAndGerman();
+    ConfWidgetLanguage::mSupportLangCodes = QStringList{"de-de", "fr-fr"};
+    sPreferred.clear();
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("it-it");
+    QCOMPARE(label(), QString("Sprache"));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfWidgetLanguageTranslators>(argc, argv);
+}
+
+#include "tst_ConfWidgetLanguageTranslators.moc"

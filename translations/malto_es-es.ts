@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>ColorSelectButton</name>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationWindow</name>
+    <message>
+        <source>Quorvi Configuration</source>
+        <translation>Configuración de Quorvi</translation>
+    </message>
+    <message>
+        <source>Restore All Default</source>
+        <translation>Restaurar todos los valores</translation>
+    </message>
+    <message>
+        <source>Restore Default</source>
+        <translation>Restaurar valores predeterminados</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEdit</name>
+    <message>
+        <source>Press shortcut key</source>
+        <translation>Pulse el atajo de teclado</translation>
+    </message>
+    <message>
+        <source>Clear shortcut key</source>
+        <translation>Borrar el atajo de teclado</translation>
+    </message>
+    <message>
+        <source>Shortkey [%1] is too simple.
+To avoid conflicts with other functions and prevent accidental activations, please set a more complex hotkey combination.
+
+If you need to set simple shortcuts, go to the [System] Settings page and check [Allow simple global hotkeys].</source>
+        <translation>El atajo de teclado [%1] es demasiado sencillo.
+Para evitar conflictos con otras funciones y activaciones accidentales, defina una combinación de teclas más compleja.
+
+Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [Permitir atajos globales sencillos].</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfDefWidgetQKeySequence</name>
+    <message>
+        <source>Not set</source>
+        <translation>Sin definir</translation>
+    </message>
+    <message>
+        <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
+        <translation>No se pudo configurar; es posible que el atajo ya esté en uso. Haga clic para volver a intentarlo.</translation>
+    </message>
+    <message>
+        <source>Setup success.</source>
+        <translation>Configurado correctamente.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>Desactivado.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetLanguage</name>
+    <message>
+        <source>Follow the system</source>
+        <translation>Según el sistema</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetMouseAction</name>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Left Click</source>
+        <translation>Clic izquierdo</translation>
+    </message>
+    <message>
+        <source>Left Double Click</source>
+        <translation>Doble clic izquierdo</translation>
+    </message>
+    <message>
+        <source>Right Click</source>
+        <translation>Clic derecho</translation>
+    </message>
+    <message>
+        <source>Right Double Click</source>
+        <translation>Doble clic derecho</translation>
+    </message>
+    <message>
+        <source>Middle Click</source>
+        <translation>Clic central</translation>
+    </message>
+    <message>
+        <source>Middle Double Click</source>
+        <translation>Doble clic central</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rueda</translation>
+    </message>
+    <message>
+        <source>Left Drag</source>
+        <translation>Arrastrar con el botón izquierdo</translation>
+    </message>
+    <message>
+        <source>Right Drag</source>
+        <translation>Arrastrar con el botón derecho</translation>
+    </message>
+    <message>
+        <source>Middle Drag</source>
+        <translation>Arrastrar con el botón central</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore current page default?</source>
+        <translation>¿Seguro que desea restaurar los valores predeterminados de esta página?</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore all default?</source>
+        <translation>¿Seguro que desea restaurar todos los valores predeterminados?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Cannot set left-click separately</source>
+        <translation>El clic izquierdo no se puede usar por sí solo</translation>
+    </message>
+    <message>
+        <source>No set</source>
+        <translation>Sin definir</translation>
+    </message>
+    <message>
+        <source>Conflict with %1</source>
+        <translation>Conflicto con «%1»</translation>
+    </message>
+</context>
+</TS>

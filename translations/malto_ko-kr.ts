@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en_US">
+<context>
+    <name>ColorSelectButton</name>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationWindow</name>
+    <message>
+        <source>Quorvi Configuration</source>
+        <translation>Quorvi 설정</translation>
+    </message>
+    <message>
+        <source>Restore All Default</source>
+        <translation>모두 기본값으로 복원</translation>
+    </message>
+    <message>
+        <source>Restore Default</source>
+        <translation>기본값으로 복원</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEdit</name>
+    <message>
+        <source>Press shortcut key</source>
+        <translation>단축키를 누르세요</translation>
+    </message>
+    <message>
+        <source>Clear shortcut key</source>
+        <translation>단축키 지우기</translation>
+    </message>
+    <message>
+        <source>Shortkey [%1] is too simple.
+To avoid conflicts with other functions and prevent accidental activations, please set a more complex hotkey combination.
+
+If you need to set simple shortcuts, go to the [System] Settings page and check [Allow simple global hotkeys].</source>
+        <translation>단축키 [%1]이(가) 너무 단순합니다.
+다른 기능과의 충돌이나 의도하지 않은 실행을 방지하려면 더 복잡한 키 조합을 설정하세요.
+
+단순한 단축키를 설정하려면 [시스템] 설정 페이지로 이동하여 [단순한 전역 단축키 허용]을 선택하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfDefWidgetQKeySequence</name>
+    <message>
+        <source>Not set</source>
+        <translation>설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
+        <translation>설정하지 못했습니다. 이미 사용 중인 단축키일 수 있습니다. 다시 시도하려면 클릭하세요.</translation>
+    </message>
+    <message>
+        <source>Setup success.</source>
+        <translation>설정되었습니다.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>비활성화되었습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetLanguage</name>
+    <message>
+        <source>Follow the system</source>
+        <translation>시스템 설정에 따름</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetMouseAction</name>
+    <message>
+        <source>None</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>Left Click</source>
+        <translation>왼쪽 클릭</translation>
+    </message>
+    <message>
+        <source>Left Double Click</source>
+        <translation>왼쪽 더블 클릭</translation>
+    </message>
+    <message>
+        <source>Right Click</source>
+        <translation>오른쪽 클릭</translation>
+    </message>
+    <message>
+        <source>Right Double Click</source>
+        <translation>오른쪽 더블 클릭</translation>
+    </message>
+    <message>
+        <source>Middle Click</source>
+        <translation>가운데 클릭</translation>
+    </message>
+    <message>
+        <source>Middle Double Click</source>
+        <translation>가운데 더블 클릭</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>휠</translation>
+    </message>
+    <message>
+        <source>Left Drag</source>
+        <translation>왼쪽 드래그</translation>
+    </message>
+    <message>
+        <source>Right Drag</source>
+        <translation>오른쪽 드래그</translation>
+    </message>
+    <message>
+        <source>Middle Drag</source>
+        <translation>가운데 드래그</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>Confirm</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore current page default?</source>
+        <translation>현재 페이지를 기본값으로 복원하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore all default?</source>
+        <translation>모든 설정을 기본값으로 복원하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Cannot set left-click separately</source>
+        <translation>왼쪽 클릭만 단독으로 설정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>No set</source>
+        <translation>설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Conflict with %1</source>
+        <translation>‘%1’과(와) 충돌</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL" sourcelanguage="en_US">
+<context>
+    <name>ColorSelectButton</name>
+    <message>
+        <source>None</source>
+        <translation>Brak</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationWindow</name>
+    <message>
+        <source>Quorvi Configuration</source>
+        <translation>Konfiguracja Quorvi</translation>
+    </message>
+    <message>
+        <source>Restore All Default</source>
+        <translation>Przywróć wszystkie domyślne</translation>
+    </message>
+    <message>
+        <source>Restore Default</source>
+        <translation>Przywróć domyślne</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEdit</name>
+    <message>
+        <source>Press shortcut key</source>
+        <translation>Naciśnij skrót klawiszowy</translation>
+    </message>
+    <message>
+        <source>Clear shortcut key</source>
+        <translation>Wyczyść skrót klawiszowy</translation>
+    </message>
+    <message>
+        <source>Shortkey [%1] is too simple.
+To avoid conflicts with other functions and prevent accidental activations, please set a more complex hotkey combination.
+
+If you need to set simple shortcuts, go to the [System] Settings page and check [Allow simple global hotkeys].</source>
+        <translation>Skrót klawiszowy [%1] jest zbyt prosty.
+Aby uniknąć konfliktów z innymi funkcjami i przypadkowego uruchomienia, ustaw bardziej złożoną kombinację klawiszy.
+
+Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i zaznacz opcję [Zezwalaj na proste skróty globalne].</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfDefWidgetQKeySequence</name>
+    <message>
+        <source>Not set</source>
+        <translation>Nie ustawiono</translation>
+    </message>
+    <message>
+        <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
+        <translation>Nie udało się ustawić skrótu, może być już zajęty. Kliknij, aby spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>Setup success.</source>
+        <translation>Ustawiono pomyślnie.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>Wyłączono.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetLanguage</name>
+    <message>
+        <source>Follow the system</source>
+        <translation>Zgodnie z systemem</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetMouseAction</name>
+    <message>
+        <source>None</source>
+        <translation>Brak</translation>
+    </message>
+    <message>
+        <source>Left Click</source>
+        <translation>Kliknięcie lewym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Left Double Click</source>
+        <translation>Dwukrotne kliknięcie lewym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Right Click</source>
+        <translation>Kliknięcie prawym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Right Double Click</source>
+        <translation>Dwukrotne kliknięcie prawym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Middle Click</source>
+        <translation>Kliknięcie środkowym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Middle Double Click</source>
+        <translation>Dwukrotne kliknięcie środkowym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Kółko myszy</translation>
+    </message>
+    <message>
+        <source>Left Drag</source>
+        <translation>Przeciąganie lewym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Right Drag</source>
+        <translation>Przeciąganie prawym przyciskiem</translation>
+    </message>
+    <message>
+        <source>Middle Drag</source>
+        <translation>Przeciąganie środkowym przyciskiem</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Potwierdź</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore current page default?</source>
+        <translation>Czy na pewno przywrócić ustawienia domyślne bieżącej strony?</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore all default?</source>
+        <translation>Czy na pewno przywrócić wszystkie ustawienia domyślne?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Cannot set left-click separately</source>
+        <translation>Nie można ustawić samego kliknięcia lewym przyciskiem</translation>
+    </message>
+    <message>
+        <source>No set</source>
+        <translation>Nie ustawiono</translation>
+    </message>
+    <message>
+        <source>Conflict with %1</source>
+        <translation>Konflikt z ustawieniem „%1”</translation>
+    </message>
+</context>
+</TS>

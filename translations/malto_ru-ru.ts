@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>ColorSelectButton</name>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationWindow</name>
+    <message>
+        <source>Quorvi Configuration</source>
+        <translation>Настройки Quorvi</translation>
+    </message>
+    <message>
+        <source>Restore All Default</source>
+        <translation>Восстановить всё по умолчанию</translation>
+    </message>
+    <message>
+        <source>Restore Default</source>
+        <translation>Восстановить по умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEdit</name>
+    <message>
+        <source>Press shortcut key</source>
+        <translation>Нажмите сочетание клавиш</translation>
+    </message>
+    <message>
+        <source>Clear shortcut key</source>
+        <translation>Очистить сочетание клавиш</translation>
+    </message>
+    <message>
+        <source>Shortkey [%1] is too simple.
+To avoid conflicts with other functions and prevent accidental activations, please set a more complex hotkey combination.
+
+If you need to set simple shortcuts, go to the [System] Settings page and check [Allow simple global hotkeys].</source>
+        <translation>Сочетание клавиш [%1] слишком простое.
+Чтобы избежать конфликтов с другими функциями и случайных срабатываний, задайте более сложное сочетание.
+
+Если вам нужны простые сочетания клавиш, откройте страницу настроек [Система] и установите флажок [Разрешить простые глобальные сочетания клавиш].</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfDefWidgetQKeySequence</name>
+    <message>
+        <source>Not set</source>
+        <translation>Не задано</translation>
+    </message>
+    <message>
+        <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
+        <translation>Не удалось назначить: возможно, сочетание клавиш уже занято. Нажмите, чтобы повторить попытку.</translation>
+    </message>
+    <message>
+        <source>Setup success.</source>
+        <translation>Успешно назначено.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>Отключено.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetLanguage</name>
+    <message>
+        <source>Follow the system</source>
+        <translation>Как в системе</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetMouseAction</name>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Left Click</source>
+        <translation>Щелчок левой кнопкой</translation>
+    </message>
+    <message>
+        <source>Left Double Click</source>
+        <translation>Двойной щелчок левой кнопкой</translation>
+    </message>
+    <message>
+        <source>Right Click</source>
+        <translation>Щелчок правой кнопкой</translation>
+    </message>
+    <message>
+        <source>Right Double Click</source>
+        <translation>Двойной щелчок правой кнопкой</translation>
+    </message>
+    <message>
+        <source>Middle Click</source>
+        <translation>Щелчок средней кнопкой</translation>
+    </message>
+    <message>
+        <source>Middle Double Click</source>
+        <translation>Двойной щелчок средней кнопкой</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Колесо прокрутки</translation>
+    </message>
+    <message>
+        <source>Left Drag</source>
+        <translation>Перетаскивание левой кнопкой</translation>
+    </message>
+    <message>
+        <source>Right Drag</source>
+        <translation>Перетаскивание правой кнопкой</translation>
+    </message>
+    <message>
+        <source>Middle Drag</source>
+        <translation>Перетаскивание средней кнопкой</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Подтвердить</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore current page default?</source>
+        <translation>Вы действительно хотите восстановить значения по умолчанию на текущей странице?</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore all default?</source>
+        <translation>Вы действительно хотите восстановить все значения по умолчанию?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Cannot set left-click separately</source>
+        <translation>Щелчок левой кнопкой нельзя назначить сам по себе</translation>
+    </message>
+    <message>
+        <source>No set</source>
+        <translation>Не задано</translation>
+    </message>
+    <message>
+        <source>Conflict with %1</source>
+        <translation>Конфликт с параметром «%1»</translation>
+    </message>
+</context>
+</TS>

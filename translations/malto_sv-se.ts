@@ -1,0 +1,150 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv_SE" sourcelanguage="en_US">
+<context>
+    <name>ColorSelectButton</name>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationWindow</name>
+    <message>
+        <source>Quorvi Configuration</source>
+        <translation>Quorvi-inställningar</translation>
+    </message>
+    <message>
+        <source>Restore All Default</source>
+        <translation>Återställ alla standardvärden</translation>
+    </message>
+    <message>
+        <source>Restore Default</source>
+        <translation>Återställ standardvärden</translation>
+    </message>
+</context>
+<context>
+    <name>KeySequenceEdit</name>
+    <message>
+        <source>Press shortcut key</source>
+        <translation>Tryck på ett kortkommando</translation>
+    </message>
+    <message>
+        <source>Clear shortcut key</source>
+        <translation>Rensa kortkommandot</translation>
+    </message>
+    <message>
+        <source>Shortkey [%1] is too simple.
+To avoid conflicts with other functions and prevent accidental activations, please set a more complex hotkey combination.
+
+If you need to set simple shortcuts, go to the [System] Settings page and check [Allow simple global hotkeys].</source>
+        <translation>Kortkommandot [%1] är för enkelt.
+Ange en mer komplex tangentkombination för att undvika konflikter med andra funktioner och oavsiktlig aktivering.
+
+Om du behöver enkla kortkommandon går du till inställningssidan [System] och markerar [Tillåt enkla globala kortkommandon].</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfDefWidgetQKeySequence</name>
+    <message>
+        <source>Not set</source>
+        <translation>Inte angett</translation>
+    </message>
+    <message>
+        <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
+        <translation>Det gick inte att ställa in kortkommandot, det kan vara upptaget. Klicka för att försöka igen.</translation>
+    </message>
+    <message>
+        <source>Setup success.</source>
+        <translation>Kortkommandot har ställts in.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>Inaktiverat.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetLanguage</name>
+    <message>
+        <source>Follow the system</source>
+        <translation>Följ systemet</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetMouseAction</name>
+    <message>
+        <source>None</source>
+        <translation>Ingen</translation>
+    </message>
+    <message>
+        <source>Left Click</source>
+        <translation>Vänsterklick</translation>
+    </message>
+    <message>
+        <source>Left Double Click</source>
+        <translation>Dubbelklick med vänster knapp</translation>
+    </message>
+    <message>
+        <source>Right Click</source>
+        <translation>Högerklick</translation>
+    </message>
+    <message>
+        <source>Right Double Click</source>
+        <translation>Dubbelklick med höger knapp</translation>
+    </message>
+    <message>
+        <source>Middle Click</source>
+        <translation>Mittenklick</translation>
+    </message>
+    <message>
+        <source>Middle Double Click</source>
+        <translation>Dubbelklick med mittknappen</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Mushjul</translation>
+    </message>
+    <message>
+        <source>Left Drag</source>
+        <translation>Dra med vänster knapp</translation>
+    </message>
+    <message>
+        <source>Right Drag</source>
+        <translation>Dra med höger knapp</translation>
+    </message>
+    <message>
+        <source>Middle Drag</source>
+        <translation>Dra med mittknappen</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>Confirm</source>
+        <translation>Bekräfta</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore current page default?</source>
+        <translation>Vill du verkligen återställa standardvärdena på den här sidan?</translation>
+    </message>
+    <message>
+        <source>Are you sure to restore all default?</source>
+        <translation>Vill du verkligen återställa alla standardvärden?</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Cannot set left-click separately</source>
+        <translation>Enbart vänsterklick kan inte anges</translation>
+    </message>
+    <message>
+        <source>No set</source>
+        <translation>Inte angett</translation>
+    </message>
+    <message>
+        <source>Conflict with %1</source>
+        <translation>Konflikt med ”%1”</translation>
+    </message>
+</context>
+</TS>
