@@ -1,0 +1,309 @@
+#include "support/TestMain.h"
+#include "support/WindowFixture.h"
+
+#include <OrvUtils/OrvScreenManager.h>
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QScreen>
+#include <QSettings>
+#include <QStandardItemModel>
+#include <QTranslator>
+
+using MtConf::ConfigurationWindow;
+using MtConf::ConfItem;
+
+namespace {
+
+/// Translates into brackets whatever stands in one of the window's contexts.
+class BracketTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const QByteArrayList contexts{"ConfigurationWindow", "MtConf::ConfigurationWindow",
+                                      "QObject"};
+        return contexts.contains(context) ? QString("[%1]").arg(QString::fromUtf8(source))
+                                          : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+/// Style sheets, themes, geometry, icons and the language of the window.
+class tst_ConfigurationWindowAppearance : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mFixture = std::make_unique<WindowFixture>();
+        mFlag = true;
+        mItem = mFixture->manager->addConfBool("Flag", &mFlag, "General", "Flag");
+        mFixture->manager->addConfBool("Sub", &mFlag, "General", "Group", "Sub");
+        QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
+    }
+    void cleanup()
+    {
+        mFixture.reset();
+        QDir("res").removeRecursively();
+        QDir("ThirdParty").removeRecursively();
+    }
+
+    void firstWindowStandsInTheMiddleOfTheScreen();
+    void geometryIsRemembered();
+    void savedGeometry_data();
+    void savedGeometry();
+    void geometryFileMayBeRubbish();
+    void closedWindowLeavesItsGeometryInTheFile();
+    void sheetIsExpanded();
+    void sheetOnDiskGoesFirst_data();
+    void sheetOnDiskGoesFirst();
+    void sheetNamesEverySelectorThatTheCodeSets();
+    void changedCaptionIsBold();
+    void themeChangeReachesTheOpenWindow();
+    void themeChangeReachesTheIcons();
+    void classWithoutGlyphHasNoIcon();
+    void languageChangeReachesEveryText();
+    void classNamesOfAnyScriptAreShown();
+
+private:
+    static void writeGeometry(const QVariant &value)
+    {
+        QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
+        settings.setValue("Geometry", value);
+    }
+    static void writeSheet(const QString &path, const QByteArray &sheet)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(sheet);
+    }
+    static QStandardItem *row(int index)
+    {
+        return qobject_cast<QStandardItemModel *>(WindowFixture::classList()->model())->item(index);
+    }
+    /// A colour that the row's icon really paints.
+    static QColor inkOf(const QIcon &icon, QIcon::Mode mode)
+    {
+        const QImage image = icon.pixmap(QSize(32, 32), mode).toImage()
+                                 .convertToFormat(QImage::Format_ARGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y).alpha() == 255)
+                    return image.pixelColor(x, y);
+            }
+        }
+        return QColor();
+    }
+
+    std::unique_ptr<WindowFixture> mFixture;
+    ConfItem *mItem = nullptr;
+    bool mFlag = true;
+};
+
+void tst_ConfigurationWindowAppearance::firstWindowStandsInTheMiddleOfTheScreen()
+{
+    // Not shown: what the constructor has set counts, not what a window system does with it.
+    const ConfigurationWindow window(mFixture->manager.get());
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    // 768 by 500 units at 96 dots per inch.
+    QCOMPARE(window.size(), QSize(1024, 667));
+    QVERIFY(qAbs(window.geometry().center().x() - screen.center().x()) <= 1);
+    QVERIFY(qAbs(window.geometry().center().y() - screen.center().y()) <= 1);
+}
+
+void tst_ConfigurationWindowAppearance::geometryIsRemembered()
+{
+    const QRect geometry(40, 50, 700, 500);
+    mFixture->open()->setGeometry(geometry);
+    QTRY_COMPARE(mFixture->window()->geometry(), geometry);
+    QVERIFY(mFixture->close());
+    mFixture->open();
+    QTRY_COMPARE(mFixture->window()->geometry(), geometry);
+}
+
+void tst_ConfigurationWindowAppearance::savedGeometry_data()
+{
+    QTest::addColumn<QRect>("saved"); // on a screen that begins at (0, 0)
+    QTest::addColumn<bool>("applied");
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QTest::newRow("well inside") << QRect(10, 10, 640, 480) << true;
+    QTest::newRow("touches the left edge") << QRect(0, 10, 640, 480) << false;
+    QTest::newRow("touches the top edge") << QRect(10, 0, 640, 480) << false;
+    QTest::newRow("one pixel from the edges") << QRect(1, 1, 640, 480) << true;
+    QTest::newRow("touches the right edge")
+        << QRect(screen.right() - 639, 10, 640, 480) << false;
+    QTest::newRow("touches the bottom edge")
+        << QRect(10, screen.bottom() - 479, 640, 480) << false;
+    QTest::newRow("outside of every screen") << QRect(100000, 100000, 640, 480) << false;
+    QTest::newRow("empty") << QRect() << false;
+    QTest::newRow("turned inside out") << QRect(QPoint(500, 500), QPoint(100, 100)) << false;
+}
+
+void tst_ConfigurationWindowAppearance::savedGeometry()
+{
+    QFETCH(QRect, saved);
+    QFETCH(bool, applied);
+    writeGeometry(saved);
+    // The window is not shown: what the constructor has set counts, not what a window system does.
+    const ConfigurationWindow window(mFixture->manager.get());
+    if (applied)
+        QCOMPARE(window.geometry(), saved);
+    else
+        QCOMPARE(window.size(), QSize(1089, 598));
+}
+
+void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()
+{
+    writeSheet(WindowFixture::geometryFile(), QByteArray("\x00[[[=\xff\nGeometry=@Rect(x)\n", 22));
+    const ConfigurationWindow window(mFixture->manager.get());
+    QVERIFY(window.width() > 0);
+}
+
+void tst_ConfigurationWindowAppearance::closedWindowLeavesItsGeometryInTheFile()
+{
+    mFixture->open();
+    const QRect geometry = mFixture->window()->geometry();
+    QVERIFY(!QFile::exists(WindowFixture::geometryFile()));
+    QVERIFY(mFixture->close());
+    const QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
+    QCOMPARE(settings.allKeys(), QStringList("Geometry"));
+    QCOMPARE(settings.value("Geometry").toRect(), geometry);
+}
+
+void tst_ConfigurationWindowAppearance::sheetIsExpanded()
+{
+    const QString sheet = mFixture->open()->styleSheet();
+    QVERIFY(!sheet.contains("sca("));
+    QVERIFY(!sheet.contains("var("));
+    QVERIFY(sheet.contains("border-radius: 8px")); // 6 units at 96 dots per inch
+    QVERIFY(sheet.contains(QThemeCtrl::instance()->value("ColorMain")));
+}
+
+void tst_ConfigurationWindowAppearance::sheetOnDiskGoesFirst_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("isCommon");
+    QTest::newRow("common sheet") << "res/qss/CommonWindow.qss" << true;
+    QTest::newRow("the window's sheet")
+        << "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss" << false;
+}
+
+void tst_ConfigurationWindowAppearance::sheetOnDiskGoesFirst()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, isCommon);
+    writeSheet(path, "#onDisk { width: sca(3)px; }");
+    const QString sheet = mFixture->open()->styleSheet();
+    QVERIFY(sheet.contains("#onDisk { width: 4px; }"));
+    QCOMPARE(sheet.contains("QToolTip"), !isCommon);
+    QCOMPARE(sheet.contains("#configList"), isCommon);
+    if (isCommon)
+        QVERIFY(sheet.indexOf("#onDisk") < sheet.indexOf("#configList"));
+    else
+        QVERIFY(sheet.indexOf("QToolTip") < sheet.indexOf("#onDisk"));
+}
+
+void tst_ConfigurationWindowAppearance::sheetNamesEverySelectorThatTheCodeSets()
+{
+    QFile file(":/qss/ConfigurationWindow");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString sheet = QString::fromUtf8(file.readAll());
+    for (const char *selector :
+         {"#configList", "#configList::item", "#configList::item:selected",
+          "#configList::item::hover:!selected", "QLabel[ClassLabel=\"normal\"]",
+          "QCheckBox[ClassLabel=\"normal\"]", "#ConfigGroupBox", "#ConfigGroupBox[NoGroupBox=\"1\"]",
+          "QLabel[ConfigItemWidgetLabel=\"1\"]", "QLabel[changed=\"1\"]", "QCheckBox[changed=\"1\"]",
+          "QRadioButton[changed=\"1\"]", ".ColorSelectButton", ".KeySequenceEdit",
+          "QLineEdit:focus[class=\"KeySequenceEdit\"]", "QMainWindow", "QDialog", "QScrollArea",
+          "QGroupBox", "QTextEdit", "QTabBar", "QTabWidget::pane", "QMessageBox"}) {
+        QVERIFY2(sheet.contains(QLatin1String(selector)), selector);
+    }
+}
+
+void tst_ConfigurationWindowAppearance::changedCaptionIsBold()
+{
+    int value = 1;
+    ConfItem *number = mFixture->manager->addConfInt32("Number", &value, "General", "Number");
+    mFixture->open();
+    QVERIFY(!number->editor->label()->font().bold());
+    QVERIFY(!mFixture->checkBox(mItem)->font().bold());
+    mFixture->store()->set<int>("General.Number", 2);
+    number->editor->refreshLabelState();
+    mFixture->clickBox(mFixture->checkBox(mItem));
+    QCOMPARE(number->editor->label()->font().weight(), int(QFont::Bold));
+    QCOMPARE(mFixture->checkBox(mItem)->font().weight(), int(QFont::Bold));
+    QCOMPARE(number->editor->label()->font().pointSize(), 16);
+    QCOMPARE(mFixture->checkBox(mItem)->font().pointSize(), 16);
+    mFixture->clickBox(mFixture->checkBox(mItem));
+    QCOMPARE(mFixture->checkBox(mItem)->font().weight(), int(QFont::Normal));
+}
+
+void tst_ConfigurationWindowAppearance::themeChangeReachesTheOpenWindow()
+{
+    const ConfigurationWindow *window = mFixture->open();
+    const QString light = window->styleSheet();
+    QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Dark);
+    QVERIFY(window->styleSheet() != light);
+    QVERIFY(window->styleSheet().contains(QThemeCtrl::instance()->value("ColorBg1")));
+    const QColor ground = mFixture->window()->grab().toImage().pixelColor(2, 2);
+    QCOMPARE(ground, QColor(QThemeCtrl::instance()->value("ColorBg0")));
+}
+
+void tst_ConfigurationWindowAppearance::themeChangeReachesTheIcons()
+{
+    QMap<QString, QChar> icons{{"General", QChar(0xe800)}};
+    mFixture->manager->setIconMap(icons);
+    QCOMPARE(ConfigurationWindow::mIconMap, icons);
+    mFixture->open();
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal), QColor(QThemeCtrl::instance()->value("ColorFg0")));
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Selected), QColor(Qt::white));
+    QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Dark);
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal), QColor(QThemeCtrl::instance()->value("ColorFg0")));
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Selected), QColor(Qt::white));
+}
+
+void tst_ConfigurationWindowAppearance::classWithoutGlyphHasNoIcon()
+{
+    QMap<QString, QChar> icons{{"Elsewhere", QChar(0xe800)}};
+    mFixture->manager->setIconMap(icons);
+    mFixture->open();
+    QVERIFY(row(0)->icon().isNull());
+}
+
+void tst_ConfigurationWindowAppearance::languageChangeReachesEveryText()
+{
+    const ConfigurationWindow *window = mFixture->open();
+    BracketTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    Q_EMIT mFixture->manager->sigLanguageChange();
+    QCOMPARE(window->windowTitle(), QString("[Quorvi Configuration]"));
+    QCOMPARE(mFixture->restoreAllButton()->text(), QString("[Restore All Default]"));
+    QCOMPARE(mFixture->restorePageButton()->text(), QString("[Restore Default]"));
+    QCOMPARE(row(0)->text(), QString("[General]"));
+    QCOMPARE(mFixture->captions(), (QStringList{"[General]", "[Group]"}));
+    QCOMPARE(mFixture->checkBox(mItem)->text(), QString("[Flag]"));
+    mFixture->window()->switchToView("General");
+    QCOMPARE(mFixture->captions(), (QStringList{"[General]", "[Group]"}));
+    QCoreApplication::removeTranslator(&translator);
+    Q_EMIT mFixture->manager->sigLanguageChange();
+    QCOMPARE(mFixture->captions(), (QStringList{"General", "Group"}));
+}
+
+void tst_ConfigurationWindowAppearance::classNamesOfAnyScriptAreShown()
+{
+    const QString name = QString::fromUtf8("设置 – Einstellungen – إعدادات");
+    mFixture->manager->addConfBool("Flag", &mFlag, name, "Flag");
+    mFixture->open()->switchToView(name);
+    QCOMPARE(row(1)->text(), name);
+    QCOMPARE(mFixture->captions(), QStringList(name));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfigurationWindowAppearance>(argc, argv);
+}
+
+#include "tst_ConfigurationWindowAppearance.moc"

@@ -1,0 +1,406 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+#include "support/WindowFixture.h"
+
+#include <QGridLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
+
+using MtConf::ConfigItemWidget;
+using MtConf::ConfItem;
+
+/// How a page is built from the declarations of its class, and taken down again.
+class tst_ConfigurationWindowPage : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { mFixture = std::make_unique<WindowFixture>(); }
+    void cleanup()
+    {
+        mFixture.reset();
+        mFlags.clear();
+    }
+
+    void ungroupedItemsShareOneGroupUnderTheClassName();
+    void subNamedItemsAreGroupedByName();
+    void classOfSubNamedItemsOnlyHasNoGroupOfItsOwn();
+    void separatorsStandBetweenItems_data();
+    void separatorsStandBetweenItems();
+    void captionsStandLeftOfTheirEditors();
+    void editorWithoutCaptionTakesTheWholeRow();
+    void gridIsSpacedByTheScale();
+    void classFlag1LeavesOutCaptionsAndPanels();
+    void classFlag4HidesTheRestoreButton();
+    void customPageStandsAlone();
+    void customPageMayBeNull();
+    void filteredItems_data();
+    void filteredItems();
+    void itemWithoutEditorIsLeftOut();
+    void pageEndsWithASpacerAndIsScrolledUp();
+    void pageOfAThousandItemsIsShown();
+    void oldEditorsGoAtOnce();
+    void itemDeclaredLaterAppearsWhenThePageIsBuiltAgain();
+    void callbackMayOpenAnotherPage_fromACheckBox();
+    void callbackMayOpenAnotherPage_fromASpinBox();
+    void callbackMayCloseTheWindow();
+    void factoryMayAskForAnotherPage();
+    void hostMayDeleteAnEditorItself();
+
+private:
+    ConfItem *addBool(const char *name, const char *subName = "", const char *major = "General")
+    {
+        mFlags.push_back(std::make_unique<bool>(true));
+        return mFixture->manager->addConfBool(name, mFlags.back().get(), major, name, subName);
+    }
+    static int separators(const QWidget *box)
+    {
+        int count = 0;
+        for (const QFrame *frame : box->findChildren<QFrame *>()) {
+            if (frame->property("class") == "SplitLine") {
+                ++count;
+                if (frame->frameShape() != QFrame::HLine || frame->frameShadow() != QFrame::Sunken)
+                    return -1;
+            }
+        }
+        return count;
+    }
+
+    std::unique_ptr<WindowFixture> mFixture;
+    std::vector<std::unique_ptr<bool>> mFlags;
+};
+
+void tst_ConfigurationWindowPage::ungroupedItemsShareOneGroupUnderTheClassName()
+{
+    addBool("a");
+    addBool("b");
+    mFixture->open();
+    QCOMPARE(mFixture->captions(), QStringList("General"));
+    QCOMPARE(mFixture->groups().size(), 1);
+    const auto *caption = qobject_cast<QLabel *>(mFixture->page()->itemAt(0)->widget());
+    QCOMPARE(caption->property("SourceText"), QVariant("General"));
+    QCOMPARE(caption->property("ClassLabel"), QVariant("normal"));
+}
+
+void tst_ConfigurationWindowPage::subNamedItemsAreGroupedByName()
+{
+    addBool("Hotkey", "Left");
+    addBool("Zoom", "In");
+    const ConfItem *plain = addBool("Plain");
+    addBool("Hotkey", "Right");
+    mFixture->open();
+    QCOMPARE(mFixture->captions(), (QStringList{"General", "Hotkey", "Zoom"}));
+    const QList<QGroupBox *> groups = mFixture->groups();
+    QCOMPARE(groups.size(), 3);
+    QVERIFY(groups.at(0)->isAncestorOf(plain->editor));
+    QCOMPARE(groups.at(1)->findChildren<QCheckBox *>().size(), 2);
+    QCOMPARE(groups.at(2)->findChildren<QCheckBox *>().size(), 1);
+}
+
+void tst_ConfigurationWindowPage::classOfSubNamedItemsOnlyHasNoGroupOfItsOwn()
+{
+    addBool("Hotkey", "Left");
+    mFixture->open();
+    QCOMPARE(mFixture->captions(), QStringList("Hotkey"));
+}
+
+void tst_ConfigurationWindowPage::separatorsStandBetweenItems_data()
+{
+    QTest::addColumn<int>("items");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("one item") << 1 << 0;
+    QTest::newRow("two items") << 2 << 1;
+    QTest::newRow("three items") << 3 << 2;
+}
+
+void tst_ConfigurationWindowPage::separatorsStandBetweenItems()
+{
+    QFETCH(int, items);
+    const char *const names[] = {"a", "b", "c"};
+    for (int i = 0; i < items; ++i)
+        addBool(names[i]);
+    mFixture->open();
+    QTEST(separators(mFixture->groups().first()), "lines");
+}
+
+void tst_ConfigurationWindowPage::captionsStandLeftOfTheirEditors()
+{
+    int value = 3;
+    const ConfItem *item = mFixture->manager->addConfInt32("Number", &value, "General", "n");
+    mFixture->open();
+    const auto *grid = qobject_cast<QGridLayout *>(mFixture->groups().first()->layout());
+    QCOMPARE(grid->objectName(), QString("layoutConfigItem"));
+    int row = -1, column = -1, rowSpan = 0, columnSpan = 0;
+    grid->getItemPosition(grid->indexOf(item->editor), &row, &column, &rowSpan, &columnSpan);
+    QCOMPARE(row, 1);
+    QCOMPARE(column, 1);
+    QCOMPARE(columnSpan, 1);
+    grid->getItemPosition(grid->indexOf(item->editor->label()), &row, &column, &rowSpan,
+                          &columnSpan);
+    QCOMPARE(row, 1);
+    QCOMPARE(column, 0);
+    QVERIFY(item->editor->label()->mapToGlobal({}).x() < item->editor->mapToGlobal({}).x());
+}
+
+void tst_ConfigurationWindowPage::editorWithoutCaptionTakesTheWholeRow()
+{
+    class BareEditor : public ConfigItemWidget
+    {
+    public:
+        using ConfigItemWidget::ConfigItemWidget;
+        QWidget *label() override { return nullptr; }
+        void loadConf() override {}
+    };
+    int value = 0;
+    const ConfItem *item = mFixture->manager->addConfInt32(
+        "Bare", &value, "General", "n", "",
+        [](ConfItem *edited, QWidget *parent) { return new BareEditor(edited, parent); });
+    mFixture->open();
+    const auto *grid = qobject_cast<QGridLayout *>(mFixture->groups().first()->layout());
+    int row = -1, column = -1, rowSpan = 0, columnSpan = 0;
+    grid->getItemPosition(grid->indexOf(item->editor), &row, &column, &rowSpan, &columnSpan);
+    QCOMPARE(column, 0);
+    QCOMPARE(columnSpan, 2);
+    item->editor->refreshLabelState();
+    QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(), QMessageBox::Yes));
+}
+
+void tst_ConfigurationWindowPage::gridIsSpacedByTheScale()
+{
+    addBool("a");
+    mFixture->open();
+    const QLayout *grid = mFixture->groups().first()->layout();
+    // 12 units at 96 dots per inch.
+    QCOMPARE(grid->contentsMargins(), QMargins(16, 16, 16, 16));
+    QCOMPARE(grid->spacing(), 16);
+    QCOMPARE(grid->property("SourceSpacing"), QVariant(12));
+    QVERIFY(!mFixture->groups().first()->property("NoGroupBox").isValid());
+}
+
+void tst_ConfigurationWindowPage::classFlag1LeavesOutCaptionsAndPanels()
+{
+    addBool("a");
+    addBool("Group", "b");
+    mFixture->manager->setConfigClassFlag("General", 0x1);
+    mFixture->open();
+    QCOMPARE(mFixture->captions(), QStringList());
+    QCOMPARE(mFixture->groups().size(), 2);
+    for (const QGroupBox *box : mFixture->groups()) {
+        QCOMPARE(box->property("NoGroupBox"), QVariant("1"));
+        QCOMPARE(box->layout()->contentsMargins(), QMargins());
+        QCOMPARE(box->layout()->spacing(), 0);
+        QVERIFY(!box->layout()->property("SourceSpacing").isValid());
+    }
+    QVERIFY(mFixture->restorePageButton()->isVisible());
+}
+
+void tst_ConfigurationWindowPage::classFlag4HidesTheRestoreButton()
+{
+    addBool("a");
+    addBool("b", "", "Other");
+    mFixture->manager->setConfigClassFlag("General", 0x4 | 0x100);
+    mFixture->open();
+    QVERIFY(!mFixture->restorePageButton()->isVisible());
+    QCOMPARE(mFixture->captions(), QStringList("General"));
+    mFixture->clickClass(1);
+    QVERIFY(mFixture->restorePageButton()->isVisible());
+}
+
+void tst_ConfigurationWindowPage::customPageStandsAlone()
+{
+    addBool("a");
+    QWidget *givenParent = nullptr;
+    QPointer<QLabel> page;
+    mFixture->manager->setMajorWidget("General", [&](QWidget *parent) {
+        givenParent = parent;
+        return page = new QLabel("custom", parent);
+    });
+    addBool("b", "", "Other");
+    mFixture->open();
+    QCOMPARE(givenParent, mFixture->window());
+    QCOMPARE(mFixture->page()->count(), 1);
+    QCOMPARE(mFixture->page()->itemAt(0)->widget(), page);
+    QVERIFY(page->isVisible());
+    QVERIFY(mFixture->groups().isEmpty());
+    mFixture->clickClass(1);
+    QVERIFY(!page);
+}
+
+void tst_ConfigurationWindowPage::customPageMayBeNull()
+{
+    mFixture->manager->setMajorWidget("General", [](QWidget *) { return nullptr; });
+    mFixture->open();
+    QCOMPARE(mFixture->page()->count(), 0);
+}
+
+void tst_ConfigurationWindowPage::filteredItems_data()
+{
+    QTest::addColumn<QVariant>("answer"); // of the filter; none: there is no filter
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("no filter hides them") << QVariant() << QStringList{"a", "d"} << 1;
+    QTest::newRow("filter refuses") << QVariant(false) << QStringList{"a", "d"} << 1;
+    QTest::newRow("filter accepts") << QVariant(true) << QStringList{"a", "b", "c", "d"} << 3;
+}
+
+void tst_ConfigurationWindowPage::filteredItems()
+{
+    QFETCH(QVariant, answer);
+    addBool("a");
+    addBool("b")->flags = 0x1;
+    addBool("c")->flags = 0x3;
+    addBool("d")->flags = 0x2;
+    QStringList asked;
+    if (answer.isValid()) {
+        mFixture->manager->itemFilter = [&](ConfItem &item) {
+            asked << item.name;
+            return answer.toBool();
+        };
+    }
+    mFixture->open();
+    QStringList shown;
+    for (const QCheckBox *box : mFixture->groups().first()->findChildren<QCheckBox *>())
+        shown << box->text();
+    shown.sort();
+    QTEST(shown, "shown");
+    QTEST(separators(mFixture->groups().first()), "lines");
+    QVERIFY(!asked.contains("a"));
+    QVERIFY(!asked.contains("d"));
+}
+
+void tst_ConfigurationWindowPage::itemWithoutEditorIsLeftOut()
+{
+    QString text;
+    mFixture->manager->addConfQString("Text", &text, "General", "t");
+    addBool("a");
+    mFixture->manager->addConfQString("Null", &text, "General", "n", "",
+                                      [](ConfItem *, QWidget *) { return nullptr; });
+    mFixture->open();
+    QCOMPARE(mFixture->groups().size(), 1);
+    QVERIFY(mFixture->groups().first()->findChildren<QLabel *>().isEmpty());
+}
+
+void tst_ConfigurationWindowPage::pageEndsWithASpacerAndIsScrolledUp()
+{
+    for (int i = 0; i < 40; ++i)
+        addBool("many", QByteArray::number(i).constData());
+    addBool("few", "", "Other");
+    mFixture->open();
+    const QLayout *page = mFixture->page();
+    const QSpacerItem *spacer = page->itemAt(page->count() - 1)->spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    const QScrollBar *bar = mFixture->child<QScrollArea>("scrollArea")->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    const_cast<QScrollBar *>(bar)->setValue(bar->maximum());
+    mFixture->window()->switchToView("General");
+    QCOMPARE(bar->value(), 0);
+}
+
+void tst_ConfigurationWindowPage::pageOfAThousandItemsIsShown()
+{
+    for (int i = 0; i < 1000; ++i) {
+        mFlags.push_back(std::make_unique<bool>(false));
+        mFixture->manager->addConfBool("item", mFlags.back().get(), "General", QString::number(i));
+    }
+    mFixture->open();
+    QCOMPARE(mFixture->groups().first()->findChildren<QCheckBox *>().size(), 1000);
+    QCOMPARE(separators(mFixture->groups().first()), 999);
+}
+
+void tst_ConfigurationWindowPage::oldEditorsGoAtOnce()
+{
+    const ConfItem *item = addBool("a");
+    addBool("b", "", "Other");
+    mFixture->open();
+    const QPointer<QWidget> editor = item->editor;
+    mFixture->window()->switchToView("Other");
+    QVERIFY(!editor);
+    QVERIFY(!item->editor);
+}
+
+void tst_ConfigurationWindowPage::itemDeclaredLaterAppearsWhenThePageIsBuiltAgain()
+{
+    addBool("a");
+    mFixture->open();
+    const ConfItem *late = addBool("b");
+    QVERIFY(!late->editor);
+    mFixture->window()->switchToView("General");
+    QVERIFY(late->editor);
+}
+
+void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromACheckBox()
+{
+    const ConfItem *item = addBool("a");
+    const ConfItem *other = addBool("b", "", "Other");
+    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mFixture->manager->ShowWindow("Other");
+    });
+    mFixture->open();
+    mFixture->clickBox(mFixture->checkBox(item));
+    QVERIFY(!*mFlags.at(0));
+    QVERIFY(other->editor);
+    QCOMPARE(mFixture->captions(), QStringList("Other"));
+    QTRY_VERIFY(!item->editor);
+}
+
+void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
+{
+    int value = 3;
+    const ConfItem *item = mFixture->manager->addConfInt32("n", &value, "General", "n");
+    addBool("b", "", "Other");
+    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mFixture->manager->ShowWindow("General"); // the same page, built anew under the key press
+    });
+    mFixture->open();
+    auto *box = item->editor->findChild<QSpinBox *>();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Up);
+    QCOMPARE(value, 4);
+    QVERIFY(item->editor);
+    QCOMPARE(item->editor->findChild<QSpinBox *>()->value(), 4);
+    QTRY_COMPARE(mFixture->window()->findChildren<QSpinBox *>().size(), 1);
+}
+
+void tst_ConfigurationWindowPage::callbackMayCloseTheWindow()
+{
+    const ConfItem *item = addBool("a");
+    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mFixture->manager->closeConfigWindow();
+    });
+    mFixture->open();
+    mFixture->clickBox(mFixture->checkBox(item));
+    QTRY_VERIFY(!mFixture->window());
+    QVERIFY(!*mFlags.at(0));
+}
+
+void tst_ConfigurationWindowPage::factoryMayAskForAnotherPage()
+{
+    int asked = 0;
+    mFixture->manager->setMajorWidget("Custom", [&](QWidget *parent) {
+        if (++asked == 1)
+            mFixture->manager->ShowWindow("Other");
+        return new QLabel("custom", parent);
+    });
+    const ConfItem *other = addBool("b", "", "Other");
+    QVERIFY(mFixture->open());
+    QTRY_VERIFY(other->editor);
+    QCOMPARE(mFixture->captions(), QStringList("Other"));
+}
+
+void tst_ConfigurationWindowPage::hostMayDeleteAnEditorItself()
+{
+    const ConfItem *item = addBool("a");
+    mFixture->open();
+    delete item->editor;
+    mFixture->window()->retranslateUi();
+    QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(), QMessageBox::Yes));
+    QVERIFY(item->editor);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfigurationWindowPage>(argc, argv);
+}
+
+#include "tst_ConfigurationWindowPage.moc"

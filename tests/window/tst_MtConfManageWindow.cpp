@@ -1,0 +1,153 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+#include "support/WindowFixture.h"
+
+using MtConf::ConfigurationWindow;
+using MtConf::MtConfManage;
+
+/// The manager's way to the window, and the rule that there is only one.
+class tst_MtConfManageWindow : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mFixture = std::make_unique<WindowFixture>();
+        mFixture->manager->addConfBool("First", &mFlag, "General", "First");
+        mFixture->manager->addConfBool("Second", &mFlag, "Other", "Second");
+    }
+    void cleanup() { mFixture.reset(); }
+
+    void showingTwiceShowsOneWindow();
+    void minimisedWindowIsRestored();
+    void emptyPageNameKeepsThePage();
+    void pageNameOpensThePage();
+    void closedWindowIsMadeAnew();
+    void closingWithoutAWindowDoesNothing();
+    void stayOnTopWithoutAWindowDoesNothing();
+    void stayOnTopKeepsPlaceAndVisibility();
+    void windowOfAnotherManagerStays();
+    void managerTakesItsWindowAlong();
+    void managerLeavesTheWindowOfAnotherAlone();
+    void windowWithoutManagerIsRefused();
+    void hostMayDeleteTheWindow();
+
+private:
+    std::unique_ptr<WindowFixture> mFixture;
+    bool mFlag = true;
+};
+
+void tst_MtConfManageWindow::showingTwiceShowsOneWindow()
+{
+    ConfigurationWindow *first = mFixture->manager->ShowWindow();
+    QVERIFY(first->isVisible());
+    QCOMPARE(mFixture->manager->ShowWindow(), first);
+    QCOMPARE(MtConf::ShowConfigurationWindow(nullptr), first);
+    QCOMPARE(ConfigurationWindow::instance(), first);
+}
+
+void tst_MtConfManageWindow::minimisedWindowIsRestored()
+{
+    ConfigurationWindow *window = mFixture->open();
+    window->showMinimized();
+    QVERIFY(window->isMinimized());
+    mFixture->manager->ShowWindow();
+    QVERIFY(!window->isMinimized());
+    QVERIFY(window->isVisible());
+}
+
+void tst_MtConfManageWindow::emptyPageNameKeepsThePage()
+{
+    mFixture->open("Other");
+    mFixture->manager->ShowWindow(QString());
+    QCOMPARE(mFixture->captions(), QStringList("Other"));
+}
+
+void tst_MtConfManageWindow::pageNameOpensThePage()
+{
+    mFixture->open("Other");
+    QCOMPARE(mFixture->captions(), QStringList("Other"));
+    mFixture->manager->ShowWindow("General");
+    QCOMPARE(mFixture->captions(), QStringList("General"));
+}
+
+void tst_MtConfManageWindow::closedWindowIsMadeAnew()
+{
+    mFixture->open("Other");
+    QVERIFY(mFixture->close());
+    mFixture->open();
+    QCOMPARE(mFixture->captions(), QStringList("General"));
+}
+
+void tst_MtConfManageWindow::closingWithoutAWindowDoesNothing()
+{
+    mFixture->manager->closeConfigWindow();
+    QVERIFY(!ConfigurationWindow::instance());
+}
+
+void tst_MtConfManageWindow::stayOnTopWithoutAWindowDoesNothing()
+{
+    mFixture->manager->setWindowStayOnTop(true);
+    MtConf::setStaysOnTopHint(false);
+    QVERIFY(!ConfigurationWindow::instance());
+}
+
+void tst_MtConfManageWindow::stayOnTopKeepsPlaceAndVisibility()
+{
+    ConfigurationWindow *window = mFixture->open();
+    const QRect geometry = window->geometry();
+    mFixture->manager->setWindowStayOnTop(false);
+    QVERIFY(!(window->windowFlags() & Qt::WindowStaysOnTopHint));
+    QVERIFY(window->isVisible());
+    QTRY_COMPARE(window->geometry(), geometry);
+    mFixture->manager->setWindowStayOnTop(true);
+    QVERIFY(window->windowFlags() & Qt::WindowStaysOnTopHint);
+    QVERIFY(window->isVisible());
+    QTRY_COMPARE(window->geometry(), geometry);
+}
+
+void tst_MtConfManageWindow::windowOfAnotherManagerStays()
+{
+    ConfigurationWindow *window = mFixture->open();
+    MtConfManage another;
+    QCOMPARE(another.ShowWindow(), window);
+    QCOMPARE(window->manager(), mFixture->manager.get());
+}
+
+void tst_MtConfManageWindow::managerTakesItsWindowAlong()
+{
+    mFixture->open();
+    mFixture->store()->set<bool>("General.First", false);
+    mFixture->manager.reset();
+    QVERIFY(!ConfigurationWindow::instance());
+    QVERIFY(QFile::exists(mFixture->localFile()));
+    QVERIFY(QFile::exists(mFixture->geometryFile()));
+}
+
+void tst_MtConfManageWindow::managerLeavesTheWindowOfAnotherAlone()
+{
+    ConfigurationWindow *window = mFixture->open();
+    { MtConfManage another; }
+    QCOMPARE(ConfigurationWindow::instance(), window);
+}
+
+void tst_MtConfManageWindow::windowWithoutManagerIsRefused()
+{
+    const LogCapture log;
+    QVERIFY(!MtConf::ShowConfigurationWindow(nullptr));
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList("ShowConfigurationWindow without a manager"));
+}
+
+void tst_MtConfManageWindow::hostMayDeleteTheWindow()
+{
+    delete mFixture->open();
+    QVERIFY(!ConfigurationWindow::instance());
+    QVERIFY(mFixture->open());
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_MtConfManageWindow>(argc, argv);
+}
+
+#include "tst_MtConfManageWindow.moc"
