@@ -1,0 +1,126 @@
+#include <QIconfont/QIconfont.h>
+
+#include <QColor>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QHash>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
+#include <QRawFont>
+
+#include <cmath>
+
+namespace {
+
+// The font's own em square, in which its outlines have no rounding.
+constexpr int sEm = 1024;
+constexpr int sLargestScale = 3;
+
+QString fontFile()
+{
+    return QStringLiteral(":/quorvi/QuorviIconfont.ttf");
+}
+
+// qGuiApp would take a QCoreApplication for one.
+QGuiApplication *application()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
+
+// The plain constructor of QPixmap ends the program while there is no application.
+QPixmap nullPixmap()
+{
+    return QPixmap(static_cast<QPlatformPixmap *>(nullptr));
+}
+
+bool canDraw(const QColor &color, int size)
+{
+    return QIconfont::load() && color.isValid() && size > 0 && size <= QIconfont::MaximumSize;
+}
+
+/// The outline of a glyph in a square from (0, 0) to (sEm, sEm); empty if the font lacks it, as
+/// its glyph 0 is.
+QPainterPath outline(const QChar &glyph)
+{
+    static QHash<QChar, QPainterPath> sOutlines;
+    const auto known = sOutlines.constFind(glyph);
+    if (known != sOutlines.constEnd())
+        return *known;
+    const QRawFont font(fontFile(), sEm, QFont::PreferNoHinting);
+    const quint32 index = font.glyphIndexesForString(QString(glyph)).value(0);
+    const QPainterPath path = font.pathForGlyph(index).translated(0, font.ascent());
+    sOutlines.insert(glyph, path);
+    return path;
+}
+
+/// What the margins leave of a square of `size`, in pixels of a screen that scales by `scale`.
+QRect inner(int size, const QMargins &margins, int scale)
+{
+    const int left = qBound(0, margins.left(), size);
+    const int top = qBound(0, margins.top(), size);
+    const int right = qBound(0, margins.right(), size);
+    const int bottom = qBound(0, margins.bottom(), size);
+    return QRect(left * scale, top * scale, (size - left - right) * scale,
+                 (size - top - bottom) * scale);
+}
+
+QPixmap draw(const QChar &glyph, const QColor &color, int size, const QMargins &margins, int scale)
+{
+    QPixmap pixmap(size * scale, size * scale);
+    pixmap.fill(Qt::transparent);
+    const QRect rect = inner(size, margins, scale);
+    const int side = qMin(rect.width(), rect.height());
+    if (side > 0) {
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        // Whole pixels of the screen: outlines that lie on the grid keep their sharp edges.
+        painter.translate(rect.left() + (rect.width() - side) / 2,
+                          rect.top() + (rect.height() - side) / 2);
+        painter.scale(qreal(side) / sEm, qreal(side) / sEm);
+        painter.fillPath(outline(glyph), color);
+    }
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+} // namespace
+
+QIcon QIconfont::Icon(const QChar &glyph, const QColor &color, int size, QMargins margins)
+{
+    QIcon icon;
+    if (!canDraw(color, size))
+        return icon;
+    for (int scale = 1; scale <= sLargestScale; ++scale)
+        icon.addPixmap(draw(glyph, color, size, margins, scale));
+    return icon;
+}
+
+QPixmap QIconfont::Pixmap(const QChar &glyph, const QColor &color, int size, QMargins margins)
+{
+    if (!canDraw(color, size))
+        return nullPixmap();
+    const int scale = static_cast<int>(std::ceil(application()->devicePixelRatio()));
+    return draw(glyph, color, size, margins, qBound(1, scale, sLargestScale));
+}
+
+bool QIconfont::load()
+{
+    return !fontFamily().isEmpty();
+}
+
+QString QIconfont::fontFamily()
+{
+    // A program may make one application after the other; each has its own fonts.
+    static QPointer<QGuiApplication> sLoadedFor;
+    static QString sFamily;
+    QGuiApplication *current = application();
+    if (!current)
+        return QString();
+    if (sLoadedFor != current) {
+        sLoadedFor = current;
+        const int font = QFontDatabase::addApplicationFont(fontFile());
+        sFamily = QFontDatabase::applicationFontFamilies(font).value(0);
+    }
+    return sFamily;
+}
