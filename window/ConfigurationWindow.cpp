@@ -8,6 +8,7 @@
 #include <OrvUtils/SetWindowTopmost.h>
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QIcon>
 #include <QMessageBox>
@@ -26,6 +27,12 @@ QMap<QString, QChar> ConfigurationWindow::mIconMap;
 ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 {
     if (ConfigurationWindow *window = ConfigurationWindow::instance()) {
+        if (!window->testAttribute(Qt::WA_DeleteOnClose)) {
+            // Closed in this turn of the event loop and about to be deleted: taken back.
+            QCoreApplication::removePostedEvents(window, QEvent::DeferredDelete);
+            window->setAttribute(Qt::WA_DeleteOnClose);
+            window->show();
+        }
         if (window->isMinimized())
             window->showNormal();
         window->raise();

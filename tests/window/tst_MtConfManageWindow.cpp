@@ -23,6 +23,7 @@ private Q_SLOTS:
     void emptyPageNameKeepsThePage();
     void pageNameOpensThePage();
     void closedWindowIsMadeAnew();
+    void windowClosedAMomentAgoIsTakenBack();
     void closingWithoutAWindowDoesNothing();
     void stayOnTopWithoutAWindowDoesNothing();
     void stayOnTopKeepsPlaceAndVisibility();
@@ -77,6 +78,18 @@ void tst_MtConfManageWindow::closedWindowIsMadeAnew()
     QVERIFY(mFixture->close());
     mFixture->open();
     QCOMPARE(mFixture->captions(), QStringList("General"));
+}
+
+void tst_MtConfManageWindow::windowClosedAMomentAgoIsTakenBack()
+{
+    mFixture->open();
+    mFixture->manager->closeConfigWindow();
+    const QPointer<ConfigurationWindow> window = mFixture->manager->ShowWindow();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(window);
+    QVERIFY(window->isVisible());
+    QVERIFY(mFixture->close());
+    QVERIFY(!window);
 }
 
 void tst_MtConfManageWindow::closingWithoutAWindowDoesNothing()
