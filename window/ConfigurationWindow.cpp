@@ -8,7 +8,6 @@
 #include <OrvUtils/SetWindowTopmost.h>
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDebug>
 #include <QIcon>
 #include <QMessageBox>
@@ -26,13 +25,9 @@ QMap<QString, QChar> ConfigurationWindow::mIconMap;
 
 ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 {
+    if (sWindow && !sWindow->testAttribute(Qt::WA_DeleteOnClose))
+        sWindow->giveWay(); // closed in this turn of the event loop, and on its way out
     if (ConfigurationWindow *window = ConfigurationWindow::instance()) {
-        if (!window->testAttribute(Qt::WA_DeleteOnClose)) {
-            // Closed in this turn of the event loop and about to be deleted: taken back.
-            QCoreApplication::removePostedEvents(window, QEvent::DeferredDelete);
-            window->setAttribute(Qt::WA_DeleteOnClose);
-            window->show();
-        }
         if (window->isMinimized())
             window->showNormal();
         window->raise();
@@ -89,9 +84,16 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
 
 ConfigurationWindow::~ConfigurationWindow()
 {
-    saveGeometryToFile();
+    if (!sWindow || sWindow == this)
+        saveGeometryToFile();
     if (sWindow == this)
         sWindow = nullptr;
+}
+
+void ConfigurationWindow::giveWay()
+{
+    saveGeometryToFile();
+    sWindow = nullptr;
 }
 
 ConfigurationWindow *ConfigurationWindow::instance()

@@ -81,8 +81,11 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    friend MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
+
     static constexpr int ClassNameRole = Qt::UserRole + 1;
 
+    void giveWay();
     void initConfigClassList();
     void initAppearance();
     void applyDefaultGeometry();

@@ -8,13 +8,21 @@ namespace MtConf {
 
 MtConfManage::~MtConfManage()
 {
-    // The window and its editors reach into this object. Without an application there is no window
-    // system left to take it from.
-    ConfigurationWindow *window = ConfigurationWindow::instance();
-    if (!qApp || !window || window->manager() != this)
+    // A window and its editors reach into this object. Without an application there is no window
+    // system left to take them from.
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
-    window->close();
-    delete window;
+    QList<ConfigurationWindow *> windows;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<ConfigurationWindow *>(widget);
+        if (window && window->manager() == this)
+            windows.append(window);
+    }
+    for (ConfigurationWindow *window : qAsConst(windows)) {
+        window->close();
+        delete window;
+    }
 }
 
 ConfigurationWindow *MtConfManage::ShowWindow(QString majorName)

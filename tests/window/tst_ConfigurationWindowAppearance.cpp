@@ -101,6 +101,7 @@ private:
     std::unique_ptr<WindowFixture> mFixture;
     ConfItem *mItem = nullptr;
     bool mFlag = true;
+    int mNumber = 0;
 };
 
 void tst_ConfigurationWindowAppearance::firstWindowStandsInTheMiddleOfTheScreen()
@@ -225,8 +226,8 @@ void tst_ConfigurationWindowAppearance::sheetNamesEverySelectorThatTheCodeSets()
 
 void tst_ConfigurationWindowAppearance::changedCaptionIsBold()
 {
-    int value = 1;
-    ConfItem *number = mFixture->manager->addConfInt32("Number", &value, "General", "Number");
+    mNumber = 1;
+    ConfItem *number = mFixture->manager->addConfInt32("Number", &mNumber, "General", "Number");
     mFixture->open();
     QVERIFY(!number->editor->label()->font().bold());
     QVERIFY(!mFixture->checkBox(mItem)->font().bold());

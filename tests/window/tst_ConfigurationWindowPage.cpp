@@ -68,6 +68,8 @@ private:
 
     std::unique_ptr<WindowFixture> mFixture;
     std::vector<std::unique_ptr<bool>> mFlags;
+    int mNumber = 0;
+    QString mText;
 };
 
 void tst_ConfigurationWindowPage::ungroupedItemsShareOneGroupUnderTheClassName()
@@ -125,8 +127,8 @@ void tst_ConfigurationWindowPage::separatorsStandBetweenItems()
 
 void tst_ConfigurationWindowPage::captionsStandLeftOfTheirEditors()
 {
-    int value = 3;
-    const ConfItem *item = mFixture->manager->addConfInt32("Number", &value, "General", "n");
+    mNumber = 3;
+    const ConfItem *item = mFixture->manager->addConfInt32("Number", &mNumber, "General", "n");
     mFixture->open();
     const auto *grid = qobject_cast<QGridLayout *>(mFixture->groups().first()->layout());
     QCOMPARE(grid->objectName(), QString("layoutConfigItem"));
@@ -151,9 +153,9 @@ void tst_ConfigurationWindowPage::editorWithoutCaptionTakesTheWholeRow()
         QWidget *label() override { return nullptr; }
         void loadConf() override {}
     };
-    int value = 0;
+    mNumber = 0;
     const ConfItem *item = mFixture->manager->addConfInt32(
-        "Bare", &value, "General", "n", "",
+        "Bare", &mNumber, "General", "n", "",
         [](ConfItem *edited, QWidget *parent) { return new BareEditor(edited, parent); });
     mFixture->open();
     const auto *grid = qobject_cast<QGridLayout *>(mFixture->groups().first()->layout());
@@ -270,10 +272,9 @@ void tst_ConfigurationWindowPage::filteredItems()
 
 void tst_ConfigurationWindowPage::itemWithoutEditorIsLeftOut()
 {
-    QString text;
-    mFixture->manager->addConfQString("Text", &text, "General", "t");
+    mFixture->manager->addConfQString("Text", &mText, "General", "t");
     addBool("a");
-    mFixture->manager->addConfQString("Null", &text, "General", "n", "",
+    mFixture->manager->addConfQString("Null", &mText, "General", "n", "",
                                       [](ConfItem *, QWidget *) { return nullptr; });
     mFixture->open();
     QCOMPARE(mFixture->groups().size(), 1);
@@ -346,8 +347,8 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromACheckBox()
 
 void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
 {
-    int value = 3;
-    const ConfItem *item = mFixture->manager->addConfInt32("n", &value, "General", "n");
+    mNumber = 3;
+    const ConfItem *item = mFixture->manager->addConfInt32("n", &mNumber, "General", "n");
     addBool("b", "", "Other");
     item->setConfChangedCallback([&](const QString &, const ConfValue *) {
         mFixture->manager->ShowWindow("General"); // the same page, built anew under the key press
@@ -356,7 +357,7 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
     auto *box = item->editor->findChild<QSpinBox *>();
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Up);
-    QCOMPARE(value, 4);
+    QCOMPARE(mNumber, 4);
     QVERIFY(item->editor);
     QCOMPARE(item->editor->findChild<QSpinBox *>()->value(), 4);
     QTRY_COMPARE(mFixture->window()->findChildren<QSpinBox *>().size(), 1);

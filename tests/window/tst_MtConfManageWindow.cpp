@@ -23,7 +23,8 @@ private Q_SLOTS:
     void emptyPageNameKeepsThePage();
     void pageNameOpensThePage();
     void closedWindowIsMadeAnew();
-    void windowClosedAMomentAgoIsTakenBack();
+    void windowClosedAMomentAgoGivesWayToANewOne();
+    void managerTakesClosedWindowsAlongToo();
     void closingWithoutAWindowDoesNothing();
     void stayOnTopWithoutAWindowDoesNothing();
     void stayOnTopKeepsPlaceAndVisibility();
@@ -80,15 +81,30 @@ void tst_MtConfManageWindow::closedWindowIsMadeAnew()
     QCOMPARE(mFixture->captions(), QStringList("General"));
 }
 
-void tst_MtConfManageWindow::windowClosedAMomentAgoIsTakenBack()
+void tst_MtConfManageWindow::windowClosedAMomentAgoGivesWayToANewOne()
 {
-    mFixture->open();
+    const QRect geometry(60, 70, 640, 480);
+    const QPointer<ConfigurationWindow> old = mFixture->open();
+    old->setGeometry(geometry);
+    QTRY_COMPARE(old->geometry(), geometry);
     mFixture->manager->closeConfigWindow();
     const QPointer<ConfigurationWindow> window = mFixture->manager->ShowWindow();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(window != old);
+    QTRY_VERIFY(!old);
     QVERIFY(window);
-    QVERIFY(window->isVisible());
+    QCOMPARE(ConfigurationWindow::instance(), window.data());
+    QTRY_COMPARE(window->geometry(), geometry);
     QVERIFY(mFixture->close());
+    QVERIFY(!window);
+}
+
+void tst_MtConfManageWindow::managerTakesClosedWindowsAlongToo()
+{
+    const QPointer<ConfigurationWindow> old = mFixture->open();
+    mFixture->manager->closeConfigWindow();
+    const QPointer<ConfigurationWindow> window = mFixture->manager->ShowWindow();
+    mFixture->manager.reset();
+    QVERIFY(!old);
     QVERIFY(!window);
 }
 
