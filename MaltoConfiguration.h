@@ -14,7 +14,10 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 #include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 #include <MaltoConfiguration/window/replaceSCAWithScaledValue.h>

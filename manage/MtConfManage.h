@@ -53,6 +53,24 @@ public:
     ConfItem *addConfQFont(const char *text, QFont *value, const QString &majorName,
                            const QString &name, const QString &subName = QString(),
                            WidgetCreator creator = WidgetCreator());
+    /// Declares the language of the interface, kept as its code, and remembers it as
+    /// `languageItem`. A change installs the translators and emits `sigLanguageChange`.
+    void addConfLanguage(const char *text, QString *value, const QString &majorName,
+                         const QString &name, const QString &subName = QString());
+    /// Declares a text that is chosen from `choices`, which are shown as they are.
+    ConfItem *addConfStrWithCombobox(const char *text, QStringList choices, QString *value,
+                                     const QString &majorName, const QString &name,
+                                     const QString &subName = QString());
+    /// Declares an integer that is the index of the label chosen from `labels`. The labels are
+    /// literals of the host, translated in the context "QObject" when they are shown. With the
+    /// property "MultiSelect" several can be chosen, and the value is the bitwise OR of theirs.
+    ConfItem *addConfInt32WithCombobox(const char *text, QList<const char *> labels, int *value,
+                                       const QString &majorName, const QString &name,
+                                       const QString &subName = QString());
+    /// The same with a value of its own for each label.
+    ConfItem *addConfInt32WithCombobox(const char *text, QList<const char *> labels,
+                                       QList<int> values, int *value, const QString &majorName,
+                                       const QString &name, const QString &subName = QString());
     /// Declares the switch for starting at login: a check box whose change calls `setAppAutoRun`.
     void addConfAutoRun(const char *text, bool *value, const QString &majorName,
                         const QString &name, const QString &subName = QString());

@@ -5,6 +5,10 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+
+#include <QPointer>
 
 namespace MtConf {
 
@@ -58,6 +62,52 @@ ConfItem *MtConfManage::addConfQFont(const char *text, QFont *value, const QStri
                    ConfDefWidgetQFont::CreatConfWidget);
 }
 
+void MtConfManage::addConfLanguage(const char *text, QString *value, const QString &majorName,
+                                   const QString &name, const QString &subName)
+{
+    languageItem = addConfQString(text, value, majorName, name, subName,
+                                  ConfWidgetLanguage::CreatConfWidget);
+    // The key, and with it the callback, outlives the manager.
+    const QPointer<MtConfManage> self(this);
+    languageItem->setConfChangedCallback([self](const QString &, const ConfValue *changed) {
+        ConfWidgetLanguage::installTranslator(changed->get<QString>());
+        if (self)
+            Q_EMIT self->sigLanguageChange();
+    });
+}
+
+ConfItem *MtConfManage::addConfStrWithCombobox(const char *text, QStringList choices,
+                                               QString *value, const QString &majorName,
+                                               const QString &name, const QString &subName)
+{
+    return addConfQString(text, value, majorName, name, subName,
+                          [choices](ConfItem *item, QWidget *parent) {
+                              auto *editor = new ConfWidgetCombobox(item, parent);
+                              editor->setSelectItem(choices);
+                              return editor;
+                          });
+}
+
+ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const char *> labels,
+                                                 int *value, const QString &majorName,
+                                                 const QString &name, const QString &subName)
+{
+    return addConfInt32WithCombobox(text, labels, QList<int>(), value, majorName, name, subName);
+}
+
+ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const char *> labels,
+                                                 QList<int> values, int *value,
+                                                 const QString &majorName, const QString &name,
+                                                 const QString &subName)
+{
+    return addConfInt32(text, value, majorName, name, subName,
+                        [labels, values](ConfItem *item, QWidget *parent) {
+                            auto *editor = new ConfWidgetCombobox(item, parent);
+                            editor->setSelectItem(labels, values);
+                            return editor;
+                        });
+}
+
 void MtConfManage::addConfAutoRun(const char *text, bool *value, const QString &majorName,
                                   const QString &name, const QString &subName)
 {
@@ -67,6 +117,12 @@ void MtConfManage::addConfAutoRun(const char *text, bool *value, const QString &
     });
 }
 
-void MtConfManage::runAfterLoadFromFile() {}
+void MtConfManage::runAfterLoadFromFile()
+{
+    if (!languageItem)
+        return;
+    const QString code = ConfStorage::instance()->get<QString>(languageItem->getFullName());
+    ConfWidgetLanguage::installTranslator(code);
+}
 
 } // namespace MtConf

@@ -7,6 +7,10 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+
+#include <QComboBox>
+#include <QSignalSpy>
 
 using MtConf::ConfItem;
 using MtConf::ConfigItemWidget;
@@ -24,6 +28,11 @@ private Q_SLOTS:
     void textHasNoEditorOfItsOwn();
     void givenFactoryGoesBeforeTheDefaultOne();
     void startAtLoginIsASwitchWhoseChangesAreApplied();
+    void languageIsRememberedAndItsChangesAreAnnounced();
+    void languageOfADestroyedManagerIsOnlyStored();
+    void choicesOfATextAreShownAsTheyAre();
+    void choicesOfANumberStandForTheirIndexOrTheirValue_data();
+    void choicesOfANumberStandForTheirIndexOrTheirValue();
     void itemAddressesStayValidAsTheListGrows();
     void itemAddressesStayValidWhileAHostHoldsACopyOfTheList();
     void classAddressesStayValidAsTheListGrows();
@@ -129,6 +138,65 @@ void tst_MtConfManage::startAtLoginIsASwitchWhoseChangesAreApplied()
     QVERIFY(ConfStorage::instance()->mConfMetas.value("General.AutoRun").changedCallback);
     ConfStorage::instance()->set<bool>("General.AutoRun", true);
     QVERIFY(autoRun);
+}
+
+void tst_MtConfManage::languageIsRememberedAndItsChangesAreAnnounced()
+{
+    MtConfManage *manager = makeManager();
+    QString code("auto");
+    manager->addConfLanguage("Language", &code, "General", "Language");
+    QCOMPARE(manager->languageItem, manager->getItemByName("General", "Language", ""));
+    QSignalSpy changes(manager, &MtConfManage::sigLanguageChange);
+    ConfStorage::instance()->set<QString>("General.Language", "en-us");
+    QCOMPARE(changes.count(), 1);
+    const std::unique_ptr<ConfigItemWidget> editor(
+        manager->languageItem->widgetCreator(manager->languageItem, &mParent));
+    QVERIFY(qobject_cast<MtConf::ConfWidgetLanguage *>(editor.get()));
+}
+
+void tst_MtConfManage::languageOfADestroyedManagerIsOnlyStored()
+{
+    QString code("auto");
+    makeManager()->addConfLanguage("Language", &code, "General", "Language");
+    mManager.reset();
+    ConfStorage::instance()->set<QString>("General.Language", "en-us");
+    QCOMPARE(code, QString("en-us"));
+}
+
+void tst_MtConfManage::choicesOfATextAreShownAsTheyAre()
+{
+    QString format("jpg");
+    ConfItem *item = makeManager()->addConfStrWithCombobox("Format", {"png", "jpg", "webp"},
+                                                           &format, "Output", "Format");
+    const std::unique_ptr<ConfigItemWidget> editor(item->widgetCreator(item, &mParent));
+    const auto *box = editor->findChild<QComboBox *>();
+    QCOMPARE(box->count(), 3);
+    QCOMPARE(box->currentText(), QString("jpg"));
+}
+
+void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue_data()
+{
+    QTest::addColumn<QList<int>>("values");
+    QTest::addColumn<int>("stored");
+    QTest::newRow("index") << QList<int>() << 1;
+    QTest::newRow("value") << QList<int>{10, 20, 30} << 20;
+}
+
+void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue()
+{
+    QFETCH(QList<int>, values);
+    QFETCH(int, stored);
+    MtConfManage *manager = makeManager();
+    const QList<const char *> labels{"low", "middle", "high"};
+    ConfItem *item = values.isEmpty()
+        ? manager->addConfInt32WithCombobox("Quality", labels, &stored, "Output", "Quality")
+        : manager->addConfInt32WithCombobox("Quality", labels, values, &stored, "Output",
+                                            "Quality");
+    const std::unique_ptr<ConfigItemWidget> editor(item->widgetCreator(item, &mParent));
+    auto *box = editor->findChild<QComboBox *>();
+    QCOMPARE(box->currentText(), QString("middle"));
+    box->setCurrentIndex(2);
+    QCOMPARE(stored, values.isEmpty() ? 2 : 30);
 }
 
 void tst_MtConfManage::itemAddressesStayValidAsTheListGrows()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void fileWithoutAnObjectLoadsNothing_data();
     void fileWithoutAnObjectLoadsNothing();
     void missingFileLoadsNothingAndIsRemembered();
+    void languageIsInstalledAfterEveryLoad();
     void unreadableFileIsLogged();
     void loadedKeyCountsAsAChange();
     void itemsThatTheFileLeavesOutKeepTheirValues();
@@ -129,6 +130,25 @@ void tst_MtConfManageFile::missingFileLoadsNothingAndIsRemembered()
     QCOMPARE(mManager->confFilePath, QString("missing.json"));
     QVERIFY(log.messages().isEmpty());
     QCOMPARE(languageChanges.count(), 0);
+}
+
+void tst_MtConfManageFile::languageIsInstalledAfterEveryLoad()
+{
+    QString code("xx-after-a-missing-file");
+    mManager->addConfLanguage("Language", &code, "General", "Language");
+    QSignalSpy languageChanges(mManager.get(), &MtConfManage::sigLanguageChange);
+    const LogCapture log;
+    mManager->loadFromFile("missing.json");
+    // Without translations every code stands for the built-in English.
+    QCOMPARE(log.texts(QtDebugMsg), QStringList("installTranslator:  \"en-us\""));
+    QCOMPARE(languageChanges.count(), 0);
+    mManager->loadFromFile("missing.json"); // the same language again
+    QCOMPARE(log.texts(QtDebugMsg).size(), 1);
+    writeFile(QJsonObject{{"General.Language", "xx-from-the-file"}});
+    mManager->loadFromFile(path());
+    QCOMPARE(code, QString("xx-from-the-file"));
+    QCOMPARE(languageChanges.count(), 1);
+    QCOMPARE(log.texts(QtDebugMsg).size(), 2);
 }
 
 void tst_MtConfManageFile::unreadableFileIsLogged()

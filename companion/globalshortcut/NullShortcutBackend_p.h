@@ -1,0 +1,13 @@
+#pragma once
+
+#include "GlobalShortcutBackend_p.h"
+
+/// For platforms without hotkeys (Wayland, offscreen and others): nothing is ever registered.
+class NullShortcutBackend : public GlobalShortcutBackend
+{
+public:
+    bool isSupported() const override { return false; }
+    QVector<KeyCombination> combinations(int) const override { return {}; }
+    bool grab(const KeyCombination &) override { return false; }
+    void ungrab(const KeyCombination &) override { }
+};

@@ -1,0 +1,130 @@
+#include <QxtGlobalShortcut>
+
+#include "GlobalShortcutRegistry_p.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <utility>
+
+// A QObject of its own beside the public one: what is queued for it dies with it.
+class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User
+{
+public:
+    explicit Private(QxtGlobalShortcut *owner) : q(owner) { }
+    ~Private() override { giveBack(); }
+    Q_DISABLE_COPY(Private)
+
+    static bool isGuiThread()
+    {
+        return qApp && QThread::currentThread() == qApp->thread();
+    }
+
+    bool isValid() const { return mRegistry && mRegistry->isRegistered(mChord); }
+
+    void apply()
+    {
+        if (enabled && isValid() && shortcut == QKeySequence(mChord))
+            return;
+        // The registry outlives the change: made anew it would connect to the system again.
+        const auto registry = mRegistry;
+        giveBack();
+        if (!enabled || shortcut.count() != 1 || !isGuiThread())
+            return;
+        mChord = shortcut[0];
+        mRegistry = GlobalShortcutRegistry::instance();
+        mRegistry->add(mChord, this);
+    }
+
+    // Returns isValid(), which the receivers cannot be asked for any more: they may delete us.
+    bool announce()
+    {
+        const bool valid = isValid();
+        if (mAnnouncedEnabled != enabled || mAnnouncedValid != valid) {
+            mAnnouncedEnabled = enabled;
+            mAnnouncedValid = valid;
+            Q_EMIT q->enabledChanged();
+        }
+        return valid;
+    }
+
+    void pressed(int chord) override
+    {
+        // It may have been disabled or changed since the key was pressed.
+        if (isValid() && chord == mChord)
+            Q_EMIT q->activated();
+    }
+
+    void registrationChanged() override { announce(); }
+
+    QKeySequence shortcut;
+    bool enabled = true;
+
+private:
+    void giveBack()
+    {
+        if (const auto registry = std::exchange(mRegistry, nullptr))
+            registry->remove(mChord, this);
+    }
+
+    QxtGlobalShortcut *const q;
+    std::shared_ptr<GlobalShortcutRegistry> mRegistry;
+    int mChord = 0;
+    bool mAnnouncedEnabled = true;
+    bool mAnnouncedValid = false;
+};
+
+QxtGlobalShortcut::QxtGlobalShortcut(QObject *parent) :
+    QObject(parent),
+    d(std::make_unique<Private>(this))
+{
+}
+
+QxtGlobalShortcut::QxtGlobalShortcut(const QKeySequence &shortcut, QObject *parent) :
+    QxtGlobalShortcut(parent)
+{
+    setShortcut(shortcut);
+}
+
+QxtGlobalShortcut::~QxtGlobalShortcut() = default;
+
+bool QxtGlobalShortcut::isSupported()
+{
+    return Private::isGuiThread() && GlobalShortcutRegistry::instance()->isSupported();
+}
+
+QKeySequence QxtGlobalShortcut::shortcut() const
+{
+    return d->shortcut;
+}
+
+bool QxtGlobalShortcut::setShortcut(const QKeySequence &shortcut)
+{
+    d->shortcut = shortcut;
+    d->apply();
+    return d->announce();
+}
+
+bool QxtGlobalShortcut::isEnabled() const
+{
+    return d->enabled;
+}
+
+bool QxtGlobalShortcut::isValid() const
+{
+    return d->isValid();
+}
+
+void QxtGlobalShortcut::setEnabled(bool enabled)
+{
+    if (d->enabled == enabled)
+        return;
+    d->enabled = enabled;
+    d->apply();
+    d->announce();
+}
+
+void QxtGlobalShortcut::setDisabled(bool disabled)
+{
+    setEnabled(!disabled);
+}

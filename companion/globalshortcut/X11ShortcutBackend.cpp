@@ -1,0 +1,160 @@
+#include "X11ShortcutBackend_p.h"
+
+#include <QScopedPointer>
+#include <QSocketNotifier>
+
+// A member in this C header is called as a word that C++ keeps for itself.
+#define explicit explicit_
+#include <xcb/xkb.h>
+#undef explicit
+
+template<typename T> using XcbPointer = QScopedPointer<T, QScopedPointerPodDeleter>;
+
+// The given modifiers with the ignored ones on and off, in every way.
+static QVector<quint16> modifierStates(const KeyCombination &combination)
+{
+    QVector<quint16> states;
+    // Steps down through all subsets of the bits of `ignored`.
+    for (quint32 subset = combination.ignored;; subset = (subset - 1) & combination.ignored) {
+        states.append(static_cast<quint16>(combination.modifiers | subset));
+        if (subset == 0)
+            return states;
+    }
+}
+
+X11ShortcutBackend::X11ShortcutBackend(Listener &listener) :
+    mListener(listener),
+    mConnection(xcb_connect(nullptr, nullptr))
+{
+    if (!isSupported())
+        return;
+    for (auto screen = xcb_setup_roots_iterator(xcb_get_setup(mConnection)); screen.rem;
+         xcb_screen_next(&screen))
+        mRoots.append(screen.data->root);
+    startXkb();
+    mKeyboard.load(mConnection);
+    mNotifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(mConnection),
+                                                  QSocketNotifier::Read);
+    QObject::connect(mNotifier.get(), &QSocketNotifier::activated, &mContext,
+                     [this] { readEvents(); });
+    readEventsLater();
+}
+
+X11ShortcutBackend::~X11ShortcutBackend()
+{
+    mNotifier.reset();
+    xcb_disconnect(mConnection);
+}
+
+// With XKB the server tells of every change of the keyboard, and a held key is repeated as presses
+// without releases between them.
+void X11ShortcutBackend::startXkb()
+{
+    const XcbPointer<xcb_xkb_use_extension_reply_t> use(xcb_xkb_use_extension_reply(
+        mConnection,
+        xcb_xkb_use_extension(mConnection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION), nullptr));
+    if (!use || !use->supported)
+        return;
+    mFirstXkbEvent = xcb_get_extension_data(mConnection, &xcb_xkb_id)->first_event;
+    constexpr uint16_t events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY
+            | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+    constexpr uint16_t mapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS
+            | XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_VIRTUAL_MODS
+            | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+    xcb_xkb_select_events(mConnection, XCB_XKB_ID_USE_CORE_KBD, events, 0, events, mapParts,
+                          mapParts, nullptr);
+    constexpr uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+    const XcbPointer<xcb_xkb_per_client_flags_reply_t> flags(xcb_xkb_per_client_flags_reply(
+        mConnection,
+        xcb_xkb_per_client_flags(mConnection, XCB_XKB_ID_USE_CORE_KBD, flag, flag, 0, 0, 0),
+        nullptr));
+}
+
+bool X11ShortcutBackend::isSupported() const
+{
+    return !xcb_connection_has_error(mConnection);
+}
+
+QVector<KeyCombination> X11ShortcutBackend::combinations(int chord) const
+{
+    return isSupported() ? mKeyboard.combinations(chord) : QVector<KeyCombination>();
+}
+
+bool X11ShortcutBackend::grab(const KeyCombination &combination)
+{
+    QVector<xcb_void_cookie_t> requests;
+    for (const xcb_window_t root : qAsConst(mRoots)) {
+        for (const quint16 state : modifierStates(combination))
+            requests.append(xcb_grab_key_checked(
+                mConnection, false, root, state, static_cast<xcb_keycode_t>(combination.key),
+                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+    }
+    bool granted = isSupported();
+    for (const xcb_void_cookie_t request : qAsConst(requests)) {
+        const XcbPointer<xcb_generic_error_t> error(xcb_request_check(mConnection, request));
+        granted = granted && !error;
+    }
+    if (!granted)
+        ungrab(combination);
+    readEventsLater();
+    return granted;
+}
+
+void X11ShortcutBackend::ungrab(const KeyCombination &combination)
+{
+    for (const xcb_window_t root : qAsConst(mRoots)) {
+        for (const quint16 state : modifierStates(combination))
+            xcb_ungrab_key(mConnection, static_cast<xcb_keycode_t>(combination.key), root, state);
+    }
+    // An answer to anything shows that the server has come this far.
+    const XcbPointer<xcb_get_input_focus_reply_t> answer(xcb_get_input_focus_reply(
+        mConnection, xcb_get_input_focus(mConnection), nullptr));
+    readEventsLater();
+}
+
+// Waiting for an answer also reads events, which the socket then no longer announces.
+void X11ShortcutBackend::readEventsLater()
+{
+    QMetaObject::invokeMethod(&mContext, [this] { readEvents(); }, Qt::QueuedConnection);
+}
+
+void X11ShortcutBackend::readEvents()
+{
+    bool keyboardChanged = false;
+    while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(mConnection)})
+        keyboardChanged |= handleEvent(*event);
+    if (!isSupported()) {
+        // The server has gone; the socket would be readable for ever.
+        mNotifier->setEnabled(false);
+        mListener.keyboardChanged();
+    } else if (keyboardChanged) {
+        mKeyboard.load(mConnection);
+        mListener.keyboardChanged();
+    }
+}
+
+// Returns whether it told of another map of the keyboard.
+bool X11ShortcutBackend::handleEvent(const xcb_generic_event_t &event)
+{
+    const int type = event.response_type & 0x7f;
+    if (type == XCB_KEY_PRESS) {
+        handleKeyPress(reinterpret_cast<const xcb_key_press_event_t &>(event));
+    } else if (type == XCB_KEY_RELEASE) {
+        const auto &release = reinterpret_cast<const xcb_key_release_event_t &>(event);
+        if (release.detail == mHeldKey)
+            mHeldKey = 0;
+    } else if (type == XCB_MAPPING_NOTIFY) {
+        const auto &mapping = reinterpret_cast<const xcb_mapping_notify_event_t &>(event);
+        return mapping.request != XCB_MAPPING_POINTER;
+    }
+    return type == mFirstXkbEvent;
+}
+
+void X11ShortcutBackend::handleKeyPress(const xcb_key_press_event_t &event)
+{
+    if (event.detail == mHeldKey)
+        return;
+    mHeldKey = event.detail;
+    // Above the eight modifiers stand the pointer's buttons and the keyboard's layout.
+    mListener.keyPressed(event.detail, event.state & 0xffU);
+}

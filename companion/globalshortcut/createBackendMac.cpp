@@ -1,0 +1,6 @@
+#include "MacShortcutBackend_p.h"
+
+std::unique_ptr<GlobalShortcutBackend> GlobalShortcutBackend::create(Listener &listener)
+{
+    return std::make_unique<MacShortcutBackend>(listener);
+}

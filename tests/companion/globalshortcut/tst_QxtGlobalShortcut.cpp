@@ -1,0 +1,130 @@
+#include <QxtGlobalShortcut>
+
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+/// What holds where no key can be registered.
+class tst_QxtGlobalShortcut : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void nothingIsSupportedHere();
+    void isEnabledAndEmptyAtFirst();
+    void keepsTheShortcutThatItCannotRegister();
+    void disablingAndEnablingEmitOnce();
+    void hostileShortcutsAreKeptAndNotValid_data();
+    void hostileShortcutsAreKeptAndNotValid();
+    void deletionInEnabledChangedIsHarmless();
+    void propertiesAreReadAndWritten();
+    void goesThroughAVariant();
+};
+
+void tst_QxtGlobalShortcut::initTestCase()
+{
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        QSKIP("for a platform without hotkeys");
+}
+
+void tst_QxtGlobalShortcut::nothingIsSupportedHere()
+{
+    LogCapture log;
+    QVERIFY(!QxtGlobalShortcut::isSupported());
+    QCOMPARE(log.messages().size(), 0);
+}
+
+void tst_QxtGlobalShortcut::isEnabledAndEmptyAtFirst()
+{
+    QObject parent;
+    const auto *shortcut = new QxtGlobalShortcut(&parent);
+    QCOMPARE(shortcut->parent(), &parent);
+    QVERIFY(shortcut->isEnabled());
+    QVERIFY(!shortcut->isValid());
+    QCOMPARE(shortcut->shortcut(), QKeySequence());
+}
+
+void tst_QxtGlobalShortcut::keepsTheShortcutThatItCannotRegister()
+{
+    LogCapture log;
+    const QKeySequence keys(QStringLiteral("Ctrl+Alt+K"));
+    QxtGlobalShortcut shortcut(keys);
+    QCOMPARE(shortcut.shortcut(), keys);
+    QVERIFY(!shortcut.isValid());
+
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    const QKeySequence others(QStringLiteral("F9"));
+    QVERIFY(!shortcut.setShortcut(others));
+    QCOMPARE(shortcut.shortcut(), others);
+    QVERIFY(shortcut.isEnabled());
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(log.messages().size(), 0);
+}
+
+void tst_QxtGlobalShortcut::disablingAndEnablingEmitOnce()
+{
+    QxtGlobalShortcut shortcut(QKeySequence(QStringLiteral("F9")));
+    QSignalSpy changes(&shortcut, SIGNAL(enabledChanged()));
+    shortcut.setEnabled();
+    QCOMPARE(changes.count(), 0);
+    shortcut.setDisabled();
+    QVERIFY(!shortcut.isEnabled());
+    QCOMPARE(changes.count(), 1);
+    shortcut.setEnabled(false);
+    QCOMPARE(changes.count(), 1);
+    shortcut.setDisabled(false);
+    QVERIFY(shortcut.isEnabled());
+    QCOMPARE(changes.count(), 2);
+}
+
+void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::newRow("empty") << QKeySequence();
+    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
+    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_K, int(Qt::CTRL) + Qt::Key_L);
+    QTest::newRow("fourChords") << QKeySequence(1, 2, 3, 4);
+    QTest::newRow("allBits") << QKeySequence(-1);
+}
+
+void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid()
+{
+    QFETCH(QKeySequence, keys);
+    QxtGlobalShortcut shortcut;
+    QVERIFY(!shortcut.setShortcut(keys));
+    QCOMPARE(shortcut.shortcut(), keys);
+    QVERIFY(!shortcut.isValid());
+}
+
+void tst_QxtGlobalShortcut::deletionInEnabledChangedIsHarmless()
+{
+    QPointer<QxtGlobalShortcut> shortcut = new QxtGlobalShortcut;
+    connect(shortcut, &QxtGlobalShortcut::enabledChanged, this, [shortcut] { delete shortcut; });
+    shortcut->setDisabled();
+    QVERIFY(!shortcut);
+}
+
+void tst_QxtGlobalShortcut::propertiesAreReadAndWritten()
+{
+    QxtGlobalShortcut shortcut;
+    const QKeySequence keys(QStringLiteral("F9"));
+    QVERIFY(shortcut.setProperty("shortcut", keys));
+    QVERIFY(shortcut.setProperty("enabled", false));
+    QCOMPARE(shortcut.shortcut(), keys);
+    QVERIFY(!shortcut.isEnabled());
+    QCOMPARE(shortcut.property("valid"), QVariant(false));
+}
+
+void tst_QxtGlobalShortcut::goesThroughAVariant()
+{
+    QxtGlobalShortcut shortcut;
+    const QVariant variant = QVariant::fromValue(&shortcut);
+    QCOMPARE(variant.value<QxtGlobalShortcut *>(), &shortcut);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_QxtGlobalShortcut>(argc, argv);
+}
+
+#include "tst_QxtGlobalShortcut.moc"

@@ -1,0 +1,98 @@
+#include <QxtGlobalShortcut>
+
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+/// Hotkeys beside the application: before it, after it, and with the next one.
+class tst_QxtGlobalShortcutLifetime : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void withoutApplicationNothingIsRegistered();
+    void anObjectOlderThanTheApplicationRegistersWhenAsked();
+    void theApplicationTakesRegistrationsWithIt();
+    void theNextApplicationRegistersAgain();
+
+private:
+    static std::unique_ptr<QGuiApplication> makeApplication();
+
+    const QKeySequence mKeys{QStringLiteral("Ctrl+Alt+F9")};
+};
+
+// What can be registered is registered exactly where hotkeys work, on the offscreen platform never.
+static bool isWorkingPlatform()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+std::unique_ptr<QGuiApplication> tst_QxtGlobalShortcutLifetime::makeApplication()
+{
+    static int sCount = 1;
+    static char sName[] = "tst_QxtGlobalShortcutLifetime";
+    static char *sArguments[] = {sName, nullptr};
+    return std::make_unique<QGuiApplication>(sCount, sArguments);
+}
+
+void tst_QxtGlobalShortcutLifetime::initTestCase()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void tst_QxtGlobalShortcutLifetime::withoutApplicationNothingIsRegistered()
+{
+    QVERIFY(!QxtGlobalShortcut::isSupported());
+    QxtGlobalShortcut shortcut(mKeys);
+    QVERIFY(shortcut.isEnabled());
+    QVERIFY(!shortcut.isValid());
+    shortcut.setDisabled();
+    shortcut.setEnabled();
+    QVERIFY(!shortcut.isValid());
+}
+
+void tst_QxtGlobalShortcutLifetime::anObjectOlderThanTheApplicationRegistersWhenAsked()
+{
+    QxtGlobalShortcut shortcut(mKeys);
+    const auto application = makeApplication();
+    QCOMPARE(QxtGlobalShortcut::isSupported(), isWorkingPlatform());
+    QCOMPARE(shortcut.setShortcut(mKeys), isWorkingPlatform());
+}
+
+void tst_QxtGlobalShortcutLifetime::theApplicationTakesRegistrationsWithIt()
+{
+    auto application = makeApplication();
+    auto shortcut = std::make_unique<QxtGlobalShortcut>(mKeys);
+    QxtGlobalShortcut other(mKeys);
+    QCOMPARE(shortcut->isValid(), isWorkingPlatform());
+    QSignalSpy changes(&other, &QxtGlobalShortcut::enabledChanged);
+    application.reset();
+    QVERIFY(!shortcut->isValid());
+    QVERIFY(!other.isValid());
+    QCOMPARE(changes.count(), 0);
+    QVERIFY(!other.setShortcut(QKeySequence(QStringLiteral("F8"))));
+    shortcut.reset();
+    other.setDisabled();
+}
+
+void tst_QxtGlobalShortcutLifetime::theNextApplicationRegistersAgain()
+{
+    auto application = makeApplication();
+    QxtGlobalShortcut shortcut(mKeys);
+    application.reset();
+    application = makeApplication();
+    QCOMPARE(shortcut.setShortcut(mKeys), isWorkingPlatform());
+    QCOMPARE(shortcut.isValid(), isWorkingPlatform());
+}
+
+int main(int argc, char **argv)
+{
+    tst_QxtGlobalShortcutLifetime test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_QxtGlobalShortcutLifetime.moc"

@@ -1,0 +1,381 @@
+#include <QxtGlobalShortcut>
+
+#include "XClient.h"
+#include "support/TestMain.h"
+
+#include <QElapsedTimer>
+
+#include <memory>
+#include <thread>
+
+using Symbols = QVector<xcb_keysym_t>;
+
+// X's names of the keys typed here.
+static constexpr xcb_keysym_t shiftL = 0xffe1;
+static constexpr xcb_keysym_t controlL = 0xffe3;
+static constexpr xcb_keysym_t altL = 0xffe9;
+static constexpr xcb_keysym_t superL = 0xffeb;
+static constexpr xcb_keysym_t f8 = 0xffc5;
+static constexpr xcb_keysym_t f9 = 0xffc6;
+
+/// Real keys on a real X server.
+class tst_QxtGlobalShortcutX11 : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void aPressActivates_data();
+    void aPressActivates();
+    void otherModifiersDoNotActivate();
+    void aHeldKeyActivatesOnce();
+    void aKeyHeldByAnotherClientIsEnabledButNotValid();
+    void aPartlyHeldKeyIsGivenBackWhole();
+    void changeDisableAndDestroyRelease_data();
+    void changeDisableAndDestroyRelease();
+    void theSameKeyActivatesEveryObject();
+    void aRetryOfOneObjectServesAll();
+    void chordsOfTheSameKeysShareThem();
+    void deletionInTheHandlerIsHarmless();
+    void theHandlerMayDisableTheOther();
+    void theHandlerMayChangeTheOther();
+    void anotherThreadRegistersNothing();
+    void impossibleShortcutsAreNotValid_data();
+    void impossibleShortcutsAreNotValid();
+
+private:
+    bool canGrabF9();
+    void typeSentinel();
+
+    std::unique_ptr<XClient> mClient;
+    std::unique_ptr<QxtGlobalShortcut> mSentinel;
+    const QKeySequence mKeys{QStringLiteral("F9")};
+};
+
+void tst_QxtGlobalShortcutX11::initTestCase()
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        QSKIP("needs the xcb platform");
+    QVERIFY(QxtGlobalShortcut::isSupported());
+}
+
+void tst_QxtGlobalShortcutX11::init()
+{
+    mClient = std::make_unique<XClient>();
+    mSentinel = std::make_unique<QxtGlobalShortcut>(QKeySequence(QStringLiteral("F8")));
+    QVERIFY(mSentinel->isValid());
+}
+
+void tst_QxtGlobalShortcutX11::cleanup()
+{
+    if (mClient) {
+        mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, false);
+        mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, false);
+    }
+    mSentinel.reset();
+    mClient.reset();
+}
+
+// Whatever was typed before has had its effect when this returns.
+void tst_QxtGlobalShortcutX11::typeSentinel()
+{
+    QSignalSpy activations(mSentinel.get(), &QxtGlobalShortcut::activated);
+    mClient->type({f8});
+    QTRY_COMPARE(activations.count(), 1);
+}
+
+// Whether nobody else holds the key, with any of the locks.
+bool tst_QxtGlobalShortcutX11::canGrabF9()
+{
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    return mClient->canGrab(key, 0x00) && mClient->canGrab(key, 0x02)
+            && mClient->canGrab(key, 0x10) && mClient->canGrab(key, 0x12);
+}
+
+void tst_QxtGlobalShortcutX11::aPressActivates_data()
+{
+    QTest::addColumn<int>("chord");
+    QTest::addColumn<Symbols>("typed");
+    QTest::addColumn<bool>("capsLock");
+    QTest::addColumn<bool>("numLock");
+
+    const struct
+    {
+        const char *name;
+        int chord;
+        Symbols typed;
+    } keys[] = {
+        {"functionKey", Qt::Key_F9, {f9}},
+        {"letter", int(Qt::CTRL) + int(Qt::ALT) + Qt::Key_K, {controlL, altL, 'k'}},
+        {"allModifiers",
+         int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::ALT) + int(Qt::META) + Qt::Key_K,
+         {controlL, shiftL, altL, superL, 'k'}},
+        {"shiftedDigit", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1, {controlL, shiftL, '1'}},
+        {"shiftedSymbol", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Exclam, {controlL, shiftL, '1'}},
+        {"symbolWithoutShift", int(Qt::CTRL) + Qt::Key_Exclam, {controlL, shiftL, '1'}},
+        {"symbolOfTwoKeys", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Less, {controlL, shiftL, ','}},
+        {"backtab", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Backtab, {controlL, shiftL, 0xff09}},
+        {"space", int(Qt::META) + Qt::Key_Space, {superL, ' '}},
+        {"arrow", int(Qt::ALT) + Qt::Key_Left, {altL, 0xff51}},
+        {"print", Qt::Key_Print, {0xff61}},
+        {"altPrint", int(Qt::ALT) + Qt::Key_SysReq, {altL, 0xff61}},
+        {"mediaKey", Qt::Key_MediaPlay, {0x1008ff14}},
+        {"keypadDigit", int(Qt::KeypadModifier) + Qt::Key_5, {0xffb5}},
+        {"keypadPlus", int(Qt::CTRL) + int(Qt::KeypadModifier) + Qt::Key_Plus, {controlL, 0xffab}},
+        {"keypadEnter", int(Qt::CTRL) + Qt::Key_Enter, {controlL, 0xff8d}},
+    };
+    for (const auto &key : keys) {
+        QTest::addRow("%s", key.name) << key.chord << key.typed << false << false;
+        QTest::addRow("%sWithCapsLock", key.name) << key.chord << key.typed << true << false;
+        QTest::addRow("%sWithNumLock", key.name) << key.chord << key.typed << false << true;
+        QTest::addRow("%sWithBothLocks", key.name) << key.chord << key.typed << true << true;
+    }
+}
+
+void tst_QxtGlobalShortcutX11::aPressActivates()
+{
+    QFETCH(int, chord);
+    QFETCH(Symbols, typed);
+    QFETCH(bool, capsLock);
+    QFETCH(bool, numLock);
+
+    QxtGlobalShortcut shortcut;
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    QVERIFY(shortcut.setShortcut(QKeySequence(chord)));
+    QVERIFY(shortcut.isValid());
+    QCOMPARE(changes.count(), 1);
+
+    mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, capsLock);
+    mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, numLock);
+    QCOMPARE(mClient->modifiers(), quint16((capsLock ? 0x02 : 0) | (numLock ? 0x10 : 0)));
+    mClient->type(typed);
+    QTRY_COMPARE(activations.count(), 1);
+    typeSentinel();
+    QCOMPARE(activations.count(), 1);
+}
+
+void tst_QxtGlobalShortcutX11::otherModifiersDoNotActivate()
+{
+    QxtGlobalShortcut shortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F9));
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    mClient->type({f9});
+    mClient->type({altL, f9});
+    mClient->type({controlL, shiftL, f9});
+    typeSentinel();
+    QCOMPARE(activations.count(), 0);
+}
+
+void tst_QxtGlobalShortcutX11::aHeldKeyActivatesOnce()
+{
+    QxtGlobalShortcut shortcut(mKeys);
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    QElapsedTimer held;
+    held.start();
+    mClient->send(key, true);
+    // Only a key that is really held is repeated, here after 0.7 seconds at the latest.
+    QTRY_VERIFY(held.hasExpired(1000));
+    mClient->send(key, false);
+    typeSentinel();
+    QCOMPARE(activations.count(), 1);
+    mClient->type({f9});
+    QTRY_COMPARE(activations.count(), 2);
+}
+
+void tst_QxtGlobalShortcutX11::aKeyHeldByAnotherClientIsEnabledButNotValid()
+{
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    QVERIFY(mClient->grab(key, 0));
+    QxtGlobalShortcut shortcut;
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    QVERIFY(!shortcut.setShortcut(mKeys));
+    QVERIFY(shortcut.isEnabled());
+    QVERIFY(!shortcut.isValid());
+    QCOMPARE(changes.count(), 0);
+
+    mClient->ungrab(key, 0);
+    QVERIFY(!shortcut.isValid());
+    QVERIFY(shortcut.setShortcut(mKeys));
+    QVERIFY(shortcut.isValid());
+    QCOMPARE(changes.count(), 1);
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    mClient->type({f9});
+    QTRY_COMPARE(activations.count(), 1);
+}
+
+void tst_QxtGlobalShortcutX11::aPartlyHeldKeyIsGivenBackWhole()
+{
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    QVERIFY(mClient->grab(key, XCB_MOD_MASK_2));
+    QxtGlobalShortcut shortcut(mKeys);
+    QVERIFY(!shortcut.isValid());
+    QVERIFY(canGrabF9());
+}
+
+void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::newRow("change") << QStringLiteral("change");
+    QTest::newRow("clear") << QStringLiteral("clear");
+    QTest::newRow("disable") << QStringLiteral("disable");
+    QTest::newRow("destroy") << QStringLiteral("destroy");
+}
+
+void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease()
+{
+    QFETCH(QString, action);
+    auto shortcut = std::make_unique<QxtGlobalShortcut>(mKeys);
+    QVERIFY(shortcut->isValid());
+    QVERIFY(!canGrabF9());
+    if (action == QLatin1String("change"))
+        QVERIFY(shortcut->setShortcut(QKeySequence(QStringLiteral("F7"))));
+    else if (action == QLatin1String("clear"))
+        QVERIFY(!shortcut->setShortcut(QKeySequence()));
+    else if (action == QLatin1String("disable"))
+        shortcut->setDisabled();
+    else
+        shortcut.reset();
+    QVERIFY(canGrabF9());
+}
+
+void tst_QxtGlobalShortcutX11::theSameKeyActivatesEveryObject()
+{
+    QxtGlobalShortcut first(mKeys);
+    QxtGlobalShortcut second(mKeys);
+    QVERIFY(first.isValid());
+    QVERIFY(second.isValid());
+    QSignalSpy firstActivations(&first, &QxtGlobalShortcut::activated);
+    QSignalSpy secondActivations(&second, &QxtGlobalShortcut::activated);
+    mClient->type({f9});
+    QTRY_COMPARE(secondActivations.count(), 1);
+    QCOMPARE(firstActivations.count(), 1);
+
+    first.setDisabled();
+    QVERIFY(second.isValid());
+    mClient->type({f9});
+    QTRY_COMPARE(secondActivations.count(), 2);
+    QCOMPARE(firstActivations.count(), 1);
+    second.setDisabled();
+    QVERIFY(canGrabF9());
+}
+
+void tst_QxtGlobalShortcutX11::aRetryOfOneObjectServesAll()
+{
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    QVERIFY(mClient->grab(key, 0));
+    QxtGlobalShortcut first(mKeys);
+    QxtGlobalShortcut second(mKeys);
+    mClient->ungrab(key, 0);
+    QSignalSpy firstChanges(&first, &QxtGlobalShortcut::enabledChanged);
+    QSignalSpy secondChanges(&second, &QxtGlobalShortcut::enabledChanged);
+    QVERIFY(second.setShortcut(mKeys));
+    QVERIFY(first.isValid());
+    QTRY_COMPARE(firstChanges.count(), 1);
+    QCOMPARE(secondChanges.count(), 1);
+}
+
+void tst_QxtGlobalShortcutX11::chordsOfTheSameKeysShareThem()
+{
+    auto symbol = std::make_unique<QxtGlobalShortcut>(QKeySequence(int(Qt::CTRL) + Qt::Key_Exclam));
+    QxtGlobalShortcut digit(QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1));
+    QVERIFY(symbol->isValid());
+    QVERIFY(digit.isValid());
+    symbol.reset();
+    QSignalSpy activations(&digit, &QxtGlobalShortcut::activated);
+    mClient->type({controlL, shiftL, '1'});
+    QTRY_COMPARE(activations.count(), 1);
+}
+
+void tst_QxtGlobalShortcutX11::deletionInTheHandlerIsHarmless()
+{
+    mSentinel.reset(); // so that the last object of all goes in its own handler
+    QPointer<QxtGlobalShortcut> first = new QxtGlobalShortcut(mKeys);
+    QPointer<QxtGlobalShortcut> second = new QxtGlobalShortcut(mKeys);
+    int calls = 0;
+    const auto deleteBoth = [&calls, first, second] {
+        ++calls;
+        delete first;
+        delete second;
+    };
+    connect(first, &QxtGlobalShortcut::activated, this, deleteBoth);
+    connect(second, &QxtGlobalShortcut::activated, this, deleteBoth);
+    mClient->type({f9});
+    QTRY_VERIFY(!first && !second);
+    QVERIFY(canGrabF9());
+    QCOMPARE(calls, 1);
+}
+
+void tst_QxtGlobalShortcutX11::theHandlerMayDisableTheOther()
+{
+    QxtGlobalShortcut first(mKeys);
+    QxtGlobalShortcut second(mKeys);
+    connect(&first, &QxtGlobalShortcut::activated, &second, [&second] { second.setDisabled(); });
+    QSignalSpy activations(&second, &QxtGlobalShortcut::activated);
+    mClient->type({f9});
+    typeSentinel();
+    QVERIFY(!second.isEnabled());
+    QCOMPARE(activations.count(), 0);
+}
+
+void tst_QxtGlobalShortcutX11::theHandlerMayChangeTheOther()
+{
+    QxtGlobalShortcut first(mKeys);
+    QxtGlobalShortcut second(mKeys);
+    connect(&first, &QxtGlobalShortcut::activated, &second,
+            [&second] { second.setShortcut(QKeySequence(QStringLiteral("F7"))); });
+    QSignalSpy activations(&second, &QxtGlobalShortcut::activated);
+    mClient->type({f9});
+    typeSentinel();
+    QVERIFY(second.isValid());
+    QCOMPARE(activations.count(), 0);
+}
+
+void tst_QxtGlobalShortcutX11::anotherThreadRegistersNothing()
+{
+    bool supported = true;
+    bool valid = true;
+    std::thread thread([this, &supported, &valid] {
+        supported = QxtGlobalShortcut::isSupported();
+        QxtGlobalShortcut shortcut(mKeys);
+        valid = shortcut.isValid();
+    });
+    thread.join();
+    QVERIFY(!supported);
+    QVERIFY(!valid);
+}
+
+void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::newRow("empty") << QKeySequence();
+    QTest::newRow("zeroKey") << QKeySequence(int(Qt::CTRL));
+    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
+    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_F9, int(Qt::CTRL) + Qt::Key_F7);
+    QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
+    QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
+    QTest::newRow("keyThatThisKeyboardLacks") << QKeySequence(0x0424);
+    QTest::newRow("noSuchKeypadKey") << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A);
+    QTest::newRow("allBits") << QKeySequence(-1);
+}
+
+void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid()
+{
+    QFETCH(QKeySequence, keys);
+    QxtGlobalShortcut shortcut(mKeys);
+    QVERIFY(shortcut.isValid());
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    QVERIFY(!shortcut.setShortcut(keys));
+    QVERIFY(!shortcut.isValid());
+    QVERIFY(shortcut.isEnabled());
+    QCOMPARE(changes.count(), 1);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_QxtGlobalShortcutX11>(argc, argv);
+}
+
+#include "tst_QxtGlobalShortcutX11.moc"

@@ -1,0 +1,113 @@
+#include "X11KeySymbols_p.h"
+
+#include "support/TestMain.h"
+
+class tst_X11KeySymbols : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keyHasItsSymbol_data();
+    void keyHasItsSymbol();
+    void unknownKeyHasNoSymbol_data();
+    void unknownKeyHasNoSymbol();
+};
+
+void tst_X11KeySymbols::keyHasItsSymbol_data()
+{
+    QTest::addColumn<int>("chord");
+    QTest::addColumn<quint32>("symbol");
+
+    const auto row = [](const char *name, int chord, quint32 symbol) {
+        QTest::newRow(name) << chord << symbol;
+    };
+    constexpr int keypad = Qt::KeypadModifier;
+    row("letterIsLowerCase", Qt::Key_A, 0x61);
+    row("modifiersDoNotMatter", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Z, 0x7a);
+    row("digit", Qt::Key_7, 0x37);
+    row("symbol", Qt::Key_Exclam, 0x21);
+    row("space", Qt::Key_Space, 0x20);
+    row("latinLetter", Qt::Key_Adiaeresis, 0xe4);
+    row("latinLetterWithoutUpperCase", Qt::Key_ssharp, 0xdf);
+    row("multiplicationSign", Qt::Key_multiply, 0xd7);
+    row("cyrillicByUnicode", 0x0424, 0x01000444);
+    row("cyrillicByItsOldName", 0x0424, 0x6c6);
+    row("cyrillicYoByItsOldName", 0x0401, 0x6a3);
+    row("greekByItsOldName", 0x0391, 0x7e1);
+    row("greekSigmaByItsOldName", 0x03a3, 0x7f2);
+    row("czechByItsOldName", 0x011a, 0x1ec);
+    row("turkishByItsOldName", 0x011e, 0x2bb);
+    row("hebrewByItsOldName", 0x05d0, 0xce0);
+    row("euro", 0x20ac, 0x010020ac);
+    row("beyondTheFirstPlane", 0x1f600, 0x0101f600);
+    row("f1", Qt::Key_F1, 0xffbe);
+    row("f12", Qt::Key_F12, 0xffc9);
+    row("f35", Qt::Key_F35, 0xffe0);
+    row("escape", Qt::Key_Escape, 0xff1b);
+    row("backspace", Qt::Key_Backspace, 0xff08);
+    row("backtab", Qt::Key_Backtab, 0xfe20);
+    row("return", Qt::Key_Return, 0xff0d);
+    row("enterIsTheKeypads", Qt::Key_Enter, 0xff8d);
+    row("delete", Qt::Key_Delete, 0xffff);
+    row("print", Qt::Key_Print, 0xff61);
+    row("sysReqIsThePrintKey", Qt::Key_SysReq, 0xff61);
+    row("pause", Qt::Key_Pause, 0xff13);
+    row("left", Qt::Key_Left, 0xff51);
+    row("pageDown", Qt::Key_PageDown, 0xff56);
+    row("menu", Qt::Key_Menu, 0xff67);
+    row("keypadDigit", keypad + Qt::Key_5, 0xffb5);
+    row("keypadNine", keypad + Qt::Key_9, 0xffb9);
+    row("keypadPlus", keypad + Qt::Key_Plus, 0xffab);
+    row("keypadDecimalPoint", keypad + Qt::Key_Period, 0xffae);
+    row("keypadMiddleWithoutNumLock", keypad + Qt::Key_Clear, 0xff9d);
+    row("keypadLeft", keypad + Qt::Key_Left, 0xff96);
+    row("keypadEnter", keypad + Qt::Key_Enter, 0xff8d);
+    row("volumeUp", Qt::Key_VolumeUp, 0x1008ff13);
+    row("mute", Qt::Key_VolumeMute, 0x1008ff12);
+    row("mediaPlay", Qt::Key_MediaPlay, 0x1008ff14);
+    row("mediaNext", Qt::Key_MediaNext, 0x1008ff17);
+    row("mail", Qt::Key_LaunchMail, 0x1008ff19);
+    row("launchKeysRunTwoAhead", Qt::Key_Launch4, 0x1008ff42);
+    row("lastLaunchKey", Qt::Key_LaunchH, 0x1008ff4f);
+    row("multiKey", Qt::Key_Multi_key, 0xff20);
+    row("hangul", Qt::Key_Hangul, 0xff31);
+    row("deadAcute", Qt::Key_Dead_Acute, 0xfe51);
+}
+
+void tst_X11KeySymbols::keyHasItsSymbol()
+{
+    QFETCH(int, chord);
+    QFETCH(quint32, symbol);
+    QVERIFY(x11KeySymbols(chord).contains(symbol));
+}
+
+void tst_X11KeySymbols::unknownKeyHasNoSymbol_data()
+{
+    QTest::addColumn<int>("chord");
+    QTest::newRow("zero") << 0;
+    QTest::newRow("modifiersWithoutKey") << int(Qt::CTRL + Qt::ALT);
+    QTest::newRow("unknown") << int(Qt::Key_unknown);
+    QTest::newRow("controlCharacter") << 0x1b;
+    QTest::newRow("afterTilde") << 0x7f;
+    QTest::newRow("c1ControlCharacter") << 0x85;
+    QTest::newRow("beyondUnicode") << 0x110000;
+    QTest::newRow("shiftAlone") << int(Qt::Key_Shift);
+    QTest::newRow("metaAlone") << int(Qt::META) + Qt::Key_Meta;
+    QTest::newRow("altGrAlone") << int(Qt::Key_AltGr);
+    QTest::newRow("phoneKey") << int(Qt::Key_Hangup);
+    QTest::newRow("notOnTheKeypad") << int(Qt::KeypadModifier) + Qt::Key_A;
+    QTest::newRow("allBits") << -1;
+}
+
+void tst_X11KeySymbols::unknownKeyHasNoSymbol()
+{
+    QFETCH(int, chord);
+    QCOMPARE(x11KeySymbols(chord), QVector<xcb_keysym_t>());
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_X11KeySymbols>(argc, argv);
+}
+
+#include "tst_X11KeySymbols.moc"

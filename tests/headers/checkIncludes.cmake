@@ -1,0 +1,32 @@
+# Fails when a file includes a header of a folder that stands above its own.
+#   store <- manage <- widgets <- manage/MtConfManageDeclare.cpp <- window
+
+set(forbidden_store "MaltoConfiguration/(manage|widgets|window)/|OrvUtils/|QIconfont/|<Q(Widget|Application|Label)>")
+set(forbidden_manage "MaltoConfiguration/(widgets|window)/")
+set(forbidden_widgets "MaltoConfiguration/(manage/MtConfManage|window)")
+set(forbidden_window "")
+set(forbidden_companion "MaltoConfiguration/")
+
+set(failed FALSE)
+foreach(folder store manage widgets window companion)
+    file(GLOB_RECURSE files ${SOURCE_DIR}/${folder}/*.h ${SOURCE_DIR}/${folder}/*.cpp
+         ${SOURCE_DIR}/${folder}/*.mm)
+    foreach(file IN LISTS files)
+        get_filename_component(name ${file} NAME)
+        # The one way up to the editors: declarations name the default editor of each type.
+        if(name STREQUAL "MtConfManageDeclare.cpp")
+            continue()
+        endif()
+        file(STRINGS ${file} includes REGEX "^#include")
+        foreach(include IN LISTS includes)
+            if((NOT forbidden_${folder} STREQUAL "" AND include MATCHES "${forbidden_${folder}}")
+               OR include MATCHES "[<\"/](demo|tests|benchmarks)/")
+                message(SEND_ERROR "${file}: ${include}")
+                set(failed TRUE)
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+if(failed)
+    message(FATAL_ERROR "includes climb upwards")
+endif()

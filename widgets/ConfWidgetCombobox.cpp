@@ -1,0 +1,170 @@
+#include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+
+#include <QHBoxLayout>
+#include <QListView>
+#include <QSignalBlocker>
+
+namespace MtConf {
+
+ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
+    : ConfigItemWidget(item, parent),
+      mMultiSelect(item->properties.contains(QStringLiteral("MultiSelect")))
+{
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (mMultiSelect) {
+        auto *box = new MultiSelectComboBox(this);
+        mComboBox = box;
+        connect(box, &MultiSelectComboBox::selectionChanged,
+                this, &ConfWidgetCombobox::onMultiSelectionChanged);
+    } else {
+        mComboBox = new ComboboxDisableWheel(this);
+        // Style sheets reach the rows of this view only, not those of the native one.
+        mComboBox->setView(new QListView(mComboBox));
+        connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
+                this, &ConfWidgetCombobox::setValueInt32);
+    }
+    mComboBox->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    mComboBox->setAccessibleName(translatedText());
+    layout->addWidget(mComboBox);
+}
+
+ConfWidgetCombobox::~ConfWidgetCombobox()
+{
+    if (!isWriting())
+        return;
+    // A callback of the host deletes this editor while its box is still handling the click.
+    mComboBox->disconnect(this);
+    mComboBox->hide();
+    mComboBox->setParent(nullptr);
+    mComboBox->deleteLater();
+}
+
+ConfigItemWidget *ConfWidgetCombobox::CreatConfWidget(ConfItem *item, QWidget *parent)
+{
+    return new ConfWidgetCombobox(item, parent);
+}
+
+void ConfWidgetCombobox::setSelectItem(QStringList texts)
+{
+    {
+        const QSignalBlocker blocker(mComboBox);
+        for (const QString &text : qAsConst(texts))
+            mComboBox->addItem(text);
+    }
+    loadConf();
+}
+
+void ConfWidgetCombobox::setSelectItem(QList<const char *> texts, QList<int> values)
+{
+    {
+        const QSignalBlocker blocker(mComboBox);
+        auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
+        // Entries that are there already keep their place in the list of texts.
+        while (mItemTexts.size() < mComboBox->count())
+            mItemTexts.append(nullptr);
+        for (int i = 0; i < texts.size(); ++i) {
+            const QString text = QObject::tr(texts.at(i));
+            const int value = values.value(i, i);
+            if (multi)
+                multi->addItem(text, value);
+            else
+                mComboBox->addItem(text, value);
+        }
+        mItemTexts += texts;
+    }
+    loadConf();
+}
+
+void ConfWidgetCombobox::retranslateUi()
+{
+    ConfigItemWidget::retranslateUi();
+    mComboBox->setAccessibleName(translatedText());
+    auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
+    for (int i = 0; i < mItemTexts.size(); ++i) {
+        if (!mItemTexts.at(i))
+            continue;
+        const QString text = QObject::tr(mItemTexts.at(i));
+        if (multi)
+            multi->setItemText(i, text);
+        else
+            mComboBox->setItemText(i, text);
+    }
+}
+
+void ConfWidgetCombobox::loadConf()
+{
+    const QSignalBlocker blocker(mComboBox);
+    if (mMultiSelect) {
+        // The caption is left alone: onMultiSelectionChanged refreshes it when it writes.
+        loadChecks();
+        return;
+    }
+    loadSelection();
+    refreshLabelState();
+}
+
+void ConfWidgetCombobox::loadChecks()
+{
+    auto *multi = static_cast<MultiSelectComboBox *>(mComboBox);
+    const int stored = readValue<int>();
+    for (int i = 0; i < multi->count(); ++i) {
+        bool checked = false;
+        QVariant flag;
+        multi->getItemData(i, checked, flag);
+        // A label of several bits needs all of them, and one of none is always checked.
+        multi->setItemChecked(i, (flag.toInt() & ~stored) == 0);
+    }
+}
+
+void ConfWidgetCombobox::loadSelection()
+{
+    if (mItem->valueType == ConfValue::TyQString) {
+        // A text that is no longer offered shows as the first one that is.
+        const int index = mComboBox->findData(readValue<QString>(), Qt::DisplayRole);
+        mComboBox->setCurrentIndex(qMax(index, 0));
+    } else if (mItem->valueType == ConfValue::TyInt32) {
+        mComboBox->setCurrentIndex(mComboBox->findData(readValue<int>(), Qt::UserRole));
+    }
+}
+
+void ConfWidgetCombobox::setValueInt32(int index)
+{
+    if (index < 0 || index >= mComboBox->count())
+        return;
+    if (mComboBox->currentIndex() != index) {
+        // This comes back here to store the value; a callback may delete the editor then.
+        const QPointer<ConfWidgetCombobox> self(this);
+        mComboBox->setCurrentIndex(index);
+        if (!self)
+            return;
+    }
+    const bool written = mItem->valueType == ConfValue::TyQString
+                             ? writeValue(mComboBox->currentText())
+                             : writeValue(mComboBox->itemData(index).toInt());
+    if (written)
+        refreshLabelState();
+}
+
+void ConfWidgetCombobox::onMultiSelectionChanged()
+{
+    auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
+    if (!multi)
+        return;
+    int value = 0;
+    for (int i = 0; i < multi->count(); ++i) {
+        bool checked = false;
+        QVariant flag;
+        multi->getItemData(i, checked, flag);
+        if (checked)
+            value |= flag.toInt();
+    }
+    // Stored also when it is the same: the person has just chosen it, which stamps the time.
+    if (storeValue(value))
+        refreshLabelState();
+}
+
+} // namespace MtConf

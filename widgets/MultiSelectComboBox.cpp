@@ -1,0 +1,277 @@
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCursor>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QSet>
+#include <QStyleOptionComboBox>
+#include <QStyledItemDelegate>
+#include <QtMath>
+
+namespace {
+
+const char sUserData[] = "UserData";
+
+/// `text`, or its beginning and "..." when it is longer than `length` characters.
+QString elided(const QString &text, int length)
+{
+    return text.size() > length ? text.left(length) + QLatin1String("...") : text;
+}
+
+/// Gives each row the height of its check box, which a list view does not ask by itself.
+class CheckBoxRowDelegate : public QStyledItemDelegate
+{
+public:
+    explicit CheckBoxRowDelegate(QListWidget *list) : QStyledItemDelegate(list), mList(list) {}
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        const QWidget *box = mList->indexWidget(index);
+        return box ? size.expandedTo(box->sizeHint()) : size;
+    }
+
+private:
+    QListWidget *mList;
+};
+
+} // namespace
+
+/// The size hints of the box. Neither is ever computed again: a page of settings must not move
+/// under the person who checks an entry.
+class MultiSelectComboBoxPrivate
+{
+public:
+    explicit MultiSelectComboBoxPrivate(const MultiSelectComboBox *box) : q(box) {}
+
+    QSize recomputeSizeHint(QSize &cache) const;
+
+    const MultiSelectComboBox *q;
+    QSize minimumSizeHint;
+    QSize sizeHint;
+
+private:
+    QString textToFit() const;
+};
+
+QSize MultiSelectComboBoxPrivate::recomputeSizeHint(QSize &cache) const
+{
+    if (!cache.isValid()) {
+        const QFontMetrics metrics = q->fontMetrics();
+        // All texts rather than the checked ones, so that checking needs no other width.
+        const int width = q->count() == 0
+                              ? 7 * metrics.horizontalAdvance(QLatin1Char('x'))
+                              : qMax(cache.width(), metrics.boundingRect(textToFit()).width());
+        const int height = qMax(qCeil(QFontMetricsF(q->font()).height()), 14) + 2;
+        QStyleOptionComboBox option;
+        q->initStyleOption(&option);
+        cache = q->style()->sizeFromContents(QStyle::CT_ComboBox, &option, QSize(width, height), q);
+    }
+    return cache.expandedTo(QApplication::globalStrut());
+}
+
+QString MultiSelectComboBoxPrivate::textToFit() const
+{
+    QString text;
+    for (int i = 0; i < q->count() && text.size() <= q->mMaxDisplayLength; ++i) {
+        if (const QCheckBox *box = q->checkBox(i))
+            text += box->text() + QLatin1Char(';');
+    }
+    return elided(text, q->mMaxDisplayLength);
+}
+
+MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
+    : QComboBox(parent), d(std::make_unique<MultiSelectComboBoxPrivate>(this)),
+      mListWidget(new QListWidget(this)), mLineEdit(new QLineEdit(this))
+{
+    mLineEdit->setReadOnly(true);
+    mLineEdit->installEventFilter(this);
+    setProperty("class", QStringLiteral("MultiSelectComboBox"));
+    setModel(mListWidget->model());
+    setView(mListWidget);
+    mListWidget->setItemDelegate(new CheckBoxRowDelegate(mListWidget));
+    setLineEdit(mLineEdit);
+    connect(this, QOverload<int>::of(&QComboBox::activated),
+            this, &MultiSelectComboBox::itemClicked);
+}
+
+MultiSelectComboBox::~MultiSelectComboBox() = default;
+
+void MultiSelectComboBox::addItem(const QString &text, const QVariant &userData)
+{
+    auto *box = new QCheckBox(text, this);
+    box->setProperty(sUserData, userData);
+    // The row itself has no text: it would be painted under the check box, and the combo box would
+    // take it for a completion of what the closed box shows.
+    auto *row = new QListWidgetItem(mListWidget);
+    mListWidget->setItemWidget(row, box);
+    connect(box, &QCheckBox::stateChanged, this, &MultiSelectComboBox::stateChanged);
+}
+
+void MultiSelectComboBox::addItems(const QStringList &texts)
+{
+    for (const QString &text : texts)
+        addItem(text);
+}
+
+QCheckBox *MultiSelectComboBox::checkBox(int index) const
+{
+    return qobject_cast<QCheckBox *>(mListWidget->itemWidget(mListWidget->item(index)));
+}
+
+void MultiSelectComboBox::getItemData(int index, bool &checked, QVariant &userData) const
+{
+    const QCheckBox *box = checkBox(index);
+    checked = box && box->isChecked();
+    userData = box ? box->property(sUserData) : QVariant();
+}
+
+int MultiSelectComboBox::findItemByUserData(const QVariant &userData) const
+{
+    for (int i = 0; i < count(); ++i) {
+        const QCheckBox *box = checkBox(i);
+        if (box && box->property(sUserData) == userData)
+            return i;
+    }
+    return -1;
+}
+
+void MultiSelectComboBox::setItemChecked(int index, bool checked)
+{
+    if (QCheckBox *box = checkBox(index))
+        box->setChecked(checked);
+}
+
+void MultiSelectComboBox::setItemText(int index, const QString &text)
+{
+    QCheckBox *box = checkBox(index);
+    if (!box)
+        return;
+    box->setText(text);
+    if (box->isChecked())
+        showSelection();
+}
+
+QStringList MultiSelectComboBox::currentText() const
+{
+    // What is shown is what counts, also when it is cut: the whole text is in the tool tip.
+    const QString shown = mLineEdit->text();
+    return shown.isEmpty() ? QStringList() : shown.split(QLatin1Char(';'));
+}
+
+void MultiSelectComboBox::setCurrentText(const QStringList &texts)
+{
+    const QSet<QString> wanted(texts.cbegin(), texts.cend());
+    const QPointer<MultiSelectComboBox> self(this);
+    for (int i = 0; self && i < count(); ++i) {
+        QCheckBox *box = checkBox(i);
+        if (box && wanted.contains(box->text()))
+            box->setChecked(true);
+    }
+}
+
+void MultiSelectComboBox::setCurrentText(const QString &text)
+{
+    Q_UNUSED(text)
+}
+
+void MultiSelectComboBox::ResetSelection()
+{
+    const QPointer<MultiSelectComboBox> self(this);
+    for (int i = 0; self && i < count(); ++i)
+        setItemChecked(i, false);
+}
+
+void MultiSelectComboBox::SetPlaceHolderText(const QString &text)
+{
+    mLineEdit->setPlaceholderText(text);
+}
+
+int MultiSelectComboBox::count() const
+{
+    return mListWidget->count();
+}
+
+void MultiSelectComboBox::clear()
+{
+    mListWidget->clear();
+    showSelection();
+}
+
+QSize MultiSelectComboBox::sizeHint() const
+{
+    return d->recomputeSizeHint(d->sizeHint);
+}
+
+QSize MultiSelectComboBox::minimumSizeHint() const
+{
+    return d->recomputeSizeHint(d->minimumSizeHint);
+}
+
+void MultiSelectComboBox::hidePopup()
+{
+    // Qt closes the list whenever a row is chosen; while the cursor is on it, one wants to go on.
+    const QPoint cursor = mapFromGlobal(QCursor::pos());
+    if (cursor.x() >= 0 && cursor.x() <= width() && cursor.y() >= height()
+        && cursor.y() <= height() + mListWidget->height())
+        return;
+    QComboBox::hidePopup();
+    mLastHideTime = QDateTime::currentDateTimeUtc();
+}
+
+bool MultiSelectComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == mLineEdit && event->type() == QEvent::MouseButtonRelease) {
+        // The click that closed the list is released here a moment later and must not open it
+        // again. A list that was never hidden is 0 milliseconds old.
+        const qint64 age = mLastHideTime.msecsTo(QDateTime::currentDateTimeUtc());
+        if (age < 1 || age > 499)
+            showPopup();
+    }
+    return false;
+}
+
+void MultiSelectComboBox::itemClicked(int index)
+{
+    if (QCheckBox *box = checkBox(index))
+        box->toggle();
+}
+
+void MultiSelectComboBox::showSelection()
+{
+    QStringList checked;
+    for (int i = 0; i < count(); ++i) {
+        const QCheckBox *box = checkBox(i);
+        if (box && box->isChecked())
+            checked.append(box->text());
+    }
+    const QString text = checked.join(QLatin1Char(';'));
+    mLineEdit->setText(elided(text, mMaxDisplayLength));
+    // A field that is too narrow shows the beginning, not the end.
+    mLineEdit->home(false);
+    mLineEdit->setToolTip(text);
+}
+
+void MultiSelectComboBox::stateChanged(int state)
+{
+    Q_UNUSED(state)
+    showSelection();
+    Q_EMIT selectionChanged();
+}
+
+void MultiSelectComboBox::wheelEvent(QWheelEvent *event)
+{
+    // The wheel would choose another row, which checks it. It stays here, unlike a wheel over the
+    // other combo boxes: a page that scrolled away would leave its open list behind.
+    Q_UNUSED(event)
+}
+
+void MultiSelectComboBox::keyPressEvent(QKeyEvent *event)
+{
+    // Keys would step through the rows, or add the shown text as a row of its own.
+    Q_UNUSED(event)
+}
