@@ -353,7 +353,8 @@ void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
     QTest::newRow("empty") << QKeySequence();
     QTest::newRow("zeroKey") << QKeySequence(int(Qt::CTRL));
     QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
-    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_F9, int(Qt::CTRL) + Qt::Key_F7);
+    QTest::newRow("twoChords")
+        << QKeySequence(int(Qt::CTRL) + Qt::Key_F9, int(Qt::CTRL) + Qt::Key_F7);
     QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
     QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
     QTest::newRow("keyThatThisKeyboardLacks") << QKeySequence(0x0424);

@@ -1,0 +1,254 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QJsonObject>
+
+#include <unistd.h>
+
+/// The local file of a store.
+class tst_ConfStorageFile : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mSize = 7;
+        mStore = makeStore();
+    }
+    void cleanup()
+    {
+        QFile::remove(path());
+        QFile::remove("target.json");
+    }
+
+    void emptyPathIsLogged();
+    void savedFileIsCompactAndSorted();
+    void unchangedStoreWritesNothing();
+    void fileThatCannotBeOpenedStaysPending_data();
+    void fileThatCannotBeOpenedStaysPending();
+    void fileIsRewrittenInPlace();
+    void shorterContentLeavesNoTail();
+    void loadedFileRestoresEverything();
+    void fileThatHoldsNoObjectCountsAsEmpty_data();
+    void fileThatHoldsNoObjectCountsAsEmpty();
+    void firstStartCreatesPresetsUnsaved();
+    void loadingWithoutAPathCreatesNoPresets();
+    void newerChangesOfTheStoreStay();
+
+private:
+    static QString path() { return "local.json"; }
+    std::unique_ptr<ConfStorage> makeStore()
+    {
+        auto store = std::make_unique<ConfStorage>();
+        store->mLocalSaveFile = path();
+        store->reserveConf("size", &mSize);
+        return store;
+    }
+    static QByteArray content(const QString &name = path())
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static void write(const QByteArray &text)
+    {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), qint64(text.size()));
+    }
+    void change(int value, qint64 seconds)
+    {
+        mStore->set<int>("size", value);
+        mStore->mConfMetas["size"].lastChangeTime = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    }
+
+    std::unique_ptr<ConfStorage> mStore;
+    int mSize = 0;
+};
+
+void tst_ConfStorageFile::emptyPathIsLogged()
+{
+    mStore->mLocalSaveFile.clear();
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    mStore->loadLocalConfFile();
+    QCOMPARE(log.texts(QtCriticalMsg),
+             (QStringList{"ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()",
+                          "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()"}));
+    QVERIFY(!mStore->mLocalLoaded);
+}
+
+void tst_ConfStorageFile::savedFileIsCompactAndSorted()
+{
+    QString text = QString::fromUtf8("é");
+    mStore->reserveConf("a text", &text);
+    change(8, 100);
+    mStore->set<QString>("a text", text);
+    mStore->mConfMetas["a text"].lastChangeTime = QDateTime::fromSecsSinceEpoch(200, Qt::UTC);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(), QByteArray("{\"a text\":{\"t\":200,\"v\":\"\xc3\xa9\"},"
+                                   "\"size\":{\"t\":100,\"v\":8}}"));
+    QCOMPARE(log.texts(QtDebugMsg),
+             QStringList("ConfStorage::saveToLocalConfFile() save to file:  \"local.json\""));
+    QCOMPARE(log.messages().size(), 1);
+    QVERIFY(!mStore->mChanged);
+}
+
+void tst_ConfStorageFile::unchangedStoreWritesNothing()
+{
+    mStore->saveToLocalConfFile();
+    QVERIFY(!QFile::exists(path()));
+    change(8, 100);
+    mStore->saveToLocalConfFile();
+    QVERIFY(QFile::remove(path()));
+    mStore->saveToLocalConfFile();
+    QVERIFY(!QFile::exists(path()));
+}
+
+void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("folder") << ".";
+    QTest::newRow("missing folder") << "missing/local.json";
+    QTest::newRow("file as folder") << "/dev/null/local.json";
+}
+
+void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending()
+{
+    QFETCH(QString, file);
+    mStore->mLocalSaveFile = file;
+    change(8, 100);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList(QString("ConfStorage::saveToLocalConfFile() open file failed:  \"%1\"")
+                             .arg(file)));
+    QVERIFY(mStore->mChanged);
+    mStore->mLocalSaveFile = path();
+    mStore->saveToLocalConfFile();
+    QVERIFY(QFile::exists(path()));
+}
+
+void tst_ConfStorageFile::fileIsRewrittenInPlace()
+{
+    QFile target("target.json");
+    QVERIFY(target.open(QIODevice::WriteOnly));
+    target.close();
+    QVERIFY(target.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(::symlink("target.json", qPrintable(path())), 0);
+    change(8, 100);
+    mStore->saveToLocalConfFile();
+    QVERIFY(QFileInfo(path()).isSymLink());
+    QCOMPARE(content("target.json"), QByteArray("{\"size\":{\"t\":100,\"v\":8}}"));
+    QCOMPARE(QFile::permissions("target.json") & (QFile::ReadGroup | QFile::ReadOther),
+             QFile::Permissions());
+}
+
+void tst_ConfStorageFile::shorterContentLeavesNoTail()
+{
+    write(QByteArray(100000, ' '));
+    change(8, 100);
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":8}}"));
+}
+
+void tst_ConfStorageFile::loadedFileRestoresEverything()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    mStore->mDynamicConfClasses = {&cls};
+    bool local = false;
+    mStore->reserveConf("local", &local);
+    mStore->mConfMetas["local"].flags |= ConfStorage::FlagLocalOnly;
+    change(8, 100);
+    mStore->set<bool>("local", true);
+    mStore->mRemovedDynamicConfs["P.x"] = QDateTime::fromSecsSinceEpoch(300, Qt::UTC);
+    const QJsonObject before = mStore->dumpConf(ConfStorage::DumpLocal);
+    mStore->saveToLocalConfFile();
+
+    mSize = 7;
+    local = false;
+    mStore = makeStore();
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->reserveConf("local", &local);
+    mStore->mConfMetas["local"].flags |= ConfStorage::FlagLocalOnly;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 8);
+    QVERIFY(local);
+    QCOMPARE(mStore->mConfMetas["size"].lastChangeTime,
+             QDateTime::fromSecsSinceEpoch(100, Qt::UTC));
+    QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal), before);
+    QVERIFY(!mStore->mChanged);
+    QVERIFY(mStore->mLocalLoaded);
+}
+
+void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("array") << QByteArray("[{\"size\":{\"t\":1,\"v\":3}}]");
+    QTest::newRow("rubbish") << QByteArray("\xff\xfe\x00rubbish", 10);
+    QTest::newRow("cut off") << QByteArray("{\"size\":{\"t\":1,\"v\":3}");
+    QTest::newRow("stale tail") << QByteArray("{\"size\":{\"t\":1,\"v\":3}}}");
+    QTest::newRow("trailing zeros") << QByteArray("{\"size\":{\"t\":1,\"v\":3}}\0\0", 25);
+}
+
+void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty()
+{
+    QFETCH(QByteArray, text);
+    write(text);
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 7);
+    QVERIFY(mStore->mLocalLoaded);
+    QVERIFY(log.messages().isEmpty());
+    QCOMPARE(content(), text); // untouched until something changes
+}
+
+void tst_ConfStorageFile::firstStartCreatesPresetsUnsaved()
+{
+    QJsonObject variable;
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    cls.creator = [&](QString key, const QJsonValue *value) {
+        variable = value->toObject();
+        mStore->reserveConf(key, &variable);
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->mPresetDynamicConfs["P.a"] = QJsonObject{{"x", 1}};
+    mStore->loadLocalConfFile();
+    QVERIFY(mStore->mConfValues.contains("P.a"));
+    QVERIFY(!mStore->mChanged);
+    mStore->saveToLocalConfFile();
+    QVERIFY(!QFile::exists(path()));
+}
+
+void tst_ConfStorageFile::loadingWithoutAPathCreatesNoPresets()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->mPresetDynamicConfs["P.a"] = QJsonObject();
+    mStore->mLocalSaveFile.clear();
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QVERIFY(!mStore->mConfMetas.contains("P.a"));
+}
+
+void tst_ConfStorageFile::newerChangesOfTheStoreStay()
+{
+    write("{\"size\":{\"t\":100,\"v\":3}}");
+    change(9, 200);
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 9);
+    QVERIFY(!mStore->mChanged);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfStorageFile>(argc, argv);
+}
+
+#include "tst_ConfStorageFile.moc"

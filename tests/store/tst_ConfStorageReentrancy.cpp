@@ -1,0 +1,322 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QJsonObject>
+
+/// Callbacks that work on the store, on their own key above all.
+class tst_ConfStorageReentrancy : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        mStore = std::make_unique<ConfStorage>();
+        mSize = 7;
+        mStore->reserveConf(key(), &mSize);
+    }
+
+    void callbackMaySetItsOwnKey();
+    void callbackThatSetsItsKeyWithoutEndIsStopped();
+    void callbacksThatSetEachOtherWithoutEndAreStopped();
+    void callbackMayThrow();
+    void callbackMayReplaceItself();
+    void callbackMayReserveItsKeyAgain();
+    void callbackMayEmptyTheStore_data();
+    void callbackMayEmptyTheStore();
+    void callbackMayRemoveItsDynamicKey();
+    void callbackMayLoadTheSameObjectAgain();
+    void callbackMayChangeTheLoadedObject();
+    void callbackMayReloadTheLocalFile();
+    void callbackMaySaveWhileTheFileIsLoaded();
+    void creatorMayRemoveItsClass();
+    void removerMayRemoveTheClass();
+    void removerMayRemoveItsKeyAgain();
+    void keyMayStandInTheMapThatChanges();
+    void callbackMayRemoveOtherKeysWhileAClassIsRestored();
+
+private:
+    static QString key() { return "General.Size"; }
+
+    std::unique_ptr<ConfStorage> mStore;
+    int mSize = 0;
+};
+
+void tst_ConfStorageReentrancy::callbackMaySetItsOwnKey()
+{
+    QList<int> seen;
+    mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *value) {
+        seen << value->get<int>();
+        if (value->get<int>() > 100)
+            mStore->set<int>(name, 100);
+    });
+    mStore->set<int>(key(), 5000);
+    QCOMPARE(mSize, 100);
+    QCOMPARE(seen, (QList<int>{5000, 100}));
+}
+
+void tst_ConfStorageReentrancy::callbackThatSetsItsKeyWithoutEndIsStopped()
+{
+    mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *value) {
+        mStore->set<int>(name, value->get<int>() + 1);
+    });
+    {
+        const LogCapture log;
+        mStore->set<int>(key(), 0);
+        QCOMPARE(log.texts(QtCriticalMsg),
+                 QStringList("ConfStorage::callChangedCallback nested too deeply:"
+                             "  \"General.Size\""));
+    }
+    QCOMPARE(mSize, 200);
+    // Not for ever: the next change is announced again.
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) { mSize = -1; });
+    mStore->set<int>(key(), 0);
+    QCOMPARE(mSize, -1);
+}
+
+void tst_ConfStorageReentrancy::callbacksThatSetEachOtherWithoutEndAreStopped()
+{
+    int other = 0;
+    mStore->reserveConf("other", &other);
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        mStore->set<int>("other", 1);
+    });
+    mStore->setConfChangedCallback("other", [&](const QString &, const ConfValue *) {
+        mStore->set<int>(key(), 1);
+    });
+    const LogCapture log;
+    mStore->set<int>(key(), 1);
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+}
+
+void tst_ConfStorageReentrancy::callbackMayThrow()
+{
+    mStore->setConfChangedCallback(key(), [](const QString &, const ConfValue *) { throw 1; });
+    for (int i = 0; i < 300; ++i)
+        QVERIFY_EXCEPTION_THROWN(mStore->set<int>(key(), i), int);
+    QCOMPARE(mSize, 299);
+}
+
+void tst_ConfStorageReentrancy::callbackMayReplaceItself()
+{
+    const QString captured(1000, 'c');
+    QString after;
+    mStore->setConfChangedCallback(key(), [&, captured](const QString &name, const ConfValue *) {
+        mStore->setConfChangedCallback(name, nullptr);
+        after = captured;
+    });
+    mStore->set<int>(key(), 8);
+    mStore->set<int>(key(), 9);
+    QCOMPARE(after, captured);
+}
+
+void tst_ConfStorageReentrancy::callbackMayReserveItsKeyAgain()
+{
+    int second = 50;
+    const QString captured(1000, 'c');
+    QString after;
+    mStore->setConfChangedCallback(key(), [&, captured](const QString &name, const ConfValue *) {
+        mStore->reserveConf(name, &second);
+        after = captured + name;
+    });
+    mStore->set<int>(key(), 8);
+    QCOMPARE(after, captured + key());
+    QCOMPARE(mStore->get<int>(key()), 50);
+    mStore->set<int>(key(), 60);
+    QCOMPARE(mSize, 8);
+    QCOMPARE(second, 60);
+}
+
+void tst_ConfStorageReentrancy::callbackMayEmptyTheStore_data()
+{
+    QTest::addColumn<QString>("change");
+    for (const char *change : {"set", "setToDefault", "loadValueFromJson", "loadConf"})
+        QTest::newRow(change) << change;
+}
+
+void tst_ConfStorageReentrancy::callbackMayEmptyTheStore()
+{
+    QFETCH(QString, change);
+    mStore->set<int>(key(), 8);
+    mStore->mConfMetas[key()].lastChangeTime = QDateTime::fromSecsSinceEpoch(5, Qt::UTC);
+    int calls = 0;
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        ++calls;
+        mStore->mConfValues.clear();
+        mStore->mConfMetas.clear();
+    });
+    if (change == "set")
+        mStore->set<int>(key(), 9);
+    else if (change == "setToDefault")
+        mStore->setToDefault(key(), true);
+    else if (change == "loadValueFromJson")
+        mStore->loadValueFromJson(key(), 9);
+    else
+        mStore->loadConf(QJsonObject{{key(), QJsonObject{{"t", 10}, {"v", 9}}}},
+                         ConfStorage::LoadLocal);
+    QCOMPARE(calls, 1);
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QVERIFY(mStore->mConfMetas.isEmpty());
+}
+
+void tst_ConfStorageReentrancy::callbackMayRemoveItsDynamicKey()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "General.";
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *) {
+        mStore->removeDynamicConf(name);
+    });
+    mStore->loadConf(QJsonObject{{key(), QJsonObject{{"t", 10}, {"v", 9}}}},
+                     ConfStorage::LoadLocal);
+    QVERIFY(!mStore->mConfValues.contains(key()));
+    QVERIFY(!mStore->mConfMetas.contains(key()));
+    QVERIFY(mStore->mRemovedDynamicConfs.contains(key()));
+}
+
+void tst_ConfStorageReentrancy::callbackMayLoadTheSameObjectAgain()
+{
+    const QJsonObject conf{{key(), QJsonObject{{"t", 10}, {"v", 9}}}};
+    int calls = 0;
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        ++calls;
+        mStore->loadConf(conf, ConfStorage::LoadLocal);
+    });
+    mStore->loadConf(conf, ConfStorage::LoadLocal);
+    QCOMPARE(calls, 1); // the same time once more is not newer
+    QCOMPARE(mSize, 9);
+}
+
+void tst_ConfStorageReentrancy::callbackMayChangeTheLoadedObject()
+{
+    int last = 0;
+    mStore->reserveConf("Z", &last);
+    QJsonObject conf{{key(), QJsonObject{{"t", 10}, {"v", 9}}},
+                     {"Z", QJsonObject{{"t", 10}, {"v", 3}}}};
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        conf = QJsonObject();
+    });
+    QCOMPARE(mStore->loadConf(conf, ConfStorage::LoadLocal), 2);
+    QCOMPARE(last, 3);
+}
+
+void tst_ConfStorageReentrancy::callbackMayReloadTheLocalFile()
+{
+    mStore->mLocalSaveFile = "local.json";
+    mStore->set<int>(key(), 42);
+    mStore->saveToLocalConfFile();
+    mStore->mConfMetas[key()].lastChangeTime = QDateTime::fromSecsSinceEpoch(5, Qt::UTC);
+    int calls = 0;
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        ++calls;
+        mStore->loadLocalConfFile();
+    });
+    mStore->loadLocalConfFile();
+    QCOMPARE(calls, 1);
+    QCOMPARE(mSize, 42);
+    QVERIFY(!mStore->mChanged);
+}
+
+void tst_ConfStorageReentrancy::callbackMaySaveWhileTheFileIsLoaded()
+{
+    int last = 1;
+    mStore->reserveConf("Z", &last);
+    mStore->mLocalSaveFile = "local.json";
+    mStore->set<int>(key(), 42);
+    mStore->set<int>("Z", 43);
+    mStore->saveToLocalConfFile();
+    mSize = last = 0;
+    mStore->mConfMetas[key()].lastChangeTime = QDateTime();
+    mStore->mConfMetas["Z"].lastChangeTime = QDateTime();
+    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
+        mStore->mChanged = true;
+        mStore->saveToLocalConfFile();
+    });
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 42);
+    QCOMPARE(last, 43);
+}
+
+void tst_ConfStorageReentrancy::creatorMayRemoveItsClass()
+{
+    auto cls = std::make_unique<ConfStorage::DynamicConfClass>();
+    int made = 0;
+    cls->prefix = "P.";
+    cls->flags = ConfStorage::FlagLocalOnly;
+    cls->creator = [&](QString name, const QJsonValue *) {
+        mStore->reserveConf(name, &made);
+        mStore->mDynamicConfClasses.clear();
+        cls.reset();
+    };
+    mStore->mDynamicConfClasses = {cls.get()};
+    mStore->createDynamicConf("P.a", 1, nullptr);
+    QVERIFY(mStore->mConfMetas.value("P.a").flags & ConfStorage::FlagLocalOnly);
+}
+
+void tst_ConfStorageReentrancy::removerMayRemoveTheClass()
+{
+    auto cls = std::make_unique<ConfStorage::DynamicConfClass>();
+    cls->prefix = "General.";
+    cls->remover = [&](QString) {
+        mStore->mDynamicConfClasses.clear();
+        cls.reset();
+    };
+    mStore->mDynamicConfClasses = {cls.get()};
+    mStore->removeDynamicConf(key());
+    QVERIFY(!mStore->mConfValues.contains(key()));
+}
+
+void tst_ConfStorageReentrancy::removerMayRemoveItsKeyAgain()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "General.";
+    int calls = 0;
+    cls.remover = [&](QString name) {
+        if (++calls == 1)
+            mStore->removeDynamicConf(name);
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->removeDynamicConf(key());
+    QVERIFY(!mStore->mConfValues.contains(key()));
+    QVERIFY(mStore->mRemovedDynamicConfs.contains(key()));
+}
+
+void tst_ConfStorageReentrancy::keyMayStandInTheMapThatChanges()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "General.";
+    cls.creator = [&](QString name, const QJsonValue *) { mStore->reserveConf(name, &mSize); };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->removeDynamicConf(mStore->mConfValues.firstKey());
+    QVERIFY(mStore->mConfValues.isEmpty());
+    const auto removed = mStore->mRemovedDynamicConfs.constBegin();
+    mStore->createDynamicConf(removed.key(), QJsonValue(1), nullptr);
+    QCOMPARE(mStore->mConfValues.firstKey(), key());
+    QVERIFY(mStore->mRemovedDynamicConfs.isEmpty());
+}
+
+void tst_ConfStorageReentrancy::callbackMayRemoveOtherKeysWhileAClassIsRestored()
+{
+    ConfStorage::DynamicConfClass cls;
+    int b = 0, c = 0;
+    cls.prefix = "General.";
+    cls.remover = [&](QString) {
+        mStore->mConfValues.remove("General.b");
+        mStore->mConfMetas.remove("General.b");
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->reserveConf("General.a", &c);
+    mStore->reserveConf("General.b", &b);
+    const LogCapture log;
+    mStore->restoreDynamicConf("General.");
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QVERIFY(log.messages().isEmpty());
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfStorageReentrancy>(argc, argv);
+}
+
+#include "tst_ConfStorageReentrancy.moc"
