@@ -120,8 +120,12 @@ void ConfigurationWindow::refreshItemIcon()
             continue;
         }
         QIcon icon = QIconfont::Icon(*glyph, color, size, QMargins());
-        // The selected row is white on the main colour, and so is its icon.
-        icon.addPixmap(QIconfont::Pixmap(*glyph, Qt::white, size, QMargins()), QIcon::Selected);
+        // The selected row is white on the main colour, and so is its icon: in as many sizes, so
+        // that the list does not draw the one larger than the other.
+        for (const int factor : {1, 2, 3}) {
+            icon.addPixmap(QIconfont::Pixmap(*glyph, Qt::white, size * factor, QMargins()),
+                           QIcon::Selected);
+        }
         row.key()->setIcon(icon);
     }
 }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+namespace MtConf {
+class MtConfManage;
+}
+
+/// The program's variables as a table: key, value, and whether the value differs from its default.
+class BoundValueModel : public QAbstractTableModel
+{
+    Q_OBJECT
+public:
+    enum Column { KeyColumn, ValueColumn, ChangedColumn, ColumnCount };
+
+    /// The variables of `manager`, which must outlive the model, and the profiles.
+    explicit BoundValueModel(const MtConf::MtConfManage &manager, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// How many variables differ from their defaults.
+    int changedCount() const;
+
+public Q_SLOTS:
+    /// Reads all variables again; to be called when settings have changed.
+    void refresh();
+
+private:
+    QStringList currentKeys() const;
+    static QString valueText(const QString &key);
+
+    const MtConf::MtConfManage &mManager;
+    QStringList mKeys;
+};

@@ -1,0 +1,159 @@
+#include "DemoArguments.h"
+
+#include "declareSettings.h"
+
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DemoArguments", text);
+}
+
+/// Why `path` cannot be read as a JSON object; empty when it can.
+QString jsonError(const QString &path)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir())
+        return tr("%1 is a folder.").arg(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return tr("Cannot read %1: %2").arg(path, file.errorString());
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (document.isNull())
+        return tr("%1 is no JSON file: %2 (at byte %3)")
+            .arg(path, error.errorString())
+            .arg(error.offset);
+    return document.isObject() ? QString() : tr("%1 holds no JSON object.").arg(path);
+}
+
+/// Why the settings cannot be kept in `path`; empty when they can.
+QString localFileError(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!QDir().mkpath(file.path()))
+        return tr("Cannot make the folder %1").arg(file.path());
+    // The library would take a damaged file for an empty one, and write over it.
+    return file.exists() && (file.isDir() || file.size() > 0) ? jsonError(path) : QString();
+}
+
+/// Why no pictures can be put into `folder`; empty when they can.
+QString picturesError(const QString &folder)
+{
+    const bool made = QDir().mkpath(folder);
+    QTemporaryFile probe(folder + QStringLiteral("/XXXXXX"));
+    return made && probe.open() ? QString() : tr("Cannot write into %1").arg(folder);
+}
+
+/// The first error that `errors` finds, in order.
+QString firstOf(const QStringList &errors)
+{
+    for (const QString &error : errors) {
+        if (!error.isEmpty())
+            return error;
+    }
+    return QString();
+}
+
+QString choiceError(const QString &option, const QString &value, const QStringList &choices)
+{
+    if (choices.contains(value))
+        return QString();
+    return tr("Unknown %1 \"%2\"; there are: %3")
+        .arg(option, value, choices.join(QStringLiteral(", ")));
+}
+
+QString absolute(const QString &path)
+{
+    return path.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(
+        tr("Shows the settings of a screen-capture tool, and how its variables follow them."));
+    const QString file = QStringLiteral("file");
+    parser->addOptions({
+        {QStringLiteral("local-file"), tr("Keep the settings in <file>."), file},
+        {QStringLiteral("config"), tr("Take over the settings in <file>, a JSON object by names."), file},
+        {QStringLiteral("page"), tr("Open the page <name>: %1.")
+             .arg(pageNames().join(QStringLiteral(", "))), QStringLiteral("name")},
+        {QStringLiteral("theme"), tr("Choose and keep the theme <name>: light, dark or system."),
+         QStringLiteral("name")},
+        {QStringLiteral("language"), tr("Choose and keep the language <code>, such as de-de."),
+         QStringLiteral("code")},
+        {QStringLiteral("scale"), tr("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
+         QStringLiteral("factor")},
+        {QStringLiteral("pictures"), tr("Draw every page in both themes into <folder>, and quit."),
+         QStringLiteral("folder")},
+        {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help.")},
+    });
+}
+
+} // namespace
+
+DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
+{
+    QCommandLineParser parser;
+    addOptions(&parser);
+    if (!parser.parse(commandLine)) {
+        message = parser.errorText();
+        return Outcome::Failed;
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        message = parser.helpText();
+        return Outcome::ShowHelp;
+    }
+    const auto value = [&parser](const char *option) {
+        return parser.value(QLatin1String(option));
+    };
+    const auto given = [&parser](const char *option) {
+        return parser.isSet(QLatin1String(option));
+    };
+    const QStringList themes{QStringLiteral("system"), QStringLiteral("light"),
+                             QStringLiteral("dark")}; // as QThemeCtrl::Theme counts them
+    bool isNumber = true;
+    const double factor = given("scale") ? value("scale").toDouble(&isNumber) : 1;
+    const QStringList unexpected = parser.positionalArguments();
+    message = firstOf({
+        unexpected.isEmpty() ? QString() : tr("Unexpected argument \"%1\"").arg(unexpected.first()),
+        given("page") ? choiceError(tr("page"), value("page"), pageNames()) : QString(),
+        given("theme") ? choiceError(tr("theme"), value("theme"), themes) : QString(),
+        given("language") ? choiceError(tr("language"), value("language"),
+                                        MtConf::ConfWidgetLanguage::loadSupportLanguageCode())
+                          : QString(),
+        isNumber && factor >= 0.5 && factor <= 4
+            ? QString()
+            : tr("Not a scale from 0.5 to 4: \"%1\"").arg(value("scale")),
+    });
+    if (!message.isEmpty())
+        return Outcome::Failed;
+
+    page = value("page");
+    language = value("language");
+    if (given("theme"))
+        theme = themes.indexOf(value("theme"));
+    if (given("scale"))
+        scale = factor;
+    configFile = absolute(value("config"));
+    picturesFolder = absolute(value("pictures"));
+    localFile = absolute(value("local-file"));
+    if (localFile.isEmpty() && !given("pictures"))
+        localFile = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+            + QStringLiteral("/settings.json");
+    message = firstOf({
+        localFile.isEmpty() ? QString() : localFileError(localFile),
+        given("config") ? jsonError(configFile) : QString(),
+        given("pictures") ? picturesError(picturesFolder) : QString(),
+    });
+    return message.isEmpty() ? Outcome::Run : Outcome::Failed;
+}

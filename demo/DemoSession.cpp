@@ -1,0 +1,193 @@
+#include "DemoSession.h"
+
+#include "ProfilesPage.h"
+#include "StoredDataPage.h"
+#include "declareSettings.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QIconfont/QuorviGlyphs.h>
+
+#include <QxtGlobalShortcut>
+
+#include <QApplication>
+#include <QDebug>
+#include <QListView>
+#include <QPalette>
+#include <QTimer>
+
+namespace {
+
+const QString &advancedPage()
+{
+    static const QString sName = QStringLiteral("Advanced");
+    return sName;
+}
+
+/// The name of the page that the settings window shows.
+QString shownPage(const MtConf::ConfigurationWindow *window)
+{
+    const auto *list = window->findChild<QListView *>(QStringLiteral("configList"));
+    return list ? list->currentIndex().data(Qt::UserRole + 1).toString() : QString();
+}
+
+} // namespace
+
+DemoSession::DemoSession(const QString &localFile)
+    : mManager(std::make_unique<MtConf::MtConfManage>())
+{
+    ConfStorage::instance()->mLocalSaveFile = localFile;
+    declareSettings(*mManager, mSettings);
+    addPages();
+    addCallbacks();
+    addHotkeyCallbacks();
+    mManager->restoreAllHook = [this] { mProfiles.restorePresets(); };
+    mWatcher.watchAll();
+    connect(&mProfiles, &ProfileStore::profilesChanged,
+            &mWatcher, &SettingsWatcher::announceChange);
+}
+
+DemoSession::~DemoSession()
+{
+    // The window goes first, and the store, which lives on, must not use our variables any more.
+    mManager.reset();
+    ConfStorage *store = ConfStorage::instance();
+    store->mConfValues.clear();
+    store->mConfMetas.clear();
+    store->mRemovedDynamicConfs.clear();
+    store->mPresetDynamicConfs.clear();
+    store->mLocalSaveFile.clear();
+    store->mChanged = false;
+    store->mLocalLoaded = false;
+}
+
+MtConf::ConfItem *DemoSession::item(const char *page, const char *name)
+{
+    return mManager->getItemByName(QLatin1String(page), QLatin1String(name), QString());
+}
+
+void DemoSession::addPages()
+{
+    mManager->setMajorWidget(QStringLiteral("Profiles"), [this](QWidget *parent) {
+        return new ProfilesPage(mProfiles, parent);
+    });
+    mManager->setMajorWidget(QStringLiteral("Stored data"), [this](QWidget *parent) {
+        return new StoredDataPage(mWatcher, parent);
+    });
+    QMap<QString, QChar> icons{
+        {QStringLiteral("General"), QuorviGlyphs::General},
+        {QStringLiteral("Appearance"), QuorviGlyphs::Appearance},
+        {QStringLiteral("Capture"), QuorviGlyphs::Capture},
+        {QStringLiteral("Hotkeys"), QuorviGlyphs::Hotkeys},
+        {QStringLiteral("Mouse"), QuorviGlyphs::Mouse},
+        {QStringLiteral("Output"), QuorviGlyphs::Output},
+        {QStringLiteral("Profiles"), QuorviGlyphs::Profiles},
+        {advancedPage(), QuorviGlyphs::Advanced},
+        {QStringLiteral("Stored data"), QuorviGlyphs::Correct},
+    };
+    mManager->setIconMap(icons);
+}
+
+void DemoSession::addCallbacks()
+{
+    item("Appearance", "Theme")->setConfChangedCallback(
+        [this](const QString &, const ConfValue *) { showTheme(mSettings.theme); });
+    item("Advanced", "ShowExpert")->setConfChangedCallback(
+        [this](const QString &, const ConfValue *) {
+            // Later: the switch that was clicked stands on the page that is built again.
+            QTimer::singleShot(0, this, &DemoSession::rebuildAdvancedPage);
+        });
+}
+
+void DemoSession::addHotkeyCallbacks()
+{
+    for (MtConf::ConfItem &declared : mManager->items) {
+        auto *shortcut = declared.properties.value(QStringLiteral("Shortcut"))
+                             .value<QxtGlobalShortcut *>();
+        if (!shortcut)
+            continue;
+        const QString key = declared.getFullName();
+        declared.setConfChangedCallback([shortcut](const QString &, const ConfValue *value) {
+            shortcut->setShortcut(value->get<QKeySequence>());
+        });
+        connect(shortcut, &QxtGlobalShortcut::activated, this,
+                [key] { qInfo().noquote() << "Hotkey pressed:" << key; });
+    }
+}
+
+void DemoSession::load(const QString &configFile)
+{
+    ConfStorage::instance()->loadLocalConfFile();
+    if (configFile.isEmpty())
+        mManager->runAfterLoadFromFile();
+    else
+        mManager->loadFromFile(configFile);
+    showTheme(mSettings.theme);
+    // Those that no file has changed.
+    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
+        auto *shortcut = declared.properties.value(QStringLiteral("Shortcut"))
+                             .value<QxtGlobalShortcut *>();
+        if (shortcut)
+            shortcut->setShortcut(
+                ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
+    }
+}
+
+bool DemoSession::save()
+{
+    mManager->saveToFile();
+    return !ConfStorage::instance()->mChanged;
+}
+
+void DemoSession::restoreAll()
+{
+    mManager->restoreAllDefault();
+    reloadEditors();
+}
+
+void DemoSession::chooseTheme(int theme)
+{
+    ConfStorage::instance()->set(item("Appearance", "Theme")->getFullName(), theme);
+    reloadEditors();
+}
+
+void DemoSession::chooseLanguage(const QString &code)
+{
+    ConfStorage::instance()->set(item("General", "Language")->getFullName(), code);
+    reloadEditors();
+}
+
+void DemoSession::showTheme(int theme)
+{
+    QThemeCtrl *themes = QThemeCtrl::instance();
+    const auto chosen = static_cast<QThemeCtrl::Theme>(qBound(0, theme, 2));
+    themes->setTheme(chosen);
+    // Without a palette of ours the application goes on following the system's.
+    QApplication::setPalette(chosen == QThemeCtrl::Theme::System ? QPalette()
+                                                                 : themes->palette());
+}
+
+void DemoSession::rebuildAdvancedPage()
+{
+    MtConf::ConfigurationWindow *window = MtConf::ConfigurationWindow::instance();
+    if (!window || shownPage(window) != advancedPage())
+        return;
+    window->switchToView(advancedPage());
+    // Whoever works with the keyboard goes on from the switch.
+    if (MtConf::ConfigItemWidget *editor = item("Advanced", "ShowExpert")->editor)
+        editor->label()->setFocus();
+}
+
+void DemoSession::reloadEditors()
+{
+    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
+        if (!declared.editor)
+            continue;
+        declared.editor->loadConf();
+        declared.editor->refreshLabelState();
+    }
+}

@@ -1,0 +1,270 @@
+#include "ProfilesPage.h"
+
+#include "ProfileStore.h"
+#include "designScale.h"
+
+#include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
+
+#include <OrvUtils/ColorSelectButton.h>
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int sLargestSide = 16384; // pixels
+
+QIcon swatch(const QColor &color, int size)
+{
+    QPixmap pixmap(size, size);
+    pixmap.fill(color);
+    QIcon icon(pixmap);
+    // Qt would tint the colour of the selected row.
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
+}
+
+QSpinBox *makeSideBox(QWidget *parent)
+{
+    auto *box = new QSpinBoxDisableWheel(parent);
+    box->setFocusPolicy(Qt::StrongFocus);
+    box->setRange(1, sLargestSide);
+    box->setSuffix(QStringLiteral(" px"));
+    return box;
+}
+
+} // namespace
+
+ProfilesPage::ProfilesPage(ProfileStore &profiles, QWidget *parent)
+    : QWidget(parent), mProfiles(profiles), mTitle(new QLabel(this)), mList(new QListWidget(this)),
+      mAdd(new QPushButton(this)), mRemove(new QPushButton(this)), mRestore(new QPushButton(this)),
+      mHint(new QLabel(this)), mValues(new QGroupBox(this)), mNameLabel(new QLabel(mValues)),
+      mName(new QLineEdit(mValues)), mRename(new QPushButton(mValues)),
+      mNameError(new QLabel(mValues)), mWidthLabel(new QLabel(mValues)),
+      mWidth(makeSideBox(mValues)), mHeightLabel(new QLabel(mValues)),
+      mHeight(makeSideBox(mValues)), mColorLabel(new QLabel(mValues)),
+      mColor(new ColorSelectButton(mValues)), mPointer(new QCheckBox(mValues)),
+      mState(new QLabel(mValues))
+{
+    const int spacing = qRound(8 * designScale(parent));
+    mTitle->setProperty("ClassLabel", QStringLiteral("normal"));
+    mHint->setAlignment(Qt::AlignCenter);
+    mHint->setWordWrap(true);
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    layout->addWidget(mTitle, 0, 0, 1, 2);
+    layout->addWidget(makeListSide(), 1, 0);
+    layout->addWidget(makeValueSide(), 1, 1, Qt::AlignTop);
+    layout->addWidget(mHint, 1, 1);
+    layout->setColumnStretch(0, 2);
+    layout->setColumnStretch(1, 3);
+
+    retranslate();
+    applySheet();
+    connectAll();
+    refresh();
+}
+
+QWidget *ProfilesPage::makeListSide()
+{
+    auto *side = new QWidget(this);
+    auto *layout = new QGridLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(qRound(6 * designScale(parentWidget())));
+    layout->addWidget(mList, 0, 0, 1, 2);
+    layout->addWidget(mAdd, 1, 0);
+    layout->addWidget(mRemove, 1, 1);
+    layout->addWidget(mRestore, 2, 0, 1, 2);
+    mList->setObjectName(QStringLiteral("profileList"));
+    mAdd->setObjectName(QStringLiteral("addProfile"));
+    mRemove->setObjectName(QStringLiteral("removeProfile"));
+    mRestore->setObjectName(QStringLiteral("restoreProfiles"));
+    return side;
+}
+
+QWidget *ProfilesPage::makeValueSide()
+{
+    mValues->setObjectName(QStringLiteral("ConfigGroupBox"));
+    mName->setObjectName(QStringLiteral("profileName"));
+    mRename->setObjectName(QStringLiteral("renameProfile"));
+    mNameError->setObjectName(QStringLiteral("profileNameError"));
+    mNameError->setWordWrap(true);
+    mWidth->setObjectName(QStringLiteral("profileWidth"));
+    mHeight->setObjectName(QStringLiteral("profileHeight"));
+    mColor->setProperty("class", QStringLiteral("ColorSelectButton"));
+    mState->setObjectName(QStringLiteral("profileState"));
+    const int spacing = qRound(12 * designScale(parentWidget()));
+    auto *grid = new QGridLayout(mValues);
+    grid->setContentsMargins(spacing, spacing, spacing, spacing);
+    grid->setSpacing(spacing);
+    grid->addWidget(mNameLabel, 0, 0);
+    grid->addWidget(mName, 0, 1);
+    grid->addWidget(mRename, 0, 2);
+    grid->addWidget(mNameError, 1, 1, 1, 2);
+    grid->addWidget(mWidthLabel, 2, 0);
+    grid->addWidget(mWidth, 2, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(mHeightLabel, 3, 0);
+    grid->addWidget(mHeight, 3, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(mColorLabel, 4, 0);
+    grid->addWidget(mColor, 4, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(mPointer, 5, 0, 1, 3);
+    grid->addWidget(mState, 6, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
+    for (QLabel *label : {mNameLabel, mWidthLabel, mHeightLabel, mColorLabel})
+        label->setProperty("ConfigItemWidgetLabel", QStringLiteral("1"));
+    return mValues;
+}
+
+void ProfilesPage::connectAll()
+{
+    connect(&mProfiles, &ProfileStore::profilesChanged, this, &ProfilesPage::refresh);
+    connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this, &ProfilesPage::applySheet);
+    connect(mList, &QListWidget::currentItemChanged, this, &ProfilesPage::showProfile);
+    connect(mAdd, &QPushButton::clicked, this, &ProfilesPage::addProfile);
+    connect(mRemove, &QPushButton::clicked, this, &ProfilesPage::removeProfile);
+    connect(mRestore, &QPushButton::clicked, &mProfiles, &ProfileStore::restorePresets);
+    connect(mName, &QLineEdit::textChanged, this, &ProfilesPage::checkName);
+    connect(mName, &QLineEdit::returnPressed, this, &ProfilesPage::renameProfile);
+    connect(mRename, &QPushButton::clicked, this, &ProfilesPage::renameProfile);
+    const auto connectSide = [this](QSpinBox *box, const QString &member) {
+        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                [this, member](int side) { mProfiles.setValue(mShownKey, member, side); });
+    };
+    connectSide(mWidth, QStringLiteral("width"));
+    connectSide(mHeight, QStringLiteral("height"));
+    connect(mColor, &ColorSelectButton::sigColorChanged, this, [this](const QColor &color) {
+        mProfiles.setValue(mShownKey, QStringLiteral("color"), color.name(QColor::HexArgb));
+    });
+    connect(mPointer, &QCheckBox::clicked, this, [this](bool checked) {
+        mProfiles.setValue(mShownKey, QStringLiteral("pointer"), checked);
+    });
+}
+
+void ProfilesPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        refresh();
+    }
+}
+
+void ProfilesPage::retranslate()
+{
+    mTitle->setText(tr("Profiles"));
+    mAdd->setText(tr("Add"));
+    mRemove->setText(tr("Delete"));
+    mRestore->setText(tr("Restore presets"));
+    mHint->setText(tr("There is no profile.\nAdd one, or restore the presets."));
+    mNameLabel->setText(tr("Name"));
+    mRename->setText(tr("Rename"));
+    mWidthLabel->setText(tr("Width"));
+    mHeightLabel->setText(tr("Height"));
+    mColorLabel->setText(tr("Frame"));
+    mPointer->setText(tr("Include the mouse pointer"));
+}
+
+void ProfilesPage::applySheet()
+{
+    QThemeCtrl::instance()->handleQssFile(this, {QStringLiteral(":/demo/ProfilesPage")},
+                                          designScale(parentWidget()));
+}
+
+void ProfilesPage::refresh()
+{
+    const QString shown = mShownKey;
+    const int row = mList->currentRow();
+    {
+        const QSignalBlocker blocker(mList);
+        mList->clear();
+        const int iconSize = qRound(11 * designScale(parentWidget()));
+        mList->setIconSize(QSize(iconSize, iconSize));
+        const QStringList keys = mProfiles.keys();
+        for (const QString &key : keys) {
+            const QColor color(
+                mProfiles.profile(key).value(QLatin1String("color")).toString());
+            auto *item = new QListWidgetItem(swatch(color, iconSize), mProfiles.name(key), mList);
+            item->setData(Qt::UserRole, key);
+        }
+        selectKey(shown);
+        if (!mList->currentItem() && mList->count() > 0)
+            mList->setCurrentRow(qBound(0, row, mList->count() - 1));
+    }
+    showProfile();
+}
+
+void ProfilesPage::showProfile()
+{
+    const QString key = currentKey();
+    const bool another = key != mShownKey;
+    mShownKey = key;
+    mValues->setVisible(!key.isEmpty());
+    mHint->setVisible(key.isEmpty());
+    mRemove->setEnabled(!key.isEmpty());
+
+    const QJsonObject profile = mProfiles.profile(key);
+    const QSignalBlocker widthBlocker(mWidth);
+    const QSignalBlocker heightBlocker(mHeight);
+    // A name that is being typed stays while other values of the profile change.
+    if (another || !mName->hasFocus())
+        mName->setText(mProfiles.name(key));
+    mWidth->setValue(profile.value(QLatin1String("width")).toInt());
+    mHeight->setValue(profile.value(QLatin1String("height")).toInt());
+    mColor->setColor(QColor(profile.value(QLatin1String("color")).toString()));
+    mPointer->setChecked(profile.value(QLatin1String("pointer")).toBool());
+    mState->setText(mProfiles.isUntouchedPreset(key) ? tr("A preset, unchanged.")
+                                                     : tr("Yours, or a changed preset."));
+    checkName();
+}
+
+void ProfilesPage::checkName()
+{
+    const QString error = mProfiles.nameError(mShownKey, mName->text());
+    mNameError->setText(error);
+    mNameError->setVisible(!error.isEmpty());
+    mRename->setEnabled(error.isEmpty() && mName->text().trimmed() != mProfiles.name(mShownKey));
+}
+
+void ProfilesPage::renameProfile()
+{
+    mProfiles.rename(mShownKey, mName->text());
+    checkName();
+}
+
+void ProfilesPage::addProfile()
+{
+    const QString key = mProfiles.add();
+    refresh();
+    selectKey(key);
+    mName->setFocus();
+    mName->selectAll();
+}
+
+void ProfilesPage::removeProfile()
+{
+    mProfiles.remove(mShownKey);
+}
+
+QString ProfilesPage::currentKey() const
+{
+    const QListWidgetItem *item = mList->currentItem();
+    return item ? item->data(Qt::UserRole).toString() : QString();
+}
+
+void ProfilesPage::selectKey(const QString &key)
+{
+    for (int row = 0; row < mList->count(); ++row) {
+        if (mList->item(row)->data(Qt::UserRole).toString() == key)
+            mList->setCurrentRow(row);
+    }
+}

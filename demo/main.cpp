@@ -1,0 +1,94 @@
+#include "DemoArguments.h"
+#include "DemoSession.h"
+#include "MainWindow.h"
+#include "MessageLog.h"
+#include "takePictures.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+constexpr int sBadArguments = 2;
+
+int fail(const QString &message)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << message << '\n';
+    return sBadArguments;
+}
+
+/// The settings window keeps its geometry in the working directory: that of the local file, so that
+/// both stay together wherever the program is started from.
+bool enterFolderOf(const QString &localFile)
+{
+    return QDir::setCurrent(QFileInfo(localFile).path());
+}
+
+int run(const DemoArguments &arguments)
+{
+    if (!enterFolderOf(arguments.localFile))
+        return fail(QStringLiteral("Cannot enter the folder of %1").arg(arguments.localFile));
+    const MessageLog log;
+    DemoSession session(arguments.localFile);
+    session.load(arguments.configFile);
+    if (arguments.theme)
+        session.chooseTheme(*arguments.theme);
+    if (!arguments.language.isEmpty())
+        session.chooseLanguage(arguments.language);
+    MainWindow window(session, log);
+    window.show();
+    window.showSettings(arguments.page);
+    return QApplication::exec();
+}
+
+int drawPictures(const DemoArguments &arguments)
+{
+    // Nothing is written beside a person's own settings, not even the geometry of the window.
+    const QTemporaryDir folder;
+    const QString localFile = arguments.localFile.isEmpty()
+        ? folder.filePath(QStringLiteral("settings.json"))
+        : arguments.localFile;
+    if (!folder.isValid() || !QDir::setCurrent(folder.path()))
+        return fail(folder.errorString());
+    QString error;
+    {
+        const MessageLog log;
+        DemoSession session(localFile);
+        session.load(arguments.configFile);
+        if (!arguments.language.isEmpty())
+            session.chooseLanguage(arguments.language);
+        MainWindow window(session, log);
+        error = takePictures(session, window, arguments.picturesFolder);
+    }
+    QDir::setCurrent(QDir::rootPath()); // the folder cannot go while we are in it
+    return error.isEmpty() ? 0 : fail(error);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("malto-demo"));
+    DemoArguments arguments;
+    {
+        // Before there are windows: help and complaints need no display, and the dots per inch are
+        // read when the real application object is made.
+        const QCoreApplication early(argc, argv);
+        const DemoArguments::Outcome outcome = arguments.parse(QCoreApplication::arguments());
+        if (outcome == DemoArguments::Outcome::Failed)
+            return fail(arguments.message);
+        if (outcome == DemoArguments::Outcome::ShowHelp) {
+            QTextStream(stdout) << arguments.message;
+            return 0;
+        }
+    }
+    if (arguments.scale)
+        qputenv("QT_FONT_DPI", QByteArray::number(qRound(96 * *arguments.scale)));
+    const QApplication application(argc, argv);
+    return arguments.picturesFolder.isEmpty() ? run(arguments) : drawPictures(arguments);
+}
