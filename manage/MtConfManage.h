@@ -16,7 +16,8 @@ class ConfigurationWindow;
 ///
 /// The host makes one manager, calls one `addConf` operation for each setting, then loads its files
 /// and shows the window. The manager must not outlive the `QApplication` with the window still open;
-/// destroying it closes the window. Everything runs on the GUI thread.
+/// destroying it closes the window, and must therefore not happen in a callback that an editor of the
+/// window sets off: use `deleteLater` there. Everything runs on the GUI thread.
 ///
 /// Items and classes are only ever added by the manager, and their addresses stay valid as the lists
 /// grow. A host may edit the lists itself, but must not do so while a copy of them is alive, nor
@@ -25,12 +26,15 @@ class MALTO_EXPORT MtConfManage : public QObject
 {
     Q_OBJECT
 public:
+    /// A manager without settings.
     explicit MtConfManage(QObject *parent = nullptr);
+    /// Closes the settings window if it is this manager's, which saves, and deletes it.
     ~MtConfManage() override;
 
     // Declaration. `text` is the untranslated label and must outlive the manager, as a literal
     // does; it is translated in the context "QObject". The three names make the key of the setting.
-    // An empty `creator` stands for the type's own editor.
+    // An empty `creator` stands for the type's own editor. The pointers that are returned stay valid
+    // for the manager's life. A null `value` is reported by the store, and the setting has no key.
 
     /// Declares an integer, edited in a spin box. Its properties "MinValue" and "MaxValue" set the
     /// range, 0 to 99 without them.
@@ -117,7 +121,8 @@ public:
     void closeConfigWindow();
     /// Whether the settings window stays above other windows; nothing without a window.
     void setWindowStayOnTop(bool on);
-    /// The glyphs of the icon font that stand beside the classes in the window, by class name.
+    /// The glyphs of the icon font that stand beside the classes in the window, by class name. An
+    /// open window shows them from its next change of theme on.
     void setIconMap(QMap<QString, QChar> &map);
 
     QList<ConfItem> items;             ///< every item, in declaration order

@@ -4,6 +4,7 @@
 #include <MaltoConfiguration/manage/helpers.h>
 
 #include <QJsonObject>
+#include <QPointer>
 #include <QStringList>
 
 namespace MtConf {
@@ -13,19 +14,24 @@ void MtConfManage::_loadFromFile(QString path)
     confFilePath = path;
     const QJsonObject members = readJsonFromFile(path).object();
     ConfItemIndex index(items);
+    const QPointer<MtConfManage> self(this); // a callback may destroy the manager
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
         const QStringList parts = member.key().split(QLatin1Char('.'));
         if (parts.size() != 2 && parts.size() != 3)
             continue;
         if (const ConfItem *item = index.find(parts.at(0), parts.at(1), parts.value(2)))
             item->loadFromJsonValue(member.value());
+        if (!self)
+            return;
     }
 }
 
 void MtConfManage::loadFromFile(QString path)
 {
+    const QPointer<MtConfManage> self(this);
     _loadFromFile(path);
-    runAfterLoadFromFile();
+    if (self)
+        runAfterLoadFromFile();
 }
 
 void MtConfManage::saveToFile()
@@ -35,11 +41,13 @@ void MtConfManage::saveToFile()
 
 void MtConfManage::restoreAllDefault()
 {
-    // Both are the host's code: the hook may replace itself, a callback may change the list.
+    // Both are the host's code: the hook may replace itself, a callback may change the list, and
+    // either may destroy the manager.
+    const QPointer<MtConfManage> self(this);
     const std::function<void()> hook = restoreAllHook;
     if (hook)
         hook();
-    for (int i = 0; i < items.size(); ++i)
+    for (int i = 0; self && i < items.size(); ++i)
         items.at(i).restoreDefault();
 }
 

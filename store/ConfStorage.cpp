@@ -109,7 +109,14 @@ void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta)
 {
     if (!meta.changedCallback)
         return;
+    if (mCallbackDepth == 0)
+        mCallbacksStopped = false;
+    if (mCallbacksStopped)
+        return;
     if (mCallbackDepth >= sMaxCallbackDepth) {
+        // None any more until the outermost one returns: callbacks that set off two others each
+        // would otherwise go on almost for ever below the limit.
+        mCallbacksStopped = true;
         qCritical() << "ConfStorage::callChangedCallback nested too deeply: " << key;
         return;
     }

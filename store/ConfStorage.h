@@ -7,6 +7,7 @@
 #include <QJsonValue>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -15,6 +16,10 @@ class QJsonObject;
 
 /// Called after a key's value has changed. `value` points at the key's entry in the store and is
 /// valid until the callback itself removes the key or reserves it again.
+///
+/// A callback may change settings, its own too, and so set off callbacks. When they are nested more
+/// than 200 deep the critical message "ConfStorage::callChangedCallback nested too deeply: " and the
+/// key are logged, and none is called any more until the outermost one returns.
 using ConfChangedCallback = std::function<void(QString const &key, ConfValue const *value)>;
 
 /// The store of all configuration values, by key.
@@ -54,7 +59,7 @@ public:
         QString prefix;  ///< a key belongs to the class when it starts with this
         /// Makes the host's variable for `key` from `value` and reserves it in the store.
         std::function<void(QString key, QJsonValue const *value)> creator;
-        /// Releases the host's variable of `key`.
+        /// Releases the host's variable of `key`, which still stands in the store meanwhile.
         std::function<void(QString key)> remover;
         quint32 flags = 0;  ///< `ConfFlag` bits that every key of the class gets
     };
@@ -93,7 +98,8 @@ public:
     template<class T> T get(QString const &key) const;
 
     /// Changes the value of `key`, stamps the time and calls the key's callback, also when the
-    /// value is the same as before. An unknown key logs the warning
+    /// value is the same as before. Another type than the reserved one logs a warning and leaves the
+    /// value, but counts as a change all the same. An unknown key logs the warning
     /// "ConfStorage::set key not found: " and leaves a record with the time of the attempt.
     template<class T> void set(QString const &key, T const &value);
 
@@ -115,7 +121,9 @@ public:
     void loadValueFromJson(QString key, QJsonValue value);
 
     /// The whole configuration as one object of entries with the members "t" (seconds since 1970),
-    /// "v" (value) and "d" (seconds since 1970 of a removal).
+    /// "v" (value) and "d" (seconds since 1970 of a removal). System-independent keys bear the
+    /// system mark. A removed key that no class declares any more logs the critical message
+    /// "dumpConf findDynamicConfClass error : ".
     QJsonObject dumpConf(DumpConfType type) const;
 
     /// Merges a dumped configuration key by key, the newer change winning and equal times keeping
@@ -153,7 +161,8 @@ public:
     /// default, others removed. Removed presets of every class are created again.
     void restoreDynamicConf(QString const &prefix);
 
-    /// Creates every preset that neither exists nor was removed by a person.
+    /// Creates every preset that neither exists nor was removed by a person. Logs what
+    /// `createDynamicConf` logs.
     void loadPresetDynamicConf();
 
     /// Merges one member of a dumped configuration that belongs to `cls`. Returns false when the
@@ -195,6 +204,8 @@ private:
     static void logSetNotFound(QString const &key);
 
     int mCallbackDepth = 0;
+    bool mCallbacksStopped = false;
+    QSet<QString> mBusyDynamicConfs;  // being created or removed by the host at this moment
 };
 
 template<class T> void ConfStorage::reserveConf(QString const &key, T *ptr)

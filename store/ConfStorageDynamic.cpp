@@ -45,7 +45,7 @@ void ConfStorage::createDynamicConf(QString const &key, QJsonValue const &value,
         logClassNotFound(key);
         return;
     }
-    if (mConfValues.contains(key)) {
+    if (mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
         qCritical() << "ConfStorage::createDynamicConf() key already exists: " << key;
         return;
     }
@@ -57,8 +57,10 @@ void ConfStorage::createDynamicConf(QString const &key, QJsonValue const &value,
     const quint32 flags = cls->flags;
 
     mRemovedDynamicConfs.remove(name);
+    mBusyDynamicConfs.insert(name);
     if (creator)
         creator(name, &initial);
+    mBusyDynamicConfs.remove(name);
     ConfMeta &meta = mConfMetas[name];
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
     meta.flags |= flags;
@@ -72,15 +74,17 @@ void ConfStorage::removeDynamicConf(QString const &key)
         logClassNotFound(key);
         return;
     }
-    if (!mConfValues.contains(key)) {
+    if (!mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
         qCritical() << "ConfStorage::removeDynamicConf() key not found: " << key;
         return;
     }
     // Copies, for the reasons given in createDynamicConf.
     const QString name = key;
     const auto remover = cls->remover;
+    mBusyDynamicConfs.insert(name);
     if (remover)
         remover(name);
+    mBusyDynamicConfs.remove(name);
     mRemovedDynamicConfs[name] = QDateTime::currentDateTimeUtc();
     mConfValues.remove(name);
     mConfMetas.remove(name);
@@ -89,9 +93,10 @@ void ConfStorage::removeDynamicConf(QString const &key)
 
 void ConfStorage::restoreDynamicConf(QString const &prefix)
 {
+    const QString start = prefix; // may stand in a class that goes meanwhile
     const QList<QString> keys = mConfValues.keys();
     for (const QString &key : keys) {
-        if (!key.startsWith(prefix))
+        if (!key.startsWith(start))
             continue;
         if (mPresetDynamicConfs.contains(key))
             setToDefault(key, true);

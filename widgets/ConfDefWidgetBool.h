@@ -10,6 +10,7 @@ namespace MtConf {
 class MALTO_EXPORT ConfDefWidgetBool : public ConfigItemWidget
 {
 public:
+    /// An editor of `item` inside `parent` that shows the stored value.
     ConfDefWidgetBool(ConfItem *item, QWidget *parent);
     /// Makes the editor: the `WidgetCreator` of this class.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);

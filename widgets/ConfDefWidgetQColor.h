@@ -11,6 +11,7 @@ class MALTO_EXPORT ConfDefWidgetQColor : public ConfigItemWidget
 {
     Q_OBJECT
 public:
+    /// An editor of `item` inside `parent` that shows the stored value.
     ConfDefWidgetQColor(ConfItem *item, QWidget *parent);
     /// Makes the editor: the `WidgetCreator` of this class.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);

@@ -17,6 +17,7 @@ class MALTO_EXPORT ConfWidgetLanguage : public ConfigItemWidget
 {
     Q_OBJECT
 public:
+    /// An editor of `item` inside `parent`; `loadConf` shows the stored value.
     ConfWidgetLanguage(ConfItem *item, QWidget *parent);
     /// Makes the editor: the `WidgetCreator` of this class.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);

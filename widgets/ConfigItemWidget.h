@@ -71,8 +71,8 @@ protected:
     /// The item's label in the current language.
     QString translatedText() const;
 
-    ConfItem *mItem;          ///< the edited item
-    QWidget *mLabel = nullptr;  ///< the caption; null until first asked for
+    ConfItem *mItem;           ///< the edited item
+    QPointer<QWidget> mLabel;  ///< the caption; null until first asked for
 
 private:
     QJsonValue mInitialValue;

@@ -11,6 +11,7 @@
 #include <QDebug>
 #include <QIcon>
 #include <QMessageBox>
+#include <QPersistentModelIndex>
 #include <QStandardItemModel>
 
 namespace MtConf {
@@ -25,8 +26,8 @@ QMap<QString, QChar> ConfigurationWindow::mIconMap;
 
 ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 {
-    if (sWindow && !sWindow->testAttribute(Qt::WA_DeleteOnClose))
-        sWindow->giveWay(); // closed in this turn of the event loop, and on its way out
+    if (sWindow && sWindow->isGoing())
+        sWindow->giveWay();
     if (ConfigurationWindow *window = ConfigurationWindow::instance()) {
         if (window->isMinimized())
             window->showNormal();
@@ -37,15 +38,17 @@ ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
         qCritical() << "ShowConfigurationWindow without a manager";
         return nullptr;
     }
-    auto *window = new ConfigurationWindow(manager);
-    window->show();
+    new ConfigurationWindow(manager);
+    ConfigurationWindow *window = ConfigurationWindow::instance(); // null: its own page closed it
+    if (window)
+        window->show();
     return window;
 }
 
 void setStaysOnTopHint(bool on)
 {
     ConfigurationWindow *window = ConfigurationWindow::instance();
-    if (!window)
+    if (!window || window->isGoing())
         return;
     SetWindowTopmost(window, on, OrvWindowTypeSettings);
     window->show();
@@ -77,22 +80,30 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
     retranslateUi();
 
-    const QModelIndex first = mClassModel->index(0, 0);
+    const QPersistentModelIndex first = mClassModel->index(0, 0);
+    const QPointer<ConfigurationWindow> self(this);
     mUi->configList->setCurrentIndex(first);
-    onClassItemClick(first);
+    if (self)
+        onClassItemClick(first);
 }
 
 ConfigurationWindow::~ConfigurationWindow()
 {
-    if (!sWindow || sWindow == this)
+    if (!mGaveWay)
         saveGeometryToFile();
     if (sWindow == this)
         sWindow = nullptr;
 }
 
+bool ConfigurationWindow::isGoing() const
+{
+    return !testAttribute(Qt::WA_DeleteOnClose) && !isVisible();
+}
+
 void ConfigurationWindow::giveWay()
 {
     saveGeometryToFile();
+    mGaveWay = true;
     sWindow = nullptr;
 }
 
@@ -109,8 +120,11 @@ void ConfigurationWindow::switchToView(QString className)
         if (index.data(ClassNameRole).toString() == className)
             found = index;
     }
-    mUi->configList->setCurrentIndex(found);
-    onClassItemClick(found);
+    const QPointer<ConfigurationWindow> self(this);
+    const QPersistentModelIndex index = found;
+    mUi->configList->setCurrentIndex(index);
+    if (self)
+        onClassItemClick(index);
 }
 
 void ConfigurationWindow::closeEvent(QCloseEvent *event)
@@ -153,7 +167,7 @@ void ConfigurationWindow::restoreAllDefault()
 bool ConfigurationWindow::confirm(const QString &question)
 {
     const QPointer<ConfigurationWindow> self(this);
-    auto *box = new QMessageBox(this);
+    const QPointer<QMessageBox> box(new QMessageBox(this));
     box->setIcon(QMessageBox::Question);
     // The first text never shows, but translators find it in their catalogues.
     box->setText(tr("Confirm"));
@@ -161,9 +175,10 @@ bool ConfigurationWindow::confirm(const QString &question)
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box->setDefaultButton(QMessageBox::Yes);
     const int answer = box->exec();
-    if (!self) // closed while the question stood: the box went with it
+    if (!self || !box) // closed while the question stood
         return false;
     box->deleteLater();
+    // Whatever is not a No is a Yes; closing the question counts as No.
     return answer != QMessageBox::No;
 }
 

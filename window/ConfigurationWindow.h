@@ -82,9 +82,12 @@ protected:
 
 private:
     friend MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
+    friend MALTO_EXPORT void setStaysOnTopHint(bool on);
 
     static constexpr int ClassNameRole = Qt::UserRole + 1;
 
+    /// Closed in this turn of the event loop, and about to be deleted.
+    bool isGoing() const;
     void giveWay();
     void initConfigClassList();
     void initAppearance();
@@ -115,6 +118,7 @@ private:
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
     bool mBuildingPage = false;
+    bool mGaveWay = false;
 };
 
 } // namespace MtConf

@@ -34,9 +34,7 @@ QString sheetSource(const QString &path, const QString &resource)
 /// Whether a geometry that was saved earlier lies well inside a screen of today.
 bool isInsideScreen(const QRect &geometry)
 {
-    const QPoint center((geometry.left() + geometry.right()) / 2,
-                        (geometry.top() + geometry.bottom()) / 2);
-    const QScreen *screen = QGuiApplication::screenAt(center);
+    const QScreen *screen = QGuiApplication::screenAt(geometry.center());
     return screen && screen->geometry().contains(geometry, true);
 }
 
@@ -80,9 +78,9 @@ void ConfigurationWindow::initAppearance()
 
 void ConfigurationWindow::applyDefaultGeometry()
 {
-    const QRect screen = OrvScreenManager::instance()->primaryScreen().rect;
-    const auto centerX = static_cast<float>((screen.left() + screen.right()) / 2);
-    const auto centerY = static_cast<float>((screen.top() + screen.bottom()) / 2);
+    const QPoint center = OrvScreenManager::instance()->primaryScreen().rect.center();
+    const auto centerX = static_cast<float>(center.x());
+    const auto centerY = static_cast<float>(center.y());
     const auto width = static_cast<float>(768 * mScale);
     const auto height = static_cast<float>(500 * mScale);
     setGeometry(qRound(centerX - width / 2), qRound(centerY - height / 2),
@@ -138,10 +136,15 @@ QString ConfigurationWindow::translatedName(const QString &name)
 void ConfigurationWindow::retranslateUi()
 {
     mUi->retranslateUi(this);
-    for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
+    // An editor of the host may open another page, or close the window.
+    const QPointer<ConfigurationWindow> self(this);
+    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
+    for (const QPointer<ConfigItemWidget> &editor : editors) {
         if (editor)
             editor->retranslateUi();
     }
+    if (!self)
+        return;
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
         row.key()->setText(translatedName(row.value()));
     for (QLabel *caption : qAsConst(mClassCaptions))

@@ -9,7 +9,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPersistentModelIndex>
-#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <algorithm>
@@ -30,9 +29,15 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
         QTimer::singleShot(0, this, [this, later] { onClassItemClick(later); });
         return;
     }
-    const QScopedValueRollback<bool> building(mBuildingPage, true);
+    // Building runs code of the host, which may take the window away.
+    const QPointer<ConfigurationWindow> self(this);
+    const QString className = index.data(ClassNameRole).toString();
+    mBuildingPage = true;
     clearConfigItem();
-    buildPage(index.data(ClassNameRole).toString());
+    if (self)
+        buildPage(className);
+    if (self)
+        mBuildingPage = false;
 }
 
 void ConfigurationWindow::buildPage(const QString &className)
@@ -42,9 +47,12 @@ void ConfigurationWindow::buildPage(const QString &className)
     mUi->btnRestoreDefault->setVisible(!(major.classFlag & ClassWithoutRestoreButton));
     if (!major.majorWidget) {
         addItemPage(className, major.classFlag);
-    } else if (QWidget *page = major.majorWidget(this)) {
-        mUi->layoutConfigItem->addWidget(page);
+        return;
     }
+    const QPointer<ConfigurationWindow> self(this);
+    QWidget *page = major.majorWidget(this);
+    if (self && page)
+        mUi->layoutConfigItem->addWidget(page);
 }
 
 void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
@@ -63,11 +71,15 @@ void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
             groupNames.append(item->name);
         group.append(item);
     }
+    const QPointer<ConfigurationWindow> self(this);
     if (!ungrouped.isEmpty())
         addClassItemWidgets(className, ungrouped, classFlag);
-    for (const QString &name : qAsConst(groupNames))
-        addClassItemWidgets(name, groups.value(name), classFlag);
-
+    for (const QString &name : qAsConst(groupNames)) {
+        if (self)
+            addClassItemWidgets(name, groups.value(name), classFlag);
+    }
+    if (!self)
+        return;
     mUi->layoutConfigItem->addItem(
         new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding));
     mUi->scrollArea->ensureVisible(0, 0, 50, 50);
@@ -97,10 +109,12 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
         grid->setProperty("SourceSpacing", sGridSpacing);
     }
 
+    const QPointer<QGroupBox> guard(box); // goes with the window
     for (int i = 0; i < items.size(); ++i) {
-        if (!isShown(items.at(i)) || !addItemWidget(items.at(i), box, grid))
-            continue;
-        if (i + 1 < items.size()) {
+        const bool added = isShown(items.at(i)) && guard && addItemWidget(items.at(i), box, grid);
+        if (!guard)
+            return;
+        if (added && i + 1 < items.size()) {
             auto *line = new QFrame(box);
             line->setProperty("class", QStringLiteral("SplitLine"));
             line->setFrameShape(QFrame::HLine);
@@ -115,14 +129,17 @@ bool ConfigurationWindow::isShown(ConfItem *item) const
 {
     if (!(item->flags & ItemIsFiltered))
         return true;
-    return mManager->itemFilter && mManager->itemFilter(*item);
+    const auto filter = mManager->itemFilter; // a copy: it may replace itself
+    return filter && filter(*item);
 }
 
 bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid)
 {
     // A text without an editor of its own stays out of the window.
-    ConfigItemWidget *editor = item->widgetCreator ? item->widgetCreator(item, box) : nullptr;
-    if (!editor)
+    const WidgetCreator creator = item->widgetCreator; // a copy: it may replace itself
+    const QPointer<QGroupBox> guard(box);
+    ConfigItemWidget *editor = creator ? creator(item, box) : nullptr;
+    if (!guard || !editor)
         return false;
     QWidget *caption = editor->label();
     const int row = grid->rowCount();

@@ -12,23 +12,24 @@ MtConfManage::~MtConfManage()
     // system left to take them from.
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
-    QList<ConfigurationWindow *> windows;
+    QList<QPointer<ConfigurationWindow>> windows;
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (QWidget *widget : widgets) {
         auto *window = qobject_cast<ConfigurationWindow *>(widget);
         if (window && window->manager() == this)
             windows.append(window);
     }
-    for (ConfigurationWindow *window : qAsConst(windows)) {
-        window->close();
+    for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
+        if (window)
+            window->close();
         delete window;
     }
 }
 
 ConfigurationWindow *MtConfManage::ShowWindow(QString majorName)
 {
-    ConfigurationWindow *window = ShowConfigurationWindow(this);
-    if (!majorName.isEmpty())
+    const QPointer<ConfigurationWindow> window(ShowConfigurationWindow(this));
+    if (window && !majorName.isEmpty())
         window->switchToView(majorName);
     return window;
 }

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void callbackMaySetItsOwnKey();
     void callbackThatSetsItsKeyWithoutEndIsStopped();
     void callbacksThatSetEachOtherWithoutEndAreStopped();
+    void callbacksThatMultiplyAreStoppedInTime();
     void callbackMayThrow();
     void callbackMayReplaceItself();
     void callbackMayReserveItsKeyAgain();
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void creatorMayRemoveItsClass();
     void removerMayRemoveTheClass();
     void removerMayRemoveItsKeyAgain();
+    void creatorMayCreateItsKeyAgain();
     void keyMayStandInTheMapThatChanges();
     void callbackMayRemoveOtherKeysWhileAClassIsRestored();
 
@@ -88,6 +90,18 @@ void tst_ConfStorageReentrancy::callbacksThatSetEachOtherWithoutEndAreStopped()
     const LogCapture log;
     mStore->set<int>(key(), 1);
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+}
+
+void tst_ConfStorageReentrancy::callbacksThatMultiplyAreStoppedInTime()
+{
+    mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *) {
+        mStore->set<int>(name, 1);
+        mStore->set<int>(name, 2); // without the stop, two to the power of two hundred calls
+    });
+    const LogCapture log;
+    mStore->set<int>(key(), 0);
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+    QCOMPARE(mSize, 2);
 }
 
 void tst_ConfStorageReentrancy::callbackMayThrow()
@@ -271,15 +285,30 @@ void tst_ConfStorageReentrancy::removerMayRemoveItsKeyAgain()
 {
     ConfStorage::DynamicConfClass cls;
     cls.prefix = "General.";
-    int calls = 0;
-    cls.remover = [&](QString name) {
-        if (++calls == 1)
-            mStore->removeDynamicConf(name);
-    };
+    cls.remover = [&](QString name) { mStore->removeDynamicConf(name); };
     mStore->mDynamicConfClasses = {&cls};
+    const LogCapture log;
     mStore->removeDynamicConf(key());
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::removeDynamicConf() key not found:  \"General.Size\""));
     QVERIFY(!mStore->mConfValues.contains(key()));
     QVERIFY(mStore->mRemovedDynamicConfs.contains(key()));
+}
+
+void tst_ConfStorageReentrancy::creatorMayCreateItsKeyAgain()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    cls.creator = [&](QString name, const QJsonValue *value) {
+        mStore->createDynamicConf(name, *value, nullptr);
+        mStore->reserveConf(name, &mSize);
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    const LogCapture log;
+    mStore->createDynamicConf("P.a", 1, nullptr);
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::createDynamicConf() key already exists:  \"P.a\""));
+    QVERIFY(mStore->mConfValues.contains("P.a"));
 }
 
 void tst_ConfStorageReentrancy::keyMayStandInTheMapThatChanges()
