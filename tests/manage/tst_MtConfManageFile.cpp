@@ -43,6 +43,8 @@ private Q_SLOTS:
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
     void itemsReorderedByACallbackAreFound();
     void listGivenAwayByACallbackIsReadAgain();
+    void managerMayBeDestroyedByACallbackOfALoad();
+    void managerMayBeDestroyedByTheRestoreHook();
     void saveToFile_writesTheStoresLocalFile();
     void restoreAllDefault_callsTheHookFirstThenEveryItemInOrder();
     void restoreAllDefault_needsNoHook();
@@ -272,6 +274,29 @@ void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
     mManager->_loadFromFile(path());
     QCOMPARE(y, 0);
     QCOMPARE(z, 3);
+}
+
+void tst_MtConfManageFile::managerMayBeDestroyedByACallbackOfALoad()
+{
+    int a = 0, z = 0;
+    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mManager.reset();
+    });
+    declare(&z, "z");
+    writeFile(QJsonObject{{"General.a", 1}, {"General.z", 2}});
+    mManager->loadFromFile(path());
+    QVERIFY(!mManager);
+    QCOMPARE(a, 1);
+    QCOMPARE(z, 0);
+}
+
+void tst_MtConfManageFile::managerMayBeDestroyedByTheRestoreHook()
+{
+    int a = 0;
+    declare(&a, "a");
+    mManager->restoreAllHook = [&] { mManager.reset(); };
+    mManager->restoreAllDefault();
+    QVERIFY(!mManager);
 }
 
 void tst_MtConfManageFile::saveToFile_writesTheStoresLocalFile()

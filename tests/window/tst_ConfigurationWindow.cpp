@@ -42,6 +42,7 @@ private Q_SLOTS:
     void questionsAreAsked_data();
     void questionsAreAsked();
     void windowClosedUnderTheQuestionChangesNothing();
+    void questionThatTheHostDeletesChangesNothing();
     void pageRebuiltUnderTheQuestionIsRestored();
     void callbackMayOpenAnotherPageWhileThePageIsRestored();
     void closingSavesTheLocalFile();
@@ -280,6 +281,15 @@ void tst_ConfigurationWindow::windowClosedUnderTheQuestionChangesNothing()
     QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(),
                                      [](QMessageBox *) { delete WindowFixture::window(); }));
     QVERIFY(!mFixture->window());
+    QVERIFY(!mFirst);
+}
+
+void tst_ConfigurationWindow::questionThatTheHostDeletesChangesNothing()
+{
+    change();
+    mFixture->open();
+    QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(),
+                                     [](QMessageBox *box) { delete box; }));
     QVERIFY(!mFirst);
 }
 

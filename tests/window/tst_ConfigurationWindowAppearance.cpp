@@ -139,6 +139,8 @@ void tst_ConfigurationWindowAppearance::savedGeometry_data()
     QTest::newRow("touches the bottom edge")
         << QRect(10, screen.bottom() - 479, 640, 480) << false;
     QTest::newRow("outside of every screen") << QRect(100000, 100000, 640, 480) << false;
+    QTest::newRow("as far as integers go")
+        << QRect(QPoint(1, 1), QPoint(2147483647, 2147483647)) << false;
     QTest::newRow("empty") << QRect() << false;
     QTest::newRow("turned inside out") << QRect(QPoint(500, 500), QPoint(100, 100)) << false;
 }

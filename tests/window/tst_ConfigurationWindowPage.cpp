@@ -45,6 +45,9 @@ private Q_SLOTS:
     void callbackMayOpenAnotherPage_fromASpinBox();
     void callbackMayCloseTheWindow();
     void factoryMayAskForAnotherPage();
+    void factoryMayDeleteTheWindow_data();
+    void factoryMayDeleteTheWindow();
+    void filterAndFactoryMayReplaceThemselves();
     void hostMayDeleteAnEditorItself();
 
 private:
@@ -387,6 +390,66 @@ void tst_ConfigurationWindowPage::factoryMayAskForAnotherPage()
     QVERIFY(mFixture->open());
     QTRY_VERIFY(other->editor);
     QCOMPARE(mFixture->captions(), QStringList("Other"));
+}
+
+void tst_ConfigurationWindowPage::factoryMayDeleteTheWindow_data()
+{
+    QTest::addColumn<QString>("where");
+    QTest::newRow("custom page") << "page";
+    QTest::newRow("filter") << "filter";
+    QTest::newRow("editor") << "editor";
+}
+
+void tst_ConfigurationWindowPage::factoryMayDeleteTheWindow()
+{
+    QFETCH(QString, where);
+    addBool("first", "", "First");
+    ConfItem *item = addBool("a");
+    addBool("b");
+    addBool("c", "Group");
+    if (where == "page") {
+        mFixture->manager->setMajorWidget("General", [](QWidget *) -> QWidget * {
+            delete WindowFixture::window();
+            return nullptr;
+        });
+    } else if (where == "filter") {
+        item->flags = 0x1;
+        mFixture->manager->itemFilter = [](ConfItem &) {
+            delete WindowFixture::window();
+            return true;
+        };
+    } else {
+        item->widgetCreator = [](ConfItem *, QWidget *) -> ConfigItemWidget * {
+            delete WindowFixture::window();
+            return nullptr;
+        };
+    }
+    mFixture->open();
+    QVERIFY(!mFixture->manager->ShowWindow("General"));
+    QVERIFY(!mFixture->window());
+    // Also when it is the first page, built by the constructor.
+    mFixture->manager->majorItems.move(1, 0);
+    QVERIFY(!mFixture->manager->ShowWindow());
+}
+
+void tst_ConfigurationWindowPage::filterAndFactoryMayReplaceThemselves()
+{
+    ConfItem *item = addBool("a");
+    item->flags = 0x1;
+    const QString captured(1000, 'c');
+    QStringList seen;
+    mFixture->manager->itemFilter = [&, captured](ConfItem &) {
+        mFixture->manager->itemFilter = nullptr;
+        seen << captured;
+        return true;
+    };
+    item->widgetCreator = [&, captured](ConfItem *edited, QWidget *) -> ConfigItemWidget * {
+        edited->widgetCreator = nullptr;
+        seen << captured;
+        return nullptr;
+    };
+    mFixture->open();
+    QCOMPARE(seen.count(captured), 2);
 }
 
 void tst_ConfigurationWindowPage::hostMayDeleteAnEditorItself()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void managerTakesClosedWindowsAlongToo();
     void closingWithoutAWindowDoesNothing();
     void stayOnTopWithoutAWindowDoesNothing();
+    void stayOnTopLeavesAClosedWindowClosed();
     void stayOnTopKeepsPlaceAndVisibility();
     void windowOfAnotherManagerStays();
     void managerTakesItsWindowAlong();
@@ -119,6 +120,15 @@ void tst_MtConfManageWindow::stayOnTopWithoutAWindowDoesNothing()
     mFixture->manager->setWindowStayOnTop(true);
     MtConf::setStaysOnTopHint(false);
     QVERIFY(!ConfigurationWindow::instance());
+}
+
+void tst_MtConfManageWindow::stayOnTopLeavesAClosedWindowClosed()
+{
+    const QPointer<ConfigurationWindow> window = mFixture->open();
+    mFixture->manager->closeConfigWindow();
+    mFixture->manager->setWindowStayOnTop(false);
+    QVERIFY(!window->isVisible());
+    QTRY_VERIFY(!window);
 }
 
 void tst_MtConfManageWindow::stayOnTopKeepsPlaceAndVisibility()

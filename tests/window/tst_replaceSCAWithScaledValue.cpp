@@ -34,6 +34,7 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
                                << "SCA() SCA(x) SCA(-1) SCA(1.5)";
     QTest::newRow("no closing parenthesis") << "SCA(12" << 2.0f << "SCA(12";
     QTest::newRow("nested") << "SCA(SCA(1))" << 2.0f << "SCA(2)";
+    QTest::newRow("product beyond an int counts as none") << "SCA(2147483647)" << 4.0f << "0";
     QTest::newRow("digits beyond an int count as none") << "SCA(99999999999)" << 2.0f << "0";
 }
 
