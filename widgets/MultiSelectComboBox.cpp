@@ -22,7 +22,8 @@ QString elided(const QString &text, int length)
     return text.size() > length ? text.left(length) + QLatin1String("...") : text;
 }
 
-/// Gives each row the height of its check box, which a list view does not ask by itself.
+/// Gives each row the height of its check box, which a list view does not ask by itself, and a
+/// background on which the check box can be read.
 class CheckBoxRowDelegate : public QStyledItemDelegate
 {
 public:
@@ -33,6 +34,18 @@ public:
         const QSize size = QStyledItemDelegate::sizeHint(option, index);
         const QWidget *box = mList->indexWidget(index);
         return box ? size.expandedTo(box->sizeHint()) : size;
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!mList->indexWidget(index))
+            return;
+        // A check box does not know that its row is highlighted, and keeps the colour of its text.
+        QColor tint = option->palette.color(QPalette::Highlight);
+        tint.setAlphaF(0.25);
+        option->palette.setColor(QPalette::Highlight, tint);
     }
 
 private:

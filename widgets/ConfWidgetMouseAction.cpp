@@ -1,0 +1,228 @@
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
+
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+
+#include <QIconfont/QIconfont.h>
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListView>
+#include <QStyle>
+
+namespace MtConf {
+
+namespace {
+
+constexpr QChar sErrorGlyph{0xe70d};
+constexpr QChar sNoneGlyph{0xe63a};
+constexpr QChar sWarningGlyph{0xe71b};
+constexpr QChar sCorrectGlyph{0xe725};
+
+constexpr int sActionBits = 0xffff;
+constexpr int sLeftClick = 1;
+
+struct MouseAction
+{
+    int kind;
+    int value;
+    const char *text;
+};
+
+constexpr int sAnyKind = -1;
+
+constexpr MouseAction sActions[] = {
+    {sAnyKind, 0, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "None")},
+    {1, sLeftClick, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Left Click")},
+    {1, 2, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Left Double Click")},
+    {1, 4, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Right Click")},
+    {1, 8, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Right Double Click")},
+    {1, 16, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Middle Click")},
+    {1, 32, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Middle Double Click")},
+    {0, 64, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Wheel")},
+    {2, 128, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Left Drag")},
+    {2, 256, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Right Drag")},
+    {2, 512, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Middle Drag")},
+};
+
+/// What a gesture takes for itself: a double click begins with a click, so each of the two takes
+/// both.
+int conflictKey(int value)
+{
+    for (const int clickAndDoubleClick : {3, 12, 48}) {
+        if (value & clickAndDoubleClick)
+            value |= clickAndDoubleClick;
+    }
+    return value;
+}
+
+} // namespace
+
+QList<ConfWidgetMouseAction *> ConfWidgetMouseAction::sConflictList;
+
+ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, int kind)
+    : ConfigItemWidget(item, parent), mModifierBox(new MultiSelectComboBox(this)),
+      mActionBox(new ComboboxDisableWheel(this)), mStateLabel(new QLabel(this))
+{
+    mModifierBox->addItem(QStringLiteral("⇧"), static_cast<int>(Qt::ShiftModifier));
+    mModifierBox->addItem(QStringLiteral("⌘"), static_cast<int>(Qt::ControlModifier));
+    mModifierBox->addItem(QStringLiteral("⌥"), static_cast<int>(Qt::AltModifier));
+    mModifierBox->addItem(QStringLiteral("⌃"), static_cast<int>(Qt::MetaModifier));
+    // Style sheets reach the rows of this view only, not those of the native one.
+    mActionBox->setView(new QListView(mActionBox));
+    addActions(kind);
+    auto *plus = new QLabel(QStringLiteral("+"), this);
+    mStateLabel->setProperty("class", QStringLiteral("CorrectIcon"));
+    mStateLabel->setText(sCorrectGlyph);
+    // The label's style sheet names the icon font, which any use makes known.
+    QIconfont::Icon(sCorrectGlyph, Qt::black, 1, QMargins());
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget *widget : {static_cast<QWidget *>(mModifierBox), static_cast<QWidget *>(plus),
+                            static_cast<QWidget *>(mActionBox)}) {
+        widget->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
+        layout->addWidget(widget);
+    }
+    layout->addWidget(mStateLabel);
+    mModifierBox->setAccessibleName(translatedText());
+    mActionBox->setAccessibleName(translatedText());
+
+    // Connected after the first load, which so writes nothing back.
+    loadConf();
+    connect(mActionBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
+            this, &ConfWidgetMouseAction::onCurrentIndexChanged);
+    connect(mModifierBox, &MultiSelectComboBox::selectionChanged,
+            this, &ConfWidgetMouseAction::onCurrentIndexChanged);
+    sConflictList.append(this);
+    refreshConflictState();
+}
+
+ConfWidgetMouseAction::~ConfWidgetMouseAction()
+{
+    sConflictList.removeAll(this);
+    if (!isWriting())
+        return;
+    // A callback of the host deletes this editor while one of its boxes is handling the click.
+    for (QComboBox *box : {static_cast<QComboBox *>(mModifierBox),
+                           static_cast<QComboBox *>(mActionBox)}) {
+        box->disconnect(this);
+        box->hide();
+        box->setParent(nullptr);
+        box->deleteLater();
+    }
+}
+
+void ConfWidgetMouseAction::addActions(int kind)
+{
+    for (const MouseAction &action : sActions) {
+        if (action.kind == sAnyKind || action.kind == kind)
+            mActionBox->addItem(tr(action.text), action.value);
+    }
+}
+
+void ConfWidgetMouseAction::loadConf()
+{
+    const int stored = readValue<int>();
+    // Each control that changes stores what the controls show until then; the last one stores what
+    // was read here. A callback may delete the editor at each of them.
+    const QPointer<ConfWidgetMouseAction> self(this);
+    for (int i = 0; self && i < mModifierBox->count(); ++i) {
+        bool checked = false;
+        QVariant flag;
+        mModifierBox->getItemData(i, checked, flag);
+        mModifierBox->setItemChecked(i, (flag.toInt() & ~stored) == 0);
+    }
+    if (!self)
+        return;
+    mCurrentValue = stored;
+    mActionBox->setCurrentIndex(mActionBox->findData(stored & sActionBits, Qt::UserRole));
+    if (self)
+        refreshLabelState();
+}
+
+void ConfWidgetMouseAction::onCurrentIndexChanged()
+{
+    int value = mActionBox->currentData().toInt();
+    for (int i = 0; i < mModifierBox->count(); ++i) {
+        bool checked = false;
+        QVariant flag;
+        mModifierBox->getItemData(i, checked, flag);
+        if (checked)
+            value |= flag.toInt();
+    }
+    mCurrentValue = value;
+    // The left click alone would take every click from the host: it is shown as an error, and what
+    // was stored before stays in force.
+    if (value == sLeftClick || storeValue(value))
+        refreshLabelState();
+    // The others are still there when a callback has deleted this editor.
+    refreshAllConflictState();
+}
+
+void ConfWidgetMouseAction::refreshConflictState()
+{
+    // In the context of the hosts' labels, one of which the conflict names.
+    if (mCurrentValue == sLeftClick) {
+        showState(QStringLiteral("ErrorIcon"), sErrorGlyph,
+                  QObject::tr("Cannot set left-click separately"));
+    } else if ((mCurrentValue & sActionBits) == 0) {
+        showState(QStringLiteral("NoneIcon"), sNoneGlyph, QObject::tr("No set"));
+    } else if (const ConfWidgetMouseAction *other = firstConflict()) {
+        showState(QStringLiteral("WarningIcon"), sWarningGlyph,
+                  QObject::tr("Conflict with %1").arg(other->translatedText()));
+    } else {
+        showState(QStringLiteral("CorrectIcon"), sCorrectGlyph, QString());
+    }
+}
+
+const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const
+{
+    const int key = conflictKey(mCurrentValue);
+    for (const ConfWidgetMouseAction *other : qAsConst(sConflictList)) {
+        if (other == this)
+            continue;
+        // The stored value is the one in force; the controls may show a left click alone.
+        const int otherKey = conflictKey(other->readValue<int>());
+        if ((otherKey & sActionBits) != 0 && otherKey == key)
+            return other;
+    }
+    return nullptr;
+}
+
+void ConfWidgetMouseAction::refreshAllConflictState()
+{
+    for (ConfWidgetMouseAction *widget : qAsConst(sConflictList))
+        widget->refreshConflictState();
+}
+
+void ConfWidgetMouseAction::showState(const QString &styleClass, const QChar &glyph,
+                                      const QString &toolTip)
+{
+    // Each state has its own glyph, so a label with the right one is left alone, with its tool tip:
+    // a conflict that moves on to another item keeps naming the first.
+    if (mStateLabel->text() == glyph)
+        return;
+    mStateLabel->setProperty("class", styleClass);
+    mStateLabel->setText(glyph);
+    mStateLabel->setToolTip(toolTip);
+    mStateLabel->style()->unpolish(mStateLabel);
+    mStateLabel->style()->polish(mStateLabel);
+}
+
+void ConfWidgetMouseAction::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        mModifierBox->setAccessibleName(translatedText());
+        mActionBox->setAccessibleName(translatedText());
+        for (const MouseAction &action : sActions) {
+            const int index = mActionBox->findData(action.value, Qt::UserRole);
+            if (index >= 0)
+                mActionBox->setItemText(index, tr(action.text));
+        }
+    }
+    ConfigItemWidget::changeEvent(event);
+}
+
+} // namespace MtConf

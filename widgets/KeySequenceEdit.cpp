@@ -1,0 +1,171 @@
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
+
+#include <OrvUtils/GetKeySequence.h>
+#include <OrvUtils/QMsgeBox.h>
+#include <QIconfont/QIconfont.h>
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QPointer>
+
+namespace {
+
+constexpr QChar sClearGlyph{0xe70d};
+
+bool isModifierKey(int key)
+{
+    // The four follow each other: Shift, Control, Meta, Alt.
+    return (key & ~0x3) == Qt::Key_Shift;
+}
+
+/// Whether `sequence` is one key that people need for typing. The modifiers of a chord belong to
+/// its key code, so a key that is held with any of them is not simple.
+bool isSimple(const QKeySequence &sequence)
+{
+    if (sequence.isEmpty() || sequence.count() > 1)
+        return false;
+    // A key is no rarer for standing on the keypad.
+    const int key = sequence[0] & ~static_cast<int>(Qt::KeypadModifier);
+    return (key >= Qt::Key_Escape && key <= Qt::Key_Delete)
+           || (key >= Qt::Key_Left && key <= Qt::Key_ScrollLock)
+           || (key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde);
+}
+
+} // namespace
+
+KeySequenceEdit::KeySequenceEdit(QKeySequence sequence, QWidget *parent)
+    : QLineEdit(parent), mKeySequence(std::move(sequence))
+{
+    setReadOnly(true);
+    setAlignment(Qt::AlignCenter);
+    setProperty("class", QStringLiteral("KeySequenceEdit"));
+    const QIcon icon = QIconfont::Icon(sClearGlyph, QColor(255, 85, 85), 24, QMargins());
+    mClearAction = addAction(icon, QLineEdit::TrailingPosition);
+    mClearAction->setText(QString());
+    connect(mClearAction, &QAction::triggered, this, &KeySequenceEdit::cleanSetting);
+    retranslate();
+    showSequence();
+}
+
+QString KeySequenceEdit::QKeySeqToStr(const QKeySequence &sequence)
+{
+    QString text;
+    if (sequence == QKeySequence(Qt::Key_Alt))
+        text = QStringLiteral("⌥");
+    else if (sequence == QKeySequence(Qt::Key_Control))
+        text = QStringLiteral("⌘");
+    else if (sequence == QKeySequence(Qt::Key_Shift))
+        text = QStringLiteral("⇧");
+    else if (sequence == QKeySequence(Qt::Key_Meta))
+        text = QStringLiteral("⌃");
+    else
+        text = sequence.toString(QKeySequence::NativeText);
+    // Num is the keypad, not a key that is held.
+    return text.replace(QLatin1String("Num+"), QLatin1String("Num "));
+}
+
+void KeySequenceEdit::setKeySequence(QKeySequence sequence)
+{
+    if (sequence == mKeySequence)
+        return;
+    if (!allowSimpleHotkey && isSimple(sequence)) {
+        refuse(sequence);
+        return;
+    }
+    mKeySequence = sequence;
+    showSequence();
+    Q_EMIT sigKeySequenceChanged(sequence);
+}
+
+void KeySequenceEdit::cleanSetting()
+{
+    setKeySequence(QKeySequence());
+}
+
+void KeySequenceEdit::refreshClearButton()
+{
+    mClearAction->setVisible(!mKeySequence.isEmpty());
+}
+
+bool KeySequenceEdit::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        // Keys that are shortcuts of the window are to be recorded, not carried out.
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && isEnabled()) {
+        // Tab moves the focus also with Meta unless it gets around Qt.
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+            keyPressEvent(key);
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void KeySequenceEdit::keyPressEvent(QKeyEvent *event)
+{
+    // The line edit never sees a key: typing records and does not edit.
+    mLastKey = event->key();
+    if (isModifierKey(mLastKey) || mLastKey == 0 || mLastKey == Qt::Key_unknown)
+        return;
+    record(GetKeySequence(event));
+}
+
+void KeySequenceEdit::keyReleaseEvent(QKeyEvent *event)
+{
+    // A modifier counts alone only when no other key was pressed after it and nothing is held now.
+    if (event->modifiers() == Qt::NoModifier && event->key() == mLastKey && allowSingleModifier
+        && isModifierKey(mLastKey))
+        record(QKeySequence(mLastKey));
+}
+
+void KeySequenceEdit::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QLineEdit::changeEvent(event);
+}
+
+void KeySequenceEdit::record(const QKeySequence &sequence)
+{
+    if (sequence == mKeySequence)
+        return;
+    if (keySequenceFilter) {
+        // The filter is the host's: it may replace itself, and delete the editor.
+        const auto filter = keySequenceFilter;
+        const QPointer<KeySequenceEdit> self(this);
+        if (!filter(this, sequence) || !self)
+            return;
+    }
+    setKeySequence(sequence);
+}
+
+void KeySequenceEdit::refuse(const QKeySequence &sequence)
+{
+    // On the heap: the editor, and with it the box, may be deleted while the box is open.
+    const QPointer<QMsgeBox> box = new QMsgeBox(this);
+    box->setText(tr("Shortkey [%1] is too simple.\nTo avoid conflicts with other functions and "
+                    "prevent accidental activations, please set a more complex hotkey "
+                    "combination.\n\nIf you need to set simple shortcuts, go to the [System] "
+                    "Settings page and check [Allow simple global hotkeys].")
+                     .arg(QKeySeqToStr(sequence)));
+    box->setIcon(QMessageBox::Warning);
+    box->exec();
+    if (box)
+        box->deleteLater();
+}
+
+void KeySequenceEdit::retranslate()
+{
+    setPlaceholderText(tr("Press shortcut key"));
+    mClearAction->setToolTip(tr("Clear shortcut key"));
+}
+
+void KeySequenceEdit::showSequence()
+{
+    setText(QKeySeqToStr(mKeySequence));
+    refreshClearButton();
+}
