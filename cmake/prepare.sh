@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: installs what is missing, configures and builds.
+# Sourced by ./run, ./test and ./bench: installs what is missing, configures and builds.
 
 say() { printf '%s\n' "$*" >&2; }
 
