@@ -17,7 +17,9 @@ MessageLog::MessageLog(QObject *parent) : QObject(parent)
     const QtMessageHandler previous = qInstallMessageHandler(&MessageLog::handle);
     const QMutexLocker lock(&sMutex);
     sLog = this;
-    sPrevious = previous;
+    // Somebody who put a handler on top of an earlier log may have brought ours back since.
+    if (previous != &MessageLog::handle)
+        sPrevious = previous;
 }
 
 MessageLog::~MessageLog()

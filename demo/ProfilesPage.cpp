@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -25,7 +26,14 @@ constexpr int sLargestSide = 16384; // pixels
 QIcon swatch(const QColor &color, int size)
 {
     QPixmap pixmap(size, size);
-    pixmap.fill(color);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // White around it, or the accent would not be seen in the selected row.
+    painter.setPen(QPen(Qt::white, qMax(1, size / 8)));
+    painter.setBrush(color);
+    painter.drawEllipse(pixmap.rect().adjusted(1, 1, -1, -1));
+    painter.end();
     QIcon icon(pixmap);
     // Qt would tint the colour of the selected row.
     icon.addPixmap(pixmap, QIcon::Selected);

@@ -24,6 +24,7 @@ StoredDataPage::StoredDataPage(const SettingsWatcher &watcher, QWidget *parent)
     mPath->setTextFormat(Qt::PlainText);
     mPath->setTextInteractionFlags(Qt::TextSelectableByMouse);
     mPath->setWordWrap(true);
+    mPath->setStyleSheet(QStringLiteral("font-size: 12pt;"));
     mText->setObjectName(QStringLiteral("storedData"));
     mText->setReadOnly(true);
     mText->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -46,7 +47,7 @@ void StoredDataPage::refresh()
 {
     const QJsonObject stored = ConfStorage::instance()->dumpConf(ConfStorage::DumpLocal);
     const QString text = stored.isEmpty() ? QString()
-                                        : QString::fromUtf8(QJsonDocument(stored).toJson());
+                                          : QString::fromUtf8(QJsonDocument(stored).toJson());
     if (text == mText->toPlainText())
         return;
     const int position = mText->verticalScrollBar()->value();

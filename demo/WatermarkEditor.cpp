@@ -51,7 +51,7 @@ void WatermarkEditor::loadConf()
 void WatermarkEditor::retranslateUi()
 {
     ConfigItemWidget::retranslateUi();
-    mText->setPlaceholderText(tr("None"));
+    mText->setPlaceholderText(tr("No watermark"));
     mOpacity->setToolTip(tr("Opacity"));
 }
 

@@ -148,11 +148,12 @@ void declareAdvanced(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show expert settings"), &s.showExpert, page, QStringLiteral("ShowExpert"));
     range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Steps that can be undone"), &s.undoSteps, page, QStringLiteral("UndoSteps")), 1, 500);
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Bring pinned pictures back at start"), &s.restorePins, page, QStringLiteral("RestorePins"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Write a log file"), &s.logToFile, page, QStringLiteral("LogToFile"));
     expert(range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Cache (MB)"), &s.cacheSize, page, QStringLiteral("CacheSize")), 16, 4096));
     expert(range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Threads that compress"), &s.workerThreads, page, QStringLiteral("Threads")), 1, 16));
     expert(m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Draw with the graphics card"), &s.hardwareDrawing, page, QStringLiteral("HardwareDrawing")));
     expert(m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show times of drawing"), &s.debugOverlay, page, QStringLiteral("DebugOverlay")));
+    // Last, and always there: the window rules a line under every other setting.
+    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Write a log file"), &s.logToFile, page, QStringLiteral("LogToFile"));
     m.setConfigClassFlag(page, MtConf::ClassWithoutGroupBoxes);
     m.itemFilter = [&s](ConfItem &) { return s.showExpert; };
 }

@@ -4,7 +4,7 @@
 #include "MessageLog.h"
 #include "takePictures.h"
 
-#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QApplication>
 #include <QDir>
@@ -64,6 +64,7 @@ int drawPictures(const DemoArguments &arguments)
             session.chooseLanguage(arguments.language);
         MainWindow window(session, log);
         error = takePictures(session, window, arguments.picturesFolder);
+        ConfStorage::instance()->mChanged = false; // so that closing the window saves nothing
     }
     QDir::setCurrent(QDir::rootPath()); // the folder cannot go while we are in it
     return error.isEmpty() ? 0 : fail(error);

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "demo/DemoSession.h"
+#include "support/CleanStore.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <memory>
+
+/// One run of the program after the other, against real files in the working directory.
+class DemoFixture
+{
+public:
+    DemoFixture()
+    {
+        clearStore();
+        const QStringList left = QDir().entryList(QDir::Files);
+        for (const QString &file : left)
+            QFile::remove(file);
+    }
+    ~DemoFixture()
+    {
+        session.reset();
+        clearStore();
+    }
+    Q_DISABLE_COPY(DemoFixture)
+
+    /// Ends the running session, if there is one, and starts the program again.
+    void start(const QString &configFile = QString())
+    {
+        session.reset();
+        QVERIFY(!MtConf::ConfigurationWindow::instance());
+        clearStore();
+        session = std::make_unique<DemoSession>(localFile());
+        session->load(configFile);
+    }
+
+    static QString localFile() { return QDir::current().filePath(QStringLiteral("settings.json")); }
+    const Settings &settings() const { return session->settings(); }
+    static MtConf::ConfigurationWindow *window() { return MtConf::ConfigurationWindow::instance(); }
+
+    /// Opens the settings window, or shows the page in it.
+    bool open(const QString &page) const
+    {
+        return QTest::qWaitForWindowExposed(session->manager().ShowWindow(page));
+    }
+    /// Closes the window as a person does, which saves.
+    static bool close()
+    {
+        window()->close();
+        return QTest::qWaitFor([] { return !window(); });
+    }
+
+    /// Clicks the class of that name in the list.
+    static void clickClass(const QString &name)
+    {
+        auto *list = child<QListView>("configList");
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            const QModelIndex index = list->model()->index(row, 0);
+            if (index.data().toString() == name)
+                QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                                  list->visualRect(index).center());
+        }
+    }
+
+    MtConf::ConfigItemWidget *editor(const char *page, const char *name, const char *sub = "") const
+    {
+        const auto *item = session->manager().getItemByName(
+            QLatin1String(page), QLatin1String(name), QLatin1String(sub));
+        return item ? item->editor : nullptr;
+    }
+    QCheckBox *checkBox(const char *page, const char *name, const char *sub = "") const
+    {
+        return qobject_cast<QCheckBox *>(editor(page, name, sub)->label());
+    }
+    template<class Control> static Control *control(QWidget *editor)
+    {
+        return editor->findChild<Control *>();
+    }
+    template<class Widget> static Widget *child(const char *name)
+    {
+        return window()->findChild<Widget *>(QLatin1String(name));
+    }
+
+    static void click(QCheckBox *box)
+    {
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(10, box->height() / 2));
+    }
+    /// Types over what the control holds.
+    template<class Control> static void type(Control *control, const QString &text)
+    {
+        control->setFocus();
+        control->selectAll();
+        QTest::keyClicks(control, text);
+        QTest::keyClick(control, Qt::Key_Tab);
+    }
+
+    std::unique_ptr<DemoSession> session;
+};
