@@ -14,9 +14,12 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 #include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>

@@ -57,6 +57,16 @@ public:
     ConfItem *addConfQFont(const char *text, QFont *value, const QString &majorName,
                            const QString &name, const QString &subName = QString(),
                            WidgetCreator creator = WidgetCreator());
+    /// Declares a hotkey, recorded from the keyboard. The item's property "Shortcut" holds the
+    /// `QxtGlobalShortcut *` that registers it with the system; without one the editor stores nothing.
+    ConfItem *addConfQKeySequence(const char *text, QKeySequence *value, const QString &majorName,
+                                  const QString &name, const QString &subName = QString(),
+                                  WidgetCreator creator = WidgetCreator());
+    /// Declares a mouse gesture: an action in the low 16 bits and `Qt::KeyboardModifier` bits above.
+    /// `mode` chooses the actions to offer: 0 the wheel, 1 clicks, 2 drags. Each operating system
+    /// keeps a gesture of its own.
+    void addConfMouseAction(const char *text, int *value, int mode, const QString &majorName,
+                            const QString &name, const QString &subName = QString());
     /// Declares the language of the interface, kept as its code, and remembers it as
     /// `languageItem`. A change installs the translators and emits `sigLanguageChange`.
     void addConfLanguage(const char *text, QString *value, const QString &majorName,

@@ -5,8 +5,10 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
 #include <QPointer>
 
@@ -60,6 +62,25 @@ ConfItem *MtConfManage::addConfQFont(const char *text, QFont *value, const QStri
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfDefWidgetQFont::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfQKeySequence(const char *text, QKeySequence *value,
+                                            const QString &majorName, const QString &name,
+                                            const QString &subName, WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfDefWidgetQKeySequence::CreatConfWidget);
+}
+
+void MtConfManage::addConfMouseAction(const char *text, int *value, int mode,
+                                      const QString &majorName, const QString &name,
+                                      const QString &subName)
+{
+    const ConfItem *item = addConfInt32(text, value, majorName, name, subName,
+                                        [mode](ConfItem *edited, QWidget *parent) {
+                                            return new ConfWidgetMouseAction(edited, parent, mode);
+                                        });
+    item->setFlagSystemIndependent();
 }
 
 void MtConfManage::addConfLanguage(const char *text, QString *value, const QString &majorName,

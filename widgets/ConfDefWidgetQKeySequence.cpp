@@ -38,6 +38,8 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
     watchShortcut(mItem->properties[shortcutKey()].value<QxtGlobalShortcut *>());
     layout->addWidget(mKeySequenceEdit);
     layout->addWidget(mStateButton);
+    // A style sheet's min-height lets buttons shrink, which here would cut the glyph.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     mKeySequenceEdit->setAccessibleName(translatedText());
     refreshState();
 }

@@ -7,7 +7,9 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
 #include <QComboBox>
 #include <QSignalSpy>
@@ -28,6 +30,8 @@ private Q_SLOTS:
     void textHasNoEditorOfItsOwn();
     void givenFactoryGoesBeforeTheDefaultOne();
     void startAtLoginIsASwitchWhoseChangesAreApplied();
+    void mouseActionIsKeptForEachSystem();
+    void hotkeyHasItsOwnEditor();
     void languageIsRememberedAndItsChangesAreAnnounced();
     void languageOfADestroyedManagerIsOnlyStored();
     void choicesOfATextAreShownAsTheyAre();
@@ -138,6 +142,30 @@ void tst_MtConfManage::startAtLoginIsASwitchWhoseChangesAreApplied()
     QVERIFY(ConfStorage::instance()->mConfMetas.value("General.AutoRun").changedCallback);
     ConfStorage::instance()->set<bool>("General.AutoRun", true);
     QVERIFY(autoRun);
+}
+
+void tst_MtConfManage::mouseActionIsKeptForEachSystem()
+{
+    int gesture = 64;
+    makeManager()->addConfMouseAction("Zoom", &gesture, 0, "Mouse", "Zoom");
+    QCOMPARE(ConfStorage::instance()->mConfMetas.value("Mouse.Zoom").flags, 3u);
+    ConfItem *item = mManager->getItemByName("Mouse", "Zoom", "");
+    const std::unique_ptr<ConfigItemWidget> editor(item->widgetCreator(item, &mParent));
+    QVERIFY(qobject_cast<MtConf::ConfWidgetMouseAction *>(editor.get()));
+    QStringList actions;
+    for (const QComboBox *box : editor->findChildren<QComboBox *>()) {
+        if (box->findText("Wheel") >= 0)
+            actions << box->itemText(0) << box->itemText(1);
+    }
+    QCOMPARE(actions, (QStringList{"None", "Wheel"}));
+}
+
+void tst_MtConfManage::hotkeyHasItsOwnEditor()
+{
+    QKeySequence keys;
+    ConfItem *item = makeManager()->addConfQKeySequence("Capture", &keys, "Hotkeys", "Capture");
+    const std::unique_ptr<ConfigItemWidget> editor(item->widgetCreator(item, &mParent));
+    QVERIFY(qobject_cast<MtConf::ConfDefWidgetQKeySequence *>(editor.get()));
 }
 
 void tst_MtConfManage::languageIsRememberedAndItsChangesAreAnnounced()

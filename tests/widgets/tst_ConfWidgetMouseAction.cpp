@@ -1,0 +1,740 @@
+#include "support/EditorFixture.h"
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPointer>
+#include <QScopeGuard>
+#include <QTranslator>
+#include <QWheelEvent>
+
+#include <climits>
+#include <vector>
+
+using MtConf::ConfItem;
+using MtConf::ConfWidgetMouseAction;
+using Values = QList<int>;
+
+Q_DECLARE_METATYPE(Values)
+
+namespace {
+
+constexpr int sShift = 0x02000000;
+constexpr int sControl = 0x04000000;
+constexpr int sAlt = 0x08000000;
+constexpr int sMeta = 0x10000000;
+
+/// Puts the context before every text.
+class Prefixer : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return QString("%1: %2").arg(context, text);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class tst_ConfWidgetMouseAction : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void actionsFollowTheKind_data();
+    void actionsFollowTheKind();
+    void modifiersAreOffered();
+    void partsAndOrder();
+
+    void storedValueIsShown_data();
+    void storedValueIsShown();
+    void makingTheEditorStoresNothing();
+
+    void chosenActionIsStored();
+    void chosenModifiersAreStored();
+    void everyGestureHasItsValue_data();
+    void everyGestureHasItsValue();
+    void sameValueIsStoredAgain();
+    void leftClickAloneIsNotStored();
+    void leftClickWithAModifierIsStored();
+    void wheelIsRefused();
+
+    void loadingStoresAgain();
+    void loadingWhatIsShownStoresNothing();
+    void loadingAnActionThatIsNotOfferedStoresNone();
+
+    void stateIsShown_data();
+    void stateIsShown();
+    void styleFollowsTheState();
+    void gesturesConflict_data();
+    void gesturesConflict();
+    void firstConflictIsNamed();
+    void storeIsJudgedNotTheControls();
+    void namedConflictStays();
+    void changeRefreshesTheOthers();
+    void deletedEditorIsInNoConflict();
+    void listHoldsTheLiveEditors();
+
+    void callbackMayDeleteTheEditor_data();
+    void callbackMayDeleteTheEditor();
+    void callbackMayDeleteAllEditors();
+    void textsHaveTheirContexts();
+    void actionsFollowTheLanguage();
+
+private:
+    struct Gesture
+    {
+        int value = 0;
+        std::unique_ptr<ConfItem> item;
+        QPointer<ConfWidgetMouseAction> editor;
+        QPointer<QComboBox> actions;
+        QPointer<MultiSelectComboBox> modifiers;
+        QPointer<QLabel> state;
+    };
+    Gesture *add(const char *text, int value, int kind);
+    static void show(Gesture *gesture, int value);
+    static QString action(const Gesture *gesture) { return gesture->actions->currentText(); }
+    static int stored(const Gesture *gesture)
+    {
+        return ConfStorage::instance()->get<int>(gesture->item->getFullName());
+    }
+    static void store(const Gesture *gesture, int value)
+    {
+        ConfStorage::instance()->set<int>(gesture->item->getFullName(), value);
+    }
+    static void clickModifier(const Gesture *gesture, int row);
+    static QString stateClass(const Gesture *gesture)
+    {
+        return gesture->state->property("class").toString();
+    }
+    static int glyph(const Gesture *gesture)
+    {
+        return gesture->state->text().size() == 1 ? gesture->state->text().at(0).unicode() : -1;
+    }
+
+    std::unique_ptr<EditorFixture> mFixture;
+    std::vector<std::unique_ptr<Gesture>> mGestures;
+};
+
+void tst_ConfWidgetMouseAction::init()
+{
+    mFixture = std::make_unique<EditorFixture>();
+    QCOMPARE(ConfWidgetMouseAction::sConflictList.size(), 0);
+}
+
+void tst_ConfWidgetMouseAction::cleanup()
+{
+    mFixture.reset();
+    mGestures.clear();
+}
+
+tst_ConfWidgetMouseAction::Gesture *tst_ConfWidgetMouseAction::add(const char *text, int value,
+                                                                   int kind)
+{
+    mGestures.push_back(std::make_unique<Gesture>());
+    Gesture *gesture = mGestures.back().get();
+    gesture->value = value;
+    gesture->item = std::make_unique<ConfItem>(&gesture->value, "Mouse", text, "");
+    gesture->item->displayText = text;
+    gesture->item->widgetCreator = [kind](ConfItem *item, QWidget *parent) {
+        return new ConfWidgetMouseAction(item, parent, kind);
+    };
+    gesture->editor = mFixture->edit<ConfWidgetMouseAction>(gesture->item.get());
+    gesture->actions = gesture->editor->findChild<ComboboxDisableWheel *>();
+    gesture->modifiers = gesture->editor->findChild<MultiSelectComboBox *>();
+    const auto labels = gesture->editor->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QLabel *label : labels) {
+        if (label->property("class").isValid())
+            gesture->state = label;
+    }
+    return gesture;
+}
+
+/// Makes the controls show `value`.
+void tst_ConfWidgetMouseAction::show(Gesture *gesture, int value)
+{
+    for (int row = 0; row < 4; ++row)
+        gesture->modifiers->setItemChecked(row, value & (sShift << row));
+    gesture->actions->setCurrentIndex(gesture->actions->findData(value & 0xffff));
+}
+
+/// Clicks the modifier in the open list.
+void tst_ConfWidgetMouseAction::clickModifier(const Gesture *gesture, int row)
+{
+    gesture->modifiers->showPopup();
+    auto *list = qobject_cast<QListWidget *>(gesture->modifiers->view());
+    QWidget *box = list->itemWidget(list->item(row));
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(10, box->height() / 2));
+}
+
+void tst_ConfWidgetMouseAction::actionsFollowTheKind_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<Values>("values");
+    QTest::newRow("wheel") << 0 << QStringList{"None", "Wheel"} << Values{0, 64};
+    QTest::newRow("clicks")
+        << 1
+        << QStringList{"None", "Left Click", "Left Double Click", "Right Click",
+                       "Right Double Click", "Middle Click", "Middle Double Click"}
+        << Values{0, 1, 2, 4, 8, 16, 32};
+    QTest::newRow("drags") << 2 << QStringList{"None", "Left Drag", "Right Drag", "Middle Drag"}
+                           << Values{0, 128, 256, 512};
+    QTest::newRow("none") << 3 << QStringList{"None"} << Values{0};
+    QTest::newRow("none, -1") << -1 << QStringList{"None"} << Values{0};
+    QTest::newRow("none, INT_MIN") << INT_MIN << QStringList{"None"} << Values{0};
+}
+
+void tst_ConfWidgetMouseAction::actionsFollowTheKind()
+{
+    QFETCH(int, kind);
+    const Gesture *gesture = add("Zoom", 0, kind);
+    QStringList texts;
+    Values values;
+    for (int i = 0; i < gesture->actions->count(); ++i) {
+        texts << gesture->actions->itemText(i);
+        values << gesture->actions->itemData(i, Qt::UserRole).toInt();
+    }
+    QTEST(texts, "texts");
+    QTEST(values, "values");
+}
+
+void tst_ConfWidgetMouseAction::modifiersAreOffered()
+{
+    Gesture *gesture = add("Zoom", 0, 0);
+    QCOMPARE(gesture->modifiers->count(), 4);
+    for (int row = 0; row < 4; ++row)
+        gesture->modifiers->setItemChecked(row, true);
+    QCOMPARE(gesture->modifiers->currentText(),
+             (QStringList{QString::fromUtf8("\u21e7"), QString::fromUtf8("\u2318"),
+                          QString::fromUtf8("\u2325"), QString::fromUtf8("\u2303")}));
+    Values flags;
+    for (int row = 0; row < 4; ++row) {
+        bool checked = false;
+        QVariant flag;
+        gesture->modifiers->getItemData(row, checked, flag);
+        QVERIFY(checked);
+        flags << flag.toInt();
+    }
+    QCOMPARE(flags, (Values{0x02000000, 0x04000000, 0x08000000, 0x10000000}));
+}
+
+void tst_ConfWidgetMouseAction::partsAndOrder()
+{
+    const Gesture *gesture = add("Zoom", 64, 0);
+    const auto *layout = qobject_cast<QHBoxLayout *>(gesture->editor->layout());
+    QVERIFY(layout);
+    QCOMPARE(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(layout->count(), 4);
+    QCOMPARE(layout->itemAt(0)->widget(), gesture->modifiers.data());
+    const auto *plus = qobject_cast<QLabel *>(layout->itemAt(1)->widget());
+    QVERIFY(plus);
+    QCOMPARE(plus->text(), QString("+"));
+    QCOMPARE(layout->itemAt(2)->widget(), gesture->actions.data());
+    QCOMPARE(layout->itemAt(3)->widget(), gesture->state.data());
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(layout->stretch(i), 0);
+    for (int i = 0; i < 3; ++i) {
+        const QSizePolicy policy = layout->itemAt(i)->widget()->sizePolicy();
+        QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Minimum);
+        QCOMPARE(policy.verticalPolicy(), QSizePolicy::Minimum);
+    }
+    QCOMPARE(gesture->actions->accessibleName(), QString("Zoom"));
+    QCOMPARE(gesture->modifiers->accessibleName(), QString("Zoom"));
+}
+
+void tst_ConfWidgetMouseAction::storedValueIsShown_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<Values>("checkedRows");
+    QTest::addColumn<int>("index");
+    QTest::newRow("nothing") << 0 << 0 << Values{} << 0;
+    QTest::newRow("wheel") << 64 << 0 << Values{} << 1;
+    QTest::newRow("Shift and wheel") << 0x02000040 << 0 << Values{0} << 1;
+    QTest::newRow("Control and right click") << 0x04000004 << 1 << Values{1} << 3;
+    QTest::newRow("Alt and Meta and middle drag") << 0x18000200 << 2 << Values{2, 3} << 3;
+    QTest::newRow("all modifiers and none") << 0x1e000000 << 1 << Values{0, 1, 2, 3} << 0;
+    QTest::newRow("left click alone") << 1 << 1 << Values{} << 1;
+    QTest::newRow("an action of another kind") << 0x02000080 << 1 << Values{0} << -1;
+    QTest::newRow("two actions") << 3 << 1 << Values{} << -1;
+    QTest::newRow("a bit without a meaning above") << 0x20000004 << 1 << Values{} << 3;
+    QTest::newRow("all bits") << -1 << 1 << Values{0, 1, 2, 3} << -1;
+    QTest::newRow("the sign alone") << INT_MIN << 1 << Values{} << 0;
+}
+
+void tst_ConfWidgetMouseAction::storedValueIsShown()
+{
+    QFETCH(int, value);
+    QFETCH(int, kind);
+    const Gesture *gesture = add("Zoom", value, kind);
+    Values rows;
+    for (int row = 0; row < 4; ++row) {
+        bool checked = false;
+        QVariant flag;
+        gesture->modifiers->getItemData(row, checked, flag);
+        if (checked)
+            rows << row;
+    }
+    QTEST(rows, "checkedRows");
+    QTEST(gesture->actions->currentIndex(), "index");
+    QCOMPARE(gesture->value, value);
+    QCOMPARE(changedMark(gesture->editor), QString("0"));
+}
+
+void tst_ConfWidgetMouseAction::makingTheEditorStoresNothing()
+{
+    Gesture *gesture = add("Zoom", 0x0e000004, 1);
+    delete gesture->editor;
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->editor = mFixture->edit<ConfWidgetMouseAction>(gesture->item.get());
+    QCOMPARE(calls, 0);
+}
+
+void tst_ConfWidgetMouseAction::chosenActionIsStored()
+{
+    Gesture *gesture = add("Zoom", 0, 1);
+    QVERIFY(mFixture->show());
+    gesture->actions->showPopup();
+    QAbstractItemView *view = gesture->actions->view();
+    QTRY_VERIFY(view->isVisible());
+    const QModelIndex row = gesture->actions->model()->index(3, 0);
+    view->setCurrentIndex(row);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(action(gesture), QString("Right Click"));
+    QCOMPARE(gesture->value, 4);
+    QCOMPARE(changedMark(gesture->editor), QString("1"));
+    QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
+}
+
+void tst_ConfWidgetMouseAction::chosenModifiersAreStored()
+{
+    Gesture *gesture = add("Zoom", 64, 0);
+    QVERIFY(mFixture->show());
+    clickModifier(gesture, 0);
+    QCOMPARE(gesture->value, 0x02000040);
+    clickModifier(gesture, 3);
+    QCOMPARE(gesture->value, 0x12000040);
+    QCOMPARE(changedMark(gesture->editor), QString("1"));
+    clickModifier(gesture, 0);
+    clickModifier(gesture, 3);
+    QCOMPARE(gesture->value, 64);
+    QCOMPARE(changedMark(gesture->editor), QString("0"));
+}
+
+void tst_ConfWidgetMouseAction::everyGestureHasItsValue_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<int>("value");
+    QTest::newRow("None with Shift") << 1 << "None" << QList<int>{0} << 0x02000000;
+    QTest::newRow("Left Click with Control") << 1 << "Left Click" << QList<int>{1} << 0x04000001;
+    QTest::newRow("Left Double Click") << 1 << "Left Double Click" << QList<int>{} << 0x2;
+    QTest::newRow("Right Click with Alt") << 1 << "Right Click" << QList<int>{2} << 0x08000004;
+    QTest::newRow("Right Double Click with Meta")
+        << 1 << "Right Double Click" << QList<int>{3} << 0x10000008;
+    QTest::newRow("Middle Click") << 1 << "Middle Click" << QList<int>{} << 0x10;
+    QTest::newRow("Middle Double Click") << 1 << "Middle Double Click" << QList<int>{} << 0x20;
+    QTest::newRow("Wheel with all") << 0 << "Wheel" << QList<int>{0, 1, 2, 3} << 0x1e000040;
+    QTest::newRow("Left Drag") << 2 << "Left Drag" << QList<int>{} << 0x80;
+    QTest::newRow("Right Drag") << 2 << "Right Drag" << QList<int>{} << 0x100;
+    QTest::newRow("Middle Drag with Shift") << 2 << "Middle Drag" << QList<int>{0} << 0x02000200;
+}
+
+void tst_ConfWidgetMouseAction::everyGestureHasItsValue()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, action);
+    QFETCH(QList<int>, rows);
+    Gesture *gesture = add("Zoom", 0, kind);
+    for (const int row : rows)
+        gesture->modifiers->itemClicked(row);
+    gesture->actions->setCurrentText(action);
+    QTEST(gesture->value, "value");
+}
+
+void tst_ConfWidgetMouseAction::sameValueIsStoredAgain()
+{
+    Gesture *gesture = add("Zoom", 64, 0);
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->editor->onCurrentIndexChanged();
+    QCOMPARE(calls, 1);
+    QCOMPARE(gesture->value, 64);
+}
+
+void tst_ConfWidgetMouseAction::leftClickAloneIsNotStored()
+{
+    Gesture *gesture = add("Zoom", 4, 1);
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->actions->setCurrentText("Left Click");
+    QCOMPARE(calls, 0);
+    QCOMPARE(gesture->value, 4);
+    QCOMPARE(action(gesture), QString("Left Click"));
+    QCOMPARE(stateClass(gesture), QString("ErrorIcon"));
+    // The way back to what is stored.
+    gesture->actions->setCurrentText("Right Click");
+    QCOMPARE(gesture->value, 4);
+    QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
+    QCOMPARE(gesture->state->toolTip(), QString());
+}
+
+void tst_ConfWidgetMouseAction::leftClickWithAModifierIsStored()
+{
+    Gesture *gesture = add("Zoom", 0, 1);
+    gesture->modifiers->itemClicked(1);
+    gesture->actions->setCurrentText("Left Click");
+    QCOMPARE(gesture->value, 0x04000001);
+    QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
+    // Without the modifier it is the left click alone.
+    gesture->modifiers->itemClicked(1);
+    QCOMPARE(gesture->value, 0x04000001);
+    QCOMPARE(stateClass(gesture), QString("ErrorIcon"));
+}
+
+void tst_ConfWidgetMouseAction::wheelIsRefused()
+{
+    Gesture *gesture = add("Zoom", 4, 1);
+    QVERIFY(mFixture->show());
+    gesture->actions->setFocus();
+    for (QWidget *box : {static_cast<QWidget *>(gesture->actions),
+                         static_cast<QWidget *>(gesture->modifiers)}) {
+        QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(box, &wheel);
+    }
+    QCOMPARE(gesture->value, 4);
+    QCOMPARE(action(gesture), QString("Right Click"));
+}
+
+void tst_ConfWidgetMouseAction::loadingStoresAgain()
+{
+    Gesture *gesture = add("Zoom", 4, 1);
+    const Gesture *other = add("Pan", 0x0a000010, 1);
+    QCOMPARE(stateClass(other), QString("CorrectIcon"));
+    store(gesture, 0x0a000020);
+    int last = 0;
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&](const QString &, const ConfValue *value) {
+        ++calls;
+        last = value->get<int>();
+    });
+    gesture->editor->loadConf();
+    QVERIFY(calls > 0);
+    QCOMPARE(last, 0x0a000020);
+    QCOMPARE(gesture->value, 0x0a000020);
+    QCOMPARE(action(gesture), QString("Middle Double Click"));
+    QCOMPARE(changedMark(gesture->editor), QString("1"));
+    QCOMPARE(stateClass(gesture), QString("WarningIcon"));
+    QCOMPARE(stateClass(other), QString("WarningIcon"));
+
+    // The action alone changes: once.
+    store(gesture, 0x0a000008);
+    calls = 0;
+    gesture->editor->loadConf();
+    QCOMPARE(calls, 1);
+    QCOMPARE(stateClass(other), QString("CorrectIcon"));
+}
+
+void tst_ConfWidgetMouseAction::loadingWhatIsShownStoresNothing()
+{
+    Gesture *gesture = add("Zoom", 0x02000004, 1);
+    const Gesture *other = add("Pan", 8, 1);
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    store(other, 0x02000004);
+    gesture->editor->loadConf();
+    QCOMPARE(calls, 0);
+    // Nor does it look for conflicts.
+    QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
+    gesture->editor->refreshConflictState();
+    QCOMPARE(stateClass(gesture), QString("WarningIcon"));
+}
+
+void tst_ConfWidgetMouseAction::loadingAnActionThatIsNotOfferedStoresNone()
+{
+    Gesture *gesture = add("Zoom", 0x02000004, 1);
+    store(gesture, 0x02000040);
+    gesture->editor->loadConf();
+    QCOMPARE(gesture->actions->currentIndex(), -1);
+    QCOMPARE(gesture->value, 0x02000000);
+    QCOMPARE(stateClass(gesture), QString("NoneIcon"));
+}
+
+void tst_ConfWidgetMouseAction::stateIsShown_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("styleClass");
+    QTest::addColumn<int>("expectedGlyph");
+    QTest::addColumn<QString>("toolTip");
+    const QString left = "Cannot set left-click separately";
+    QTest::newRow("left click alone") << 1 << 1 << "ErrorIcon" << 0xe70d << left;
+    QTest::newRow("left click alone, not offered") << 1 << 2 << "ErrorIcon" << 0xe70d << left;
+    QTest::newRow("none") << 0 << 1 << "NoneIcon" << 0xe63a << "No set";
+    QTest::newRow("modifiers alone") << 0x1e000000 << 1 << "NoneIcon" << 0xe63a << "No set";
+    QTest::newRow("conflict") << 0x02000200 << 2 << "WarningIcon" << 0xe71b
+                              << "Conflict with Other";
+    QTest::newRow("correct") << 0x02000004 << 1 << "CorrectIcon" << 0xe725 << "";
+    QTest::newRow("left click with Shift") << 0x02000001 << 1 << "CorrectIcon" << 0xe725 << "";
+    QTest::newRow("an unknown action") << 0x8000 << 1 << "CorrectIcon" << 0xe725 << "";
+}
+
+void tst_ConfWidgetMouseAction::stateIsShown()
+{
+    QFETCH(int, value);
+    QFETCH(int, kind);
+    QFETCH(int, expectedGlyph);
+    add("Other", 0x02000200, 2);
+    const Gesture *gesture = add("Zoom", value, kind);
+    QTEST(stateClass(gesture), "styleClass");
+    QCOMPARE(glyph(gesture), expectedGlyph);
+    QTEST(gesture->state->toolTip(), "toolTip");
+}
+
+void tst_ConfWidgetMouseAction::styleFollowsTheState()
+{
+    mFixture->parent.setStyleSheet(".ErrorIcon { color: #ff0000; } .NoneIcon { color: #0000ff; }");
+    Gesture *gesture = add("Zoom", 0, 1);
+    QVERIFY(mFixture->show());
+    QCOMPARE(gesture->state->palette().color(QPalette::WindowText), QColor(0, 0, 255));
+    gesture->actions->setCurrentText("Left Click");
+    QCOMPARE(gesture->state->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+}
+
+void tst_ConfWidgetMouseAction::gesturesConflict_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::addColumn<bool>("conflict");
+    QTest::newRow("the same") << 4 << 4 << true;
+    QTest::newRow("the same with modifiers") << (sShift | sAlt | 64) << (sShift | sAlt | 64) << true;
+    QTest::newRow("left pair") << (sControl | 1) << (sControl | 2) << true;
+    QTest::newRow("right pair") << 4 << 8 << true;
+    QTest::newRow("middle pair") << (sMeta | 16) << (sMeta | 32) << true;
+    QTest::newRow("pair with other modifiers") << (sShift | 1) << (sControl | 2) << false;
+    QTest::newRow("one modifier more") << (sShift | 1) << (sShift | sControl | 1) << false;
+    QTest::newRow("with and without a modifier") << (sShift | 4) << 4 << false;
+    QTest::newRow("left and right") << 2 << 4 << false;
+    QTest::newRow("right and middle") << 8 << 16 << false;
+    QTest::newRow("middle and wheel") << 32 << 64 << false;
+    QTest::newRow("wheel and left drag") << 64 << 128 << false;
+    QTest::newRow("left drag and right drag") << 128 << 256 << false;
+    QTest::newRow("right drag and middle drag") << 256 << 512 << false;
+    QTest::newRow("the same drag") << (sAlt | 512) << (sAlt | 512) << true;
+    QTest::newRow("left click and left drag") << (sAlt | 1) << (sAlt | 128) << false;
+    QTest::newRow("a modifier that no one offers") << (0x20000000 | 4) << 4 << false;
+    QTest::newRow("that modifier in both") << (0x20000000 | 4) << (0x20000000 | 8) << true;
+    QTest::newRow("both of a pair and one") << 12 << 8 << true;
+    QTest::newRow("the sign bit") << (INT_MIN | 4) << (INT_MIN | 4) << true;
+}
+
+void tst_ConfWidgetMouseAction::gesturesConflict()
+{
+    QFETCH(int, first);
+    QFETCH(int, second);
+    QFETCH(bool, conflict);
+    const Gesture *one = add("One", first, 1);
+    const Gesture *two = add("Two", second, 1);
+    ConfWidgetMouseAction::refreshAllConflictState();
+    const QString expected = conflict ? "WarningIcon" : "CorrectIcon";
+    QCOMPARE(stateClass(one), expected);
+    QCOMPARE(stateClass(two), expected);
+    QCOMPARE(one->state->toolTip(), conflict ? QString("Conflict with Two") : QString());
+    QCOMPARE(two->state->toolTip(), conflict ? QString("Conflict with One") : QString());
+}
+
+void tst_ConfWidgetMouseAction::firstConflictIsNamed()
+{
+    const Gesture *one = add("One", sShift | 1, 1);
+    add("Two", sShift | 2, 1);
+    const Gesture *three = add("Three", sShift | 1, 1);
+    ConfWidgetMouseAction::refreshAllConflictState();
+    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
+    QCOMPARE(one->state->toolTip(), QString("Conflict with Two"));
+}
+
+void tst_ConfWidgetMouseAction::storeIsJudgedNotTheControls()
+{
+    Gesture *one = add("One", 4, 1);
+    one->actions->setCurrentText("Left Click");
+    QCOMPARE(one->value, 4);
+    // What is in force is the right click.
+    const Gesture *two = add("Two", 8, 1);
+    QCOMPARE(two->state->toolTip(), QString("Conflict with One"));
+    // A left click alone that came from elsewhere counts like any other.
+    store(one, 1);
+    Gesture *three = add("Three", 2, 1);
+    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
+    store(one, 0);
+    ConfWidgetMouseAction::refreshAllConflictState();
+    QCOMPARE(stateClass(three), QString("CorrectIcon"));
+    QCOMPARE(stateClass(two), QString("CorrectIcon"));
+}
+
+void tst_ConfWidgetMouseAction::namedConflictStays()
+{
+    Gesture *one = add("One", 4, 1);
+    add("Two", 8, 1);
+    Gesture *three = add("Three", 4, 1);
+    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
+    show(one, 64);
+    QCOMPARE(stateClass(three), QString("WarningIcon"));
+    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
+    // Once another state was shown the name is a new one.
+    show(three, 16);
+    QCOMPARE(stateClass(three), QString("CorrectIcon"));
+    QCOMPARE(three->state->toolTip(), QString());
+    show(three, 4);
+    QCOMPARE(three->state->toolTip(), QString("Conflict with Two"));
+}
+
+void tst_ConfWidgetMouseAction::changeRefreshesTheOthers()
+{
+    const Gesture *one = add("One", sShift | 4, 1);
+    Gesture *two = add("Two", 4, 1);
+    QCOMPARE(stateClass(one), QString("CorrectIcon"));
+    two->modifiers->itemClicked(0);
+    QCOMPARE(stateClass(one), QString("WarningIcon"));
+    QCOMPARE(stateClass(two), QString("WarningIcon"));
+    two->actions->setCurrentText("None");
+    QCOMPARE(stateClass(one), QString("CorrectIcon"));
+    QCOMPARE(stateClass(two), QString("NoneIcon"));
+}
+
+void tst_ConfWidgetMouseAction::deletedEditorIsInNoConflict()
+{
+    const Gesture *one = add("One", 4, 1);
+    Gesture *two = add("Two", 4, 1);
+    one->editor->refreshConflictState();
+    QCOMPARE(stateClass(one), QString("WarningIcon"));
+    delete two->editor;
+    QCOMPARE(stateClass(one), QString("WarningIcon")); // until the next change
+    one->editor->onCurrentIndexChanged();
+    QCOMPARE(stateClass(one), QString("CorrectIcon"));
+}
+
+void tst_ConfWidgetMouseAction::listHoldsTheLiveEditors()
+{
+    Gesture *one = add("One", 4, 1);
+    const Gesture *two = add("Two", 0, 0);
+    const Gesture *three = add("Three", 1, 2);
+    QCOMPARE(ConfWidgetMouseAction::sConflictList,
+             (QList<ConfWidgetMouseAction *>{one->editor, two->editor, three->editor}));
+    delete one->editor;
+    QCOMPARE(ConfWidgetMouseAction::sConflictList,
+             (QList<ConfWidgetMouseAction *>{two->editor, three->editor}));
+    // The host may tamper with it.
+    ConfWidgetMouseAction::sConflictList.append(two->editor);
+    delete two->editor;
+    QCOMPARE(ConfWidgetMouseAction::sConflictList, QList<ConfWidgetMouseAction *>{three->editor});
+}
+
+void tst_ConfWidgetMouseAction::callbackMayDeleteTheEditor_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("an action is chosen in the list") << "action";
+    QTest::newRow("an action is chosen by key") << "key";
+    QTest::newRow("a modifier is clicked") << "modifier";
+    QTest::newRow("the value is loaded, modifiers change") << "load modifiers";
+    QTest::newRow("the value is loaded, the action changes") << "load action";
+}
+
+void tst_ConfWidgetMouseAction::callbackMayDeleteTheEditor()
+{
+    QFETCH(QString, way);
+    Gesture *gesture = add("Zoom", 4, 1);
+    const Gesture *other = add("Pan", 16, 1);
+    QVERIFY(mFixture->show());
+    if (way.startsWith("load"))
+        store(gesture, way == "load action" ? 16 : 0x1e000010);
+    const QPointer<QComboBox> actions = gesture->actions;
+    const QPointer<QComboBox> modifiers = gesture->modifiers.data();
+    gesture->item->setConfChangedCallback(
+        [gesture](const QString &, const ConfValue *) { delete gesture->editor; });
+    if (way == "action") {
+        actions->showPopup();
+        QTRY_VERIFY(actions->view()->isVisible());
+        actions->view()->setCurrentIndex(actions->model()->index(5, 0));
+        QTest::keyClick(actions->view(), Qt::Key_Return);
+    } else if (way == "key") {
+        QTest::keyClick(actions, Qt::Key_Down);
+    } else if (way == "modifier") {
+        clickModifier(gesture, 0);
+    } else {
+        gesture->editor->loadConf();
+    }
+    QVERIFY(!gesture->editor);
+    QVERIFY(!gesture->item->editor);
+    QTRY_VERIFY(!actions);
+    QTRY_VERIFY(!modifiers);
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(ConfWidgetMouseAction::sConflictList, QList<ConfWidgetMouseAction *>{other->editor});
+}
+
+void tst_ConfWidgetMouseAction::callbackMayDeleteAllEditors()
+{
+    Gesture *one = add("One", 4, 1);
+    Gesture *two = add("Two", 16, 1);
+    one->item->setConfChangedCallback([one, two](const QString &, const ConfValue *) {
+        delete two->editor;
+        delete one->editor;
+    });
+    one->actions->setCurrentIndex(4);
+    QCOMPARE(one->value, 8);
+    QCOMPARE(ConfWidgetMouseAction::sConflictList.size(), 0);
+    QCoreApplication::processEvents();
+}
+
+void tst_ConfWidgetMouseAction::textsHaveTheirContexts()
+{
+    Prefixer translator;
+    QCoreApplication::installTranslator(&translator);
+    const auto remove =
+        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    Gesture *gesture = add("Zoom", 0, 1);
+    QCOMPARE(action(gesture), QString("MtConf::ConfWidgetMouseAction: None"));
+    QCOMPARE(gesture->actions->itemText(1), QString("MtConf::ConfWidgetMouseAction: Left Click"));
+    QCOMPARE(gesture->state->toolTip(), QString("QObject: No set"));
+    gesture->actions->setCurrentIndex(1);
+    QCOMPARE(gesture->state->toolTip(), QString("QObject: Cannot set left-click separately"));
+    add("Other", 4, 1);
+    gesture->actions->setCurrentIndex(4);
+    QCOMPARE(gesture->state->toolTip(), QString("QObject: Conflict with QObject: Other"));
+}
+
+void tst_ConfWidgetMouseAction::actionsFollowTheLanguage()
+{
+    Gesture *gesture = add("Zoom", 64, 0);
+    QVERIFY(mFixture->show());
+    int calls = 0;
+    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    Prefixer translator;
+    QCoreApplication::installTranslator(&translator);
+    const auto remove =
+        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    QTRY_COMPARE(action(gesture), QString("MtConf::ConfWidgetMouseAction: Wheel"));
+    QCOMPARE(gesture->actions->itemText(0), QString("MtConf::ConfWidgetMouseAction: None"));
+    QCOMPARE(calls, 0);
+    QCOMPARE(gesture->value, 64);
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfWidgetMouseAction>(argc, argv);
+}
+
+#include "tst_ConfWidgetMouseAction.moc"
