@@ -59,6 +59,7 @@ private Q_SLOTS:
 
     void partsAndOrder();
     void captionIsALabel();
+    void glyphIsNotCut();
     void missingEntryIsMade();
     void withoutShortcutNothingIsStored_data();
     void withoutShortcutNothingIsStored();
@@ -177,6 +178,17 @@ void tst_ConfDefWidgetQKeySequence::captionIsALabel()
     QCOMPARE(mEditor->label()->property("text"), QVariant("Capture area"));
     QCOMPARE(changedMark(mEditor), QString("0"));
     QCOMPARE(mField->accessibleName(), QString("Capture area"));
+}
+
+void tst_ConfDefWidgetQKeySequence::glyphIsNotCut()
+{
+    mFixture->parent.setStyleSheet("QPushButton { min-height: 1px; padding: 4px; }");
+    makeItem(true);
+    makeEditor();
+    mFixture->parent.resize(mFixture->parent.width(), 1);
+    QTRY_VERIFY(mFixture->parent.height() <= mFixture->layout->minimumSize().height());
+    QCoreApplication::processEvents();
+    QVERIFY(mButton->height() >= mButton->sizeHint().height());
 }
 
 void tst_ConfDefWidgetQKeySequence::missingEntryIsMade()
