@@ -22,12 +22,6 @@
 
 namespace {
 
-const QString &advancedPage()
-{
-    static const QString sName = QStringLiteral("Advanced");
-    return sName;
-}
-
 /// The name of the page that the settings window shows.
 QString shownPage(const MtConf::ConfigurationWindow *window)
 {
@@ -86,7 +80,7 @@ void DemoSession::addPages()
         {QStringLiteral("Mouse"), QuorviGlyphs::Mouse},
         {QStringLiteral("Output"), QuorviGlyphs::Output},
         {QStringLiteral("Profiles"), QuorviGlyphs::Profiles},
-        {advancedPage(), QuorviGlyphs::Advanced},
+        {QStringLiteral("Advanced"), QuorviGlyphs::Advanced},
         {QStringLiteral("Stored data"), QuorviGlyphs::Correct},
     };
     mManager->setIconMap(icons);
@@ -96,11 +90,17 @@ void DemoSession::addCallbacks()
 {
     item("Appearance", "Theme")->setConfChangedCallback(
         [this](const QString &, const ConfValue *) { showTheme(mSettings.theme); });
-    item("Advanced", "ShowExpert")->setConfChangedCallback(
-        [this](const QString &, const ConfValue *) {
-            // Later: the switch that was clicked stands on the page that is built again.
-            QTimer::singleShot(0, this, &DemoSession::rebuildAdvancedPage);
-        });
+    rebuildAfter("Advanced", "ShowExpert");
+    rebuildAfter("Hotkeys", "Simple");
+}
+
+void DemoSession::rebuildAfter(const char *page, const char *name)
+{
+    const MtConf::ConfItem *const rebuilder = item(page, name);
+    rebuilder->setConfChangedCallback([this, rebuilder](const QString &, const ConfValue *) {
+        // Later: the switch that was clicked stands on the page that is built again.
+        QTimer::singleShot(0, this, [this, rebuilder] { rebuildPageOf(rebuilder); });
+    });
 }
 
 void DemoSession::addHotkeyCallbacks()
@@ -171,15 +171,15 @@ void DemoSession::showTheme(int theme)
                                                                  : themes->palette());
 }
 
-void DemoSession::rebuildAdvancedPage()
+void DemoSession::rebuildPageOf(const MtConf::ConfItem *rebuilder)
 {
     MtConf::ConfigurationWindow *window = MtConf::ConfigurationWindow::instance();
-    if (!window || shownPage(window) != advancedPage())
+    if (!window || shownPage(window) != rebuilder->majorName)
         return;
-    window->switchToView(advancedPage());
+    window->switchToView(rebuilder->majorName);
     // Whoever works with the keyboard goes on from the switch.
-    if (MtConf::ConfigItemWidget *editor = item("Advanced", "ShowExpert")->editor)
-        editor->label()->setFocus();
+    if (rebuilder->editor)
+        rebuilder->editor->label()->setFocus();
 }
 
 void DemoSession::reloadEditors()

@@ -49,7 +49,9 @@ private:
     void addPages();
     void addCallbacks();
     void addHotkeyCallbacks();
-    void rebuildAdvancedPage();
+    /// Builds the page again, if it is shown, when the setting on it has changed.
+    void rebuildAfter(const char *page, const char *name);
+    void rebuildPageOf(const MtConf::ConfItem *rebuilder);
     void reloadEditors();
 
     Settings mSettings;

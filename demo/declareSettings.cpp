@@ -4,6 +4,10 @@
 #include "WatermarkEditor.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
+
+#include <QxtGlobalShortcut>
 
 using MtConf::ConfItem;
 using MtConf::MtConfManage;
@@ -41,6 +45,12 @@ ConfItem *expert(ConfItem *item)
 {
     item->flags |= MtConf::ItemIsFiltered;
     return item;
+}
+
+/// Makes the hotkey of `item` work while other programs have the keyboard. `owner` owns it.
+void makeGlobal(ConfItem *item, QObject *owner)
+{
+    item->properties.insert(QStringLiteral("Shortcut"), QVariant::fromValue(new QxtGlobalShortcut(owner)));
 }
 
 void declareGeneral(MtConfManage &m, Settings &s)
@@ -110,6 +120,22 @@ void declareHotkeys(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Hotkeys in full-screen applications"), &s.hotkeysInFullScreen, page, QStringLiteral("FullScreen"));
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Allow simple global hotkeys"), &s.simpleHotkeys, page, QStringLiteral("Simple"));
     range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Repeat delay (ms)"), &s.repeatDelay, page, QStringLiteral("RepeatDelay")), 0, 2000);
+
+    // The usual editor, told whether it may take a letter alone.
+    const MtConf::WidgetCreator editor = [&s](ConfItem *item, QWidget *parent) {
+        MtConf::ConfigItemWidget *made = MtConf::ConfDefWidgetQKeySequence::CreatConfWidget(item, parent);
+        if (auto *field = made->findChild<KeySequenceEdit *>())
+            field->allowSimpleHotkey = s.simpleHotkeys;
+        return made;
+    };
+    const QString capture = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Capture"));
+    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture an area"), &s.captureArea, page, capture, QStringLiteral("Area"), editor), &m);
+    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture a window"), &s.captureWindow, page, capture, QStringLiteral("Window"), editor), &m);
+    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture the screen"), &s.captureScreen, page, capture, QStringLiteral("Screen"), editor), &m);
+
+    const QString tools = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Tools"));
+    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Pin the clipboard"), &s.pinClipboard, page, tools, QStringLiteral("Pin"), editor), &m);
+    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Pick a colour"), &s.pickColor, page, tools, QStringLiteral("PickColor"), editor), &m);
 }
 
 void declareMouse(MtConfManage &m, Settings &s)
@@ -118,6 +144,15 @@ void declareMouse(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Double-click to finish"), &s.doubleClickFinishes, page, QStringLiteral("DoubleClickFinishes"));
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Invert the wheel"), &s.invertWheel, page, QStringLiteral("InvertWheel"));
     range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Movement that begins a drag (px)"), &s.dragThreshold, page, QStringLiteral("DragThreshold")), 1, 40);
+
+    // The number says what may be chosen: 0 the wheel, 1 clicks, 2 drags.
+    const QString pinned = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Pinned pictures"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Zoom"), &s.zoomAction, 0, page, pinned, QStringLiteral("Zoom"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Opacity"), &s.opacityAction, 0, page, pinned, QStringLiteral("Opacity"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Close"), &s.closeAction, 1, page, pinned, QStringLiteral("Close"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Copy"), &s.copyAction, 1, page, pinned, QStringLiteral("Copy"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Move"), &s.moveAction, 2, page, pinned, QStringLiteral("Move"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Draw"), &s.drawAction, 2, page, pinned, QStringLiteral("Draw"));
 }
 
 void declareOutput(MtConfManage &m, Settings &s)

@@ -2,7 +2,12 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
+
 #include <OrvUtils/QThemeCtrl.h>
+
+#include <QxtGlobalShortcut>
 
 #include <QComboBox>
 #include <QJsonDocument>
@@ -48,6 +53,8 @@ private Q_SLOTS:
     void geometryOfTheWindowComesBack();
     void styleSheetOnDiskGoesBeforeTheBuiltInOne();
     void expertSettingsAppearWithTheirSwitch();
+    void recordedHotkeyComesBackAndIsTheProgramsOwn();
+    void mouseActionIsKeptForThisSystemOnly();
     void restoredPageStaysRestoredAfterARestart();
     void themeOfTheWindowIsStored();
     void storedDataFollowTheVariables();
@@ -218,6 +225,48 @@ void tst_DemoSession::expertSettingsAppearWithTheirSwitch()
     QTest::keyClick(demo.checkBox("Advanced", "ShowExpert"), Qt::Key_Space);
     QTRY_VERIFY(!demo.editor("Advanced", "CacheSize"));
     QCOMPARE(demo.settings().cacheSize, 512);
+}
+
+void tst_DemoSession::recordedHotkeyComesBackAndIsTheProgramsOwn()
+{
+    const QKeySequence pressed(Qt::CTRL | Qt::SHIFT | Qt::Key_F8);
+    DemoFixture demo;
+    demo.start();
+    QVERIFY(demo.open(QStringLiteral("Hotkeys")));
+    auto *field = demo.control<KeySequenceEdit>(demo.editor("Hotkeys", "Tools", "PickColor"));
+    QVERIFY(!field->allowSimpleHotkey);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_F8, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(demo.settings().pickColor, pressed);
+    demo.click(demo.checkBox("Hotkeys", "Simple"));
+    QTRY_VERIFY(demo.control<KeySequenceEdit>(demo.editor("Hotkeys", "Tools", "PickColor"))
+                    ->allowSimpleHotkey);
+    QVERIFY(demo.close());
+
+    demo.start();
+    QCOMPARE(demo.settings().pickColor, pressed);
+    const auto *shortcut = demo.session->manager()
+                               .getItemByName("Hotkeys", "Tools", "PickColor")
+                               ->properties.value("Shortcut").value<QxtGlobalShortcut *>();
+    QCOMPARE(shortcut->shortcut(), pressed);
+    demo.session->restoreAll();
+    QCOMPARE(shortcut->shortcut(), QKeySequence());
+}
+
+void tst_DemoSession::mouseActionIsKeptForThisSystemOnly()
+{
+    DemoFixture demo;
+    demo.start();
+    QVERIFY(demo.open(QStringLiteral("Mouse")));
+    auto *boxes = demo.editor("Mouse", "Pinned pictures", "Draw");
+    auto *action = boxes->findChild<ComboboxDisableWheel *>();
+    action->setFocus();
+    QTest::keyClick(action, Qt::Key_Down); // from the right button to the middle one
+    QCOMPARE(demo.settings().drawAction, 512);
+    QVERIFY(demo.close());
+    QCOMPARE(readJson(demo.localFile()).keys(), QStringList("Mouse.Pinned pictures.Draw#s.mac"));
+    demo.start();
+    QCOMPARE(demo.settings().drawAction, 512);
 }
 
 void tst_DemoSession::restoredPageStaysRestoredAfterARestart()
