@@ -83,6 +83,11 @@ void BoundValueModel::refresh()
     }
 }
 
+void BoundValueModel::retranslate()
+{
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+}
+
 QStringList BoundValueModel::currentKeys() const
 {
     QStringList keys;

@@ -1,5 +1,7 @@
 #include "DemoArguments.h"
 
+#include "KeyHolder.h"
+#include "Settings.h"
 #include "declareSettings.h"
 
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
@@ -95,11 +97,21 @@ void addOptions(QCommandLineParser *parser)
          QStringLiteral("factor")},
         {QStringLiteral("pictures"), tr("Draw every page in both themes into <folder>, and quit."),
          QStringLiteral("folder")},
+        {QStringLiteral("occupied"),
+         tr("Let another program take the hotkey %1 first.").arg(DemoArguments::occupiedKey().toString())},
         {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help.")},
     });
+    QCommandLineOption holdKey(KeyHolder::option(), QString(), QStringLiteral("keys"));
+    holdKey.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser->addOption(holdKey);
 }
 
 } // namespace
+
+QKeySequence DemoArguments::occupiedKey()
+{
+    return Settings().captureWindow;
+}
 
 DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
 {
@@ -138,6 +150,10 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
     if (!message.isEmpty())
         return Outcome::Failed;
 
+    occupied = given("occupied");
+    keyToHold = parser.value(KeyHolder::option());
+    if (!keyToHold.isEmpty())
+        return Outcome::HoldKey;
     page = value("page");
     language = value("language");
     if (given("theme"))

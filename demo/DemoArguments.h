@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,7 @@ class DemoArguments
 public:
     enum class Outcome {
         Run,      ///< everything is in order
+        HoldKey,  ///< be the other program, see `KeyHolder`
         ShowHelp, ///< `message` is the help text
         Failed    ///< `message` says why
     };
@@ -19,6 +21,8 @@ public:
     /// the folder of the local file and that of the pictures are made. Needs an application object,
     /// but no display.
     Outcome parse(const QStringList &commandLine);
+    /// The hotkey that another program takes with `--occupied`.
+    static QKeySequence occupiedKey();
 
     QString localFile;         ///< where settings are kept; empty with pictures unless it was given
     QString configFile;        ///< a file of settings to take over; may be empty
@@ -27,5 +31,7 @@ public:
     QString language;          ///< code of a language; may be empty
     std::optional<double> scale;  ///< multiplies the screen's dots per inch
     QString picturesFolder;    ///< where to draw every page; empty: run
+    bool occupied = false;     ///< whether another program takes one of the hotkeys first
+    QString keyToHold;         ///< the key to hold for another instance; empty: none
     QString message;           ///< for the console
 };

@@ -15,7 +15,6 @@
 #include <QxtGlobalShortcut>
 
 #include <QApplication>
-#include <QDebug>
 #include <QListView>
 #include <QPalette>
 #include <QTimer>
@@ -27,6 +26,12 @@ QString shownPage(const MtConf::ConfigurationWindow *window)
 {
     const auto *list = window->findChild<QListView *>(QStringLiteral("configList"));
     return list ? list->currentIndex().data(Qt::UserRole + 1).toString() : QString();
+}
+
+/// The hotkey of `item`, null when it has none.
+QxtGlobalShortcut *shortcutOf(const MtConf::ConfItem &item)
+{
+    return item.properties.value(QStringLiteral("Shortcut")).value<QxtGlobalShortcut *>();
 }
 
 } // namespace
@@ -80,7 +85,7 @@ void DemoSession::addPages()
         {QStringLiteral("Mouse"), QuorviGlyphs::Mouse},
         {QStringLiteral("Output"), QuorviGlyphs::Output},
         {QStringLiteral("Profiles"), QuorviGlyphs::Profiles},
-        {QStringLiteral("Advanced"), QuorviGlyphs::Advanced},
+        {QStringLiteral("System"), QuorviGlyphs::Advanced},
         {QStringLiteral("Stored data"), QuorviGlyphs::Correct},
     };
     mManager->setIconMap(icons);
@@ -90,32 +95,35 @@ void DemoSession::addCallbacks()
 {
     item("Appearance", "Theme")->setConfChangedCallback(
         [this](const QString &, const ConfValue *) { showTheme(mSettings.theme); });
-    rebuildAfter("Advanced", "ShowExpert");
-    rebuildAfter("Hotkeys", "Simple");
-}
-
-void DemoSession::rebuildAfter(const char *page, const char *name)
-{
-    const MtConf::ConfItem *const rebuilder = item(page, name);
-    rebuilder->setConfChangedCallback([this, rebuilder](const QString &, const ConfValue *) {
+    const MtConf::ConfItem *const showExpert = item("System", "ShowExpert");
+    showExpert->setConfChangedCallback([this, showExpert](const QString &, const ConfValue *) {
         // Later: the switch that was clicked stands on the page that is built again.
-        QTimer::singleShot(0, this, [this, rebuilder] { rebuildPageOf(rebuilder); });
+        QTimer::singleShot(0, this, [this, showExpert] { rebuildPageOf(showExpert); });
     });
 }
 
 void DemoSession::addHotkeyCallbacks()
 {
     for (MtConf::ConfItem &declared : mManager->items) {
-        auto *shortcut = declared.properties.value(QStringLiteral("Shortcut"))
-                             .value<QxtGlobalShortcut *>();
+        QxtGlobalShortcut *shortcut = shortcutOf(declared);
         if (!shortcut)
             continue;
         const QString key = declared.getFullName();
+        const char *const label = declared.displayText;
         declared.setConfChangedCallback([shortcut](const QString &, const ConfValue *value) {
             shortcut->setShortcut(value->get<QKeySequence>());
         });
         connect(shortcut, &QxtGlobalShortcut::activated, this,
-                [key] { qInfo().noquote() << "Hotkey pressed:" << key; });
+                [this, key, label] { Q_EMIT hotkeyPressed(key, label); });
+    }
+}
+
+void DemoSession::registerHotkeys()
+{
+    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
+        if (QxtGlobalShortcut *shortcut = shortcutOf(declared))
+            shortcut->setShortcut(
+                ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
     }
 }
 
@@ -127,14 +135,7 @@ void DemoSession::load(const QString &configFile)
     else
         mManager->loadFromFile(configFile);
     showTheme(mSettings.theme);
-    // Those that no file has changed.
-    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
-        auto *shortcut = declared.properties.value(QStringLiteral("Shortcut"))
-                             .value<QxtGlobalShortcut *>();
-        if (shortcut)
-            shortcut->setShortcut(
-                ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
-    }
+    registerHotkeys(); // those that no file has changed
 }
 
 bool DemoSession::save()
@@ -171,15 +172,15 @@ void DemoSession::showTheme(int theme)
                                                                  : themes->palette());
 }
 
-void DemoSession::rebuildPageOf(const MtConf::ConfItem *rebuilder)
+void DemoSession::rebuildPageOf(const MtConf::ConfItem *changed)
 {
     MtConf::ConfigurationWindow *window = MtConf::ConfigurationWindow::instance();
-    if (!window || shownPage(window) != rebuilder->majorName)
+    if (!window || shownPage(window) != changed->majorName)
         return;
-    window->switchToView(rebuilder->majorName);
+    window->switchToView(changed->majorName);
     // Whoever works with the keyboard goes on from the switch.
-    if (rebuilder->editor)
-        rebuilder->editor->label()->setFocus();
+    if (changed->editor)
+        changed->editor->label()->setFocus();
 }
 
 void DemoSession::reloadEditors()

@@ -44,14 +44,19 @@ public:
     /// Shows a theme without storing it: the windows' sheets and the palette of all the rest.
     static void showTheme(int theme);
 
+Q_SIGNALS:
+    /// The hotkey of the setting `key` was pressed, in whatever program; `label` is the setting's
+    /// label, not translated.
+    void hotkeyPressed(const QString &key, const char *label);
+
 private:
     MtConf::ConfItem *item(const char *page, const char *name);
     void addPages();
     void addCallbacks();
     void addHotkeyCallbacks();
-    /// Builds the page again, if it is shown, when the setting on it has changed.
-    void rebuildAfter(const char *page, const char *name);
-    void rebuildPageOf(const MtConf::ConfItem *rebuilder);
+    void registerHotkeys();
+    /// Builds the page of the setting again, if it is shown.
+    void rebuildPageOf(const MtConf::ConfItem *changed);
     void reloadEditors();
 
     Settings mSettings;

@@ -2,6 +2,8 @@
 
 #include <OrvUtils/QThemeCtrl.h>
 
+#include <QEvent>
+
 namespace {
 
 QString levelName(QtMsgType level)
@@ -38,9 +40,21 @@ LogPane::LogPane(const MessageLog &log, QWidget *parent) : QPlainTextEdit(parent
 {
     setReadOnly(true);
     setMaximumBlockCount(MessageLog::Capacity);
-    setPlaceholderText(tr("What the library logs appears here."));
+    retranslate();
     refresh();
     connect(&log, &MessageLog::messageLogged, this, &LogPane::addLine);
+}
+
+void LogPane::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void LogPane::retranslate()
+{
+    setPlaceholderText(tr("What the library logs appears here."));
 }
 
 void LogPane::refresh()

@@ -16,7 +16,11 @@ public Q_SLOTS:
     /// Writes all lines again, in the colours of the current theme.
     void refresh();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
     void addLine(const MessageLog::Message &message);
 
     const MessageLog &mLog;

@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHBoxLayout>
@@ -44,6 +45,7 @@ MainWindow::MainWindow(DemoSession &session, const MessageLog &log)
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this, &MainWindow::applySheet);
     connect(&session.watcher(), &SettingsWatcher::settingsChanged,
             this, &MainWindow::onSettingsChanged);
+    connect(&session, &DemoSession::hotkeyPressed, this, &MainWindow::onHotkeyPressed);
 }
 
 void MainWindow::buildCentre()
@@ -167,6 +169,16 @@ void MainWindow::onSettingsChanged()
         action->setChecked(action->data().toInt() == mSession.settings().theme);
 }
 
+void MainWindow::onHotkeyPressed(const QString &key, const char *label)
+{
+    const int row = mModel->rowOf(key);
+    mTable->selectRow(row);
+    statusBar()->showMessage(
+        tr("Hotkey pressed: %1 (%2)")
+            .arg(QCoreApplication::translate("QObject", label),
+                 mModel->index(row, BoundValueModel::ValueColumn).data().toString()));
+}
+
 void MainWindow::showSettings(const QString &page)
 {
     const bool isFirst = !MtConf::ConfigurationWindow::instance()
@@ -212,6 +224,7 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange && mThemes) {
         retranslate();
+        mModel->retranslate();
         onSettingsChanged();
     }
 }

@@ -35,6 +35,7 @@ private:
     void retranslate();
     void applySheet();
     void onSettingsChanged();
+    void onHotkeyPressed(const QString &key, const char *label);
     void save();
     void restoreAll();
 

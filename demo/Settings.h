@@ -52,16 +52,17 @@ struct Settings
     QKeySequence pinClipboard{Qt::CTRL | Qt::ALT | Qt::Key_V};
     QKeySequence pickColor;
     bool hotkeysInFullScreen = false;
-    bool simpleHotkeys = false;                 ///< whether a letter alone may be a hotkey
     int repeatDelay = 400;                      ///< milliseconds
 
     // Mouse: an action bit and `Qt::KeyboardModifier` bits
     int zoomAction = 0x04000000 | 64;           ///< the wheel with Ctrl (Command on macOS)
     int opacityAction = 0x02000000 | 64;        ///< the wheel with Shift
-    int closeAction = 2;                        ///< a double click
+    int menuAction = 4;                         ///< a right click
+    int closeAction = 8;                        ///< a right double click: in conflict with the menu
     int copyAction = 16;                        ///< a middle click
+    int hideAction = 0;                         ///< none
     int moveAction = 128;                       ///< dragging
-    int drawAction = 256;
+    int drawAction = 256;                       ///< dragging with the right button
     bool doubleClickFinishes = true;
     bool invertWheel = false;
     int dragThreshold = 4;                      ///< pixels
@@ -76,8 +77,9 @@ struct Settings
     bool saveAfterCapture = false;
     bool openAfterCapture = false;
 
-    // Advanced
-    bool showExpert = false;                    ///< whether the settings below are shown
+    // System
+    bool simpleHotkeys = false;                 ///< whether a letter alone may be a hotkey
+    bool showExpert = false;                    ///< whether the expert settings are shown
     int undoSteps = 50;
     bool restorePins = true;
     bool logToFile = false;

@@ -28,7 +28,7 @@ const char *const sPageNames[] = {
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Mouse"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Output"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Profiles"),
-    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Advanced"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "System"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Stored data"),
 };
 
@@ -118,7 +118,6 @@ void declareHotkeys(MtConfManage &m, Settings &s)
 {
     const QString page = QStringLiteral("Hotkeys");
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Hotkeys in full-screen applications"), &s.hotkeysInFullScreen, page, QStringLiteral("FullScreen"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Allow simple global hotkeys"), &s.simpleHotkeys, page, QStringLiteral("Simple"));
     range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Repeat delay (ms)"), &s.repeatDelay, page, QStringLiteral("RepeatDelay")), 0, 2000);
 
     // The usual editor, told whether it may take a letter alone.
@@ -149,8 +148,10 @@ void declareMouse(MtConfManage &m, Settings &s)
     const QString pinned = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Pinned pictures"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Zoom"), &s.zoomAction, 0, page, pinned, QStringLiteral("Zoom"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Opacity"), &s.opacityAction, 0, page, pinned, QStringLiteral("Opacity"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Show the menu"), &s.menuAction, 1, page, pinned, QStringLiteral("Menu"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Close"), &s.closeAction, 1, page, pinned, QStringLiteral("Close"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Copy"), &s.copyAction, 1, page, pinned, QStringLiteral("Copy"));
+    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Hide"), &s.hideAction, 1, page, pinned, QStringLiteral("Hide"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Move"), &s.moveAction, 2, page, pinned, QStringLiteral("Move"));
     m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Draw"), &s.drawAction, 2, page, pinned, QStringLiteral("Draw"));
 }
@@ -177,9 +178,10 @@ void declareOutput(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Open it in the editor"), &s.openAfterCapture, page, after, QStringLiteral("Open"));
 }
 
-void declareAdvanced(MtConfManage &m, Settings &s)
+void declareSystem(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Advanced");
+    const QString page = QStringLiteral("System");
+    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Allow simple global hotkeys"), &s.simpleHotkeys, page, QStringLiteral("SimpleHotkeys"));
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show expert settings"), &s.showExpert, page, QStringLiteral("ShowExpert"));
     range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Steps that can be undone"), &s.undoSteps, page, QStringLiteral("UndoSteps")), 1, 500);
     m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Bring pinned pictures back at start"), &s.restorePins, page, QStringLiteral("RestorePins"));
@@ -213,6 +215,6 @@ void declareSettings(MtConfManage &manager, Settings &settings)
     declareOutput(manager, settings);
     // Pages of the program's own making: the session gives them their widgets.
     manager.setConfigClassFlag(QStringLiteral("Profiles"), MtConf::ClassWithoutRestoreButton);
-    declareAdvanced(manager, settings);
+    declareSystem(manager, settings);
     manager.setConfigClassFlag(QStringLiteral("Stored data"), MtConf::ClassWithoutRestoreButton);
 }

@@ -1,5 +1,6 @@
 #include "DemoArguments.h"
 #include "DemoSession.h"
+#include "KeyHolder.h"
 #include "MainWindow.h"
 #include "MessageLog.h"
 #include "takePictures.h"
@@ -11,6 +12,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTextStream>
+
+#include <memory>
 
 namespace {
 
@@ -76,11 +79,12 @@ int main(int argc, char **argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("malto-demo"));
     DemoArguments arguments;
+    DemoArguments::Outcome outcome;
     {
         // Before there are windows: help and complaints need no display, and the dots per inch are
         // read when the real application object is made.
         const QCoreApplication early(argc, argv);
-        const DemoArguments::Outcome outcome = arguments.parse(QCoreApplication::arguments());
+        outcome = arguments.parse(QCoreApplication::arguments());
         if (outcome == DemoArguments::Outcome::Failed)
             return fail(arguments.message);
         if (outcome == DemoArguments::Outcome::ShowHelp) {
@@ -91,5 +95,15 @@ int main(int argc, char **argv)
     if (arguments.scale)
         qputenv("QT_FONT_DPI", QByteArray::number(qRound(96 * *arguments.scale)));
     const QApplication application(argc, argv);
+    if (outcome == DemoArguments::Outcome::HoldKey)
+        return KeyHolder::run(arguments.keyToHold);
+    std::unique_ptr<KeyHolder> holder;
+    if (arguments.occupied) {
+        holder = std::make_unique<KeyHolder>(QCoreApplication::applicationFilePath(),
+                                             DemoArguments::occupiedKey());
+        if (!holder->holds())
+            return fail(QStringLiteral("No program can hold %1 here")
+                            .arg(DemoArguments::occupiedKey().toString()));
+    }
     return arguments.picturesFolder.isEmpty() ? run(arguments) : drawPictures(arguments);
 }

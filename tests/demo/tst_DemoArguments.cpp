@@ -18,6 +18,7 @@ private Q_SLOTS:
     void picturesGrowWithTheScale();
     void picturesShowTheConfiguration();
     void picturesShowTheLanguage();
+    void nothingCanBeOccupiedWithoutHotkeys();
 
 private:
     struct Run
@@ -54,8 +55,9 @@ void tst_DemoArguments::helpNamesEveryOption()
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(help.errors, QString());
     for (const char *option : {"--local-file", "--config", "--page", "--theme", "--language",
-                               "--scale", "--pictures", "--help"})
+                               "--scale", "--pictures", "--occupied", "--help"})
         QVERIFY2(help.output.contains(QLatin1String(option)), option);
+    QVERIFY(!help.output.contains("--hold-key"));
 }
 
 void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse_data()
@@ -74,7 +76,7 @@ void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse_data()
     row("word too many", {"more"}, "Unexpected argument \"more\"");
     row("unknown page", {"--page", "Sound"},
         "Unknown page \"Sound\"; there are: General, Appearance, Capture, Hotkeys, Mouse, Output, "
-        "Profiles, Advanced, Stored data");
+        "Profiles, System, Stored data");
     row("unknown theme", {"--theme", "pink"},
         "Unknown theme \"pink\"; there are: system, light, dark");
     row("scale in words", {"--scale", "big"}, "Not a scale from 0.5 to 4: \"big\"");
@@ -122,13 +124,14 @@ void tst_DemoArguments::picturesShowEveryPageInBothThemes()
     const QStringList paths = result.output.split('\n', Qt::SkipEmptyParts);
     QCOMPARE(paths.size(), 20);
     const QStringList files = QDir("pictures/new").entryList(QDir::Files, QDir::Name);
-    QCOMPARE(files, QStringList({"advanced-dark.png", "advanced-light.png", "appearance-dark.png",
-                                 "appearance-light.png", "capture-dark.png", "capture-light.png",
+    QCOMPARE(files, QStringList({"appearance-dark.png", "appearance-light.png",
+                                 "capture-dark.png", "capture-light.png",
                                  "general-dark.png", "general-light.png", "hotkeys-dark.png",
                                  "hotkeys-light.png", "main-dark.png", "main-light.png",
                                  "mouse-dark.png", "mouse-light.png", "output-dark.png",
                                  "output-light.png", "profiles-dark.png", "profiles-light.png",
-                                 "stored-data-dark.png", "stored-data-light.png"}));
+                                 "stored-data-dark.png", "stored-data-light.png",
+                                 "system-dark.png", "system-light.png"}));
     for (const QString &path : paths) {
         const QImage picture(path);
         QVERIFY2(picture.width() > 400 && picture.height() > 400, qPrintable(path));
@@ -171,6 +174,13 @@ void tst_DemoArguments::picturesShowTheLanguage()
     QCOMPARE(run({"--pictures", "english", "--language", "en-us"}).exitCode, 0);
     QCOMPARE(run({"--pictures", "german", "--language", "de-de"}).exitCode, 0);
     QVERIFY(QImage("english/mouse-light.png") != QImage("german/mouse-light.png"));
+}
+
+void tst_DemoArguments::nothingCanBeOccupiedWithoutHotkeys()
+{
+    const Run result = run({"--pictures", "occupied", "--occupied"});
+    QVERIFY(result.errors.endsWith("malto-demo: No program can hold Ctrl+Alt+W here\n"));
+    QCOMPARE(result.exitCode, 2);
 }
 
 int main(int argc, char **argv) { return runTest<tst_DemoArguments>(argc, argv); }

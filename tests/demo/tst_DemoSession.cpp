@@ -210,20 +210,20 @@ void tst_DemoSession::expertSettingsAppearWithTheirSwitch()
 {
     DemoFixture demo;
     demo.start();
-    QVERIFY(demo.open(QStringLiteral("Advanced")));
-    QVERIFY(!demo.editor("Advanced", "CacheSize"));
-    demo.click(demo.checkBox("Advanced", "ShowExpert"));
-    QTRY_VERIFY(demo.editor("Advanced", "CacheSize"));
-    QVERIFY(demo.checkBox("Advanced", "ShowExpert")->isChecked());
-    demo.type(demo.control<QSpinBox>(demo.editor("Advanced", "CacheSize")), QStringLiteral("512"));
+    QVERIFY(demo.open(QStringLiteral("System")));
+    QVERIFY(!demo.editor("System", "CacheSize"));
+    demo.click(demo.checkBox("System", "ShowExpert"));
+    QTRY_VERIFY(demo.editor("System", "CacheSize"));
+    QVERIFY(demo.checkBox("System", "ShowExpert")->isChecked());
+    demo.type(demo.control<QSpinBox>(demo.editor("System", "CacheSize")), QStringLiteral("512"));
     QVERIFY(demo.close());
 
     demo.start();
     QCOMPARE(demo.settings().cacheSize, 512);
-    QVERIFY(demo.open(QStringLiteral("Advanced")));
-    QVERIFY(demo.editor("Advanced", "CacheSize"));
-    QTest::keyClick(demo.checkBox("Advanced", "ShowExpert"), Qt::Key_Space);
-    QTRY_VERIFY(!demo.editor("Advanced", "CacheSize"));
+    QVERIFY(demo.open(QStringLiteral("System")));
+    QVERIFY(demo.editor("System", "CacheSize"));
+    QTest::keyClick(demo.checkBox("System", "ShowExpert"), Qt::Key_Space);
+    QTRY_VERIFY(!demo.editor("System", "CacheSize"));
     QCOMPARE(demo.settings().cacheSize, 512);
 }
 
@@ -238,9 +238,11 @@ void tst_DemoSession::recordedHotkeyComesBackAndIsTheProgramsOwn()
     field->setFocus();
     QTest::keyClick(field, Qt::Key_F8, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(demo.settings().pickColor, pressed);
-    demo.click(demo.checkBox("Hotkeys", "Simple"));
-    QTRY_VERIFY(demo.control<KeySequenceEdit>(demo.editor("Hotkeys", "Tools", "PickColor"))
-                    ->allowSimpleHotkey);
+    demo.clickClass(QStringLiteral("System"));
+    demo.click(demo.checkBox("System", "SimpleHotkeys"));
+    demo.clickClass(QStringLiteral("Hotkeys"));
+    QVERIFY(demo.control<KeySequenceEdit>(demo.editor("Hotkeys", "Tools", "PickColor"))
+                ->allowSimpleHotkey);
     QVERIFY(demo.close());
 
     demo.start();
@@ -362,7 +364,7 @@ void tst_DemoSession::everyPageOpensByAClick()
     QVERIFY(demo.open(QString()));
     const LogCapture log;
     const QStringList pages{"General", "Appearance", "Capture", "Hotkeys", "Mouse",
-                            "Output", "Profiles", "Advanced", "Stored data"};
+                            "Output", "Profiles", "System", "Stored data"};
     auto *list = demo.child<QListView>("configList");
     QCOMPARE(list->model()->rowCount(), 9);
     for (const QString &page : pages) {

@@ -135,3 +135,13 @@ bool XClient::setModifierMap(const QVector<xcb_keycode_t> &map)
         nullptr));
     return reply && reply->status == XCB_MAPPING_STATUS_SUCCESS;
 }
+
+void XClient::takeFocus()
+{
+    const xcb_window_t window = xcb_generate_id(mConnection);
+    xcb_create_window(mConnection, XCB_COPY_FROM_PARENT, window, mRoot, 0, 0, 10, 10, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(mConnection, window);
+    xcb_set_input_focus(mConnection, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    sync();
+}

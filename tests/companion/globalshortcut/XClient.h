@@ -36,6 +36,9 @@ public:
     /// Whether this client could take a key; it does not keep it.
     bool canGrab(xcb_keycode_t key, quint16 modifiers);
 
+    /// Shows a window and gives it the keyboard.
+    void takeFocus();
+
     /// The keysyms on a key, in the server's order.
     QVector<xcb_keysym_t> symbolsOf(xcb_keycode_t key) const;
     /// Replaces the keysyms on a key.
