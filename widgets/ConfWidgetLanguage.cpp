@@ -31,7 +31,9 @@ bool installFile(QTranslator *translator, const QString &file)
 {
     // Qt asks a translator once for every time that it was installed.
     QCoreApplication::removeTranslator(translator);
-    if (!translator->load(file))
+    // This file and no other: by default Qt tries shorter and shorter names as well.
+    const QString none = QStringLiteral("");
+    if (!translator->load(file, none, none, none))
         return false;
     QCoreApplication::installTranslator(translator);
     return true;

@@ -36,12 +36,18 @@ public:
     /// A file with translations, made by the build.
     void addCatalogue(const QString &name) const
     {
-        const QDir folder(
-            mFolder.filePath(name.startsWith("qt_") ? "language_qt" : "language"));
-        QVERIFY(folder.mkpath("."));
-        QFile::remove(folder.filePath(name));
-        QVERIFY(QFile::copy(QDir(MALTO_TEST_CATALOGUES).filePath(name), folder.filePath(name)));
+        copyCatalogue(name, (name.startsWith("qt_") ? "language_qt/" : "language/") + name);
     }
+    /// A file with translations under another name; `path` leads from the parent of the folders.
+    void copyCatalogue(const QString &name, const QString &path) const
+    {
+        const QString target = mFolder.filePath(path);
+        QVERIFY(QDir().mkpath(QFileInfo(target).path()));
+        QFile::remove(target);
+        QVERIFY(QFile::copy(QDir(MALTO_TEST_CATALOGUES).filePath(name), target));
+    }
+    /// The path of a file in the application's folder.
+    QString filePath(const QString &name) const { return mFolder.filePath("language/" + name); }
     /// French for the application and Qt, German for the application alone.
     void addFrenchAndGerman() const
     {

@@ -5,6 +5,7 @@
 
 #include <OrvUtils/getPreferredLanguages.h>
 
+#include <fstream>
 #include <memory>
 
 using MtConf::ConfWidgetLanguage;
@@ -41,6 +42,9 @@ private Q_SLOTS:
     void filesLieInTheResourcesBesideTheExecutable();
     void supportedCodes_data();
     void supportedCodes();
+    void unusualFileNames_data();
+    void unusualFileNames();
+    void onlyReadableFilesCount();
     void filesAreLookedUpOnce();
     void usableCode_data();
     void usableCode();
@@ -54,6 +58,10 @@ private Q_SLOTS:
     void missingQtFileLeavesTheApplicationTranslated();
     void brokenFileLeavesQtTranslated();
     void failedLanguageIsTriedAgainAfterAnother();
+    void codeNamesOnlyFilesOfTheFolder_data();
+    void codeNamesOnlyFilesOfTheFolder();
+    void onlyTheFileOfTheCodeIsLoaded();
+    void everyTruncatedFileIsRefusedOrReadsSafely();
     void listWithoutEnglishFallsBackToItsFirst();
 
 private:
@@ -113,6 +121,59 @@ void tst_ConfWidgetLanguageTranslators::supportedCodes()
     mFolder->addFiles(files);
     QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), codes);
     QCOMPARE(ConfWidgetLanguage::mSupportLangCodes, codes);
+}
+
+void tst_ConfWidgetLanguageTranslators::unusualFileNames_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("code"); // null when the file is not offered
+    QTest::newRow("suffixAlone") << QByteArray(".qm") << QString();
+    QTest::newRow("twoStopsAndNoName") << QByteArray("..qm") << QString();
+    QTest::newRow("parentFolderAndSuffix") << QByteArray("...qm") << QString();
+    QTest::newRow("hidden") << QByteArray(".fr-fr.qm") << QString();
+    QTest::newRow("manyStops") << QByteArray("a.b.c.qm") << QString("a");
+    QTest::newRow("blanks") << QByteArray(" fr-fr .qm") << QString(" fr-fr ");
+    QTest::newRow("lineBreak") << QByteArray("fr\nfr.qm") << QString("fr\nfr");
+    QTest::newRow("backslashes") << QByteArray("..\\..\\x.qm") << QString();
+    QTest::newRow("percentSign") << QByteArray("%1%2.qm") << QString("%1%2");
+    QTest::newRow("asLongAsNamesCanBe") << QByteArray(252, 'x') + ".qm" << QString(252, 'x');
+    QTest::newRow("suffixInCapitals") << QByteArray("fr-fr.QM") << QString("fr-fr");
+#ifdef Q_OS_LINUX
+    QTest::newRow("notUtf8") << QByteArray("fr\xff\xfe.qm") << QString();
+#endif
+}
+
+void tst_ConfWidgetLanguageTranslators::unusualFileNames()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, code);
+    mFolder->addFiles({"plain.qm"});
+    std::ofstream(QFile::encodeName(mFolder->filePath({})).toStdString() + file.toStdString());
+    QStringList codes{"auto", "en-us", "plain"};
+    if (!code.isNull())
+        codes.append(code);
+    codes.sort();
+    QStringList found = ConfWidgetLanguage::loadSupportLanguageCode();
+    found.sort();
+    QCOMPARE(found, codes);
+    if (code.isNull())
+        return;
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator(code);
+    QCOMPARE(log.texts(QtWarningMsg).value(0), QString("Unable to load QTranslator"));
+    QCOMPARE(label(), QString("Language"));
+}
+
+void tst_ConfWidgetLanguageTranslators::onlyReadableFilesCount()
+{
+    mFolder->addFiles({"de-de.qm", "fr-fr.qm", "it-it.qm/file"});
+    QVERIFY(QFile::link("nowhere", mFolder->filePath("es-es.qm")));
+    QVERIFY(QFile::link(mFolder->filePath("de-de.qm"), mFolder->filePath("nl-nl.qm")));
+    QVERIFY(QFile::setPermissions(mFolder->filePath("fr-fr.qm"), {}));
+    QStringList codes{"auto", "en-us", "de-de", "nl-nl"};
+    if (QFileInfo(mFolder->filePath("fr-fr.qm")).isReadable()) // the superuser reads everything
+        codes.insert(3, "fr-fr");
+    QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), codes);
 }
 
 void tst_ConfWidgetLanguageTranslators::filesAreLookedUpOnce()
@@ -284,6 +345,77 @@ void tst_ConfWidgetLanguageTranslators::failedLanguageIsTriedAgainAfterAnother()
     ConfWidgetLanguage::installTranslator("en-us");
     ConfWidgetLanguage::installTranslator("fr-fr");
     QCOMPARE(label(), QString("Langue"));
+}
+
+void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::newRow("otherFolder") << "../other/fr-fr";
+    QTest::newRow("parentFolder") << "../x";
+    QTest::newRow("twoFoldersUp") << "../../x";
+    QTest::newRow("folderItself") << "./fr-fr";
+    QTest::newRow("subfolder") << "sub/fr-fr";
+    QTest::newRow("absolute") << "/fr-fr";
+    QTest::newRow("withSuffix") << "fr-fr.qm";
+    QTest::newRow("otherCase") << "FR-FR";
+    QTest::newRow("blankBehind") << "fr-fr ";
+    QTest::newRow("nullCharacter") << QString("fr-fr") + QChar(u'\0') + "x";
+    QTest::newRow("resource") << ":/fr-fr";
+    QTest::newRow("empty") << "";
+    QTest::newRow("blank") << " ";
+    QTest::newRow("autoAndBlank") << "auto ";
+    QTest::newRow("autoInCapitals") << "AUTO";
+    QTest::newRow("long") << QString(100000, 'x');
+}
+
+void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder()
+{
+    mFolder->addFrenchAndGerman();
+    for (const char *path : {"other/fr-fr.qm", "language/sub/fr-fr.qm", "x.qm"})
+        mFolder->copyCatalogue("fr-fr.qm", path);
+    QFETCH(QString, code);
+    QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode(code), QString("en-us"));
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("de-de");
+    ConfWidgetLanguage::installTranslator(code);
+    QCOMPARE(log.texts(QtDebugMsg).last(), QString("installTranslator:  \"en-us\""));
+    QCOMPARE(label(), QString("Language"));
+}
+
+void tst_ConfWidgetLanguageTranslators::onlyTheFileOfTheCodeIsLoaded()
+{
+    // Names that Qt would try too, when the right ones are missing.
+    mFolder->addFiles({"fr-fr.host.qm"});
+    mFolder->copyCatalogue("fr-fr.qm", "language/fr-fr");
+    mFolder->copyCatalogue("fr-fr.qm", "language/fr-fr.qm.qm");
+    mFolder->copyCatalogue("qt_fr-fr.qm", "language_qt/qt.qm");
+    mFolder->copyCatalogue("qt_fr-fr.qm", "language.qm");
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("fr-fr");
+    QCOMPARE(label(), QString("Language"));
+    QCOMPARE(cancel(), QString("Cancel"));
+    QCOMPARE(log.texts(QtWarningMsg).size(), 2);
+}
+
+void tst_ConfWidgetLanguageTranslators::everyTruncatedFileIsRefusedOrReadsSafely()
+{
+    mFolder->addCatalogue("fr-fr.qm");
+    QFile file(mFolder->filePath("fr-fr.qm"));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    int refused = 0;
+    for (qint64 size = file.size() - 1; size >= 0; --size) {
+        QVERIFY(file.resize(size));
+        const LogCapture log;
+        ConfWidgetLanguage::installTranslator("en-us");
+        ConfWidgetLanguage::installTranslator("fr-fr");
+        const QString text = label();
+        QVERIFY2(text == "Langue" || text == "Language", qPrintable(text));
+        if (log.texts(QtWarningMsg).contains("Unable to load QTranslator")) {
+            ++refused;
+            QCOMPARE(text, QString("Language"));
+        }
+    }
+    QVERIFY(refused > 0);
 }
 
 void tst_ConfWidgetLanguageTranslators::listWithoutEnglishFallsBackToItsFirst()
