@@ -104,8 +104,8 @@ function(_malto_languages result own_dir ts_dir)
     set(${result} ${files} PARENT_SCOPE)
 endfunction()
 
-# Qt's own texts in a language: those that Qt has installed, or else the most visible ones, which
-# the library keeps for languages that Qt lacks.
+# Qt's own texts in a language: those that Qt has installed, over the most visible ones, which the
+# library keeps for languages that Qt lacks.
 function(_malto_qt_sources result own_dir code)
     get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
     execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
@@ -114,11 +114,12 @@ function(_malto_qt_sources result own_dir code)
     string(REGEX REPLACE ".*-" "" country ${code})
     string(TOUPPER ${country} country)
     string(REPLACE "CHT" "TW" country ${country})
-    set(${result} PARENT_SCOPE)
+    set(sources)
     foreach(source ${own_dir}/qt_${code}.ts
                    ${qt_dir}/qtbase_${language}.qm ${qt_dir}/qtbase_${language}_${country}.qm)
         if(EXISTS ${source})
-            set(${result} ${source} PARENT_SCOPE)
+            list(APPEND sources ${source})
         endif()
     endforeach()
+    set(${result} ${sources} PARENT_SCOPE)
 endfunction()

@@ -52,7 +52,7 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Einrichten fehlgeschlagen, das Tastenkürzel ist möglicherweise schon belegt. Klicken Sie, um es erneut zu versuchen.</translation>
+        <translation>Einrichten fehlgeschlagen: Das Tastenkürzel ist möglicherweise schon belegt. Klicken Sie, um es erneut zu versuchen.</translation>
     </message>
     <message>
         <source>Setup success.</source>
@@ -67,7 +67,7 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
-        <translation>Wie das System</translation>
+        <translation>Systemsprache</translation>
     </message>
 </context>
 <context>

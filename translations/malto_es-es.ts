@@ -12,11 +12,11 @@
     <name>ConfigurationWindow</name>
     <message>
         <source>Quorvi Configuration</source>
-        <translation>Configuración de Quorvi</translation>
+        <translation>Ajustes de Quorvi</translation>
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Restaurar todos los valores</translation>
+        <translation>Restaurar todo</translation>
     </message>
     <message>
         <source>Restore Default</source>
@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Pulse el atajo de teclado</translation>
+        <translation>Pulse un atajo de teclado</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

@@ -12,7 +12,7 @@
     <name>ConfigurationWindow</name>
     <message>
         <source>Quorvi Configuration</source>
-        <translation>Configuration de Quorvi</translation>
+        <translation>Réglages de Quorvi</translation>
     </message>
     <message>
         <source>Restore All Default</source>
@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Saisissez le raccourci</translation>
+        <translation>Saisissez un raccourci</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>
@@ -52,7 +52,7 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Échec de la configuration : le raccourci est peut-être déjà utilisé. Cliquez pour réessayer.</translation>
+        <translation>Échec de la configuration&#xa0;: le raccourci est peut-être déjà utilisé. Cliquez pour réessayer.</translation>
     </message>
     <message>
         <source>Setup success.</source>
@@ -125,11 +125,11 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
     <message>
         <source>Are you sure to restore current page default?</source>
-        <translation>Voulez-vous vraiment rétablir les valeurs par défaut de cette page ?</translation>
+        <translation>Voulez-vous vraiment rétablir les valeurs par défaut de cette page&#x202f;?</translation>
     </message>
     <message>
         <source>Are you sure to restore all default?</source>
-        <translation>Voulez-vous vraiment rétablir toutes les valeurs par défaut ?</translation>
+        <translation>Voulez-vous vraiment rétablir toutes les valeurs par défaut&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -144,7 +144,7 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
     <message>
         <source>Conflict with %1</source>
-        <translation>Conflit avec « %1 »</translation>
+        <translation>Conflit avec «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 </TS>

@@ -52,7 +52,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>सेट नहीं हो सकी, संभव है कि शॉर्टकट कुंजी पहले से उपयोग में हो। फिर से प्रयास करने के लिए क्लिक करें।</translation>
+        <translation>सेट नहीं हो सकी: संभव है कि शॉर्टकट कुंजी पहले से उपयोग में हो। फिर से प्रयास करने के लिए क्लिक करें।</translation>
     </message>
     <message>
         <source>Setup success.</source>

@@ -12,7 +12,7 @@
     <name>ConfigurationWindow</name>
     <message>
         <source>Quorvi Configuration</source>
-        <translation>Configurazione di Quorvi</translation>
+        <translation>Impostazioni di Quorvi</translation>
     </message>
     <message>
         <source>Restore All Default</source>
@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Premi la scorciatoia da tastiera</translation>
+        <translation>Premi una scorciatoia da tastiera</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

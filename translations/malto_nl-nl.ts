@@ -52,7 +52,7 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Instellen mislukt, de sneltoets is mogelijk al in gebruik. Klik om het opnieuw te proberen.</translation>
+        <translation>Instellen mislukt: de sneltoets is mogelijk al in gebruik. Klik om het opnieuw te proberen.</translation>
     </message>
     <message>
         <source>Setup success.</source>
@@ -82,7 +82,7 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
     <message>
         <source>Left Double Click</source>
-        <translation>Dubbele linksklik</translation>
+        <translation>Dubbelklik links</translation>
     </message>
     <message>
         <source>Right Click</source>
@@ -90,7 +90,7 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
     <message>
         <source>Right Double Click</source>
-        <translation>Dubbele rechtsklik</translation>
+        <translation>Dubbelklik rechts</translation>
     </message>
     <message>
         <source>Middle Click</source>
@@ -98,11 +98,11 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>Dubbele middelklik</translation>
+        <translation>Dubbelklik midden</translation>
     </message>
     <message>
         <source>Wheel</source>
-        <translation>Scrolwiel</translation>
+        <translation>Muiswiel</translation>
     </message>
     <message>
         <source>Left Drag</source>

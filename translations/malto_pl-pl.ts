@@ -12,7 +12,7 @@
     <name>ConfigurationWindow</name>
     <message>
         <source>Quorvi Configuration</source>
-        <translation>Konfiguracja Quorvi</translation>
+        <translation>Ustawienia Quorvi</translation>
     </message>
     <message>
         <source>Restore All Default</source>
@@ -52,7 +52,7 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Nie udało się ustawić skrótu, może być już zajęty. Kliknij, aby spróbować ponownie.</translation>
+        <translation>Nie udało się ustawić skrótu: może być już zajęty. Kliknij, aby spróbować ponownie.</translation>
     </message>
     <message>
         <source>Setup success.</source>

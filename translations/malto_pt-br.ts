@@ -12,7 +12,7 @@
     <name>ConfigurationWindow</name>
     <message>
         <source>Quorvi Configuration</source>
-        <translation>Configuração do Quorvi</translation>
+        <translation>Configurações do Quorvi</translation>
     </message>
     <message>
         <source>Restore All Default</source>
@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Pressione o atalho de teclado</translation>
+        <translation>Pressione um atalho de teclado</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

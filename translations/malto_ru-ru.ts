@@ -102,7 +102,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Wheel</source>
-        <translation>Колесо прокрутки</translation>
+        <translation>Колесо мыши</translation>
     </message>
     <message>
         <source>Left Drag</source>

@@ -52,7 +52,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Det gick inte att ställa in kortkommandot, det kan vara upptaget. Klicka för att försöka igen.</translation>
+        <translation>Det gick inte att ställa in kortkommandot: det kan redan vara upptaget. Klicka för att försöka igen.</translation>
     </message>
     <message>
         <source>Setup success.</source>

@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>按下快速鍵</translation>
+        <translation>請按下快速鍵</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>
@@ -136,7 +136,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <name>QObject</name>
     <message>
         <source>Cannot set left-click separately</source>
-        <translation>無法單獨設定按一下左鍵</translation>
+        <translation>無法單獨設定「按一下左鍵」</translation>
     </message>
     <message>
         <source>No set</source>

@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>按下快捷键</translation>
+        <translation>请按下快捷键</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

@@ -5,50 +5,50 @@
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation>सभी चुनें</translation>
+        <translation>सभी चुनें (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation>बढ़ाएँ</translation>
+        <translation>बढ़ाएँ (&amp;S)</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation>घटाएँ</translation>
+        <translation>घटाएँ (&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>QColorDialog</name>
     <message>
         <source>Hu&amp;e:</source>
-        <translation>रंगत:</translation>
+        <translation>रंगत (&amp;E):</translation>
     </message>
     <message>
         <source>&amp;Sat:</source>
-        <translation>संतृप्ति:</translation>
+        <translation>संतृप्ति (&amp;S):</translation>
     </message>
     <message>
         <source>&amp;Val:</source>
-        <translation>मान:</translation>
+        <translation>मान (&amp;V):</translation>
     </message>
     <message>
         <source>&amp;Red:</source>
-        <translation>लाल:</translation>
+        <translation>लाल (&amp;R):</translation>
     </message>
     <message>
         <source>&amp;Green:</source>
-        <translation>हरा:</translation>
+        <translation>हरा (&amp;G):</translation>
     </message>
     <message>
         <source>Bl&amp;ue:</source>
-        <translation>नीला:</translation>
+        <translation>नीला (&amp;U):</translation>
     </message>
     <message>
         <source>A&amp;lpha channel:</source>
-        <translation>अल्फ़ा चैनल:</translation>
+        <translation>अल्फ़ा चैनल (&amp;L):</translation>
     </message>
     <message>
         <source>&amp;HTML:</source>
-        <translation>HTML:</translation>
+        <translation>&amp;HTML:</translation>
     </message>
     <message>
         <source>Cursor at %1, %2
@@ -58,19 +58,19 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>&amp;Pick Screen Color</source>
-        <translation>स्क्रीन से रंग चुनें</translation>
+        <translation>स्क्रीन से रंग चुनें (&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Basic colors</source>
-        <translation>मूल रंग</translation>
+        <translation>मूल रंग (&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Custom colors</source>
-        <translation>कस्टम रंग</translation>
+        <translation>कस्टम रंग (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Add to Custom Colors</source>
-        <translation>कस्टम रंगों में जोड़ें</translation>
+        <translation>कस्टम रंगों में जोड़ें (&amp;A)</translation>
     </message>
     <message>
         <source>Select Color</source>
@@ -92,15 +92,15 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>&amp;Font</source>
-        <translation>फ़ॉन्ट</translation>
+        <translation>फ़ॉन्ट (&amp;F)</translation>
     </message>
     <message>
         <source>Font st&amp;yle</source>
-        <translation>फ़ॉन्ट शैली</translation>
+        <translation>फ़ॉन्ट शैली (&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;Size</source>
-        <translation>आकार</translation>
+        <translation>आकार (&amp;S)</translation>
     </message>
     <message>
         <source>Effects</source>
@@ -108,11 +108,11 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Stri&amp;keout</source>
-        <translation>काट रेखा</translation>
+        <translation>काट रेखा (&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation>रेखांकित</translation>
+        <translation>रेखांकित (&amp;U)</translation>
     </message>
     <message>
         <source>Sample</source>
@@ -120,7 +120,7 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Wr&amp;iting System</source>
-        <translation>लेखन पद्धति</translation>
+        <translation>लेखन पद्धति (&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -134,23 +134,23 @@ Press ESC to cancel</source>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>पूर्ववत करें</translation>
+        <translation>पूर्ववत करें (&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>फिर से करें</translation>
+        <translation>फिर से करें (&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>काटें</translation>
+        <translation>काटें (&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>कॉपी करें</translation>
+        <translation>कॉपी करें (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>चिपकाएँ</translation>
+        <translation>चिपकाएँ (&amp;P)</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -181,19 +181,19 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation>हाँ</translation>
+        <translation>हाँ (&amp;Y)</translation>
     </message>
     <message>
         <source>Yes to &amp;All</source>
-        <translation>सभी के लिए हाँ</translation>
+        <translation>सभी के लिए हाँ (&amp;A)</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation>नहीं</translation>
+        <translation>नहीं (&amp;N)</translation>
     </message>
     <message>
         <source>N&amp;o to All</source>
-        <translation>सभी के लिए नहीं</translation>
+        <translation>सभी के लिए नहीं (&amp;O)</translation>
     </message>
     <message>
         <source>Abort</source>
@@ -240,23 +240,23 @@ Press ESC to cancel</source>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Undo</source>
-        <translation>पूर्ववत करें</translation>
+        <translation>पूर्ववत करें (&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>फिर से करें</translation>
+        <translation>फिर से करें (&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>काटें</translation>
+        <translation>काटें (&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>कॉपी करें</translation>
+        <translation>कॉपी करें (&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>चिपकाएँ</translation>
+        <translation>चिपकाएँ (&amp;P)</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -268,7 +268,7 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation>लिंक का पता कॉपी करें</translation>
+        <translation>लिंक का पता कॉपी करें (&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -58,11 +58,11 @@ Tryck på Esc för att avbryta</translation>
     </message>
     <message>
         <source>&amp;Pick Screen Color</source>
-        <translation>&amp;Hämta färg från skärmen</translation>
+        <translation>Hämta färg från s&amp;kärmen</translation>
     </message>
     <message>
         <source>&amp;Basic colors</source>
-        <translation>G&amp;rundfärger</translation>
+        <translation>Grun&amp;dfärger</translation>
     </message>
     <message>
         <source>&amp;Custom colors</source>
@@ -70,7 +70,7 @@ Tryck på Esc för att avbryta</translation>
     </message>
     <message>
         <source>&amp;Add to Custom Colors</source>
-        <translation>&amp;Lägg till i egna färger</translation>
+        <translation>Lägg &amp;till i egna färger</translation>
     </message>
     <message>
         <source>Select Color</source>

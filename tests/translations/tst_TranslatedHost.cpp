@@ -23,6 +23,7 @@ private Q_SLOTS:
     void everyMergedLanguageIsOffered();
     void libraryAndQtSpeakTheLanguage_data();
     void libraryAndQtSpeakTheLanguage();
+    void britishEnglishSpellsQtsColours();
     void hostSpeaksTheLanguage();
     void hostsTranslationGoesBeforeTheLibrarys();
     void arabicLaysTheWindowOutRightToLeft();
@@ -72,7 +73,7 @@ void tst_TranslatedHost::libraryAndQtSpeakTheLanguage_data()
     row("en-gb", "Restore Defaults", "&Yes");
     row("es-es", "Restaurar valores predeterminados", "&Sí");
     row("fr-fr", "Rétablir par défaut", "&Oui");
-    row("hi-in", "डिफ़ॉल्ट पुनर्स्थापित करें", "हाँ");
+    row("hi-in", "डिफ़ॉल्ट पुनर्स्थापित करें", "हाँ (&Y)");
     row("it-it", "Ripristina valori predefiniti", "&Sì");
     row("ja-jp", "デフォルトに戻す", "はい(&Y)");
     row("ko-kr", "기본값으로 복원", "예(&Y)");
@@ -94,6 +95,16 @@ void tst_TranslatedHost::libraryAndQtSpeakTheLanguage()
     QTEST(translate("ConfigurationWindow", "Restore Default"), "restore");
     QTEST(translate("QPlatformTheme", "&Yes"), "yes");
     QTEST(QGuiApplication::layoutDirection(), "direction");
+}
+
+void tst_TranslatedHost::britishEnglishSpellsQtsColours()
+{
+    const LogCapture log;
+    ConfWidgetLanguage::installTranslator("en-gb");
+    QCOMPARE(translate("QColorDialog", "Select Color"), QString("Select Colour"));
+    QCOMPARE(translate("QColorDialog", "&Red:"), QString("&Red:"));
+    ConfWidgetLanguage::installTranslator("en-us");
+    QCOMPARE(translate("QColorDialog", "Select Color"), QString("Select Color"));
 }
 
 void tst_TranslatedHost::hostSpeaksTheLanguage()

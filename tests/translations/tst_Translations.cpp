@@ -50,15 +50,44 @@ QStringList fixedParts(const QString &text)
     return parts;
 }
 
-/// Whether a text may read as the English one does.
+/// Whether a text may read as the English one does: names, units, and words that other languages
+/// share with English.
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
-        "qt_sv-se.ts OK",
-        "qt_sv-se.ts &HTML:",
+        "%1, %2 px", "&File", "&HTML:", "Cache (MB)", "Capture", "Distance (px)", "Font",
+        "Format", "General", "Image", "Mouse", "Name", "OK", "Output", "Quorvi Capture",
+        "System", "Updates", "Zoom", "page",
     };
-    return file == QLatin1String("malto_en-gb.ts")
-        || identical.contains(file + ' ' + message.source);
+    return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
+}
+
+/// The texts that lupdate finds.
+QList<Message> update(const QStringList &arguments, const QString &fresh)
+{
+    QProcess script;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LUPDATE", MALTO_LUPDATE);
+    script.setProcessEnvironment(environment);
+    script.start(MALTO_SOURCE_DIR "/translations/update.sh", arguments);
+    const bool isDone = script.waitForFinished(-1) && script.exitCode() == 0;
+    return isDone ? readMessages(fresh) : QList<Message>();
+}
+
+QStringList fullTexts(const QList<Message> &messages)
+{
+    QStringList texts;
+    for (const Message &message : messages)
+        texts.append(message.context + '|' + message.source);
+    return texts;
+}
+
+/// The keys that are marked in a text.
+QString mnemonic(const QString &text)
+{
+    static const QRegularExpression marked("&(\\w)",
+                                           QRegularExpression::UseUnicodePropertiesOption);
+    return marked.match(text).captured(1).toUpper();
 }
 
 } // namespace
@@ -76,33 +105,52 @@ private Q_SLOTS:
     void translationsKeepTheFormOfTheirSource();
     void nothingIsLeftInEnglish_data() { everyFile("*.ts"); }
     void nothingIsLeftInEnglish();
+    void adviceNamesWhatTheDemoShows_data() { everyFile("malto_*.ts"); }
+    void adviceNamesWhatTheDemoShows();
     void languagesWithoutQtTextsHaveTheSameOnes();
+    void keysOfADialogDiffer_data();
+    void keysOfADialogDiffer();
+    void hostGetsAFileForEveryLanguage();
 
 private:
+    /// One row for each file of the library that fits, and for each of the demo.
     void everyFile(const QString &pattern) const
     {
         QTest::addColumn<QString>("file");
         const QStringList files = mFolder.entryList({pattern});
         for (const QString &file : files)
-            QTest::newRow(qPrintable(file)) << file;
+            QTest::newRow(qPrintable(file)) << "translations/" + file;
+        const QStringList demoFiles = mDemoFolder.entryList({"*.ts"});
+        for (const QString &file : demoFiles)
+            QTest::newRow(qPrintable("demo's " + file)) << "demo/translations/" + file;
     }
-    QList<Message> read(const QString &file) const { return readMessages(mFolder.filePath(file)); }
+    static QList<Message> read(const QString &file)
+    {
+        return readMessages(MALTO_SOURCE_DIR "/" + file);
+    }
+    /// The translation of `source` in a file.
+    static QString find(const QString &file, const QString &source)
+    {
+        const QList<Message> messages = read(file);
+        for (const Message &message : messages) {
+            if (message.source.startsWith(source))
+                return message.translation;
+        }
+        return QString();
+    }
 
     const QDir mFolder = QDir(MALTO_SOURCE_DIR "/translations");
+    const QDir mDemoFolder = QDir(MALTO_SOURCE_DIR "/demo/translations");
     QList<Message> mSources;
+    QList<Message> mDemoSources;
 };
 
 void tst_Translations::initTestCase()
 {
-    QProcess update;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LUPDATE", MALTO_LUPDATE);
-    update.setProcessEnvironment(environment);
     const QString fresh = QDir::current().filePath("fresh.ts");
-    update.start(mFolder.filePath("update.sh"), {fresh});
-    QVERIFY(update.waitForFinished(-1));
-    QCOMPARE(update.exitCode(), 0);
-    mSources = readMessages(fresh);
+    mSources = update({fresh}, fresh);
+    mDemoSources = update({"--host", MALTO_SOURCE_DIR "/demo", "fresh"}, "fresh/de-de.ts");
+    QVERIFY(mDemoSources.size() >= 100);
     // The window's form, its questions and the editors.
     QVERIFY(mSources.size() >= 8);
 }
@@ -114,6 +162,10 @@ void tst_Translations::everyOfferedLanguageHasAFile()
         "malto_hi-in.ts", "malto_it-it.ts", "malto_ja-jp.ts", "malto_ko-kr.ts", "malto_nl-nl.ts",
         "malto_pl-pl.ts", "malto_pt-br.ts", "malto_ru-ru.ts", "malto_sv-se.ts", "malto_tr-tr.ts",
         "malto_zh-cht.ts", "malto_zh-cn.ts"}));
+    QCOMPARE(mDemoFolder.entryList({"*.ts"}, QDir::Files, QDir::Name), QStringList({
+        "ar-eg.ts", "de-de.ts", "en-gb.ts", "es-es.ts", "fr-fr.ts", "hi-in.ts", "it-it.ts",
+        "ja-jp.ts", "ko-kr.ts", "nl-nl.ts", "pl-pl.ts", "pt-br.ts", "ru-ru.ts", "sv-se.ts",
+        "tr-tr.ts", "zh-cht.ts", "zh-cn.ts"}));
 }
 
 void tst_Translations::everyTextOfTheSourcesIsTranslated()
@@ -125,10 +177,11 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
         if (message.isFinished && !message.translation.isEmpty())
             translated.insert(message.context + '|' + message.source);
     }
-    for (const Message &message : qAsConst(mSources)) {
-        const QString text = message.context + '|' + message.source;
-        QVERIFY2(translated.contains(text), qPrintable("run translations/update.sh: " + text));
-    }
+    const bool isDemo = file.startsWith("demo/");
+    const QStringList texts = fullTexts(isDemo ? mDemoSources : mSources);
+    const QString script = isDemo ? "demo/translations/update.sh" : "translations/update.sh";
+    for (const QString &text : texts)
+        QVERIFY2(translated.contains(text), qPrintable("run " + script + ": " + text));
 }
 
 void tst_Translations::translationsKeepTheFormOfTheirSource()
@@ -140,6 +193,8 @@ void tst_Translations::translationsKeepTheFormOfTheirSource()
         const QByteArray where = message.source.toUtf8();
         QVERIFY2(fixedParts(message.translation) == fixedParts(message.source), where.constData());
         QVERIFY2(message.translation == message.translation.trimmed(), where.constData());
+        QVERIFY2(mnemonic(message.translation).isEmpty() == mnemonic(message.source).isEmpty(),
+                 where.constData());
     }
 }
 
@@ -153,16 +208,71 @@ void tst_Translations::nothingIsLeftInEnglish()
     }
 }
 
+void tst_Translations::adviceNamesWhatTheDemoShows()
+{
+    QFETCH(QString, file);
+    const QString code = file.section('_', -1).section('/', -1);
+    const QString advice = find("translations/malto_" + code, "Shortkey [%1]");
+    const QString demo = "demo/translations/" + code;
+    QVERIFY(advice.contains('[' + find(demo, "System") + ']'));
+    QVERIFY(advice.contains('[' + find(demo, "Allow simple global hotkeys") + ']'));
+}
+
 void tst_Translations::languagesWithoutQtTextsHaveTheSameOnes()
 {
-    QStringList hindi;
-    QStringList swedish;
-    for (const Message &message : read("qt_hi-in.ts"))
-        hindi.append(message.context + '|' + message.source);
-    for (const Message &message : read("qt_sv-se.ts"))
-        swedish.append(message.context + '|' + message.source);
-    QCOMPARE(hindi, swedish);
+    const QStringList hindi = fullTexts(read("translations/qt_hi-in.ts"));
+    QCOMPARE(fullTexts(read("translations/qt_sv-se.ts")), hindi);
     QVERIFY(hindi.contains("QPlatformTheme|&Yes"));
+}
+
+void tst_Translations::keysOfADialogDiffer_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("context");
+    for (const char *file : {"qt_en-gb.ts", "qt_hi-in.ts", "qt_sv-se.ts"}) {
+        for (const char *context : {"QColorDialog", "QFontDialog", "QLineEdit", "QPlatformTheme"})
+            QTest::addRow("%s %s", file, context) << QString("translations/") + file << context;
+    }
+}
+
+void tst_Translations::keysOfADialogDiffer()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, context);
+    QSet<QString> keys;
+    const QList<Message> messages = read(file);
+    for (const Message &message : messages) {
+        const QString key = message.context == context ? mnemonic(message.translation) : QString();
+        QVERIFY2(!keys.contains(key), qPrintable(message.translation));
+        if (!key.isEmpty())
+            keys.insert(key);
+    }
+}
+
+void tst_Translations::hostGetsAFileForEveryLanguage()
+{
+    QVERIFY(QDir().mkpath("host"));
+    QFile source("host/main.cpp");
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    source.write("const char *label = QT_TRANSLATE_NOOP(\"QObject\", \"Show grid\");\n");
+    source.close();
+    const QStringList arguments{"--host", "host", "host/texts"};
+    QCOMPARE(fullTexts(update(arguments, "host/texts/zh-cht.ts")),
+             QStringList("QObject|Show grid"));
+    QCOMPARE(QDir("host/texts").entryList(QDir::Files), mDemoFolder.entryList({"*.ts"}));
+    QFile file("host/texts/zh-cht.ts");
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray content = file.readAll();
+    QVERIFY(content.contains("language=\"zh_TW\""));
+
+    // What is translated already stays.
+    content.replace("<translation type=\"unfinished\"></translation>",
+                    "<translation>顯示格線</translation>");
+    QVERIFY(file.resize(0) && file.seek(0) && file.write(content) == content.size());
+    file.close();
+    const QList<Message> again = update(arguments, "host/texts/zh-cht.ts");
+    QCOMPARE(again.value(0).translation, QString("顯示格線"));
+    QVERIFY(again.value(0).isFinished);
 }
 
 int main(int argc, char **argv)
