@@ -1,0 +1,603 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL" sourcelanguage="en_US">
+<context>
+    <name>BoundValueModel</name>
+    <message>
+        <source>changed</source>
+        <translation>zmieniono</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ustawienie</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wartość</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>%1, %2 px</source>
+        <translation>%1, %2 px</translation>
+    </message>
+</context>
+<context>
+    <name>DemoArguments</name>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;</source>
+        <translation>Nieoczekiwany argument „%1”</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>strona</translation>
+    </message>
+    <message>
+        <source>theme</source>
+        <translation>motyw</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>język</translation>
+    </message>
+    <message>
+        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
+        <translation>To nie jest skala od 0,5 do 4: „%1”</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>What the library logs appears here.</source>
+        <translation>Tutaj pojawia się dziennik biblioteki.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorvi Capture</source>
+        <translation>Quorvi Capture</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Dziennik</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ustawienia…</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Restore all</source>
+        <translation>Przywróć wszystko</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Ustawienia…</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Zapisz</translation>
+    </message>
+    <message>
+        <source>&amp;Restore all…</source>
+        <translation>Przywróć &amp;wszystko…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Za&amp;kończ</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Motyw</translation>
+    </message>
+    <message>
+        <source>Like the system</source>
+        <translation>Jak w systemie</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Jasny</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Ciemny</translation>
+    </message>
+    <message>
+        <source>Variables — %1 of %2 changed</source>
+        <translation>Zmienne – zmieniono %1 z %2</translation>
+    </message>
+    <message>
+        <source>Hotkey pressed: %1 (%2)</source>
+        <translation>Użyto skrótu: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation>Zapisano w %1</translation>
+    </message>
+    <message>
+        <source>Could not write %1</source>
+        <translation>Nie udało się zapisać %1</translation>
+    </message>
+    <message>
+        <source>Restore the defaults of all settings and the presets of the profiles?</source>
+        <translation>Przywrócić domyślne wartości wszystkich ustawień i wbudowane profile?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfigurationWindow</name>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Wygląd</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Zrzuty</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <translation>Skróty</translation>
+    </message>
+    <message>
+        <source>Mouse</source>
+        <translation>Mysz</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Wynik</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Stored data</source>
+        <translation>Zapisane dane</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Aktualizacje</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Zaznaczenie</translation>
+    </message>
+    <message>
+        <source>Magnifier</source>
+        <translation>Lupa</translation>
+    </message>
+    <message>
+        <source>Size label</source>
+        <translation>Etykieta rozmiaru</translation>
+    </message>
+    <message>
+        <source>Snapping</source>
+        <translation>Przyciąganie</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Narzędzia</translation>
+    </message>
+    <message>
+        <source>Pinned pictures</source>
+        <translation>Przypięte obrazy</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Obraz</translation>
+    </message>
+    <message>
+        <source>After a capture</source>
+        <translation>Po wykonaniu zrzutu</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileStore</name>
+    <message>
+        <source>Screen</source>
+        <translation>Ekran</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Okno</translation>
+    </message>
+    <message>
+        <source>Thumbnail</source>
+        <translation>Miniatura</translation>
+    </message>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Profil musi mieć nazwę.</translation>
+    </message>
+    <message>
+        <source>A name has %1 letters at most.</source>
+        <translation>Nazwa może mieć najwyżej %1 znaków.</translation>
+    </message>
+    <message>
+        <source>Another profile has this name.</source>
+        <translation>Inny profil ma już tę nazwę.</translation>
+    </message>
+    <message>
+        <source>New profile</source>
+        <translation>Nowy profil</translation>
+    </message>
+    <message>
+        <source>New profile %1</source>
+        <translation>Nowy profil %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPage</name>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Restore presets</source>
+        <translation>Przywróć wbudowane</translation>
+    </message>
+    <message>
+        <source>There is no profile.
+Add one, or restore the presets.</source>
+        <translation>Nie ma żadnego profilu.
+Dodaj profil lub przywróć wbudowane.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Szerokość</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Wysokość</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Ramka</translation>
+    </message>
+    <message>
+        <source>Include the mouse pointer</source>
+        <translation>Uwzględnij wskaźnik myszy</translation>
+    </message>
+    <message>
+        <source>A preset, unchanged.</source>
+        <translation>Wbudowany, niezmieniony.</translation>
+    </message>
+    <message>
+        <source>Yours, or a changed preset.</source>
+        <translation>Własny lub zmieniony wbudowany.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
+    </message>
+    <message>
+        <source>Show icon in the menu bar</source>
+        <translation>Pokazuj ikonę na pasku menu</translation>
+    </message>
+    <message>
+        <source>Play a sound after a capture</source>
+        <translation>Odtwarzaj dźwięk po zrzucie</translation>
+    </message>
+    <message>
+        <source>Show tips</source>
+        <translation>Pokazuj porady</translation>
+    </message>
+    <message>
+        <source>Recent captures in the menu</source>
+        <translation>Ostatnie zrzuty w menu</translation>
+    </message>
+    <message>
+        <source>Look for updates</source>
+        <translation>Szukaj aktualizacji</translation>
+    </message>
+    <message>
+        <source>Days between two looks</source>
+        <translation>Dni między sprawdzeniami</translation>
+    </message>
+    <message>
+        <source>Offer test versions</source>
+        <translation>Proponuj wersje testowe</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Motyw</translation>
+    </message>
+    <message>
+        <source>Like the system</source>
+        <translation>Jak w systemie</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Jasny</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Ciemny</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Ramka</translation>
+    </message>
+    <message>
+        <source>Width of the frame (px)</source>
+        <translation>Grubość ramki (px)</translation>
+    </message>
+    <message>
+        <source>Shade outside</source>
+        <translation>Cień na zewnątrz</translation>
+    </message>
+    <message>
+        <source>Show magnifier</source>
+        <translation>Pokazuj lupę</translation>
+    </message>
+    <message>
+        <source>Magnification</source>
+        <translation>Powiększenie</translation>
+    </message>
+    <message>
+        <source>Show size beside the selection</source>
+        <translation>Pokazuj rozmiar obok zaznaczenia</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Czcionka</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Kolor</translation>
+    </message>
+    <message>
+        <source>Delay before a capture (s)</source>
+        <translation>Opóźnienie przed zrzutem (s)</translation>
+    </message>
+    <message>
+        <source>Count down on the screen</source>
+        <translation>Odliczanie na ekranie</translation>
+    </message>
+    <message>
+        <source>Include the mouse pointer</source>
+        <translation>Uwzględnij wskaźnik myszy</translation>
+    </message>
+    <message>
+        <source>Include the shadow of windows</source>
+        <translation>Uwzględnij cień okien</translation>
+    </message>
+    <message>
+        <source>Freeze the screen while selecting</source>
+        <translation>Zamrażaj ekran podczas zaznaczania</translation>
+    </message>
+    <message>
+        <source>Frames per second of videos</source>
+        <translation>Klatki na sekundę w filmach</translation>
+    </message>
+    <message>
+        <source>Snap to</source>
+        <translation>Przyciągaj do</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Okna</translation>
+    </message>
+    <message>
+        <source>Screen edges</source>
+        <translation>Krawędzie ekranu</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Prowadnice</translation>
+    </message>
+    <message>
+        <source>Last selection</source>
+        <translation>Ostatnie zaznaczenie</translation>
+    </message>
+    <message>
+        <source>Distance (px)</source>
+        <translation>Odległość (px)</translation>
+    </message>
+    <message>
+        <source>Hotkeys in full-screen applications</source>
+        <translation>Skróty w aplikacjach pełnoekranowych</translation>
+    </message>
+    <message>
+        <source>Repeat delay (ms)</source>
+        <translation>Opóźnienie powtarzania (ms)</translation>
+    </message>
+    <message>
+        <source>Capture an area</source>
+        <translation>Zrzut obszaru</translation>
+    </message>
+    <message>
+        <source>Capture a window</source>
+        <translation>Zrzut okna</translation>
+    </message>
+    <message>
+        <source>Capture the screen</source>
+        <translation>Zrzut ekranu</translation>
+    </message>
+    <message>
+        <source>Pin the clipboard</source>
+        <translation>Przypnij schowek</translation>
+    </message>
+    <message>
+        <source>Pick a colour</source>
+        <translation>Pobierz kolor</translation>
+    </message>
+    <message>
+        <source>Double-click to finish</source>
+        <translation>Kończ dwukrotnym kliknięciem</translation>
+    </message>
+    <message>
+        <source>Invert the wheel</source>
+        <translation>Odwróć kółko myszy</translation>
+    </message>
+    <message>
+        <source>Movement that begins a drag (px)</source>
+        <translation>Ruch rozpoczynający przeciąganie (px)</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Powiększanie</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Krycie</translation>
+    </message>
+    <message>
+        <source>Show the menu</source>
+        <translation>Pokaż menu</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ukryj</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Przesuń</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Rysuj</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quality (%)</source>
+        <translation>Jakość (%)</translation>
+    </message>
+    <message>
+        <source>Size (%)</source>
+        <translation>Rozmiar (%)</translation>
+    </message>
+    <message>
+        <source>Watermark</source>
+        <translation>Znak wodny</translation>
+    </message>
+    <message>
+        <source>Copy it</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Save it</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Open it in the editor</source>
+        <translation>Otwórz w edytorze</translation>
+    </message>
+    <message>
+        <source>Allow simple global hotkeys</source>
+        <translation>Zezwalaj na proste skróty globalne</translation>
+    </message>
+    <message>
+        <source>Show expert settings</source>
+        <translation>Pokazuj ustawienia zaawansowane</translation>
+    </message>
+    <message>
+        <source>Steps that can be undone</source>
+        <translation>Liczba kroków cofania</translation>
+    </message>
+    <message>
+        <source>Bring pinned pictures back at start</source>
+        <translation>Przywracaj przypięte obrazy przy starcie</translation>
+    </message>
+    <message>
+        <source>Cache (MB)</source>
+        <translation>Pamięć podręczna (MB)</translation>
+    </message>
+    <message>
+        <source>Threads that compress</source>
+        <translation>Wątki kompresji</translation>
+    </message>
+    <message>
+        <source>Draw with the graphics card</source>
+        <translation>Rysuj za pomocą karty graficznej</translation>
+    </message>
+    <message>
+        <source>Show times of drawing</source>
+        <translation>Pokazuj czasy rysowania</translation>
+    </message>
+    <message>
+        <source>Write a log file</source>
+        <translation>Zapisuj plik dziennika</translation>
+    </message>
+</context>
+<context>
+    <name>StoredDataPage</name>
+    <message>
+        <source>Stored data</source>
+        <translation>Zapisane dane</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed yet.</source>
+        <translation>Niczego jeszcze nie zmieniono.</translation>
+    </message>
+</context>
+<context>
+    <name>WatermarkEditor</name>
+    <message>
+        <source>No watermark</source>
+        <translation>Bez znaku wodnego</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Krycie</translation>
+    </message>
+</context>
+<context>
+    <name>takePictures</name>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Nie można zapisać %1</translation>
+    </message>
+</context>
+</TS>
