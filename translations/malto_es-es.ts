@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Pulse un atajo de teclado</translation>
+        <translation>Pulse un atajo</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

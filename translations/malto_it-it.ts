@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Premi una scorciatoia da tastiera</translation>
+        <translation>Premi una scorciatoia</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>ショートカットキーを押してください</translation>
+        <translation>キーを押してください</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

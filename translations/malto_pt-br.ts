@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Pressione um atalho de teclado</translation>
+        <translation>Pressione um atalho</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>theme</source>
-        <translation>المظهر</translation>
+        <translation>السمة</translation>
     </message>
     <message>
         <source>language</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation>المظ&amp;هر</translation>
+        <translation>ال&amp;سمة</translation>
     </message>
     <message>
         <source>Like the system</source>
@@ -340,7 +340,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Theme</source>
-        <translation>المظهر</translation>
+        <translation>السمة</translation>
     </message>
     <message>
         <source>Like the system</source>

@@ -169,7 +169,7 @@
     </message>
     <message>
         <source>Stored data</source>
-        <translation>Données enregistrées</translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -575,7 +575,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     <name>StoredDataPage</name>
     <message>
         <source>Stored data</source>
-        <translation>Données enregistrées</translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Nothing has been changed yet.</source>

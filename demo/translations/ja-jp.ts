@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation>ショートカットキー</translation>
+        <translation>ショートカット</translation>
     </message>
     <message>
         <source>Mouse</source>

@@ -273,7 +273,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Naam wijzigen</translation>
+        <translation>Hernoemen</translation>
     </message>
     <message>
         <source>Width</source>

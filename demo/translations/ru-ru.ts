@@ -273,7 +273,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Переименовать</translation>
+        <translation>Изменить</translation>
     </message>
     <message>
         <source>Width</source>

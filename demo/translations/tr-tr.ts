@@ -273,7 +273,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>Yeniden Adlandır</translation>
+        <translation>Değiştir</translation>
     </message>
     <message>
         <source>Width</source>
