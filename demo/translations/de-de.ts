@@ -66,7 +66,7 @@
     </message>
     <message>
         <source>Settings…</source>
-        <translation>Einstellungen …</translation>
+        <translation>Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Save</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>&amp;Settings…</source>
-        <translation>&amp;Einstellungen …</translation>
+        <translation>&amp;Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>&amp;Restore all…</source>
-        <translation>Alles &amp;zurücksetzen …</translation>
+        <translation>Alles &amp;zurücksetzen&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

@@ -28,7 +28,7 @@
     <name>DemoArguments</name>
     <message>
         <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Argument inattendu « %1 »</translation>
+        <translation>Argument inattendu «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>page</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>Pas un facteur de 0,5 à 4 : « %1 »</translation>
+        <translation>Pas un facteur de 0,5 à 4&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -118,7 +118,7 @@
     </message>
     <message>
         <source>Hotkey pressed: %1 (%2)</source>
-        <translation>Raccourci utilisé : %1 (%2)</translation>
+        <translation>Raccourci utilisé&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Saved to %1</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>Rétablir tous les réglages par défaut et les profils prédéfinis ?</translation>
+        <translation>Rétablir tous les réglages par défaut et les profils prédéfinis&#x202f;?</translation>
     </message>
 </context>
 <context>

@@ -74,7 +74,7 @@
     </message>
     <message>
         <source>Restore all</source>
-        <translation>すべて元に戻す</translation>
+        <translation>すべて復元</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>&amp;Restore all…</source>
-        <translation>すべて元に戻す(&amp;R)…</translation>
+        <translation>すべて復元(&amp;R)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
