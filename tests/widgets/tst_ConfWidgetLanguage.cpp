@@ -31,6 +31,9 @@ private Q_SLOTS:
     void slotSelectsTheRowThatIsNotShown();
     void rowsOutsideTheListAreIgnored();
     void liveChangeRetranslatesTheEditor();
+    void changeIsAnnouncedWhenItsTranslatorsAreInstalled();
+    void restoredDefaultIsInstalledAndAnnounced();
+    void loadInstallsTheLanguageWithoutAChange();
     void callbackMayDeleteTheEditor();
 
 private:
@@ -44,6 +47,17 @@ private:
         auto *editor = mFixture->edit<ConfWidgetLanguage>(mItem);
         mCombo = editor->findChild<QComboBox *>();
         return editor;
+    }
+    /// A manager with a language, "auto", that notes a text each time that it announces a change.
+    std::unique_ptr<MtConf::MtConfManage> declareLanguage(QStringList *announced)
+    {
+        clearStore();
+        mValue = "auto";
+        auto manager = std::make_unique<MtConf::MtConfManage>();
+        manager->addConfLanguage("Language", &mValue, "General", "Language", "");
+        connect(manager.get(), &MtConf::MtConfManage::sigLanguageChange, manager.get(),
+                [announced] { announced->append(label()); });
+        return manager;
     }
     QStringList rows() const
     {
@@ -70,6 +84,7 @@ private:
 void tst_ConfWidgetLanguage::cleanup()
 {
     mFixture.reset();
+    clearStore();
     const LogCapture log;
     mFolder.reset();
 }
@@ -231,6 +246,43 @@ void tst_ConfWidgetLanguage::liveChangeRetranslatesTheEditor()
                                   "Deutsch (Deutschland)", "Français (France)"}));
     QCOMPARE(mCombo->currentIndex(), 2);
     QCOMPARE(mValue, QString("de-de"));
+}
+
+void tst_ConfWidgetLanguage::changeIsAnnouncedWhenItsTranslatorsAreInstalled()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    QStringList announced;
+    const auto manager = declareLanguage(&announced);
+    ConfStorage::instance()->set<QString>("General.Language", "fr-fr");
+    ConfStorage::instance()->set<QString>("General.Language", "de-de");
+    QCOMPARE(announced, QStringList({"Langue", "Sprache"}));
+    ConfStorage::instance()->set<QString>("General.Language", "de-de");
+    QCOMPARE(announced, QStringList({"Langue", "Sprache", "Sprache"}));
+}
+
+void tst_ConfWidgetLanguage::restoredDefaultIsInstalledAndAnnounced()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    QStringList announced;
+    const auto manager = declareLanguage(&announced);
+    ConfStorage::instance()->set<QString>("General.Language", "fr-fr");
+    manager->restoreAllDefault();
+    QCOMPARE(mValue, QString("auto"));
+    QCOMPARE(announced, QStringList({"Langue", "Language"}));
+}
+
+void tst_ConfWidgetLanguage::loadInstallsTheLanguageWithoutAChange()
+{
+    mFolder->addFrenchAndGerman();
+    const LogCapture log;
+    QStringList announced;
+    const auto manager = declareLanguage(&announced);
+    mValue = "fr-fr"; // as a host may, before it loads
+    manager->loadFromFile("missing.json");
+    QCOMPARE(label(), QString("Langue"));
+    QVERIFY(announced.isEmpty());
 }
 
 void tst_ConfWidgetLanguage::callbackMayDeleteTheEditor()
