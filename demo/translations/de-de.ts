@@ -544,7 +544,7 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     </message>
     <message>
         <source>Steps that can be undone</source>
-        <translation>Widerrufbare Schritte</translation>
+        <translation>Rückgängig-Schritte</translation>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>

@@ -364,7 +364,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Voile autour</translation>
+        <translation>Voile extérieur</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -556,7 +556,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Threads that compress</source>
-        <translation>Fils de compression</translation>
+        <translation>Threads de compression</translation>
     </message>
     <message>
         <source>Draw with the graphics card</source>

@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>すべての設定のデフォルトと、用意されたプロファイルを元に戻しますか？</translation>
+        <translation>すべての設定をデフォルトに戻し、プリセットのプロファイルを復元しますか？</translation>
     </message>
 </context>
 <context>

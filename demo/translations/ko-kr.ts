@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>Snapping</source>
-        <translation>맞춤</translation>
+        <translation>스냅</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -412,7 +412,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Snap to</source>
-        <translation>맞출 대상</translation>
+        <translation>스냅 대상</translation>
     </message>
     <message>
         <source>Windows</source>

@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>Snapping</source>
-        <translation>Fästning</translation>
+        <translation>Snäppning</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -412,7 +412,7 @@ Lägg till en eller återställ de förinställda.</translation>
     </message>
     <message>
         <source>Snap to</source>
-        <translation>Fäst mot</translation>
+        <translation>Snäpp mot</translation>
     </message>
     <message>
         <source>Windows</source>

@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>Snapping</source>
-        <translation>Yapışma</translation>
+        <translation>Hizalama</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -408,11 +408,11 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Frames per second of videos</source>
-        <translation>Videoların saniyedeki karesi</translation>
+        <translation>Videolarda saniyedeki kare</translation>
     </message>
     <message>
         <source>Snap to</source>
-        <translation>Şuraya yapıştır</translation>
+        <translation>Hizalanacak yer</translation>
     </message>
     <message>
         <source>Windows</source>

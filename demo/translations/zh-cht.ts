@@ -251,7 +251,7 @@
     </message>
     <message>
         <source>Add</source>
-        <translation>加入</translation>
+        <translation>新增</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -265,7 +265,7 @@
         <source>There is no profile.
 Add one, or restore the presets.</source>
         <translation>沒有設定檔。
-請加入一個，或還原預設。</translation>
+請新增一個，或還原預設。</translation>
     </message>
     <message>
         <source>Name</source>
@@ -312,7 +312,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>在選單列顯示圖像</translation>
+        <translation>在選單列顯示圖示</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
@@ -492,7 +492,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Copy</source>
-        <translation>拷貝</translation>
+        <translation>複製</translation>
     </message>
     <message>
         <source>Hide</source>
@@ -524,7 +524,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Copy it</source>
-        <translation>拷貝</translation>
+        <translation>複製</translation>
     </message>
     <message>
         <source>Save it</source>
@@ -532,7 +532,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Open it in the editor</source>
-        <translation>在編輯器中打開</translation>
+        <translation>在編輯器中開啟</translation>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>
