@@ -4,8 +4,9 @@
 #
 #   update.sh                            all files of the library
 #   update.sh FILE.ts...                 these, with the texts of the library
-#   update.sh --host SOURCES TS_FOLDER   a host's: one <code>.ts in TS_FOLDER for each language of the
-#                                        library, with the texts of the folder SOURCES
+#   update.sh --host SOURCES TS_FOLDER   a host's, with the texts of the folder SOURCES: the files
+#                                        <code>.ts that are in TS_FOLDER, or when there are none,
+#                                        new ones for all languages of the library
 #
 # LUPDATE names another lupdate.
 set -euo pipefail
@@ -29,13 +30,16 @@ if [ "${1-}" = --host ]; then
     sources=${2:?the folder of the sources is missing}
     folder=${3:?the folder of the .ts files is missing}
     mkdir -p "$folder"
-    files=()
-    for own in "$root"/translations/malto_*.ts; do
-        file=$folder/${own##*/malto_}
-        # lupdate would guess the language from the file's name, and not always rightly.
-        [ -e "$file" ] || { sed '/^<context>/,$d' "$own"; echo '</TS>'; } >"$file"
-        files+=("$file")
-    done
+    files=("$folder"/*.ts)
+    if [ ! -e "${files[0]}" ]; then
+        files=()
+        for own in "$root"/translations/malto_*.ts; do
+            file=$folder/${own##*/malto_}
+            # lupdate would guess the language from the file's name, and not always rightly.
+            { sed '/^<context>/,$d' "$own"; echo '</TS>'; } >"$file"
+            files+=("$file")
+        done
+    fi
     update "$sources" -ts "${files[@]}"
 else
     files=("$@")

@@ -110,7 +110,7 @@ private Q_SLOTS:
     void languagesWithoutQtTextsHaveTheSameOnes();
     void keysOfADialogDiffer_data();
     void keysOfADialogDiffer();
-    void hostGetsAFileForEveryLanguage();
+    void hostGetsAFileForEveryLanguageAndKeepsItsOwn();
 
 private:
     /// One row for each file of the library that fits, and for each of the demo.
@@ -249,7 +249,7 @@ void tst_Translations::keysOfADialogDiffer()
     }
 }
 
-void tst_Translations::hostGetsAFileForEveryLanguage()
+void tst_Translations::hostGetsAFileForEveryLanguageAndKeepsItsOwn()
 {
     QVERIFY(QDir().mkpath("host"));
     QFile source("host/main.cpp");
@@ -265,7 +265,8 @@ void tst_Translations::hostGetsAFileForEveryLanguage()
     QByteArray content = file.readAll();
     QVERIFY(content.contains("language=\"zh_TW\""));
 
-    // What is translated already stays.
+    // What is translated already stays, and what the host has deleted stays away.
+    QVERIFY(QFile::remove("host/texts/fr-fr.ts"));
     content.replace("<translation type=\"unfinished\"></translation>",
                     "<translation>顯示格線</translation>");
     QVERIFY(file.resize(0) && file.seek(0) && file.write(content) == content.size());
@@ -273,6 +274,7 @@ void tst_Translations::hostGetsAFileForEveryLanguage()
     const QList<Message> again = update(arguments, "host/texts/zh-cht.ts");
     QCOMPARE(again.value(0).translation, QString("顯示格線"));
     QVERIFY(again.value(0).isFinished);
+    QVERIFY(!QFile::exists("host/texts/fr-fr.ts"));
 }
 
 int main(int argc, char **argv)
