@@ -16,26 +16,21 @@
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DemoArguments", text);
-}
-
 /// Why `path` cannot be read as a JSON object; empty when it can.
 QString jsonError(const QString &path)
 {
     QFile file(path);
     if (QFileInfo(path).isDir())
-        return tr("%1 is a folder.").arg(path);
+        return QStringLiteral("%1 is a folder.").arg(path);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("Cannot read %1: %2").arg(path, file.errorString());
+        return QStringLiteral("Cannot read %1: %2").arg(path, file.errorString());
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (document.isNull())
-        return tr("%1 is no JSON file: %2 (at byte %3)")
+        return QStringLiteral("%1 is no JSON file: %2 (at byte %3)")
             .arg(path, error.errorString())
             .arg(error.offset);
-    return document.isObject() ? QString() : tr("%1 holds no JSON object.").arg(path);
+    return document.isObject() ? QString() : QStringLiteral("%1 holds no JSON object.").arg(path);
 }
 
 /// Why the settings cannot be kept in `path`; empty when they can.
@@ -43,7 +38,7 @@ QString localFileError(const QString &path)
 {
     const QFileInfo file(path);
     if (!QDir().mkpath(file.path()))
-        return tr("Cannot make the folder %1").arg(file.path());
+        return QStringLiteral("Cannot make the folder %1").arg(file.path());
     // The library would take a damaged file for an empty one, and write over it.
     return file.exists() && (file.isDir() || file.size() > 0) ? jsonError(path) : QString();
 }
@@ -53,7 +48,7 @@ QString picturesError(const QString &folder)
 {
     const bool made = QDir().mkpath(folder);
     QTemporaryFile probe(folder + QStringLiteral("/XXXXXX"));
-    return made && probe.open() ? QString() : tr("Cannot write into %1").arg(folder);
+    return made && probe.open() ? QString() : QStringLiteral("Cannot write into %1").arg(folder);
 }
 
 /// The first error that `errors` finds, in order.
@@ -70,7 +65,7 @@ QString choiceError(const QString &option, const QString &value, const QStringLi
 {
     if (choices.contains(value))
         return QString();
-    return tr("Unknown %1 \"%2\"; there are: %3")
+    return QStringLiteral("Unknown %1 \"%2\"; there are: %3")
         .arg(option, value, choices.join(QStringLiteral(", ")));
 }
 
@@ -82,24 +77,24 @@ QString absolute(const QString &path)
 void addOptions(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(
-        tr("Shows the settings of a screen-capture tool, and how its variables follow them."));
+        QStringLiteral("Shows the settings of a screen-capture tool, and how its variables follow them."));
     const QString file = QStringLiteral("file");
     parser->addOptions({
-        {QStringLiteral("local-file"), tr("Keep the settings in <file>."), file},
-        {QStringLiteral("config"), tr("Take over the settings in <file>, a JSON object by names."), file},
-        {QStringLiteral("page"), tr("Open the page <name>: %1.")
+        {QStringLiteral("local-file"), QStringLiteral("Keep the settings in <file>."), file},
+        {QStringLiteral("config"), QStringLiteral("Take over the settings in <file>, a JSON object by names."), file},
+        {QStringLiteral("page"), QStringLiteral("Open the page <name>: %1.")
              .arg(pageNames().join(QStringLiteral(", "))), QStringLiteral("name")},
-        {QStringLiteral("theme"), tr("Choose and keep the theme <name>: light, dark or system."),
+        {QStringLiteral("theme"), QStringLiteral("Choose and keep the theme <name>: light, dark or system."),
          QStringLiteral("name")},
-        {QStringLiteral("language"), tr("Choose and keep the language <code>, such as de-de."),
+        {QStringLiteral("language"), QStringLiteral("Choose and keep the language <code>, such as de-de."),
          QStringLiteral("code")},
-        {QStringLiteral("scale"), tr("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
+        {QStringLiteral("scale"), QStringLiteral("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
          QStringLiteral("factor")},
-        {QStringLiteral("pictures"), tr("Draw every page in both themes into <folder>, and quit."),
+        {QStringLiteral("pictures"), QStringLiteral("Draw every page in both themes into <folder>, and quit."),
          QStringLiteral("folder")},
         {QStringLiteral("occupied"),
-         tr("Let another program take the hotkey %1 first.").arg(DemoArguments::occupiedKey().toString())},
-        {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help.")},
+         QStringLiteral("Let another program take the hotkey %1 first.").arg(DemoArguments::occupiedKey().toString())},
+        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
     });
     QCommandLineOption holdKey(KeyHolder::option(), QString(), QStringLiteral("keys"));
     holdKey.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -137,15 +132,15 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
     const double factor = given("scale") ? value("scale").toDouble(&isNumber) : 1;
     const QStringList unexpected = parser.positionalArguments();
     message = firstOf({
-        unexpected.isEmpty() ? QString() : tr("Unexpected argument \"%1\"").arg(unexpected.first()),
-        given("page") ? choiceError(tr("page"), value("page"), pageNames()) : QString(),
-        given("theme") ? choiceError(tr("theme"), value("theme"), themes) : QString(),
-        given("language") ? choiceError(tr("language"), value("language"),
+        unexpected.isEmpty() ? QString() : QStringLiteral("Unexpected argument \"%1\"").arg(unexpected.first()),
+        given("page") ? choiceError(QStringLiteral("page"), value("page"), pageNames()) : QString(),
+        given("theme") ? choiceError(QStringLiteral("theme"), value("theme"), themes) : QString(),
+        given("language") ? choiceError(QStringLiteral("language"), value("language"),
                                         MtConf::ConfWidgetLanguage::loadSupportLanguageCode())
                           : QString(),
         isNumber && factor >= 0.5 && factor <= 4
             ? QString()
-            : tr("Not a scale from 0.5 to 4: \"%1\"").arg(value("scale")),
+            : QStringLiteral("Not a scale from 0.5 to 4: \"%1\"").arg(value("scale")),
     });
     if (!message.isEmpty())
         return Outcome::Failed;

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>وسيطة غير متوقعة «%1»</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>الصفحة</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>السمة</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>اللغة</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>ليس مقياسًا من 0.5 إلى 4: «%1»</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Unerwartetes Argument „%1“</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>Seite</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>Design</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>Kein Faktor von 0,5 bis 4: „%1“</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Argument inattendu «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>page</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>thème</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>langue</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>Pas un facteur de 0,5 à 4&#xa0;: «&#xa0;%1&#xa0;»</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

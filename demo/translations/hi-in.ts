@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>अनपेक्षित आर्ग्युमेंट “%1”</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>पृष्ठ</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>थीम</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>भाषा</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>0.5 से 4 के बीच का पैमाना नहीं: “%1”</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

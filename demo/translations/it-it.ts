@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Argomento imprevisto “%1”</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>pagina</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>tema</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>lingua</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>Non è un fattore da 0,5 a 4: “%1”</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

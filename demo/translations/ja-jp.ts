@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>予期しない引数「%1」</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>テーマ</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>言語</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>0.5～4 の倍率ではありません: 「%1」</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

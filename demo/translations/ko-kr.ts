@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>예기치 않은 인수 ‘%1’</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>페이지</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>테마</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>언어</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>0.5~4 사이의 배율이 아님: ‘%1’</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Nieoczekiwany argument „%1”</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>strona</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>motyw</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>język</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>To nie jest skala od 0,5 do 4: „%1”</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

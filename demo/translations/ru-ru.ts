@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Неожиданный аргумент «%1»</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>страница</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>тема</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>язык</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>Не масштаб от 0,5 до 4: «%1»</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>Beklenmeyen bağımsız değişken “%1”</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>sayfa</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>tema</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>dil</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>0,5 ile 4 arasında bir ölçek değil: “%1”</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>非預期的引數「%1」</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>頁面</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>佈景主題</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>語言</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>不是 0.5 到 4 之間的縮放比例：「%1」</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>

@@ -25,29 +25,6 @@
     </message>
 </context>
 <context>
-    <name>DemoArguments</name>
-    <message>
-        <source>Unexpected argument &quot;%1&quot;</source>
-        <translation>意外的参数“%1”</translation>
-    </message>
-    <message>
-        <source>page</source>
-        <translation>页面</translation>
-    </message>
-    <message>
-        <source>theme</source>
-        <translation>主题</translation>
-    </message>
-    <message>
-        <source>language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>Not a scale from 0.5 to 4: &quot;%1&quot;</source>
-        <translation>不是 0.5 到 4 之间的缩放比例：“%1”</translation>
-    </message>
-</context>
-<context>
     <name>LogPane</name>
     <message>
         <source>What the library logs appears here.</source>
