@@ -184,6 +184,11 @@ public:
     /// path is set.
     void loadLocalConfFile();
 
+    /// Everything in the store as a table to print while looking for a fault: for each key its
+    /// value, its default, whether it differs, when it changed (UTC) and its flags ("default",
+    /// "system", "local"); then the removed dynamic keys. Long values are cut. Changes nothing.
+    QString debugTable() const;
+
     bool mChanged = false;      ///< something changed since the local file was written or loaded
     bool mLocalLoaded = false;  ///< `loadLocalConfFile` has run
     QMap<QString, ConfValue> mConfValues;           ///< the values by key

@@ -1,0 +1,90 @@
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int sMostCharacters = 40;
+
+QString nothing()
+{
+    return QStringLiteral("-");
+}
+
+/// A dynamic key may be any text, but has one line here.
+QString keyText(QString key)
+{
+    return key.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+}
+
+/// As one line of JSON, cut when it is long.
+QString valueText(const ConfValue &value)
+{
+    if (value.mType == ConfValue::TyNone)
+        return nothing();
+    const QByteArray json = QJsonDocument(QJsonArray{value.toJsonValue()}).toJson(QJsonDocument::Compact);
+    const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
+    return text.size() > sMostCharacters ? text.left(sMostCharacters - 1) + QChar(0x2026) : text;
+}
+
+QString timeText(const QDateTime &time)
+{
+    return time.isValid() ? time.toUTC().toString(Qt::ISODate) : nothing();
+}
+
+QString flagsText(quint32 flags)
+{
+    QStringList names;
+    if (flags & ConfStorage::FlagIsDefault)
+        names.append(QStringLiteral("default"));
+    if (flags & ConfStorage::FlagSystemIndependent)
+        names.append(QStringLiteral("system"));
+    if (flags & ConfStorage::FlagLocalOnly)
+        names.append(QStringLiteral("local"));
+    return names.isEmpty() ? nothing() : names.join(QLatin1Char(','));
+}
+
+QString aligned(const QVector<QStringList> &rows)
+{
+    QVector<int> widths(rows.first().size());
+    for (const QStringList &row : rows) {
+        for (int column = 0; column < row.size(); ++column)
+            widths[column] = std::max(widths[column], row[column].size());
+    }
+    QString text;
+    for (const QStringList &row : rows) {
+        QString line;
+        for (int column = 0; column < row.size(); ++column)
+            line += row[column].leftJustified(widths[column] + 2);
+        text += line.trimmed() + QLatin1Char('\n');
+    }
+    return text;
+}
+
+} // namespace
+
+QString ConfStorage::debugTable() const
+{
+    QVector<QStringList> rows{{QStringLiteral("KEY"), QStringLiteral("VALUE"),
+                               QStringLiteral("DEFAULT"), QStringLiteral("STATE"),
+                               QStringLiteral("CHANGED AT"), QStringLiteral("FLAGS")}};
+    QStringList keys = mConfValues.keys();
+    for (auto meta = mConfMetas.cbegin(); meta != mConfMetas.cend(); ++meta) {
+        if (!mConfValues.contains(meta.key()))
+            keys.append(meta.key());
+    }
+    std::sort(keys.begin(), keys.end());
+    for (const QString &key : qAsConst(keys)) {
+        const ConfMeta meta = mConfMetas.value(key);
+        rows.append({keyText(key), valueText(mConfValues.value(key)), valueText(meta.defaultValue),
+                     isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),
+                     timeText(meta.lastChangeTime), flagsText(meta.flags)});
+    }
+    for (auto removed = mRemovedDynamicConfs.cbegin(); removed != mRemovedDynamicConfs.cend(); ++removed)
+        rows.append({keyText(removed.key()), nothing(), nothing(), QStringLiteral("removed"),
+                     timeText(removed.value()), nothing()});
+    return aligned(rows);
+}
