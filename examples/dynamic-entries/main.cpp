@@ -1,0 +1,56 @@
+// Entries that a person makes and deletes while the program runs: bookmarks, one of them a preset.
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QTextStream>
+
+#include <map>
+
+namespace {
+
+std::map<QString, QJsonObject> bookmarks; // the program's variables, one for each entry
+
+void print(const char *heading)
+{
+    QTextStream out(stdout);
+    out << heading << ":";
+    for (const auto &entry : bookmarks)
+        out << ' ' << entry.second["title"].toString();
+    out << '\n';
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    ConfStorage *store = ConfStorage::instance();
+
+    // How the store makes and removes the variable of an entry, whoever asked for it.
+    ConfStorage::DynamicConfClass bookmark;
+    bookmark.prefix = "Bookmarks.";
+    bookmark.creator = [store](const QString &key, const QJsonValue *value) {
+        bookmarks[key] = value->toObject();
+        store->reserveConf(key, &bookmarks[key]);
+    };
+    bookmark.remover = [](const QString &key) { bookmarks.erase(key); };
+    store->mDynamicConfClasses.append(&bookmark);
+
+    // What is there from the start, until a person deletes it.
+    store->mPresetDynamicConfs["Bookmarks.home"] = QJsonObject{{"title", "Home"}};
+    store->mLocalSaveFile = QCoreApplication::arguments().value(1, "bookmarks.json");
+    store->loadLocalConfFile();
+    print("At the start");
+
+    const QString key = "Bookmarks." + QString::number(bookmarks.size());
+    store->createDynamicConf(key, QJsonObject{{"title", "Number " + key.mid(10)}}, &bookmark);
+    store->removeDynamicConf("Bookmarks.home");
+    print("One made, one deleted");
+    store->saveToLocalConfFile();
+
+    // Back to the presets: what a person made goes, what a person deleted comes back.
+    store->restoreDynamicConf(bookmark.prefix);
+    print("Restored");
+    return 0;
+}

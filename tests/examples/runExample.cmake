@@ -1,0 +1,9 @@
+# Runs PROGRAM in the new folder FOLDER: it succeeds, and what it prints matches PATTERN.
+file(REMOVE_RECURSE ${FOLDER})
+file(MAKE_DIRECTORY ${FOLDER})
+execute_process(COMMAND ${PROGRAM} WORKING_DIRECTORY ${FOLDER}
+    RESULT_VARIABLE result OUTPUT_VARIABLE output)
+message("${output}")
+if(NOT result EQUAL 0 OR NOT output MATCHES "${PATTERN}")
+    message(FATAL_ERROR "${PROGRAM}: result ${result}, or not what was expected: ${PATTERN}")
+endif()
