@@ -79,7 +79,7 @@ def build():
     builder.setupHorizontalHeader(ascent=EM - DESCENT, descent=-DESCENT)
     builder.setupNameTable({"familyName": FAMILY, "styleName": "Regular", "fullName": FAMILY,
                             "psName": FAMILY, "uniqueFontIdentifier": FAMILY, "version": "1.0"})
-    builder.setupOS2(sTypoAscender=EM - DESCENT, sTypoDescender=-DESCENT,
+    builder.setupOS2(fsType=0, sTypoAscender=EM - DESCENT, sTypoDescender=-DESCENT,
                      usWinAscent=EM - DESCENT, usWinDescent=DESCENT)
     builder.setupPost()
     builder.font["head"].created = builder.font["head"].modified = EPOCH

@@ -1,0 +1,75 @@
+# What `cmake --install` puts in place: a runtime part, which programs need, and a development part,
+# with which they are built. Everything finds everything else from where it lies, so that the
+# installed tree can be moved.
+include(CMakePackageConfigHelpers)
+
+set(MALTO_DATA_DIR ${CMAKE_INSTALL_DATADIR}/MaltoConfiguration)
+set(MALTO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/MaltoConfiguration)
+
+# malto_install_library(<target> <pkg-config name> <description> <folder of headers> <entry>...):
+# the library, its entry in the CMake package, its pkg-config file, and its headers, each entry of
+# the current source folder as include/<folder>/<entry>.
+function(malto_install_library target module description folder)
+    set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+    install(TARGETS ${target} EXPORT MaltoConfigurationTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+            COMPONENT Runtime NAMELINK_COMPONENT Development)
+    foreach(entry IN LISTS ARGN)
+        if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${entry})
+            install(DIRECTORY ${entry} DESTINATION ${include_dir} COMPONENT Development
+                FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
+        else()
+            install(FILES ${entry} DESTINATION ${include_dir} COMPONENT Development)
+        endif()
+    endforeach()
+    file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    set(PC_MODULE ${module})
+    set(PC_TARGET ${target})
+    set(PC_DESCRIPTION ${description})
+    string(REGEX REPLACE "/$" "" to_prefix ${to_prefix})
+    set(PC_PREFIX \${pcfiledir}/${to_prefix})
+    set(PC_INCLUDES -I\${includedir})
+    if(target STREQUAL QxtGlobalShortcut)
+        string(APPEND PC_INCLUDES " -I\${includedir}/${folder}")
+    endif()
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/module.pc.in
+                   ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+endfunction()
+
+# malto_install_export_header(<header>): a header that the build has made.
+function(malto_install_export_header header)
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${MALTO_INCLUDE_DIR}/${header}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)
+endfunction()
+
+# The CMake package itself, and the data that hosts work with.
+function(malto_install_package)
+    install(EXPORT MaltoConfigurationTargets NAMESPACE MaltoConfiguration::
+        DESTINATION ${MALTO_CMAKE_DIR} COMPONENT Development)
+    configure_package_config_file(
+        ${PROJECT_SOURCE_DIR}/packaging/MaltoConfigurationConfig.cmake.in
+        ${PROJECT_BINARY_DIR}/MaltoConfigurationConfig.cmake
+        INSTALL_DESTINATION ${MALTO_CMAKE_DIR}
+        PATH_VARS MALTO_DATA_DIR)
+    # Before 1.0 a new minor version may change anything.
+    write_basic_package_version_file(
+        ${PROJECT_BINARY_DIR}/MaltoConfigurationConfigVersion.cmake
+        COMPATIBILITY SameMinorVersion)
+    install(FILES
+            ${PROJECT_BINARY_DIR}/MaltoConfigurationConfig.cmake
+            ${PROJECT_BINARY_DIR}/MaltoConfigurationConfigVersion.cmake
+            ${PROJECT_SOURCE_DIR}/cmake/MaltoTranslations.cmake
+        DESTINATION ${MALTO_CMAKE_DIR} COMPONENT Development)
+
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/translations
+        DESTINATION ${MALTO_DATA_DIR} COMPONENT Development FILES_MATCHING PATTERN "*.ts")
+    install(FILES
+            ${PROJECT_SOURCE_DIR}/res/CommonWindow.qss
+            ${PROJECT_SOURCE_DIR}/res/ConfigurationWindow.qss
+        DESTINATION ${MALTO_DATA_DIR}/qss COMPONENT Development)
+    install(FILES ${PROJECT_SOURCE_DIR}/companion/iconfont/QuorviIconfont.ttf
+        DESTINATION ${MALTO_DATA_DIR}/fonts COMPONENT Development)
+endfunction()
