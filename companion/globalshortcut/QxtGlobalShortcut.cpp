@@ -1,11 +1,22 @@
 #include <QxtGlobalShortcut>
 
+#include "Chord_p.h"
 #include "GlobalShortcutRegistry_p.h"
 
 #include <QCoreApplication>
 #include <QThread>
 
 #include <utility>
+
+// A text that names no key, as a file may hold, gives a sequence with an unknown key, and a key that
+// has no name of its own is lost by way of a file. Neither is for the system to see: on an X server
+// key 0 is the whole keyboard.
+static bool namesAKey(int chord)
+{
+    const QString name = QKeySequence(keyOf(chord)).toString(QKeySequence::PortableText);
+    const int key = QKeySequence::fromString(name, QKeySequence::PortableText)[0];
+    return key != 0 && key != Qt::Key_unknown;
+}
 
 // A QObject of its own beside the public one: what is queued for it dies with it.
 class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User
@@ -29,7 +40,7 @@ public:
         // The registry outlives the change: made anew it would connect to the system again.
         const auto registry = mRegistry;
         giveBack();
-        if (!enabled || shortcut.count() != 1 || !isGuiThread())
+        if (!enabled || shortcut.count() != 1 || !namesAKey(shortcut[0]) || !isGuiThread())
             return;
         mChord = shortcut[0];
         mRegistry = GlobalShortcutRegistry::instance();

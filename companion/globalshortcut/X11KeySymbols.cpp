@@ -205,10 +205,8 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
         return characterSymbols(key);
     if (key >= Qt::Key_F1 && key <= Qt::Key_F35)
         return {static_cast<xcb_keysym_t>(XK_F1 + key - Qt::Key_F1)};
-    // Qt took the numbers of the keys for input methods and of the dead accents from X.
+    // Qt took the numbers of the keys for input methods from X.
     if (key >= Qt::Key_Multi_key && key <= Qt::Key_Hangul_Special)
         return {0xff00 | static_cast<xcb_keysym_t>(key & 0xff)};
-    if (key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay)
-        return {0xfe00 | static_cast<xcb_keysym_t>(key & 0xff)};
     return lookUp(specialKeys, key);
 }

@@ -1,6 +1,6 @@
 #include <QxtGlobalShortcut>
 
-#include "XClient.h"
+#include "support/XClient.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>

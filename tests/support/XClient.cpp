@@ -1,4 +1,4 @@
-#include "XClient.h"
+#include "support/XClient.h"
 
 #include <QScopedPointer>
 
