@@ -44,6 +44,14 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
     refreshState();
 }
 
+ConfDefWidgetQKeySequence::~ConfDefWidgetQKeySequence()
+{
+    // A child of this widget goes with it, but later, when nothing of the editor is left.
+    if (findChildren<QxtGlobalShortcut *>().contains(mShortcut))
+        forgetShortcut(mShortcut);
+    watchShortcut(nullptr);
+}
+
 ConfigItemWidget *ConfDefWidgetQKeySequence::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
     return new ConfDefWidgetQKeySequence(item, parent);
@@ -83,7 +91,7 @@ void ConfDefWidgetQKeySequence::refreshState()
     if (readValue<QKeySequence>().isEmpty()) {
         showState(sWarningGlyph, red, tr("Not set"));
     } else if (!hotkey) {
-        return;
+        showNoState();
     } else if (!hotkey->isEnabled()) {
         showState(sDisabledGlyph, QStringLiteral("120, 129, 130"), tr("Disabled."));
     } else if (hotkey->isValid()) {
@@ -106,6 +114,13 @@ void ConfDefWidgetQKeySequence::showState(const QChar &glyph, const QString &col
     mStateButton->setToolTip(toolTip);
     // The glyph says nothing to a screen reader.
     mStateButton->setAccessibleName(toolTip);
+}
+
+void ConfDefWidgetQKeySequence::showNoState()
+{
+    mStateButton->setText(QString());
+    mStateButton->setToolTip(QString());
+    mStateButton->setAccessibleName(QString());
 }
 
 void ConfDefWidgetQKeySequence::setHotKeyAgain()
@@ -151,6 +166,7 @@ void ConfDefWidgetQKeySequence::forgetShortcut(const QObject *gone)
     const auto entry = mItem->properties.find(shortcutKey());
     if (entry != mItem->properties.end() && entry->value<QObject *>() == gone)
         *entry = QVariant();
+    refreshState();
 }
 
 } // namespace MtConf

@@ -25,6 +25,7 @@ class MALTO_EXPORT ConfDefWidgetQKeySequence : public ConfigItemWidget
 public:
     /// Makes the entry "Shortcut" of the item, as an invalid QVariant, where there is none.
     ConfDefWidgetQKeySequence(ConfItem *item, QWidget *parent);
+    ~ConfDefWidgetQKeySequence() override;
     /// Makes the editor: the `WidgetCreator` of this class.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
@@ -37,7 +38,7 @@ public Q_SLOTS:
     /// shortcut, and when it holds `sequence` already.
     void onKeySequenceChanged(QKeySequence sequence);
     /// Shows on the button whether the stored hotkey is not set, failed, registered or disabled.
-    /// Without a global shortcut only an empty hotkey is shown, as not set.
+    /// Without a global shortcut only an empty hotkey is shown, as not set; any other has no state.
     void refreshState();
     /// Loads the stored hotkey again if the global shortcut is not valid.
     void setHotKeyAgain();
@@ -50,6 +51,7 @@ private:
     void watchShortcut(QxtGlobalShortcut *shortcut);
     void forgetShortcut(const QObject *gone);
     void showState(const QChar &glyph, const QString &color, const QString &toolTip);
+    void showNoState();
 
     KeySequenceEdit *mKeySequenceEdit = nullptr;
     QPushButton *mStateButton = nullptr;

@@ -18,6 +18,24 @@ bool isModifierKey(int key)
     return (key & ~0x3) == Qt::Key_Shift;
 }
 
+/// The Meta key where it is called Super, as on most X servers.
+bool isSuperKey(int key)
+{
+    return key == Qt::Key_Super_L || key == Qt::Key_Super_R;
+}
+
+int keyOf(const QKeyEvent *event)
+{
+    return isSuperKey(event->key()) ? static_cast<int>(Qt::Key_Meta) : event->key();
+}
+
+/// Whether no text stands for `sequence`, as for AltGr: it would come back unknown from a file.
+bool isNameless(const QKeySequence &sequence)
+{
+    const QString text = sequence.toString(QKeySequence::PortableText);
+    return QKeySequence::fromString(text, QKeySequence::PortableText)[0] == Qt::Key_unknown;
+}
+
 /// Whether `sequence` is one key that people need for typing. The modifiers of a chord belong to
 /// its key code, so a key that is held with any of them is not simple.
 bool isSimple(const QKeySequence &sequence)
@@ -108,16 +126,22 @@ bool KeySequenceEdit::event(QEvent *event)
 void KeySequenceEdit::keyPressEvent(QKeyEvent *event)
 {
     // The line edit never sees a key: typing records and does not edit.
-    mLastKey = event->key();
+    mLastKey = keyOf(event);
     if (isModifierKey(mLastKey) || mLastKey == 0 || mLastKey == Qt::Key_unknown)
         return;
-    record(GetKeySequence(event));
+    const QKeySequence sequence = GetKeySequence(event);
+    if (!isNameless(sequence))
+        record(sequence);
 }
 
 void KeySequenceEdit::keyReleaseEvent(QKeyEvent *event)
 {
     // A modifier counts alone only when no other key was pressed after it and nothing is held now.
-    if (event->modifiers() == Qt::NoModifier && event->key() == mLastKey && allowSingleModifier
+    // Qt leaves out the one that is released, but not when it is called Super.
+    const Qt::KeyboardModifiers held = isSuperKey(event->key())
+                                           ? event->modifiers() & ~Qt::MetaModifier
+                                           : event->modifiers();
+    if (held == Qt::NoModifier && keyOf(event) == mLastKey && allowSingleModifier
         && isModifierKey(mLastKey))
         record(QKeySequence(mLastKey));
 }

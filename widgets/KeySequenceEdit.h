@@ -12,7 +12,8 @@
 ///
 /// Every key is recorded, also those that the window knows as shortcuts, Escape, Return and
 /// Backspace. Only Tab and Shift+Tab are not: they lead out of the field, as everywhere, unless
-/// there is no other place for the focus. With Control, Alt or Meta they are recorded.
+/// there is no other place for the focus. With Control, Alt or Meta they are recorded. A key that
+/// has no name, such as AltGr, is passed over: no file could hold it. The Super key counts as Meta.
 class MALTO_EXPORT KeySequenceEdit : public QLineEdit
 {
     Q_OBJECT

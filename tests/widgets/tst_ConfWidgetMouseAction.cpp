@@ -1,35 +1,20 @@
-#include "support/EditorFixture.h"
+#include "MouseActionFixture.h"
 #include "support/TestMain.h"
 
-#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
-#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
-#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
-
 #include <QAbstractItemView>
-#include <QCheckBox>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QListWidget>
-#include <QPointer>
 #include <QScopeGuard>
 #include <QTranslator>
 #include <QWheelEvent>
 
 #include <climits>
-#include <vector>
 
-using MtConf::ConfItem;
 using MtConf::ConfWidgetMouseAction;
 using Values = QList<int>;
 
 Q_DECLARE_METATYPE(Values)
 
 namespace {
-
-constexpr int sShift = 0x02000000;
-constexpr int sControl = 0x04000000;
-constexpr int sAlt = 0x08000000;
-constexpr int sMeta = 0x10000000;
 
 /// Puts the context before every text.
 class Prefixer : public QTranslator
@@ -44,12 +29,12 @@ public:
 
 } // namespace
 
-class tst_ConfWidgetMouseAction : public QObject
+class tst_ConfWidgetMouseAction : public MouseActionFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { reset(); }
+    void cleanup() { clear(); }
 
     void actionsFollowTheKind_data();
     void actionsFollowTheKind();
@@ -73,109 +58,9 @@ private Q_SLOTS:
     void loadingWhatIsShownStoresNothing();
     void loadingAnActionThatIsNotOfferedStoresNone();
 
-    void stateIsShown_data();
-    void stateIsShown();
-    void styleFollowsTheState();
-    void gesturesConflict_data();
-    void gesturesConflict();
-    void firstConflictIsNamed();
-    void storeIsJudgedNotTheControls();
-    void namedConflictStays();
-    void changeRefreshesTheOthers();
-    void deletedEditorIsInNoConflict();
-    void listHoldsTheLiveEditors();
-
-    void callbackMayDeleteTheEditor_data();
-    void callbackMayDeleteTheEditor();
-    void callbackMayDeleteAllEditors();
     void textsHaveTheirContexts();
     void actionsFollowTheLanguage();
-
-private:
-    struct Gesture
-    {
-        int value = 0;
-        std::unique_ptr<ConfItem> item;
-        QPointer<ConfWidgetMouseAction> editor;
-        QPointer<QComboBox> actions;
-        QPointer<MultiSelectComboBox> modifiers;
-        QPointer<QLabel> state;
-    };
-    Gesture *add(const char *text, int value, int kind);
-    static void show(Gesture *gesture, int value);
-    static QString action(const Gesture *gesture) { return gesture->actions->currentText(); }
-    static int stored(const Gesture *gesture)
-    {
-        return ConfStorage::instance()->get<int>(gesture->item->getFullName());
-    }
-    static void store(const Gesture *gesture, int value)
-    {
-        ConfStorage::instance()->set<int>(gesture->item->getFullName(), value);
-    }
-    static void clickModifier(const Gesture *gesture, int row);
-    static QString stateClass(const Gesture *gesture)
-    {
-        return gesture->state->property("class").toString();
-    }
-    static int glyph(const Gesture *gesture)
-    {
-        return gesture->state->text().size() == 1 ? gesture->state->text().at(0).unicode() : -1;
-    }
-
-    std::unique_ptr<EditorFixture> mFixture;
-    std::vector<std::unique_ptr<Gesture>> mGestures;
 };
-
-void tst_ConfWidgetMouseAction::init()
-{
-    mFixture = std::make_unique<EditorFixture>();
-    QCOMPARE(ConfWidgetMouseAction::sConflictList.size(), 0);
-}
-
-void tst_ConfWidgetMouseAction::cleanup()
-{
-    mFixture.reset();
-    mGestures.clear();
-}
-
-tst_ConfWidgetMouseAction::Gesture *tst_ConfWidgetMouseAction::add(const char *text, int value,
-                                                                   int kind)
-{
-    mGestures.push_back(std::make_unique<Gesture>());
-    Gesture *gesture = mGestures.back().get();
-    gesture->value = value;
-    gesture->item = std::make_unique<ConfItem>(&gesture->value, "Mouse", text, "");
-    gesture->item->displayText = text;
-    gesture->item->widgetCreator = [kind](ConfItem *item, QWidget *parent) {
-        return new ConfWidgetMouseAction(item, parent, kind);
-    };
-    gesture->editor = mFixture->edit<ConfWidgetMouseAction>(gesture->item.get());
-    gesture->actions = gesture->editor->findChild<ComboboxDisableWheel *>();
-    gesture->modifiers = gesture->editor->findChild<MultiSelectComboBox *>();
-    const auto labels = gesture->editor->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QLabel *label : labels) {
-        if (label->property("class").isValid())
-            gesture->state = label;
-    }
-    return gesture;
-}
-
-/// Makes the controls show `value`.
-void tst_ConfWidgetMouseAction::show(Gesture *gesture, int value)
-{
-    for (int row = 0; row < 4; ++row)
-        gesture->modifiers->setItemChecked(row, value & (sShift << row));
-    gesture->actions->setCurrentIndex(gesture->actions->findData(value & 0xffff));
-}
-
-/// Clicks the modifier in the open list.
-void tst_ConfWidgetMouseAction::clickModifier(const Gesture *gesture, int row)
-{
-    gesture->modifiers->showPopup();
-    auto *list = qobject_cast<QListWidget *>(gesture->modifiers->view());
-    QWidget *box = list->itemWidget(list->item(row));
-    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(10, box->height() / 2));
-}
 
 void tst_ConfWidgetMouseAction::actionsFollowTheKind_data()
 {
@@ -472,231 +357,6 @@ void tst_ConfWidgetMouseAction::loadingAnActionThatIsNotOfferedStoresNone()
     QCOMPARE(gesture->actions->currentIndex(), -1);
     QCOMPARE(gesture->value, 0x02000000);
     QCOMPARE(stateClass(gesture), QString("NoneIcon"));
-}
-
-void tst_ConfWidgetMouseAction::stateIsShown_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("styleClass");
-    QTest::addColumn<int>("expectedGlyph");
-    QTest::addColumn<QString>("toolTip");
-    const QString left = "Cannot set left-click separately";
-    QTest::newRow("left click alone") << 1 << 1 << "ErrorIcon" << 0xe70d << left;
-    QTest::newRow("left click alone, not offered") << 1 << 2 << "ErrorIcon" << 0xe70d << left;
-    QTest::newRow("none") << 0 << 1 << "NoneIcon" << 0xe63a << "No set";
-    QTest::newRow("modifiers alone") << 0x1e000000 << 1 << "NoneIcon" << 0xe63a << "No set";
-    QTest::newRow("conflict") << 0x02000200 << 2 << "WarningIcon" << 0xe71b
-                              << "Conflict with Other";
-    QTest::newRow("correct") << 0x02000004 << 1 << "CorrectIcon" << 0xe725 << "";
-    QTest::newRow("left click with Shift") << 0x02000001 << 1 << "CorrectIcon" << 0xe725 << "";
-    QTest::newRow("an unknown action") << 0x8000 << 1 << "CorrectIcon" << 0xe725 << "";
-}
-
-void tst_ConfWidgetMouseAction::stateIsShown()
-{
-    QFETCH(int, value);
-    QFETCH(int, kind);
-    QFETCH(int, expectedGlyph);
-    add("Other", 0x02000200, 2);
-    const Gesture *gesture = add("Zoom", value, kind);
-    QTEST(stateClass(gesture), "styleClass");
-    QCOMPARE(glyph(gesture), expectedGlyph);
-    QTEST(gesture->state->toolTip(), "toolTip");
-}
-
-void tst_ConfWidgetMouseAction::styleFollowsTheState()
-{
-    mFixture->parent.setStyleSheet(".ErrorIcon { color: #ff0000; } .NoneIcon { color: #0000ff; }");
-    Gesture *gesture = add("Zoom", 0, 1);
-    QVERIFY(mFixture->show());
-    QCOMPARE(gesture->state->palette().color(QPalette::WindowText), QColor(0, 0, 255));
-    gesture->actions->setCurrentText("Left Click");
-    QCOMPARE(gesture->state->palette().color(QPalette::WindowText), QColor(255, 0, 0));
-}
-
-void tst_ConfWidgetMouseAction::gesturesConflict_data()
-{
-    QTest::addColumn<int>("first");
-    QTest::addColumn<int>("second");
-    QTest::addColumn<bool>("conflict");
-    QTest::newRow("the same") << 4 << 4 << true;
-    QTest::newRow("the same with modifiers") << (sShift | sAlt | 64) << (sShift | sAlt | 64) << true;
-    QTest::newRow("left pair") << (sControl | 1) << (sControl | 2) << true;
-    QTest::newRow("right pair") << 4 << 8 << true;
-    QTest::newRow("middle pair") << (sMeta | 16) << (sMeta | 32) << true;
-    QTest::newRow("pair with other modifiers") << (sShift | 1) << (sControl | 2) << false;
-    QTest::newRow("one modifier more") << (sShift | 1) << (sShift | sControl | 1) << false;
-    QTest::newRow("with and without a modifier") << (sShift | 4) << 4 << false;
-    QTest::newRow("left and right") << 2 << 4 << false;
-    QTest::newRow("right and middle") << 8 << 16 << false;
-    QTest::newRow("middle and wheel") << 32 << 64 << false;
-    QTest::newRow("wheel and left drag") << 64 << 128 << false;
-    QTest::newRow("left drag and right drag") << 128 << 256 << false;
-    QTest::newRow("right drag and middle drag") << 256 << 512 << false;
-    QTest::newRow("the same drag") << (sAlt | 512) << (sAlt | 512) << true;
-    QTest::newRow("left click and left drag") << (sAlt | 1) << (sAlt | 128) << false;
-    QTest::newRow("a modifier that no one offers") << (0x20000000 | 4) << 4 << false;
-    QTest::newRow("that modifier in both") << (0x20000000 | 4) << (0x20000000 | 8) << true;
-    QTest::newRow("both of a pair and one") << 12 << 8 << true;
-    QTest::newRow("the sign bit") << (INT_MIN | 4) << (INT_MIN | 4) << true;
-}
-
-void tst_ConfWidgetMouseAction::gesturesConflict()
-{
-    QFETCH(int, first);
-    QFETCH(int, second);
-    QFETCH(bool, conflict);
-    const Gesture *one = add("One", first, 1);
-    const Gesture *two = add("Two", second, 1);
-    ConfWidgetMouseAction::refreshAllConflictState();
-    const QString expected = conflict ? "WarningIcon" : "CorrectIcon";
-    QCOMPARE(stateClass(one), expected);
-    QCOMPARE(stateClass(two), expected);
-    QCOMPARE(one->state->toolTip(), conflict ? QString("Conflict with Two") : QString());
-    QCOMPARE(two->state->toolTip(), conflict ? QString("Conflict with One") : QString());
-}
-
-void tst_ConfWidgetMouseAction::firstConflictIsNamed()
-{
-    const Gesture *one = add("One", sShift | 1, 1);
-    add("Two", sShift | 2, 1);
-    const Gesture *three = add("Three", sShift | 1, 1);
-    ConfWidgetMouseAction::refreshAllConflictState();
-    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
-    QCOMPARE(one->state->toolTip(), QString("Conflict with Two"));
-}
-
-void tst_ConfWidgetMouseAction::storeIsJudgedNotTheControls()
-{
-    Gesture *one = add("One", 4, 1);
-    one->actions->setCurrentText("Left Click");
-    QCOMPARE(one->value, 4);
-    // What is in force is the right click.
-    const Gesture *two = add("Two", 8, 1);
-    QCOMPARE(two->state->toolTip(), QString("Conflict with One"));
-    // A left click alone that came from elsewhere counts like any other.
-    store(one, 1);
-    Gesture *three = add("Three", 2, 1);
-    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
-    store(one, 0);
-    ConfWidgetMouseAction::refreshAllConflictState();
-    QCOMPARE(stateClass(three), QString("CorrectIcon"));
-    QCOMPARE(stateClass(two), QString("CorrectIcon"));
-}
-
-void tst_ConfWidgetMouseAction::namedConflictStays()
-{
-    Gesture *one = add("One", 4, 1);
-    add("Two", 8, 1);
-    Gesture *three = add("Three", 4, 1);
-    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
-    show(one, 64);
-    QCOMPARE(stateClass(three), QString("WarningIcon"));
-    QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
-    // Once another state was shown the name is a new one.
-    show(three, 16);
-    QCOMPARE(stateClass(three), QString("CorrectIcon"));
-    QCOMPARE(three->state->toolTip(), QString());
-    show(three, 4);
-    QCOMPARE(three->state->toolTip(), QString("Conflict with Two"));
-}
-
-void tst_ConfWidgetMouseAction::changeRefreshesTheOthers()
-{
-    const Gesture *one = add("One", sShift | 4, 1);
-    Gesture *two = add("Two", 4, 1);
-    QCOMPARE(stateClass(one), QString("CorrectIcon"));
-    two->modifiers->itemClicked(0);
-    QCOMPARE(stateClass(one), QString("WarningIcon"));
-    QCOMPARE(stateClass(two), QString("WarningIcon"));
-    two->actions->setCurrentText("None");
-    QCOMPARE(stateClass(one), QString("CorrectIcon"));
-    QCOMPARE(stateClass(two), QString("NoneIcon"));
-}
-
-void tst_ConfWidgetMouseAction::deletedEditorIsInNoConflict()
-{
-    const Gesture *one = add("One", 4, 1);
-    Gesture *two = add("Two", 4, 1);
-    one->editor->refreshConflictState();
-    QCOMPARE(stateClass(one), QString("WarningIcon"));
-    delete two->editor;
-    QCOMPARE(stateClass(one), QString("WarningIcon")); // until the next change
-    one->editor->onCurrentIndexChanged();
-    QCOMPARE(stateClass(one), QString("CorrectIcon"));
-}
-
-void tst_ConfWidgetMouseAction::listHoldsTheLiveEditors()
-{
-    Gesture *one = add("One", 4, 1);
-    const Gesture *two = add("Two", 0, 0);
-    const Gesture *three = add("Three", 1, 2);
-    QCOMPARE(ConfWidgetMouseAction::sConflictList,
-             (QList<ConfWidgetMouseAction *>{one->editor, two->editor, three->editor}));
-    delete one->editor;
-    QCOMPARE(ConfWidgetMouseAction::sConflictList,
-             (QList<ConfWidgetMouseAction *>{two->editor, three->editor}));
-    // The host may tamper with it.
-    ConfWidgetMouseAction::sConflictList.append(two->editor);
-    delete two->editor;
-    QCOMPARE(ConfWidgetMouseAction::sConflictList, QList<ConfWidgetMouseAction *>{three->editor});
-}
-
-void tst_ConfWidgetMouseAction::callbackMayDeleteTheEditor_data()
-{
-    QTest::addColumn<QString>("way");
-    QTest::newRow("an action is chosen in the list") << "action";
-    QTest::newRow("an action is chosen by key") << "key";
-    QTest::newRow("a modifier is clicked") << "modifier";
-    QTest::newRow("the value is loaded, modifiers change") << "load modifiers";
-    QTest::newRow("the value is loaded, the action changes") << "load action";
-}
-
-void tst_ConfWidgetMouseAction::callbackMayDeleteTheEditor()
-{
-    QFETCH(QString, way);
-    Gesture *gesture = add("Zoom", 4, 1);
-    const Gesture *other = add("Pan", 16, 1);
-    QVERIFY(mFixture->show());
-    if (way.startsWith("load"))
-        store(gesture, way == "load action" ? 16 : 0x1e000010);
-    const QPointer<QComboBox> actions = gesture->actions;
-    const QPointer<QComboBox> modifiers = gesture->modifiers.data();
-    gesture->item->setConfChangedCallback(
-        [gesture](const QString &, const ConfValue *) { delete gesture->editor; });
-    if (way == "action") {
-        actions->showPopup();
-        QTRY_VERIFY(actions->view()->isVisible());
-        actions->view()->setCurrentIndex(actions->model()->index(5, 0));
-        QTest::keyClick(actions->view(), Qt::Key_Return);
-    } else if (way == "key") {
-        QTest::keyClick(actions, Qt::Key_Down);
-    } else if (way == "modifier") {
-        clickModifier(gesture, 0);
-    } else {
-        gesture->editor->loadConf();
-    }
-    QVERIFY(!gesture->editor);
-    QVERIFY(!gesture->item->editor);
-    QTRY_VERIFY(!actions);
-    QTRY_VERIFY(!modifiers);
-    QVERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(ConfWidgetMouseAction::sConflictList, QList<ConfWidgetMouseAction *>{other->editor});
-}
-
-void tst_ConfWidgetMouseAction::callbackMayDeleteAllEditors()
-{
-    Gesture *one = add("One", 4, 1);
-    Gesture *two = add("Two", 16, 1);
-    one->item->setConfChangedCallback([one, two](const QString &, const ConfValue *) {
-        delete two->editor;
-        delete one->editor;
-    });
-    one->actions->setCurrentIndex(4);
-    QCOMPARE(one->value, 8);
-    QCOMPARE(ConfWidgetMouseAction::sConflictList.size(), 0);
-    QCoreApplication::processEvents();
 }
 
 void tst_ConfWidgetMouseAction::textsHaveTheirContexts()
