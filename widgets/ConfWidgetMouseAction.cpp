@@ -73,6 +73,7 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
     mActionBox->setView(new QListView(mActionBox));
     addActions(kind);
     auto *plus = new QLabel(QStringLiteral("+"), this);
+    plus->setAlignment(Qt::AlignCenter);
     mStateLabel->setProperty("class", QStringLiteral("CorrectIcon"));
     mStateLabel->setText(sCorrectGlyph);
     // The label's style sheet names the icon font, which any use makes known.
