@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int sLongestName = 40;
-constexpr QLatin1String sNameMember("name");
+constexpr QLatin1String sNameMember("name", 4);
 
 QJsonObject makeProfile(const QString &name, int width, int height, const QString &color)
 {

@@ -106,15 +106,15 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Ziehen mit der linken Taste</translation>
+        <translation>Ziehen mit links</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Ziehen mit der rechten Taste</translation>
+        <translation>Ziehen mit rechts</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Ziehen mit der mittleren Taste</translation>
+        <translation>Ziehen mit Mitte</translation>
     </message>
 </context>
 <context>

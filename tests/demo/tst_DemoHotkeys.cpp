@@ -1,5 +1,5 @@
 #include "DemoFixture.h"
-#include "XClient.h"
+#include "support/XClient.h"
 #include "demo/DemoArguments.h"
 #include "demo/KeyHolder.h"
 #include "demo/MainWindow.h"
