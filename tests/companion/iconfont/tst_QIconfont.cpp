@@ -283,7 +283,7 @@ void tst_QIconfont::marginsLargerThanTheSquareLeaveNothing()
 void tst_QIconfont::styleSheetFindsTheFont()
 {
     QIconfont::load();
-    QLabel label(QString(QuorviGlyphs::Correct));
+    QLabel label{QString(QuorviGlyphs::Correct)};
     label.setStyleSheet("font: 23pt QuorviIconfont;");
     label.ensurePolished();
     QCOMPARE(QFontInfo(label.font()).family(), QString("QuorviIconfont"));
