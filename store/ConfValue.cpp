@@ -5,6 +5,10 @@
 
 namespace {
 
+// In points or pixels: what could still be seen, and far more than any screen holds.
+constexpr qreal sMinFontSize = 0.1;
+constexpr qreal sMaxFontSize = 4096;
+
 /// Calls `visitor` with a null `T *`, `T` being the C++ type of `type`; logs an unknown type.
 template<class Visitor> void visitType(ConfValue::ConfType type, Visitor visitor)
 {
@@ -40,7 +44,19 @@ void fromJson(const QJsonValue &json, int &number) { number = json.toInt(0); }
 void fromJson(const QJsonValue &json, qreal &number) { number = json.toDouble(0.0); }
 void fromJson(const QJsonValue &json, bool &flag) { flag = json.toBool(false); }
 void fromJson(const QJsonValue &json, QString &text) { text = json.toString(); }
-void fromJson(const QJsonValue &json, QFont &font) { font.fromString(json.toString()); }
+void fromJson(const QJsonValue &json, QFont &font)
+{
+    // Qt takes "inf" and a thousand million points for sizes, and any program that then shows a text
+    // in that font stalls or draws nothing. Such a text counts as one that is no font.
+    QFont read;
+    if (!read.fromString(json.toString()))
+        return;
+    const qreal size = read.pixelSize() > 0 ? read.pixelSize() : read.pointSizeF();
+    if (size >= sMinFontSize && size <= sMaxFontSize)
+        font = read;
+    else
+        qWarning() << "ConfValue::loadFromJsonValue() font size out of range: " << json.toString();
+}
 void fromJson(const QJsonValue &json, QKeySequence &keys)
 {
     keys = QKeySequence::fromString(json.toString(), QKeySequence::PortableText);

@@ -49,6 +49,10 @@ private Q_SLOTS:
     void toJsonOfUnknownTypeIsLogged();
     void fromJson_data();
     void fromJson();
+    void fontSizeOutOfRangeGivesTheDefaultFont_data();
+    void fontSizeOutOfRangeGivesTheDefaultFont();
+    void fontSizeInRangeIsKept_data();
+    void fontSizeInRangeIsKept();
     void fromJsonNullUnbinds_data();
     void fromJsonNullUnbinds();
     void fromJsonOfUnknownTypeIsLogged();
@@ -323,6 +327,47 @@ void tst_ConfValue::fromJson()
     ConfValue fontValue = ConfValue::owned(QFont());
     fontValue.loadFromJsonValue(font.toString());
     QCOMPARE(fontValue.get<QFont>().pixelSize(), 21);
+}
+
+void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("infinite") << "Sans,inf,-1,5,50,0,0,0,0,0";
+    QTest::newRow("beyond what a double holds") << "Sans,1e400,-1,5,50,0,0,0,0,0";
+    QTest::newRow("a thousand million points") << "Sans,1e9";
+    QTest::newRow("a little too large") << "Sans,4096.5,-1,5,50,0,0,0,0,0";
+    QTest::newRow("as many pixels as integers go") << "Sans,-1,2147483647,5,50,0,0,0,0,0";
+    QTest::newRow("a little too many pixels") << "Sans,-1,4097,5,50,0,0,0,0,0";
+    QTest::newRow("next to nothing") << "Sans,1e-300,-1,5,50,0,0,0,0,0";
+}
+
+void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont()
+{
+    QFETCH(QString, text);
+    ConfValue value = ConfValue::owned(QFont("Serif", 33));
+    const LogCapture log;
+    value.loadFromJsonValue(text);
+    QCOMPARE(value.get<QFont>(), QFont());
+    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtWarningMsg,
+        QString("ConfValue::loadFromJsonValue() font size out of range:  \"%1\"").arg(text)}}));
+}
+
+void tst_ConfValue::fontSizeInRangeIsKept_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("most points") << "Sans,4096,-1,5,50,0,0,0,0,0";
+    QTest::newRow("most pixels") << "Sans,-1,4096,5,50,0,0,0,0,0";
+    QTest::newRow("fewest points") << "Sans,0.1,-1,5,50,0,0,0,0,0";
+}
+
+void tst_ConfValue::fontSizeInRangeIsKept()
+{
+    QFETCH(QString, text);
+    ConfValue value = ConfValue::owned(QFont());
+    const LogCapture log;
+    value.loadFromJsonValue(text);
+    QCOMPARE(value.get<QFont>().toString(), text);
+    QVERIFY(log.messages().isEmpty());
 }
 
 void tst_ConfValue::fromJsonNullUnbinds_data()
