@@ -3,8 +3,15 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonParseError>
 #include <QTextStream>
+
+namespace {
+
+constexpr qint64 sMaxFileSize = 128 * 1024 * 1024;
+
+} // namespace
 
 QString getIndexName(const QString &a, const QString &b, const QString &c)
 {
@@ -19,7 +26,9 @@ QJsonDocument readJsonFromFile(QString path)
     QFile file(path);
     if (!file.exists())
         return QJsonDocument();
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    // Reading a pipe or a device might never end, and what no memory holds would end the process.
+    const bool isUsable = QFileInfo(path).isFile() && file.size() <= sMaxFileSize;
+    if (!isUsable || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qCritical() << "can't open config file" << path;
         return QJsonDocument();
     }

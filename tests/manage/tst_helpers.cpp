@@ -6,6 +6,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <sys/stat.h>
+
 namespace {
 
 QString writeFile(const QString &name, const QByteArray &content)
@@ -26,6 +28,9 @@ private Q_SLOTS:
     void setAppAutoRun_doesNothing();
     void missingFileGivesANullDocumentSilently();
     void unreadableFileIsLogged();
+    void whatReadingMightNeverEndIsUnreadable_data();
+    void whatReadingMightNeverEndIsUnreadable();
+    void fileBeyondAllMemoryIsUnreadable();
     void brokenFileIsDroppedSilently_data();
     void brokenFileIsDroppedSilently();
     void fileIsReadAsUtf8();
@@ -84,6 +89,34 @@ void tst_helpers::unreadableFileIsLogged()
     QCOMPARE(log.messages().first().level, QtCriticalMsg);
     QCOMPARE(log.messages().first().text,
              QStringLiteral("can't open config file \"folder\""));
+}
+
+void tst_helpers::whatReadingMightNeverEndIsUnreadable_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("pipe without a writer") << "pipe";
+    QTest::newRow("endless device") << "/dev/zero";
+    QTest::newRow("link to a device") << "link";
+}
+
+void tst_helpers::whatReadingMightNeverEndIsUnreadable()
+{
+    QFETCH(QString, path);
+    ::mkfifo("pipe", 0600);
+    QFile::link("/dev/zero", "link");
+    const LogCapture log;
+    QVERIFY(readJsonFromFile(path).isNull());
+    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtCriticalMsg,
+        QString("can't open config file \"%1\"").arg(path)}}));
+}
+
+void tst_helpers::fileBeyondAllMemoryIsUnreadable()
+{
+    QFile file("huge.json");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));
+    const LogCapture log;
+    QVERIFY(readJsonFromFile("huge.json").isNull());
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList("can't open config file \"huge.json\""));
 }
 
 void tst_helpers::brokenFileIsDroppedSilently_data()
