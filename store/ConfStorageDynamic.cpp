@@ -142,7 +142,10 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, DynamicConf
         const bool present = mConfValues.contains(key);
         if (present)
             removeDynamicConf(key);
-        if (present || mRemovedDynamicConfs.value(key) < incoming)
+        // Not by comparing with the null time of an absent entry, which counts as 1970: a removal of
+        // that time, as a number out of range is read, would leave no trace.
+        const auto removed = mRemovedDynamicConfs.constFind(key);
+        if (present || removed == mRemovedDynamicConfs.constEnd() || *removed < incoming)
             mRemovedDynamicConfs[key] = incoming;
         return true;
     }

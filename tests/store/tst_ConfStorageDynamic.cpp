@@ -73,6 +73,8 @@ private Q_SLOTS:
     void restoreOfOneClassBringsTheOthersPresetsBack();
     void merging_data();
     void merging();
+    void removalOfAnAbsentKeyIsRemembered_data();
+    void removalOfAnAbsentKeyIsRemembered();
     void mergingANewKeyCreatesIt();
     void mergingWithoutTimeIsNew();
     void mergingARestoredPreset();
@@ -301,6 +303,25 @@ void tst_ConfStorageDynamic::merging()
     } else {
         QCOMPARE(mCopy->store.mRemovedDynamicConfs["P.a"], at(time));
     }
+}
+
+void tst_ConfStorageDynamic::removalOfAnAbsentKeyIsRemembered_data()
+{
+    QTest::addColumn<QJsonValue>("removed");
+    QTest::addColumn<qint64>("time");
+    QTest::newRow("now") << QJsonValue(1700000400) << qint64(1700000400);
+    QTest::newRow("at the beginning of 1970") << QJsonValue(0) << qint64(0);
+    QTest::newRow("before 1970") << QJsonValue(-7) << qint64(-7);
+    QTest::newRow("beyond 32 bits") << QJsonValue(2147483648.0) << qint64(0);
+}
+
+void tst_ConfStorageDynamic::removalOfAnAbsentKeyIsRemembered()
+{
+    QFETCH(QJsonValue, removed);
+    QFETCH(qint64, time);
+    mCopy->store.loadSingleConf("P.a", QJsonObject{{"d", removed}}, ConfStorage::LoadShared);
+    QCOMPARE(mCopy->store.mRemovedDynamicConfs.value("P.a"), at(time));
+    QCOMPARE(mCopy->store.mRemovedDynamicConfs.size(), 1);
 }
 
 void tst_ConfStorageDynamic::mergingANewKeyCreatesIt()
