@@ -3,6 +3,7 @@
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
 
 #include <OrvUtils/OrvScreenManager.h>
 #include <OrvUtils/QThemeCtrl.h>
@@ -13,7 +14,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScreen>
-#include <QSettings>
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QTimer>
@@ -22,8 +22,10 @@ namespace MtConf {
 
 namespace {
 
-const char sGeometryFile[] = "ConfigurationWindowConfig.ini";
-const char sGeometryKey[] = "Geometry";
+WindowGeometryFile geometryFile()
+{
+    return WindowGeometryFile(QStringLiteral("ConfigurationWindowConfig.ini"));
+}
 
 /// A sheet on disk goes before the built-in one.
 QString sheetSource(const QString &path, const QString &resource)
@@ -58,13 +60,12 @@ double ConfigurationWindow::screenScale() const
 void ConfigurationWindow::initAppearance()
 {
     mScale = screenScale();
-    const QSettings settings(QLatin1String(sGeometryFile), QSettings::IniFormat);
-    if (settings.contains(QLatin1String(sGeometryKey))) {
+    const WindowGeometryFile::Saved saved = geometryFile().read();
+    if (saved.found) {
         // A geometry that no longer fits leaves the window as the form made it: somebody who moved
         // the window once wants no window of our choosing back.
-        const QRect geometry = settings.value(QLatin1String(sGeometryKey)).toRect();
-        if (geometry.isValid() && isInsideScreen(geometry))
-            setGeometry(geometry);
+        if (saved.geometry.isValid() && isInsideScreen(saved.geometry))
+            setGeometry(saved.geometry);
     } else {
         applyDefaultGeometry();
     }
@@ -89,8 +90,7 @@ void ConfigurationWindow::applyDefaultGeometry()
 
 void ConfigurationWindow::saveGeometryToFile() const
 {
-    QSettings settings(QLatin1String(sGeometryFile), QSettings::IniFormat);
-    settings.setValue(QLatin1String(sGeometryKey), geometry());
+    geometryFile().write(geometry());
 }
 
 void ConfigurationWindow::loadQss()

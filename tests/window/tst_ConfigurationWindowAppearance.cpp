@@ -54,7 +54,9 @@ private Q_SLOTS:
     void geometryIsRemembered();
     void savedGeometry_data();
     void savedGeometry();
+    void geometryFileMayBeRubbish_data();
     void geometryFileMayBeRubbish();
+    void geometryOfOnePixelLeavesAUsableWindow();
     void closedWindowLeavesItsGeometryInTheFile();
     void sheetIsExpanded();
     void sheetOnDiskGoesFirst_data();
@@ -158,11 +160,52 @@ void tst_ConfigurationWindowAppearance::savedGeometry()
         QCOMPARE(window.size(), QSize(1089, 598));
 }
 
+void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QSize>("size");
+    const QSize formSize(1089, 598);
+    QTest::newRow("no lines")
+        << QByteArray("\x00[[[=\xff\n", 7) << QSize(1024, 667);
+    QTest::newRow("broken lines around the key")
+        << QByteArray("\x00[[[=\xff\nGeometry=@Rect(x)\n", 25) << formSize;
+    QTest::newRow("a word") << QByteArray("[General]\nGeometry=wide\n") << formSize;
+    QTest::newRow("three numbers") << QByteArray("[General]\nGeometry=@Rect(9 9 500)\n") << formSize;
+    QTest::newRow("zeros") << QByteArray("[General]\nGeometry=@Rect(0 0 0 0)\n") << formSize;
+    QTest::newRow("the largest numbers")
+        << QByteArray("[General]\nGeometry=@Rect(2147483647 2147483647 2147483647 2147483647)\n")
+        << formSize;
+    QTest::newRow("the smallest numbers")
+        << QByteArray("[General]\nGeometry=@Rect(-2147483648 -2147483648 -2147483648 -9)\n")
+        << formSize;
+    QTest::newRow("numbers beyond integers")
+        << QByteArray("[General]\nGeometry=@Rect(10 10 99999999999999999999 500)\n") << formSize;
+    QTest::newRow("a list that no memory holds")
+        << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n") << formSize;
+    QTest::newRow("such a list under another key")
+        << QByteArray("[Other]\nx=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n") << formSize;
+}
+
 void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()
 {
-    writeSheet(WindowFixture::geometryFile(), QByteArray("\x00[[[=\xff\nGeometry=@Rect(x)\n", 22));
-    const ConfigurationWindow window(mFixture->manager.get());
-    QVERIFY(window.width() > 0);
+    QFETCH(QByteArray, content);
+    QFETCH(QSize, size);
+    writeSheet(WindowFixture::geometryFile(), content);
+    {
+        const ConfigurationWindow window(mFixture->manager.get());
+        QCOMPARE(window.size(), size);
+        // Closing it saves its geometry over what stood there.
+    }
+    const QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
+    QCOMPARE(settings.value("Geometry").toRect().size(), size);
+}
+
+void tst_ConfigurationWindowAppearance::geometryOfOnePixelLeavesAUsableWindow()
+{
+    writeGeometry(QRect(50, 50, 1, 1));
+    mFixture->open();
+    QTRY_VERIFY(mFixture->window()->width() >= mFixture->window()->minimumSizeHint().width());
+    QVERIFY(mFixture->window()->height() >= mFixture->window()->minimumSizeHint().height());
 }
 
 void tst_ConfigurationWindowAppearance::closedWindowLeavesItsGeometryInTheFile()

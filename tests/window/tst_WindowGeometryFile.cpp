@@ -1,0 +1,170 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+
+#include <QSettings>
+
+#include <sys/stat.h>
+
+namespace {
+
+const char sPath[] = "geometry.ini";
+
+void writeFile(const QByteArray &content)
+{
+    QFile file(sPath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+QByteArray fileText()
+{
+    QFile file(sPath);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+} // namespace
+
+class tst_WindowGeometryFile : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { QFile::remove(sPath); }
+
+    void missingFileHoldsNothing();
+    void savedGeometryIsRead();
+    void fileOfOtherKeysHoldsNothing();
+    void otherKeysAreKept();
+    void hiddenVariantIsSeen_data();
+    void hiddenVariantIsSeen();
+    void ordinaryTextIsHarmless_data();
+    void ordinaryTextIsHarmless();
+    void dangerousFileIsUnusableAndReplaced();
+    void enormousFileIsUnusable();
+    void pipesAndDevicesAreLeftAlone_data();
+    void pipesAndDevicesAreLeftAlone();
+};
+
+void tst_WindowGeometryFile::missingFileHoldsNothing()
+{
+    const LogCapture log;
+    QVERIFY(!WindowGeometryFile(sPath).read().found);
+    QVERIFY(log.messages().isEmpty());
+    QVERIFY(!QFile::exists(sPath));
+}
+
+void tst_WindowGeometryFile::savedGeometryIsRead()
+{
+    WindowGeometryFile(sPath).write(QRect(576, 290, 1067, 694));
+    QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(576 290 1067 694)\n"));
+    const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
+    QVERIFY(saved.found);
+    QCOMPARE(saved.geometry, QRect(576, 290, 1067, 694));
+}
+
+void tst_WindowGeometryFile::fileOfOtherKeysHoldsNothing()
+{
+    writeFile("[General]\nWidth=5\n[Other]\nGeometry=@Rect(1 2 3 4)\n");
+    QVERIFY(!WindowGeometryFile(sPath).read().found);
+}
+
+void tst_WindowGeometryFile::otherKeysAreKept()
+{
+    writeFile("[Other]\nPath=\"C:\\\\a, b\"\n");
+    WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
+    const QSettings settings(sPath, QSettings::IniFormat);
+    QCOMPARE(settings.value("Other/Path").toString(), QString("C:\\a, b"));
+    QCOMPARE(settings.value("Geometry").toRect(), QRect(1, 2, 3, 4));
+}
+
+void tst_WindowGeometryFile::hiddenVariantIsSeen_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("plain") << QByteArray("x=@Variant(1)");
+    QTest::newRow("date") << QByteArray("x=@DateTime(1)");
+    QTest::newRow("quoted") << QByteArray("x=\"@Variant(1)\"");
+    QTest::newRow("quote inside") << QByteArray("x=@\"Variant(1)\"");
+    QTest::newRow("hexadecimal sign") << QByteArray("x=\\x40Variant(1)");
+    QTest::newRow("hexadecimal sign with leading digits") << QByteArray("x=\\x10040Variant(1)");
+    QTest::newRow("octal sign") << QByteArray("x=\\100Variant(1)");
+    QTest::newRow("blanks behind a quote") << QByteArray("x=\"@\"  Variant(1)");
+    QTest::newRow("octal letter") << QByteArray("x=@\\126ariant(1)");
+    QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56ariant(1)");
+    QTest::newRow("continued line") << QByteArray("x=@\\\nVariant(1)");
+    QTest::newRow("in a list") << QByteArray("x=a, @Variant(1)");
+}
+
+void tst_WindowGeometryFile::hiddenVariantIsSeen()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY(!WindowGeometryFile::isHarmless(text));
+}
+
+void tst_WindowGeometryFile::ordinaryTextIsHarmless_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("rectangle") << QByteArray("[General]\nGeometry=@Rect(1 2 3 4)\n");
+    QTest::newRow("address") << QByteArray("x=me@example.org\n");
+    QTest::newRow("letter of another script behind the sign") << QByteArray("x=me@\\xe9\\x63ole\n");
+    QTest::newRow("bytes") << QByteArray("x=@ByteArray(\\0\\xff)\n");
+    QTest::newRow("sign at the beginning of a text") << QByteArray("x=@@home\n");
+}
+
+void tst_WindowGeometryFile::ordinaryTextIsHarmless()
+{
+    QFETCH(QByteArray, text);
+    QVERIFY(WindowGeometryFile::isHarmless(text));
+}
+
+void tst_WindowGeometryFile::dangerousFileIsUnusableAndReplaced()
+{
+    writeFile("[General]\nGeometry=@Rect(1 2 3 4)\n"
+              "x=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n");
+    const LogCapture log;
+    const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
+    QVERIFY(saved.found);
+    QVERIFY(!saved.geometry.isValid());
+    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtWarningMsg,
+        "ConfigurationWindow geometry file is not usable:  \"geometry.ini\""}}));
+    WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
+    QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
+}
+
+void tst_WindowGeometryFile::enormousFileIsUnusable()
+{
+    QFile file(sPath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));
+    QVERIFY(!WindowGeometryFile(sPath).read().geometry.isValid());
+    WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
+    QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
+}
+
+void tst_WindowGeometryFile::pipesAndDevicesAreLeftAlone_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("pipe without a writer") << "pipe";
+    QTest::newRow("endless device") << "link";
+    QTest::newRow("folder") << ".";
+}
+
+void tst_WindowGeometryFile::pipesAndDevicesAreLeftAlone()
+{
+    QFETCH(QString, path);
+    ::mkfifo("pipe", 0600);
+    QFile::link("/dev/zero", "link");
+    const LogCapture log;
+    QVERIFY(!WindowGeometryFile(path).read().found);
+    WindowGeometryFile(path).write(QRect(5, 6, 7, 8));
+    QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
+    const QString warning
+        = QString("ConfigurationWindow geometry file is not usable:  \"%1\"").arg(path);
+    QCOMPARE(log.texts(QtWarningMsg), QStringList({warning, warning}));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_WindowGeometryFile>(argc, argv);
+}
+
+#include "tst_WindowGeometryFile.moc"

@@ -1,0 +1,79 @@
+#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace {
+
+constexpr qint64 sMaxFileSize = 64 * 1024;
+
+QString geometryKey()
+{
+    return QStringLiteral("Geometry");
+}
+
+} // namespace
+
+WindowGeometryFile::Saved WindowGeometryFile::read() const
+{
+    switch (content()) {
+    case Content::Missing:
+        return {};
+    case Content::Foreign:
+        warn();
+        return {};
+    case Content::Dangerous:
+        warn();
+        return {true, QRect()};
+    case Content::Harmless:
+        break;
+    }
+    const QSettings settings(mPath, QSettings::IniFormat);
+    return {settings.contains(geometryKey()), settings.value(geometryKey()).toRect()};
+}
+
+void WindowGeometryFile::write(const QRect &geometry) const
+{
+    const Content present = content();
+    if (present == Content::Foreign) {
+        warn();
+        return;
+    }
+    if (present == Content::Dangerous)
+        QFile::remove(mPath);
+    QSettings(mPath, QSettings::IniFormat).setValue(geometryKey(), geometry);
+}
+
+bool WindowGeometryFile::isHarmless(const QByteArray &text)
+{
+    // QSettings turns every value of the file into what it stands for, whichever key is asked for,
+    // and for "@Variant(" and "@DateTime(" that means reading a stream of any type: eight bytes that
+    // announce a list of four thousand million entries end the process. It takes out quotes and
+    // decodes escapes before it looks: the sign and the letter may be written as either.
+    static const QRegularExpression danger(QStringLiteral(
+        R"((?:@|\\x[0-9a-fA-F]*40|\\[0-7]*100))"
+        R"((?:["\s]|\\[^x0-7])*)"
+        R"((?:[VD]|\\x[0-9a-fA-F]*(?:56|44)|\\[0-7]*(?:126|104)))"));
+    return !QString::fromLatin1(text).contains(danger);
+}
+
+WindowGeometryFile::Content WindowGeometryFile::content() const
+{
+    const QFileInfo info(mPath);
+    if (!info.exists())
+        return Content::Missing;
+    // Reading a pipe or a device might never end.
+    QFile file(mPath);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+        return Content::Foreign;
+    const QByteArray text = file.read(sMaxFileSize + 1);
+    return text.size() <= sMaxFileSize && isHarmless(text) ? Content::Harmless : Content::Dangerous;
+}
+
+void WindowGeometryFile::warn() const
+{
+    qWarning() << "ConfigurationWindow geometry file is not usable: " << mPath;
+}
