@@ -34,7 +34,7 @@ MACOS_PACKAGES=(cmake ninja qt@5)
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
                 qttranslations5-l10n libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
-TEST_PACKAGES=(python3 python3-fonttools libxcb-xtest0-dev openbox x11-utils)
+TEST_PACKAGES=(python3 python3-fonttools libxcb-xtest0-dev openbox x11-utils librapidcheck-dev)
 
 # Texts of every language pass through the console and the file system.
 [ -n "${LC_ALL:-}${LANG:-}" ] || export LC_ALL=C.UTF-8

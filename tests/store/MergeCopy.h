@@ -1,0 +1,174 @@
+#pragma once
+
+#include "MergeModel.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QJsonObject>
+
+#include <array>
+#include <map>
+#include <memory>
+#include <ostream>
+
+/// Which operating system a simulated copy runs on.
+enum class MergeSystem { Own, Foreign };
+
+inline std::ostream &operator<<(std::ostream &out, MergeSystem system)
+{
+    return out << (system == MergeSystem::Own ? "own system" : "foreign system");
+}
+
+/// One copy of the configuration: a store of its own with the variables of a host, the keys of
+/// `mergeKeys`, and a clock that the test sets. Fake seconds must lie before the year 2020: what the
+/// store stamps with the real clock is recognised by being later.
+class MergeCopy
+{
+public:
+    explicit MergeCopy(MergeSystem system = MergeSystem::Own) : mSystem(system)
+    {
+        start();
+        mStore->loadPresetDynamicConf();
+    }
+    Q_DISABLE_COPY(MergeCopy)
+
+    MergeSystem system() const { return mSystem; }
+    ConfStorage &store() { return *mStore; }
+
+    void set(size_t key, int value, qint64 now)
+    {
+        if (mergeKeys[key].dynamic)
+            mStore->set<QJsonObject>(name(key), QJsonObject{{"n", value}});
+        else
+            mStore->set<int>(name(key), value);
+        stamp(now);
+    }
+    void restore(size_t key, qint64 now)
+    {
+        mStore->setToDefault(name(key), true);
+        stamp(now);
+    }
+    void create(size_t key, int value, qint64 now)
+    {
+        mStore->createDynamicConf(name(key), QJsonObject{{"n", value}}, nullptr);
+        stamp(now);
+    }
+    void remove(size_t key, qint64 now)
+    {
+        mStore->removeDynamicConf(name(key));
+        stamp(now);
+    }
+    void restoreClass(size_t ofKey, qint64 now)
+    {
+        mStore->restoreDynamicConf(name(ofKey).section('.', 0, 0) + '.');
+        stamp(now);
+    }
+    /// What the local file holds, read by a program that starts anew.
+    void restart()
+    {
+        const QJsonObject file = mStore->dumpConf(ConfStorage::DumpLocal);
+        start();
+        mStore->loadConf(file, ConfStorage::LoadLocal);
+        mStore->loadPresetDynamicConf();
+    }
+    /// What this copy hands to others.
+    QJsonObject dump() const { return translated(mStore->dumpConf(ConfStorage::DumpShared)); }
+    void load(const QJsonObject &dump)
+    {
+        mStore->loadConf(translated(dump), ConfStorage::LoadShared);
+    }
+
+    /// What the host sees: its own variables, and the times.
+    MergeState state() const
+    {
+        MergeState state;
+        for (size_t key = 0; key < mergeKeys.size(); ++key) {
+            MergeCell &cell = state[key];
+            cell.present = mStore->mConfValues.contains(name(key));
+            if (cell.present)
+                cell.value = mergeKeys[key].dynamic ? mEntries.at(name(key)).value("n").toInt()
+                                                    : mNumbers[key];
+            const QDateTime time = mStore->mConfMetas.contains(name(key))
+                ? mStore->mConfMetas[name(key)].lastChangeTime
+                : mStore->mRemovedDynamicConfs.value(name(key));
+            if (time.isValid())
+                cell.time = time.toSecsSinceEpoch();
+        }
+        return state;
+    }
+
+    static QString name(size_t key) { return QLatin1String(mergeKeys[key].name); }
+
+private:
+    void start()
+    {
+        mStore = std::make_unique<ConfStorage>();
+        mEntries.clear();
+        addClass(mClasses[0], "Entry.", 0);
+        addClass(mClasses[1], "SystemEntry.", ConfStorage::FlagSystemIndependent);
+        addClass(mClasses[2], "LocalEntry.", ConfStorage::FlagLocalOnly);
+        for (size_t key = 0; key < mergeKeys.size(); ++key) {
+            const MergeKey &info = mergeKeys[key];
+            if (!info.dynamic) {
+                mNumbers[key] = *info.defaultValue;
+                mStore->reserveConf(name(key), &mNumbers[key]);
+                if (info.system)
+                    mStore->mConfMetas[name(key)].flags |= ConfStorage::FlagSystemIndependent;
+                if (info.local)
+                    mStore->mConfMetas[name(key)].flags |= ConfStorage::FlagLocalOnly;
+            } else if (info.defaultValue) {
+                mStore->mPresetDynamicConfs[name(key)] = QJsonObject{{"n", *info.defaultValue}};
+            }
+        }
+    }
+    void addClass(ConfStorage::DynamicConfClass &cls, const char *prefix, quint32 flags)
+    {
+        cls.prefix = QLatin1String(prefix);
+        cls.flags = flags;
+        cls.creator = [this](QString key, const QJsonValue *value) {
+            mEntries[key] = value->toObject();
+            mStore->reserveConf(key, &mEntries[key]);
+        };
+        cls.remover = [this](QString key) { mEntries.erase(key); };
+        mStore->mDynamicConfClasses << &cls;
+    }
+    /// Puts the test's clock where the store has just read the real one. The fraction of a second
+    /// must not matter: every other change has none, the rest almost a whole one.
+    void stamp(qint64 now)
+    {
+        static const QDateTime sReal(QDate(2020, 1, 1), QTime(), Qt::UTC);
+        mFraction = 999 - mFraction;
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(now * 1000 + mFraction, Qt::UTC);
+        for (ConfStorage::ConfMeta &meta : mStore->mConfMetas) {
+            if (meta.lastChangeTime > sReal)
+                meta.lastChangeTime = time;
+        }
+        for (QDateTime &removed : mStore->mRemovedDynamicConfs) {
+            if (removed > sReal)
+                removed = time;
+        }
+    }
+    /// Another system writes its own mark where this one writes "#s.mac".
+    QJsonObject translated(const QJsonObject &dump) const
+    {
+        if (mSystem == MergeSystem::Own)
+            return dump;
+        QJsonObject result;
+        for (auto member = dump.begin(); member != dump.end(); ++member) {
+            QString key = member.key();
+            if (key.endsWith("#s.mac"))
+                key.replace("#s.mac", "#s.win");
+            else if (key.endsWith("#s.win"))
+                key.replace("#s.win", "#s.mac");
+            result.insert(key, member.value());
+        }
+        return result;
+    }
+
+    const MergeSystem mSystem;
+    qint64 mFraction = 999;
+    std::array<ConfStorage::DynamicConfClass, 3> mClasses;
+    std::array<int, mergeKeys.size()> mNumbers{};
+    std::map<QString, QJsonObject> mEntries;
+    std::unique_ptr<ConfStorage> mStore;
+};
