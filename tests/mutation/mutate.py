@@ -1,0 +1,275 @@
+#!/usr/bin/env python3
+"""Breaks the library in many small ways, one at a time, and reports what no test notices.
+
+Works on a private copy of the tree; goes on where it was stopped. Each broken source is rebuilt and
+tried against the tests named after it, then those of its folder, then those of the folders that use
+it, until one fails. A test that hangs or crashes has noticed; a source that no longer compiles does
+not count and is replaced by another one.
+"""
+
+import argparse
+import json
+import os
+import random
+import subprocess
+import sys
+import threading
+import time
+from pathlib import Path
+
+from mutants import mutants_of
+
+ROOT = Path(__file__).resolve().parents[2]
+FOLDERS = ("store", "manage", "widgets")
+# Whose tests see a folder's code: its own first, then those of the folders that use it.
+TEST_FOLDERS = {"store": ("store", "manage"),
+                "manage": ("manage", "window", "widgets"),
+                "widgets": ("widgets", "window")}
+TEXT_SHARE = 0.3  # of the changed texts enter the draw: there are many, all alike
+
+
+def tracked_files():
+    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=ROOT, check=True,
+                            stdout=subprocess.PIPE, text=True).stdout
+    return sorted(name for name in listed.split("\n") if name and (ROOT / name).is_file())
+
+
+def chosen(seed, count):
+    """For each file its mutants in the order in which they are tried, and how many of them."""
+    drawn = {}
+    for folder in FOLDERS:
+        for path in sorted((ROOT / folder).glob("*.cpp")):
+            name = "%s/%s" % (folder, path.name)
+            draw = random.Random("%d %s" % (seed, name))
+            mutants = [mutant for mutant in mutants_of(name, path.read_text())
+                       if mutant.kind != "text" or draw.random() < TEXT_SHARE]
+            draw.shuffle(mutants)
+            drawn[name] = mutants
+    total = sum(len(mutants) for mutants in drawn.values())
+    quota = {name: max(min(len(mutants), 3), round(count * len(mutants) / total))
+             for name, mutants in drawn.items()}
+    return drawn, quota
+
+
+class Tests:
+    """The test programs of the private copy, and how long each takes when nothing is broken."""
+
+    def __init__(self, build, work):
+        listing = subprocess.run(["ctest", "--show-only=json-v1"], cwd=build, check=True,
+                                 stdout=subprocess.PIPE).stdout
+        self.commands = {}
+        for test in json.loads(listing)["tests"]:
+            properties = {item["name"]: item["value"] for item in test["properties"]}
+            if "command" in test:
+                self.commands[test["name"]] = (test["command"], properties.get("ENVIRONMENT", []),
+                                               properties.get("WORKING_DIRECTORY", str(build)))
+        self.times_file = work / "times.json"
+        self.times = json.loads(self.times_file.read_text()) if self.times_file.exists() else {}
+
+    def relevant(self, source):
+        """Names of the tests that may notice a change in `source`, the closest first."""
+        folder, stem = source.split("/")[0], Path(source).stem
+        names = []
+        for test_folder in TEST_FOLDERS[folder]:
+            tests = [path.stem for path in (ROOT / "tests" / test_folder).glob("tst_*.cpp")
+                     if path.stem in self.commands]
+            named = [test for test in tests if test[4:] == stem]
+            related = [test for test in tests if test not in named
+                       and (test[4:].startswith(stem) or stem.startswith(test[4:]))]
+            rest = [test for test in tests if test not in named + related]
+            for group in (named, related, rest):
+                names += sorted(group, key=lambda test: (self.times.get(test, 0), test))
+        return names + ["x11." + name for name in names[:1] if "x11." + name in self.commands]
+
+    def passes(self, name, limit):
+        """Whether the test passes. It is stopped at its first failure and at the time limit."""
+        command, environment, folder = self.commands[name]
+        variables = dict(os.environ, **dict(item.split("=", 1) for item in environment))
+        # A session of its own, so that an X server that the test started goes with it.
+        process = subprocess.Popen(command, env=variables, cwd=folder, stdout=subprocess.PIPE,
+                                   stderr=subprocess.STDOUT, errors="replace",
+                                   start_new_session=True)
+        timer = threading.Timer(limit, stop, [process])
+        timer.start()
+        failed = False
+        for line in process.stdout:
+            if line.startswith(("FAIL!", "XPASS", "QFATAL")):
+                failed = True
+                break
+        if failed:
+            stop(process)
+        process.stdout.close()
+        process.wait()
+        timer.cancel()
+        return not failed and process.returncode == 0
+
+    def measure(self, names):
+        """Runs the tests on the unbroken library; all must pass."""
+        for name in names:
+            if name in self.times:
+                continue
+            start = time.monotonic()
+            if not self.passes(name, 600):
+                sys.exit("%s fails although nothing is broken" % name)
+            self.times[name] = time.monotonic() - start
+            self.times_file.write_text(json.dumps(self.times, indent=1, sort_keys=True))
+
+    def limit(self, name):
+        return 60 + 10 * self.times.get(name, 0)
+
+
+def stop(process):
+    try:
+        os.killpg(process.pid, 9)
+    except ProcessLookupError:
+        pass
+
+
+class Copy:
+    """The private copy of the tree and its build."""
+
+    def __init__(self, work):
+        self.tree, self.build = work / "tree", work / "build"
+        self.log = work / "build.log"
+        self.tree.mkdir(parents=True, exist_ok=True)
+        names = "\n".join(tracked_files())
+        # By content: what a mutant left behind, and what git touched, is told by nothing else.
+        subprocess.run(["rsync", "-a", "--checksum", "--no-times", "--files-from=-",
+                        str(ROOT), str(self.tree)], input=names, text=True, check=True)
+
+    def prepare(self):
+        if not (self.build / "build.ninja").exists():
+            subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
+                            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
+                            "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"], check=True,
+                           stdout=subprocess.DEVNULL)
+        folders = sorted({folder for group in TEST_FOLDERS.values() for folder in group})
+        targets = ["tests/%s/all" % folder for folder in folders]
+        if not self.compiles(targets):
+            sys.exit("the unbroken tree does not build: see %s" % self.log)
+
+    def compiles(self, targets):
+        with open(self.log, "w") as log:
+            return subprocess.run(["ninja", "-j2", *targets], cwd=self.build, stdout=log,
+                                  stderr=log).returncode == 0
+
+    def breaks(self, mutant):
+        """Writes the broken source; false when it does not build."""
+        source = (ROOT / mutant.file).read_text()
+        broken = source[:mutant.start] + mutant.after + source[mutant.end:]
+        (self.tree / mutant.file).write_text(broken)
+        return self.compiles(["MaltoConfiguration"])
+
+    def heals(self, mutant):
+        (self.tree / mutant.file).write_text((ROOT / mutant.file).read_text())
+
+
+class Results:
+    """What is known so far: one JSON object in each line of a file."""
+
+    def __init__(self, path, forget_survivors):
+        self.path = path
+        self.rows = {}
+        if path.exists():
+            for line in path.read_text().splitlines():
+                row = json.loads(line)
+                self.rows[row["key"]] = row
+        if forget_survivors:
+            self.rows = {key: row for key, row in self.rows.items() if row["end"] != "survived"}
+            path.write_text("".join(json.dumps(row) + "\n" for row in self.rows.values()))
+
+    def add(self, mutant, end, test):
+        row = {"key": mutant.key, "file": mutant.file, "line": mutant.line, "kind": mutant.kind,
+               "before": mutant.before, "after": mutant.after, "end": end, "test": test}
+        self.rows[mutant.key] = row
+        with open(self.path, "a") as out:
+            out.write(json.dumps(row) + "\n")
+
+
+def equivalents():
+    """Keys of mutants that change nothing that can be seen, from survivors.md."""
+    path = Path(__file__).with_name("survivors.md")
+    if not path.exists():
+        return set()
+    lines = path.read_text().splitlines()
+    return {line.split("`")[1] for line in lines if line.startswith("| `")}
+
+
+def tried(mutant, copy, tests, results):
+    """Breaks, builds and tests; true when the mutant counts."""
+    if not copy.breaks(mutant):
+        results.add(mutant, "uncompiled", "")
+        return False
+    killer = next((name for name in tests.relevant(mutant.file)
+                   if not tests.passes(name, tests.limit(name))), "")
+    results.add(mutant, "killed" if killer else "survived", killer)
+    return True
+
+
+def try_all(drawn, quota, copy, tests, results):
+    """One break in each file, then the next one in each: stopped early, all files were looked at."""
+    waiting = {name: iter(mutants) for name, mutants in drawn.items()}
+    done = dict.fromkeys(drawn, 0)
+    while waiting:
+        for name in list(waiting):
+            mutant = next(waiting[name], None) if done[name] < quota[name] else None
+            if not mutant:
+                del waiting[name]
+            elif mutant.key in results.rows:
+                done[name] += results.rows[mutant.key]["end"] != "uncompiled"
+            else:
+                done[name] += tried(mutant, copy, tests, results)
+                copy.heals(mutant)
+
+
+def report(drawn, quota, results):
+    known = equivalents()
+    killed, survivors, excused = 0, [], 0
+    for name, mutants in drawn.items():
+        rows = [(mutant, results.rows[mutant.key]) for mutant in mutants
+                if mutant.key in results.rows]
+        counted = [(mutant, row) for mutant, row in rows if row["end"] != "uncompiled"]
+        for mutant, row in counted[:quota[name]]:
+            if row["end"] == "killed":
+                killed += 1
+            elif mutant.key in known:
+                excused += 1
+            else:
+                survivors.append(mutant)
+    for mutant in sorted(survivors):
+        print("%s:%d: `%s` became `%s` (%s, %s)" % (mutant.file, mutant.line, mutant.before,
+                                                   mutant.after, mutant.kind, mutant.key))
+    total = killed + len(survivors)
+    print("%d of %d breaks noticed (%.1f %%); %d more change nothing (survivors.md); %d drawn"
+          % (killed, total, 100.0 * killed / max(total, 1), excused, sum(quota.values())))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--work", type=Path, default=ROOT / "build-mutation",
+                        help="folder of the private copy and the results")
+    parser.add_argument("--count", type=int, default=240, help="how many breaks, about")
+    parser.add_argument("--seed", type=int, default=1, help="which breaks")
+    parser.add_argument("--only", default="", help="sources whose name contains this")
+    parser.add_argument("--retry", action="store_true", help="try the survivors again")
+    parser.add_argument("--report", action="store_true", help="only report what is known")
+    options = parser.parse_args()
+
+    options.work.mkdir(parents=True, exist_ok=True)
+    drawn, quota = chosen(options.seed, options.count)
+    drawn = {name: mutants for name, mutants in drawn.items() if options.only in name}
+    quota = {name: quota[name] for name in drawn}
+    results = Results(options.work / "results.jsonl", options.retry)
+    if options.report:
+        report(drawn, quota, results)
+        return
+    copy = Copy(options.work.resolve())
+    copy.prepare()
+    tests = Tests(copy.build, options.work)
+    tests.measure(sorted({test for name in drawn for test in tests.relevant(name)}))
+    try_all(drawn, quota, copy, tests, results)
+    report(drawn, quota, results)
+
+
+if __name__ == "__main__":
+    main()
