@@ -175,13 +175,18 @@ public:
     /// "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()", or
     /// "ConfStorage::saveToLocalConfFile() open file failed: " and the path, after which the next
     /// save tries again; on success the debug message
-    /// "ConfStorage::saveToLocalConfFile() save to file: " and the path.
+    /// "ConfStorage::saveToLocalConfFile() save to file: " and the path. Whether everything reached
+    /// the file is checked with `mSafeSave` only.
     void saveToLocalConfFile();
 
     /// Merges `mLocalSaveFile` and creates missing presets. A missing or unreadable file, or one
     /// that holds no JSON object, counts as an empty configuration, silently. Logs the critical
     /// message "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()" and does nothing when no
     /// path is set.
+    ///
+    /// When a save with `mSafeSave` was interrupted, its content is put back from its journal, also
+    /// when the switch is off by now, and one message beginning with
+    /// "ConfStorage::loadLocalConfFile() " says so; docs/file-formats.md lists them.
     void loadLocalConfFile();
 
     /// Everything in the store as a table to print while looking for a fault: for each key its
@@ -191,6 +196,19 @@ public:
 
     bool mChanged = false;      ///< something changed since the local file was written or loaded
     bool mLocalLoaded = false;  ///< `loadLocalConfFile` has run
+
+    /// Set by the host, before it saves: the local file survives a crash, a full disk and a loss of
+    /// power at any instant. The next load finds what the file held before the save, or the new
+    /// content. The file is still rewritten in place; a journal lies beside it meanwhile, so its
+    /// folder must be writable, and a save waits for the disk.
+    ///
+    /// A save then also fails, with the file as it was and the save pending, with the critical
+    /// messages "ConfStorage::saveToLocalConfFile() content could not be read back: " and
+    /// "ConfStorage::saveToLocalConfFile() write journal failed: "; with
+    /// "ConfStorage::saveToLocalConfFile() write file failed: " the new content is in the journal
+    /// and the save pending.
+    bool mSafeSave = false;
+
     QMap<QString, ConfValue> mConfValues;           ///< the values by key
     QMap<QString, ConfMeta> mConfMetas;             ///< the records by key
     QString mLocalSaveFile;                         ///< path of the local file; set by the host
@@ -204,6 +222,8 @@ private:
     void callChangedCallback(QString const &key, ConfMeta const &meta);
     void loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type);
     bool isDynamicWithoutPreset(QString const &key) const;
+    bool saveInPlace() const;
+    bool saveSafely() const;
     static void logNullPointer(QString const &key);
     static void logGetNotFound(QString const &key);
     static void logSetNotFound(QString const &key);

@@ -1,9 +1,44 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <MaltoConfiguration/store/PosixFile_p.h>
+#include <MaltoConfiguration/store/SafeFile_p.h>
+
 #include <QDebug>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace {
+
+void logOpenFailed(const QString &path)
+{
+    qCritical() << "ConfStorage::saveToLocalConfFile() open file failed: " << path;
+}
+
+void logRecovery(SafeFile::Recovery recovery, const SafeFile &file)
+{
+    switch (recovery) {
+    case SafeFile::Recovery::None:
+        break;
+    case SafeFile::Recovery::Replayed:
+        qWarning() << "ConfStorage::loadLocalConfFile() recovered from journal: " << file.path();
+        break;
+    case SafeFile::Recovery::ReplayedInMemory:
+        qCritical() << "ConfStorage::loadLocalConfFile() recovered from journal, write file failed: "
+                    << file.path();
+        break;
+    case SafeFile::Recovery::Dropped:
+        qWarning() << "ConfStorage::loadLocalConfFile() damaged journal dropped: "
+                   << file.journal().path();
+        break;
+    case SafeFile::Recovery::KeptAside:
+        qWarning() << "ConfStorage::loadLocalConfFile() journal of another content kept aside: "
+                   << file.journal().path();
+        break;
+    }
+}
+
+} // namespace
 
 void ConfStorage::saveToLocalConfFile()
 {
@@ -13,15 +48,51 @@ void ConfStorage::saveToLocalConfFile()
     }
     if (!mChanged)
         return;
-    // Rewritten in place, so that links and permissions that a person gave the file stay.
-    QFile file(mLocalSaveFile);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        qCritical() << "ConfStorage::saveToLocalConfFile() open file failed: " << mLocalSaveFile;
+    if (!(mSafeSave ? saveSafely() : saveInPlace()))
         return;
-    }
-    file.write(QJsonDocument(dumpConf(DumpLocal)).toJson(QJsonDocument::Compact));
     qDebug() << "ConfStorage::saveToLocalConfFile() save to file: " << mLocalSaveFile;
     mChanged = false;
+}
+
+/// Rewritten in place, so that links and permissions that a person gave the file stay.
+bool ConfStorage::saveInPlace() const
+{
+    QFile file(mLocalSaveFile);
+    if (PosixFile::isPipe(mLocalSaveFile)
+        || !file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        logOpenFailed(mLocalSaveFile);
+        return false;
+    }
+    file.write(QJsonDocument(dumpConf(DumpLocal)).toJson(QJsonDocument::Compact));
+    return true;
+}
+
+bool ConfStorage::saveSafely() const
+{
+    SafeFile file(mLocalSaveFile);
+    if (!file.open()) {
+        logOpenFailed(mLocalSaveFile);
+        return false;
+    }
+    const QByteArray text = QJsonDocument(dumpConf(DumpLocal)).toJson(QJsonDocument::Compact);
+    // Values nested too deeply are written without complaint and never read again.
+    if (!QJsonDocument::fromJson(text).isObject()) {
+        qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "
+                    << mLocalSaveFile;
+        return false;
+    }
+    switch (file.save(text)) {
+    case SafeFile::Saved::Whole:
+        return true;
+    case SafeFile::Saved::JournalFailed:
+        qCritical() << "ConfStorage::saveToLocalConfFile() write journal failed: "
+                    << file.journal().path();
+        return false;
+    case SafeFile::Saved::FileFailed:
+        qCritical() << "ConfStorage::saveToLocalConfFile() write file failed: " << mLocalSaveFile;
+        return false;
+    }
+    return false;
 }
 
 void ConfStorage::loadLocalConfFile()
@@ -32,9 +103,10 @@ void ConfStorage::loadLocalConfFile()
     }
     QByteArray text;
     {
-        QFile file(mLocalSaveFile);
-        if (file.open(QIODevice::ReadOnly))
-            text = file.readAll();
+        SafeFile file(mLocalSaveFile);
+        SafeFile::Recovery recovery = SafeFile::Recovery::None;
+        text = file.load(&recovery);
+        logRecovery(recovery, file);
     }
     const QJsonDocument document = QJsonDocument::fromJson(text);
     if (document.isObject())

@@ -1,0 +1,87 @@
+#include <MaltoConfiguration/store/PosixFile_p.h>
+
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace PosixFile {
+
+namespace {
+
+mode_t toMode(QFile::Permissions permissions)
+{
+    mode_t mode = 0;
+    const auto add = [&](QFile::Permission permission, mode_t bit) {
+        if (permissions & permission)
+            mode |= bit;
+    };
+    add(QFile::ReadOwner, S_IRUSR);
+    add(QFile::WriteOwner, S_IWUSR);
+    add(QFile::ReadGroup, S_IRGRP);
+    add(QFile::WriteGroup, S_IWGRP);
+    add(QFile::ReadOther, S_IROTH);
+    add(QFile::WriteOther, S_IWOTH);
+    return mode;
+}
+
+} // namespace
+
+bool isPipe(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+int createAnew(const QString &path, QFile::Permissions permissions)
+{
+    const QByteArray name = QFile::encodeName(path);
+    ::unlink(name.constData());
+    int descriptor = -1;
+    do {
+        // Nobody else may read it before it has its permissions.
+        descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    } while (descriptor == -1 && errno == EINTR);
+    if (descriptor != -1)
+        ::fchmod(descriptor, toMode(permissions));
+    return descriptor;
+}
+
+bool replace(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+bool sync(int descriptor)
+{
+#ifdef F_FULLFSYNC
+    // Here fsync() leaves the content in the cache of the drive.
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
+        return true;
+#endif
+    int result = 0;
+    do {
+        result = ::fsync(descriptor);
+    } while (result == -1 && errno == EINTR);
+    return result == 0;
+}
+
+bool syncFolderOf(const QString &path)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+    int descriptor = -1;
+    do {
+        descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    } while (descriptor == -1 && errno == EINTR);
+    if (descriptor == -1)
+        return false;
+    // Some file systems cannot sync folders, and say so; there is nothing more to be had from them.
+    const bool synced = sync(descriptor) || errno == EINVAL;
+    ::close(descriptor);
+    return synced;
+}
+
+} // namespace PosixFile

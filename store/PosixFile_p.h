@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QFile>
+
+/// What safe saves need of the operating system, and Qt does not offer.
+namespace PosixFile {
+
+/// Whether `path` leads to a named pipe, which blocks whoever opens it until somebody else does.
+bool isPipe(const QString &path);
+
+/// Creates the file `path` with `permissions`, in place of one that is there; links are not
+/// followed. Returns a descriptor for writing, or -1.
+int createAnew(const QString &path, QFile::Permissions permissions);
+
+/// Gives the file `from` the name `to` at once, in place of a file that has it. False on failure.
+bool replace(const QString &from, const QString &to);
+
+/// Returns once the content behind `descriptor` is on the disk. False on failure.
+bool sync(int descriptor);
+
+/// Returns once the names in the folder of the file `path` are on the disk. False on failure.
+bool syncFolderOf(const QString &path);
+
+} // namespace PosixFile

@@ -1,0 +1,103 @@
+#include <MaltoConfiguration/store/SafeFile_p.h>
+
+#include <MaltoConfiguration/store/PosixFile_p.h>
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace {
+
+constexpr int sMaxLinks = 40; // links may lead in a circle; the system gives up there, too
+
+/// Where `path` leads to, whether or not a file is there.
+QString followLinks(QString path)
+{
+    for (int i = 0; i < sMaxLinks && QFileInfo(path).isSymLink(); ++i) {
+        const QString existing = QFileInfo(path).canonicalFilePath();
+        if (!existing.isEmpty())
+            return existing;
+        path = QFileInfo(path).symLinkTarget();
+    }
+    return path;
+}
+
+} // namespace
+
+SafeFile::SafeFile(const QString &path)
+    : mFile(followLinks(path))
+    , mJournal(mFile.fileName())
+{}
+
+bool SafeFile::open()
+{
+    const QFileInfo info(mFile);
+    if (info.exists() && !info.isFile())
+        return false;
+    return mFile.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+}
+
+SafeFile::Saved SafeFile::save(const QByteArray &text)
+{
+    if (!mJournal.write(mFile.readAll(), text, mFile.permissions()))
+        return Saved::JournalFailed;
+    if (!rewrite(text))
+        return Saved::FileFailed;
+    mJournal.remove();
+    return Saved::Whole;
+}
+
+QByteArray SafeFile::load(Recovery *recovery)
+{
+    *recovery = Recovery::None;
+    const QByteArray text = readFile();
+    SaveJournal::Entry entry;
+    const SaveJournal::State state = mJournal.read(&entry);
+    if (state == SaveJournal::State::None)
+        return text;
+    if (state == SaveJournal::State::Invalid) {
+        mJournal.remove();
+        *recovery = Recovery::Dropped;
+        return text;
+    }
+    const QByteArray found = SaveJournal::hash(text);
+    if (found == entry.newHash) {
+        // The program may have died before the text that it wrote had reached the disk.
+        if (syncFile())
+            mJournal.remove();
+        return text;
+    }
+    if (found != entry.oldHash && QJsonDocument::fromJson(text).isObject()) {
+        mJournal.keepAside();
+        *recovery = Recovery::KeptAside;
+        return text;
+    }
+    *recovery = Recovery::ReplayedInMemory;
+    if (open() && rewrite(entry.newText) && PosixFile::syncFolderOf(path())) {
+        mJournal.remove();
+        *recovery = Recovery::Replayed;
+    }
+    return entry.newText;
+}
+
+bool SafeFile::rewrite(const QByteArray &text)
+{
+    // The cut reaches the disk before the text does: parts of both texts, side by side, could read
+    // as settings that nobody ever made.
+    return mFile.resize(0) && PosixFile::sync(mFile.handle()) && mFile.seek(0)
+           && mFile.write(text) == text.size() && PosixFile::sync(mFile.handle());
+}
+
+QByteArray SafeFile::readFile()
+{
+    QFile file(path());
+    // Reading another kind of file could block, or never end.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return file.readAll();
+}
+
+bool SafeFile::syncFile()
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) && PosixFile::sync(file.handle());
+}
