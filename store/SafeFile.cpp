@@ -72,7 +72,9 @@ QByteArray SafeFile::load(Recovery *recovery)
         return text;
     }
     *recovery = Recovery::ReplayedInMemory;
-    if (open() && rewrite(entry.newText) && PosixFile::syncFolderOf(path())) {
+    // Before the file is touched the journal must be on the disk; a program that died while writing
+    // it has perhaps not come that far.
+    if (open() && PosixFile::syncFolderOf(path()) && rewrite(entry.newText)) {
         mJournal.remove();
         *recovery = Recovery::Replayed;
     }

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "FaultInjection.h"
+
+#include <QMetaType>
+
+#include <cerrno>
+
+/// A call that goes wrong: the `nth` one (from 0) of `kind` on a path that ends with `suffix`, and
+/// with `lasting` all such calls after it.
+struct OneFault
+{
+    Faults::Kind kind = Faults::Kind::Open;
+    QByteArray suffix;
+    int nth = 0;
+    Faults::Answer answer;
+    bool lasting = true;
+
+    /// A hook that injects this fault.
+    Faults::Hook hook() const
+    {
+        return [fault = *this, count = 0](const Faults::Call &call) mutable {
+            if (call.kind != fault.kind || !call.path.endsWith(fault.suffix))
+                return Faults::proceed();
+            const int index = count++;
+            const bool hit = fault.lasting ? index >= fault.nth : index == fault.nth;
+            return hit ? fault.answer : Faults::proceed();
+        };
+    }
+};
+Q_DECLARE_METATYPE(OneFault)
+
+/// A disk with room for `bytes` more bytes, whatever is removed meanwhile.
+inline Faults::Hook fullDisk(qint64 bytes)
+{
+    return [left = bytes](const Faults::Call &call) mutable {
+        if (call.kind != Faults::Kind::Write)
+            return Faults::withoutWaiting(call);
+        if (left == 0)
+            return Faults::fail(ENOSPC);
+        const qint64 size = std::min(left, call.size);
+        left -= size;
+        return Faults::partly(size);
+    };
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonObject>
+
+/// Two settings of a host, the store that owns them, and their local file in a folder of its own.
+/// What they hold is told by one number: setting `n` is stamped `n` hundred seconds.
+class SavedSettings
+{
+public:
+    static QString path() { return "box/local.json"; }
+    static QString journalPath() { return "box/local.json.save-journal"; }
+    static QByteArray folder() { return QFile::encodeName(QDir::currentPath() + "/box"); }
+
+    explicit SavedSettings(bool safe)
+    {
+        store.mSafeSave = safe;
+        store.mLocalSaveFile = path();
+        store.reserveConf("size", &size);
+        store.reserveConf("text", &text);
+    }
+
+    /// Makes the settings hold what number `n` (1 to 9) stands for.
+    void change(int n)
+    {
+        const QDateTime time = QDateTime::fromSecsSinceEpoch(n * 100, Qt::UTC);
+        store.set<int>("size", n);
+        store.set<QString>("text", QString("text %1").arg(n));
+        store.mConfMetas["size"].lastChangeTime = time;
+        store.mConfMetas["text"].lastChangeTime = time;
+    }
+
+    /// The number that the variables stand for; 0 for the defaults, -1 for a mixture.
+    int number() const
+    {
+        if (size == 0 && text == "none")
+            return 0;
+        return text == QString("text %1").arg(size) ? size : -1;
+    }
+
+    /// The local file's text for number `n`.
+    static QByteArray fileText(int n)
+    {
+        return QByteArray("{\"size\":{\"t\":N00,\"v\":N},\"text\":{\"t\":N00,\"v\":\"text N\"}}")
+            .replace('N', QByteArray::number(n));
+    }
+
+    static QByteArray content(const QString &name = path())
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static bool write(const QByteArray &text, const QString &name = path())
+    {
+        QFile file(name);
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    }
+
+    /// An empty folder for the file.
+    static void makeFolder()
+    {
+        QDir("box").removeRecursively();
+        QDir().mkdir("box");
+    }
+
+    int size = 0;
+    QString text = "none";
+    ConfStorage store;
+};

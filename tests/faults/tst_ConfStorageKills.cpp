@@ -1,0 +1,179 @@
+#include "FaultInjection.h"
+#include "SavedSettings.h"
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <cerrno>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Faults;
+
+namespace {
+
+/// Runs `work` in a process of its own that dies at its `nth` call (from 0) under the folder of the
+/// settings; before the call, or in the middle of it when it writes and `halfway` is set. Returns
+/// whether it died, as opposed to finishing its work.
+template<class Work> bool diesAtCall(int nth, bool halfway, Work work)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const LogCapture log;
+        int count = 0;
+        const Scope faults(SavedSettings::folder(), [&](const Call &call) {
+            if (count++ != nth)
+                return withoutWaiting(call);
+            if (halfway && call.kind == Kind::Write)
+                return partlyThenDie(call.size / 2);
+            ::_exit(sDeathCode);
+        });
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) { }
+    if (!WIFEXITED(status) || (WEXITSTATUS(status) != 0 && WEXITSTATUS(status) != sDeathCode))
+        qFatal("the process died by itself: %d", status);
+    return WEXITSTATUS(status) == sDeathCode;
+}
+
+void save(bool safe, int number)
+{
+    SavedSettings settings(safe);
+    settings.change(number);
+    settings.store.saveToLocalConfFile();
+}
+
+void load()
+{
+    SavedSettings settings(true);
+    settings.store.loadLocalConfFile();
+}
+
+/// What the next run finds.
+int nextRun()
+{
+    const LogCapture log;
+    const Scope healthy(SavedSettings::folder(), withoutWaiting);
+    SavedSettings settings(false);
+    settings.store.loadLocalConfFile();
+    return settings.number();
+}
+
+/// Leaves a cut file, and a journal of content 2.
+void failToSave()
+{
+    const LogCapture log;
+    const Scope faults(SavedSettings::folder(), [](const Call &call) {
+        const bool full = call.kind == Kind::Write && call.path.endsWith(".json");
+        return full ? fail(ENOSPC) : withoutWaiting(call);
+    });
+    save(true, 2);
+}
+
+} // namespace
+
+/// Programs that die while they save or load the local file.
+class tst_ConfStorageKills : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void safeSaveSurvivesDeathAtEveryCall_data();
+    void safeSaveSurvivesDeathAtEveryCall();
+    void secondTrySurvivesDeathAtEveryCall();
+    void recoverySurvivesDeathAtEveryCall();
+    void plainSaveLeavesAFileThatLoads();
+};
+
+void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall_data()
+{
+    QTest::addColumn<int>("before"); // 0: there is no file yet
+    QTest::addColumn<bool>("halfway");
+    QTest::newRow("first save") << 0 << false;
+    QTest::newRow("first save, halfway through a write") << 0 << true;
+    QTest::newRow("later save") << 1 << false;
+    QTest::newRow("later save, halfway through a write") << 1 << true;
+}
+
+void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall()
+{
+    QFETCH(int, before);
+    QFETCH(bool, halfway);
+    int calls = 0;
+    for (bool died = true; died; ++calls) {
+        SavedSettings::makeFolder();
+        if (before != 0)
+            QVERIFY(SavedSettings::write(SavedSettings::fileText(before)));
+        died = diesAtCall(calls, halfway, [] { save(true, 2); });
+        const int found = nextRun();
+        QVERIFY2(found == 2 || (died && found == before), qPrintable(QString::number(found)));
+        QCOMPARE(SavedSettings::content(), found == 0 ? QByteArray()
+                                                      : SavedSettings::fileText(found));
+        QCOMPARE(nextRun(), found);
+        QVERIFY(!QFile::exists(SavedSettings::journalPath()));
+
+        const LogCapture log;
+        const Scope healthy(SavedSettings::folder(), withoutWaiting);
+        save(true, 3);
+        QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
+        QCOMPARE(QDir("box").entryList(QDir::Files), QStringList("local.json"));
+    }
+    QVERIFY2(calls > 15, qPrintable(QString::number(calls)));
+}
+
+void tst_ConfStorageKills::secondTrySurvivesDeathAtEveryCall()
+{
+    for (const bool halfway : {false, true}) {
+        int call = 0;
+        for (bool died = true; died; ++call) {
+            SavedSettings::makeFolder();
+            QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
+            failToSave();
+            QCOMPARE(SavedSettings::content(), QByteArray());
+            died = diesAtCall(call, halfway, [] { save(true, 3); });
+            const int found = nextRun();
+            QVERIFY2(found == 3 || (died && found == 2), qPrintable(QString::number(found)));
+        }
+    }
+}
+
+void tst_ConfStorageKills::recoverySurvivesDeathAtEveryCall()
+{
+    for (const bool halfway : {false, true}) {
+        int calls = 0;
+        for (bool died = true; died; ++calls) {
+            SavedSettings::makeFolder();
+            QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
+            failToSave();
+            died = diesAtCall(calls, halfway, load);
+            QCOMPARE(nextRun(), 2);
+            QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
+        }
+        QVERIFY2(calls > 10, qPrintable(QString::number(calls)));
+    }
+}
+
+void tst_ConfStorageKills::plainSaveLeavesAFileThatLoads()
+{
+    for (const bool halfway : {false, true}) {
+        int call = 0;
+        for (bool died = true; died; ++call) {
+            SavedSettings::makeFolder();
+            QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
+            died = diesAtCall(call, halfway, [] { save(false, 2); });
+            // Until the switch is on, what was cut off is lost: an empty configuration.
+            const QByteArray content = SavedSettings::content();
+            const int found = content == SavedSettings::fileText(1)   ? 1
+                              : content == SavedSettings::fileText(2) ? 2
+                                                                      : 0;
+            QCOMPARE(nextRun(), found);
+        }
+    }
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfStorageKills>(argc, argv);
+}
+
+#include "tst_ConfStorageKills.moc"

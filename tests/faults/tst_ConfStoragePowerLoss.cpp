@@ -1,0 +1,284 @@
+#include "DiskModel.h"
+#include "OneFault.h"
+#include "SavedSettings.h"
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <optional>
+
+using namespace Faults;
+
+namespace {
+
+using Folder = DiskModel::Folder;
+
+void putOnDisk(const Folder &folder)
+{
+    SavedSettings::makeFolder();
+    for (const auto &[name, content] : folder) {
+        if (!SavedSettings::write(content, "box/" + QString::fromUtf8(name)))
+            qFatal("the test's folder cannot be written");
+    }
+}
+
+/// The number that a run finds in `folder`.
+int numberIn(const Folder &folder)
+{
+    putOnDisk(folder);
+    SavedSettings settings(true);
+    // Waiting for the real disk would show nothing, and take minutes.
+    const Scope healthy(SavedSettings::folder(), withoutWaiting);
+    settings.store.loadLocalConfFile();
+    return settings.number();
+}
+
+/// Whether the call could have an effect on a disk.
+bool matters(const Call &call)
+{
+    return call.kind != Kind::Read && call.kind != Kind::Close;
+}
+
+/// Runs `work` on the folder of `disk`, which takes note of its calls. For the moment before each of
+/// them, and after the last, `pause` is called with `disk` as it was then. Calls that `ignored` skips
+/// have no effect on the disk.
+void watch(DiskModel &disk, const std::function<void()> &work, const std::function<void()> &pause,
+           Hook ignored = [](const Call &) { return proceed(); })
+{
+    putOnDisk(disk.visible());
+    std::vector<DiskModel> moments{disk};
+    {
+        const Scope faults(SavedSettings::folder(), [&](const Call &call) {
+            if (matters(call) && ignored(call).action != Answer::Skip) {
+                disk.note(call);
+                moments.push_back(disk);
+            }
+            return withoutWaiting(call);
+        });
+        work();
+    }
+    const DiskModel after = disk;
+    for (const DiskModel &moment : moments) {
+        disk = moment;
+        pause();
+    }
+    disk = after;
+}
+
+void save(int number)
+{
+    SavedSettings settings(true);
+    settings.change(number);
+    settings.store.saveToLocalConfFile();
+}
+
+void load()
+{
+    SavedSettings settings(true);
+    settings.store.loadLocalConfFile();
+}
+
+Folder start(int number)
+{
+    return number == 0 ? Folder() : Folder{{"local.json", SavedSettings::fileText(number)}};
+}
+
+} // namespace
+
+/// Safe saves when the power goes: what was not forced onto the disk may be there or not.
+class tst_ConfStoragePowerLoss : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void modelLosesWhatWasNotSynced();
+    void saveSurvives_data();
+    void saveSurvives();
+    void secondSaveSurvives_data();
+    void secondSaveSurvives();
+    void recoverySurvives_data();
+    void recoverySurvives();
+    void everySyncOfASaveIsNeeded_data();
+    void everySyncOfASaveIsNeeded();
+    void everySyncOfARecoveryIsNeeded_data();
+    void everySyncOfARecoveryIsNeeded();
+};
+
+void tst_ConfStoragePowerLoss::modelLosesWhatWasNotSynced()
+{
+    const QByteArray path = "/d";
+    DiskModel disk(path, {{"a", "old"}});
+    std::vector<Folder> losses;
+    const auto look = [&] {
+        losses.clear();
+        disk.eachLoss([&](const Folder &folder) { losses.push_back(folder); });
+        return losses;
+    };
+    const auto call = [&](Kind kind, const char *name, qint64 offset, const QByteArray &data) {
+        disk.note({kind, path + '/' + name, {}, 0, offset, data.constData(), data.size()});
+    };
+    QCOMPARE(look(), (std::vector<Folder>{{{"a", "old"}}}));
+    call(Kind::Truncate, "a", 0, {});
+    call(Kind::Write, "a", 0, "ne");
+    // Nothing arrived, the cut, the text, both.
+    QCOMPARE(look(), (std::vector<Folder>{{{"a", "old"}}, {{"a", ""}}, {{"a", "ned"}},
+                                          {{"a", "ne"}}}));
+    QCOMPARE(disk.visible(), (Folder{{"a", "ne"}}));
+    call(Kind::Sync, "a", 0, {});
+    QCOMPARE(look(), (std::vector<Folder>{{{"a", "ne"}}}));
+    call(Kind::Unlink, "a", 0, {});
+    QCOMPARE(look(), (std::vector<Folder>{{{"a", "ne"}}, {}}));
+    disk.note({Kind::Sync, path, {}});
+    QCOMPARE(look(), (std::vector<Folder>{{}}));
+}
+
+void tst_ConfStoragePowerLoss::saveSurvives_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::newRow("first save") << 0;
+    QTest::newRow("later save") << 1;
+}
+
+void tst_ConfStoragePowerLoss::saveSurvives()
+{
+    QFETCH(int, before);
+    std::optional<LogCapture> log(std::in_place);
+    int losses = 0;
+    DiskModel disk(SavedSettings::folder(), start(before));
+    const auto check = [&](const Folder &folder) {
+        ++losses;
+        const int found = numberIn(folder);
+        QVERIFY2(found == before || found == 2, qPrintable(QString::number(found)));
+    };
+    watch(disk, [] { save(2); }, [&] { disk.eachLoss(check); });
+    // What was reported as saved stays saved.
+    disk.eachLoss([&](const Folder &folder) {
+        QCOMPARE(numberIn(folder), 2);
+        QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
+    });
+    log.reset();
+    qInfo("%d states after a loss of power", losses);
+    QVERIFY2(losses > 100, qPrintable(QString::number(losses)));
+}
+
+void tst_ConfStoragePowerLoss::secondSaveSurvives_data()
+{
+    QTest::addColumn<int>("second");
+    QTest::newRow("to new content") << 3;
+    QTest::newRow("back to the first content") << 1;
+}
+
+void tst_ConfStoragePowerLoss::secondSaveSurvives()
+{
+    QFETCH(int, second);
+    const LogCapture log;
+    DiskModel disk(SavedSettings::folder(), start(1));
+    watch(disk, [] { save(2); }, [] {});
+    const auto check = [&](const Folder &folder) {
+        const int found = numberIn(folder);
+        QVERIFY2(found == 2 || found == second, qPrintable(QString::number(found)));
+    };
+    watch(disk, [=] { save(second); }, [&] { disk.eachLoss(check); });
+    disk.eachLoss([&](const Folder &folder) { QCOMPARE(numberIn(folder), second); });
+}
+
+void tst_ConfStoragePowerLoss::recoverySurvives_data()
+{
+    QTest::addColumn<bool>("powerLost");
+    QTest::newRow("after the program died") << false;
+    QTest::newRow("after a loss of power") << true;
+}
+
+void tst_ConfStoragePowerLoss::recoverySurvives()
+{
+    QFETCH(bool, powerLost);
+    std::optional<LogCapture> log(std::in_place);
+    int recoveries = 0;
+    int losses = 0;
+    DiskModel disk(SavedSettings::folder(), start(1));
+    const auto recover = [&](DiskModel recovering) {
+        ++recoveries;
+        const int expected = numberIn(recovering.visible());
+        QVERIFY2(expected == 1 || expected == 2, qPrintable(QString::number(expected)));
+        const auto check = [&](const Folder &folder) {
+            ++losses;
+            const int found = numberIn(folder);
+            QVERIFY2(found == 1 || found == 2, qPrintable(QString::number(found)));
+        };
+        watch(recovering, load, [&] { recovering.eachLoss(check); });
+        // What a run has shown to the host is still there after it.
+        if (expected == 2)
+            recovering.eachLoss([](const Folder &folder) { QCOMPARE(numberIn(folder), 2); });
+    };
+    watch(disk, [] { save(2); }, [&] {
+        if (powerLost)
+            disk.eachLoss([&](const Folder &f) { recover(DiskModel(SavedSettings::folder(), f)); });
+        else
+            recover(disk);
+    });
+    log.reset();
+    qInfo("%d recoveries, %d states after a loss of power", recoveries, losses);
+    QVERIFY2(recoveries > 5, qPrintable(QString::number(recoveries)));
+}
+
+void tst_ConfStoragePowerLoss::everySyncOfASaveIsNeeded_data()
+{
+    QTest::addColumn<QByteArray>("suffix");
+    QTest::addColumn<int>("nth");
+    QTest::newRow("of the journal") << QByteArray(".new") << 0;
+    QTest::newRow("of the folder") << QByteArray("/box") << 0;
+    QTest::newRow("of the cut") << QByteArray(".json") << 0;
+    QTest::newRow("of the text") << QByteArray(".json") << 1;
+}
+
+void tst_ConfStoragePowerLoss::everySyncOfASaveIsNeeded()
+{
+    QFETCH(QByteArray, suffix);
+    QFETCH(int, nth);
+    const LogCapture log;
+    int lost = 0;
+    DiskModel disk(SavedSettings::folder(), start(1));
+    const auto count = [&](const Folder &folder) {
+        const int found = numberIn(folder);
+        lost += found != 1 && found != 2;
+    };
+    watch(disk, [] { save(2); }, [&] { disk.eachLoss(count); },
+          OneFault{Kind::Sync, suffix, nth, skip(), false}.hook());
+    QVERIFY(lost > 0);
+}
+
+void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded_data()
+{
+    QTest::addColumn<QByteArray>("suffix");
+    QTest::addColumn<int>("nth");
+    QTest::newRow("of the folder") << QByteArray("/box") << 0;
+    QTest::newRow("of the file that was whole, or of the cut") << QByteArray(".json") << 0;
+    QTest::newRow("of the text") << QByteArray(".json") << 1;
+}
+
+void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded()
+{
+    QFETCH(QByteArray, suffix);
+    QFETCH(int, nth);
+    const LogCapture log;
+    int lost = 0;
+    DiskModel disk(SavedSettings::folder(), start(1));
+    const auto count = [&](const Folder &folder) {
+        const int found = numberIn(folder);
+        lost += found != 1 && found != 2;
+    };
+    watch(disk, [] { save(2); }, [&] {
+        DiskModel recovering = disk;
+        watch(recovering, load, [&] { recovering.eachLoss(count); },
+              OneFault{Kind::Sync, suffix, nth, skip(), false}.hook());
+    });
+    QVERIFY(lost > 0);
+}
+
+int main(int argc, char **argv)
+{
+    // A real disk under the model would only be waited for.
+    if (qEnvironmentVariableIsEmpty("TMPDIR") && QFileInfo("/dev/shm").isWritable())
+        qputenv("TMPDIR", "/dev/shm");
+    return runTest<tst_ConfStoragePowerLoss>(argc, argv);
+}
+
+#include "tst_ConfStoragePowerLoss.moc"

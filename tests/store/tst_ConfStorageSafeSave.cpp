@@ -1,0 +1,330 @@
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <unistd.h>
+
+namespace {
+
+const QByteArray sOld = "{\"size\":{\"t\":100,\"v\":8}}";
+const QByteArray sNew = "{\"size\":{\"t\":200,\"v\":9}}";
+
+/// The journal of a save from `sOld` to `sNew`; its hashes were calculated with sha256sum.
+const QByteArray sJournal =
+    "malto save journal 1\n"
+    "61c6cafd088dc3c8fecd114f6c37d65044daa8527241d1ecf14f87aadf30df42\n"
+    "24\n"
+    "d7cf89c8c25ec749882ab96c326c67ec032ca61b93007c4a7312cdaef248a7e6\n"
+    "62bfa2bd920b273ce71623cf41b9a8dc174aaf806065031e0af7cba76e854e41\n"
+    "{\"size\":{\"t\":200,\"v\":9}}";
+
+const QString sWarning = "ConfStorage::loadLocalConfFile() ";
+
+} // namespace
+
+/// The local file with `mSafeSave`, and the journal beside it. What it survives is tested in
+/// tests/faults.
+class tst_ConfStorageSafeSave : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(QDir().mkdir("box"));
+        mSize = 7;
+        mStore = makeStore();
+    }
+    void cleanup() { QVERIFY(QDir("box").removeRecursively()); }
+
+    void switchIsOffByDefault();
+    void savedFileIsThatOfAPlainSave();
+    void shorterContentLeavesNoTail();
+    void linksAndPermissionsStay();
+    void unreadableContentIsNotSaved();
+    void journalThatCannotBePutInPlaceFailsTheSave();
+    void loadDecidesByWhatTheFileHolds_data();
+    void loadDecidesByWhatTheFileHolds();
+    void journalLiesBesideTheTargetOfALink();
+    void damagedJournalIsDropped_data();
+    void damagedJournalIsDropped();
+    void filesThatAreNoJournalAreLeftAlone_data();
+    void filesThatAreNoJournalAreLeftAlone();
+    void strangersJournalIsLeftAlone();
+    void plainSaveLeavesAJournalAlone();
+
+private:
+    static QString path() { return "box/local.json"; }
+    static QString journalPath() { return "box/local.json.save-journal"; }
+    std::unique_ptr<ConfStorage> makeStore()
+    {
+        auto store = std::make_unique<ConfStorage>();
+        store->mSafeSave = true;
+        store->mLocalSaveFile = path();
+        store->reserveConf("size", &mSize);
+        return store;
+    }
+    static QByteArray content(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+    }
+    static void write(const QString &name, const QByteArray &text)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), qint64(text.size()));
+    }
+    void change(int value, qint64 seconds)
+    {
+        mStore->set<int>("size", value);
+        mStore->mConfMetas["size"].lastChangeTime = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    }
+    static QStringList filesIn(const QString &folder)
+    {
+        return QDir(folder).entryList(QDir::Files, QDir::Name);
+    }
+
+    std::unique_ptr<ConfStorage> mStore;
+    int mSize = 0;
+};
+
+void tst_ConfStorageSafeSave::switchIsOffByDefault()
+{
+    QVERIFY(!ConfStorage().mSafeSave);
+}
+
+void tst_ConfStorageSafeSave::savedFileIsThatOfAPlainSave()
+{
+    change(8, 100);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(path()), sOld);
+    change(9, 200);
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(path()), sNew);
+    const QString saved = "ConfStorage::saveToLocalConfFile() save to file:  \"box/local.json\"";
+    QCOMPARE(log.messages(), (QList<LoggedMessage>{{QtDebugMsg, saved}, {QtDebugMsg, saved}}));
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
+    QVERIFY(!mStore->mChanged);
+}
+
+void tst_ConfStorageSafeSave::shorterContentLeavesNoTail()
+{
+    write(path(), QByteArray(100000, ' '));
+    change(8, 100);
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(path()), sOld);
+}
+
+void tst_ConfStorageSafeSave::linksAndPermissionsStay()
+{
+    QVERIFY(QDir("box").mkdir("far"));
+    write("box/far/target.json", sOld);
+    const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions("box/far/target.json", permissions));
+    QCOMPARE(::link("box/far/target.json", "box/far/hard.json"), 0);
+    QCOMPARE(::symlink("far/target.json", qPrintable(path())), 0);
+    change(9, 200);
+    mStore->saveToLocalConfFile();
+    QVERIFY(QFileInfo(path()).isSymLink());
+    QCOMPARE(content("box/far/target.json"), sNew);
+    QCOMPARE(content("box/far/hard.json"), sNew);
+    const QFile::Permissions checked = permissions | QFile::ReadGroup | QFile::WriteGroup
+                                       | QFile::WriteOther | QFile::ExeOwner;
+    QCOMPARE(QFile::permissions("box/far/target.json") & checked, permissions);
+    QCOMPARE(filesIn("box/far"), (QStringList{"hard.json", "target.json"}));
+}
+
+void tst_ConfStorageSafeSave::unreadableContentIsNotSaved()
+{
+    write(path(), sOld);
+    QJsonArray nested;
+    for (int i = 0; i < 1100; ++i)
+        nested = QJsonArray{nested};
+    mStore->reserveConf("nested", &nested);
+    mStore->set<QJsonArray>("nested", nested);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtCriticalMsg,
+                                    "ConfStorage::saveToLocalConfFile() content could not be read "
+                                    "back:  \"box/local.json\""}}));
+    QVERIFY(mStore->mChanged);
+    QCOMPARE(content(path()), sOld);
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
+}
+
+void tst_ConfStorageSafeSave::journalThatCannotBePutInPlaceFailsTheSave()
+{
+    write(path(), sOld);
+    QVERIFY(QDir().mkdir(journalPath()));
+    change(9, 200);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtCriticalMsg,
+                                    "ConfStorage::saveToLocalConfFile() write journal failed:  "
+                                    "\"box/local.json.save-journal\""}}));
+    QVERIFY(mStore->mChanged);
+    QCOMPARE(content(path()), sOld);
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
+}
+
+void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("warning");
+    QTest::addColumn<QStringList>("files");
+    const QString recovered = "recovered from journal:  \"box/local.json\"";
+    const QStringList alone("local.json");
+    QTest::newRow("old content is replaced") << sOld << sNew << 9 << recovered << alone;
+    QTest::newRow("cut content is replaced") << sNew.left(10) << sNew << 9 << recovered << alone;
+    QTest::newRow("empty file is filled") << QByteArray() << sNew << 9 << recovered << alone;
+    QTest::newRow("zeros are replaced") << QByteArray(24, '\0') << sNew << 9 << recovered << alone;
+    QTest::newRow("an array is replaced") << QByteArray("[]") << sNew << 9 << recovered << alone;
+    QTest::newRow("new content stays") << sNew << sNew << 9 << QString() << alone;
+    const QByteArray other = "{\"size\":{\"t\":300,\"v\":5}}";
+    QTest::newRow("other content wins")
+        << other << other << 5
+        << QString("journal of another content kept aside:  \"box/local.json.save-journal\"")
+        << QStringList{"local.json", "local.json.save-journal.kept"};
+}
+
+void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, warning);
+    for (const bool safe : {true, false}) {
+        write(path(), file);
+        write(journalPath(), sJournal);
+        mSize = 7;
+        mStore = makeStore();
+        mStore->mSafeSave = safe;
+        const LogCapture log;
+        mStore->loadLocalConfFile();
+        QTEST(mSize, "size");
+        QTEST(content(path()), "after");
+        QCOMPARE(log.texts(QtWarningMsg),
+                 warning.isEmpty() ? QStringList() : QStringList(sWarning + warning));
+        QCOMPARE(log.messages().size(), warning.isEmpty() ? 0 : 1);
+        QTEST(filesIn("box"), "files");
+        QVERIFY(!mStore->mChanged);
+        QVERIFY(mStore->mLocalLoaded);
+    }
+    if (QFile::exists(journalPath() + ".kept"))
+        QCOMPARE(content(journalPath() + ".kept"), sJournal);
+}
+
+void tst_ConfStorageSafeSave::journalLiesBesideTheTargetOfALink()
+{
+    QVERIFY(QDir("box").mkdir("far"));
+    QCOMPARE(::symlink("far/target.json", qPrintable(path())), 0);
+    write("box/far/target.json", QByteArray());
+    write("box/far/target.json.save-journal", sJournal);
+    write(journalPath(), "not looked at");
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 9);
+    QCOMPARE(content("box/far/target.json"), sNew);
+    QCOMPARE(content(journalPath()), QByteArray("not looked at"));
+    QCOMPARE(log.messages().size(), 1);
+}
+
+void tst_ConfStorageSafeSave::damagedJournalIsDropped_data()
+{
+    QTest::addColumn<QByteArray>("journal");
+    QTest::newRow("magic alone") << QByteArray("malto save journal 1\n");
+    QTest::newRow("cut") << sJournal.left(sJournal.size() - 1);
+    QTest::newRow("longer") << sJournal + " ";
+    QByteArray changed = sJournal;
+    changed.replace("\"v\":9", "\"v\":6");
+    QTest::newRow("changed text") << changed;
+    changed = sJournal;
+    changed.replace("\n24\n", "\n25\n");
+    QTest::newRow("changed length") << changed;
+    changed = sJournal;
+    changed[25] = changed.at(25) == '0' ? '1' : '0';
+    QTest::newRow("changed checksum") << changed;
+    QTest::newRow("zeros after the magic") << "malto save journal 1\n" + QByteArray(200, '\0');
+    QTest::newRow("line breaks") << "malto save journal 1\n" + QByteArray(200, '\n');
+}
+
+void tst_ConfStorageSafeSave::damagedJournalIsDropped()
+{
+    QFETCH(QByteArray, journal);
+    write(path(), sOld);
+    write(journalPath(), journal);
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 8);
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtWarningMsg, sWarning + "damaged journal dropped:  "
+                                                             "\"box/local.json.save-journal\""}}));
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
+    QCOMPARE(content(path()), sOld);
+}
+
+void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a note") << QByteArray("remember the milk");
+    QTest::newRow("another version") << QByteArray("malto save journal 2\nabc");
+}
+
+void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone()
+{
+    QFETCH(QByteArray, text);
+    write(path(), sOld);
+    write(journalPath(), text);
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 8);
+    QVERIFY(log.messages().isEmpty());
+    QCOMPARE(content(journalPath()), text);
+}
+
+void tst_ConfStorageSafeSave::strangersJournalIsLeftAlone()
+{
+    if (::geteuid() != 0)
+        QSKIP("only root can make files of other people");
+    write(path(), sOld);
+    write(journalPath(), sJournal);
+    QCOMPARE(::chown(qPrintable(journalPath()), 65534, 65534), 0);
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 8);
+    QCOMPARE(content(journalPath()), sJournal);
+    // A file that is that person's too has a journal that is.
+    QCOMPARE(::chown(qPrintable(path()), 65534, 65534), 0);
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 9);
+}
+
+void tst_ConfStorageSafeSave::plainSaveLeavesAJournalAlone()
+{
+    write(path(), sOld);
+    write(journalPath(), sJournal);
+    mStore->mSafeSave = false;
+    change(5, 300);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(journalPath()), sJournal);
+    // What was saved since wins over the journal.
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 5);
+    QCOMPARE(content(path()), QByteArray("{\"size\":{\"t\":300,\"v\":5}}"));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfStorageSafeSave>(argc, argv);
+}
+
+#include "tst_ConfStorageSafeSave.moc"
