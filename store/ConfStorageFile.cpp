@@ -24,7 +24,7 @@ void logRecovery(SafeFile::Recovery recovery, const SafeFile &file)
         qWarning() << "ConfStorage::loadLocalConfFile() recovered from journal: " << file.path();
         break;
     case SafeFile::Recovery::ReplayedInMemory:
-        qCritical() << "ConfStorage::loadLocalConfFile() recovered from journal, write file failed: "
+        qCritical() << "ConfStorage::loadLocalConfFile() recovered from journal, write failed: "
                     << file.path();
         break;
     case SafeFile::Recovery::Dropped:

@@ -43,7 +43,8 @@ int createAnew(const QString &path, QFile::Permissions permissions)
     int descriptor = -1;
     do {
         // Nobody else may read it before it has its permissions.
-        descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                            S_IRUSR | S_IWUSR);
     } while (descriptor == -1 && errno == EINTR);
     if (descriptor != -1)
         ::fchmod(descriptor, toMode(permissions));

@@ -28,8 +28,8 @@ public:
     /// The file that `path` leads to through any links; the journal lies beside that file.
     explicit SafeFile(const QString &path);
 
-    /// Opens the file for `save`, and creates it when it is missing. Returns false when that failed,
-    /// or when it is no regular file.
+    /// Opens the file for `save`, and creates it when it is missing. Returns false when that
+    /// failed, or when it is no regular file.
     bool open();
 
     /// Replaces the content of the opened file by `text`, a JSON object.

@@ -93,11 +93,9 @@ void SaveJournal::remove() const
     QFile::remove(mPath);
 }
 
-QString SaveJournal::keepAside() const
+void SaveJournal::keepAside() const
 {
-    const QString aside = mPath + QLatin1String(".kept");
-    PosixFile::replace(mPath, aside);
-    return aside;
+    PosixFile::replace(mPath, mPath + QLatin1String(".kept"));
 }
 
 QByteArray SaveJournal::hash(const QByteArray &text)

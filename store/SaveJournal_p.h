@@ -36,9 +36,8 @@ public:
 
     void remove() const;
 
-    /// Renames the journal, so that it is looked at no more, but can be by a person. Returns the new
-    /// path.
-    QString keepAside() const;
+    /// Renames the journal, so that it is looked at no more, but can be by a person.
+    void keepAside() const;
 
     static QByteArray hash(const QByteArray &text);
 

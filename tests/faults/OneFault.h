@@ -30,6 +30,18 @@ struct OneFault
 };
 Q_DECLARE_METATYPE(OneFault)
 
+/// A fault of the file functions that lasts.
+inline OneFault failing(Faults::Kind kind, const char *suffix, int nth, int error)
+{
+    return {kind, suffix, nth, Faults::fail(error), true};
+}
+
+/// A call that a signal interrupts once.
+inline OneFault interrupted(Faults::Kind kind, const char *suffix, int nth = 0)
+{
+    return {kind, suffix, nth, Faults::fail(EINTR), false};
+}
+
 /// A disk with room for `bytes` more bytes, whatever is removed meanwhile.
 inline Faults::Hook fullDisk(qint64 bytes)
 {

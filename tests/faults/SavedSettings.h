@@ -1,5 +1,8 @@
 #pragma once
 
+#include "FaultInjection.h"
+#include "support/LogCapture.h"
+
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QDir>
@@ -58,6 +61,37 @@ public:
     {
         QFile file(name);
         return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    }
+
+    /// What a save of this file says.
+    static QString saved()
+    {
+        return "ConfStorage::saveToLocalConfFile() save to file:  \"box/local.json\"";
+    }
+    static QString openFailed()
+    {
+        return "ConfStorage::saveToLocalConfFile() open file failed:  \"box/local.json\"";
+    }
+    static QString journalFailed()
+    {
+        return "ConfStorage::saveToLocalConfFile() write journal failed:  "
+               "\"box/local.json.save-journal\"";
+    }
+
+    /// The number that the next run of the host finds, with or without the switch.
+    static int nextRun()
+    {
+        const LogCapture log;
+        SavedSettings settings(false);
+        settings.store.loadLocalConfFile();
+        return settings.number();
+    }
+
+    /// Saves while the calls for it are asked about.
+    void saveUnder(const Faults::Hook &hook)
+    {
+        const Faults::Scope faults(folder(), hook);
+        store.saveToLocalConfFile();
     }
 
     /// An empty folder for the file.

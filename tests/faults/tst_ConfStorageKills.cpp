@@ -53,11 +53,8 @@ void load()
 /// What the next run finds.
 int nextRun()
 {
-    const LogCapture log;
     const Scope healthy(SavedSettings::folder(), withoutWaiting);
-    SavedSettings settings(false);
-    settings.store.loadLocalConfFile();
-    return settings.number();
+    return SavedSettings::nextRun();
 }
 
 /// Leaves a cut file, and a journal of content 2.

@@ -38,9 +38,9 @@ bool matters(const Call &call)
     return call.kind != Kind::Read && call.kind != Kind::Close;
 }
 
-/// Runs `work` on the folder of `disk`, which takes note of its calls. For the moment before each of
-/// them, and after the last, `pause` is called with `disk` as it was then. Calls that `ignored` skips
-/// have no effect on the disk.
+/// Runs `work` on the folder of `disk`, which takes note of its calls. For the moment before each
+/// of them, and after the last, `pause` is called with `disk` as it was then. Calls that `ignored`
+/// skips have no effect on the disk.
 void watch(DiskModel &disk, const std::function<void()> &work, const std::function<void()> &pause,
            Hook ignored = [](const Call &) { return proceed(); })
 {
@@ -75,6 +75,22 @@ void load()
 {
     SavedSettings settings(true);
     settings.store.loadLocalConfFile();
+}
+
+/// How many states after a loss of power hold neither content 1 nor content 2.
+int lossesOf(const DiskModel &disk)
+{
+    int lost = 0;
+    disk.eachLoss([&](const Folder &folder) {
+        const int found = numberIn(folder);
+        lost += found != 1 && found != 2;
+    });
+    return lost;
+}
+
+Hook ignoredSync(const QByteArray &suffix, int nth)
+{
+    return OneFault{Kind::Sync, suffix, nth, skip(), false}.hook();
 }
 
 Folder start(int number)
@@ -236,12 +252,7 @@ void tst_ConfStoragePowerLoss::everySyncOfASaveIsNeeded()
     const LogCapture log;
     int lost = 0;
     DiskModel disk(SavedSettings::folder(), start(1));
-    const auto count = [&](const Folder &folder) {
-        const int found = numberIn(folder);
-        lost += found != 1 && found != 2;
-    };
-    watch(disk, [] { save(2); }, [&] { disk.eachLoss(count); },
-          OneFault{Kind::Sync, suffix, nth, skip(), false}.hook());
+    watch(disk, [] { save(2); }, [&] { lost += lossesOf(disk); }, ignoredSync(suffix, nth));
     QVERIFY(lost > 0);
 }
 
@@ -261,14 +272,9 @@ void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded()
     const LogCapture log;
     int lost = 0;
     DiskModel disk(SavedSettings::folder(), start(1));
-    const auto count = [&](const Folder &folder) {
-        const int found = numberIn(folder);
-        lost += found != 1 && found != 2;
-    };
     watch(disk, [] { save(2); }, [&] {
         DiskModel recovering = disk;
-        watch(recovering, load, [&] { recovering.eachLoss(count); },
-              OneFault{Kind::Sync, suffix, nth, skip(), false}.hook());
+        watch(recovering, load, [&] { lost += lossesOf(recovering); }, ignoredSync(suffix, nth));
     });
     QVERIFY(lost > 0);
 }
