@@ -2,60 +2,118 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QByteArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMessageLogContext>
+#include <QFile>
+#include <QFileInfo>
 #include <QString>
-#include <QStringList>
+#include <QTemporaryDir>
+#include <QVector>
 
-/// Keys as hosts name them, "General.Hotkey.Left0" and so on, in 50 classes.
-inline QStringList settingNames(int count)
+#include <vector>
+
+/// The name of one setting, as hosts name them: "General0.Hotkey.Left0".
+struct SettingName
 {
-    const QStringList classes{QStringLiteral("General"), QStringLiteral("Capture"),
-                              QStringLiteral("Toolbar"), QStringLiteral("Hotkeys"),
-                              QStringLiteral("System")};
-    const QStringList names{QStringLiteral("Hotkey"), QStringLiteral("Window"),
-                            QStringLiteral("Border"), QStringLiteral("Magnifier")};
-    const QStringList subNames{QStringLiteral("Left"), QStringLiteral("Right"),
-                               QStringLiteral("Width"), QStringLiteral("Opacity")};
-    QStringList keys;
-    keys.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        const QString className = classes.at(i % 5) + QString::number(i / 5 % 10);
-        keys.append(QStringLiteral("%1.%2.%3%4").arg(className, names.at(i / 50 % 4),
-                                                     subNames.at(i / 200 % 4),
-                                                     QString::number(i)));
+    QString className, name, subName;
+
+    /// The name within the class.
+    QString inner() const { return name + QLatin1Char('.') + subName; }
+    QString key() const { return className + QLatin1Char('.') + inner(); }
+};
+
+/// `count` different names in up to 50 classes.
+QVector<SettingName> settingNames(int count);
+
+/// The keys of these names.
+std::vector<QString> keysOf(const QVector<SettingName> &names);
+
+/// The numbers below `count` in an order that is always the same and looks random: a host asks for
+/// its settings in no order that a cache could foresee.
+std::vector<int> shuffled(int count);
+
+/// The value number `i` of a setting of type `T`.
+template<class T> T valueOf(int i) = delete;
+template<> int valueOf<int>(int i);
+template<> bool valueOf<bool>(int i);
+template<> QString valueOf<QString>(int i);
+
+int sizeOf(const benchmark::State &state);
+
+/// Reports the time of one entry, one iteration handling as many as the size says.
+void countEntries(benchmark::State &state);
+
+/// Bytes in use on the heap of the process.
+qint64 heapBytes();
+
+/// Reports a measured size, bytes of the whole, as bytes of one entry.
+void countBytes(benchmark::State &state, qint64 bytes);
+
+/// Registers `function` as what `who` ("library", "bare" or a peer) does for `work`.
+void addBenchmark(const char *work, const char *who, void (*function)(benchmark::State &),
+                  const std::vector<int> &sizes = {100, 1000, 10000, 100000});
+
+/// Reads every key once in each iteration. A `Subject` holds values of the names it is made of.
+template<class Subject> void benchRead(benchmark::State &state)
+{
+    const Subject subject(settingNames(sizeOf(state)));
+    const std::vector<int> order = shuffled(sizeOf(state));
+    for (auto _ : state) {
+        for (const int i : order)
+            benchmark::DoNotOptimize(subject.read(i));
     }
-    return keys;
+    if (subject.read(order.front()) != valueOf<decltype(subject.read(0))>(order.front()))
+        state.SkipWithError("a wrong value was read");
+    countEntries(state);
 }
 
-/// Reports the time of one entry, one iteration handling `count` of them. `bare` names the benchmark
-/// that does the least that this one could do; nothing for the bare ones themselves.
-inline void countEntries(benchmark::State &state, int count, const char *bare = "")
+/// Writes every key once in each iteration.
+template<class Subject> void benchWrite(benchmark::State &state)
 {
-    using Counter = benchmark::Counter;
-    state.counters["per_entry"] = Counter(count, Counter::kIsIterationInvariantRate
-                                                     | Counter::kInvert);
-    state.SetLabel(bare);
+    Subject subject(settingNames(sizeOf(state)));
+    const std::vector<int> order = shuffled(sizeOf(state));
+    for (auto _ : state) {
+        for (const int i : order)
+            subject.write(i, i + 1);
+    }
+    if (subject.read(order.front()) != order.front() + 1)
+        state.SkipWithError("nothing was written");
+    countEntries(state);
 }
 
-/// The bare cost of reading: parses `text` and nothing else.
-inline void benchParse(benchmark::State &state, const QByteArray &text, int count)
+/// Loads a file into the variables of a host. `File(names, path)` writes the file and is ready to
+/// take `load(path)` and `forget()` any number of times; `isLoaded()` tells whether it did.
+template<class File> void benchLoad(benchmark::State &state)
 {
+    const QTemporaryDir folder;
+    const QString original = folder.filePath(QStringLiteral("original"));
+    File file(settingNames(sizeOf(state)), original);
+    int loads = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        file.forget();
+        // A file of another name: peers keep what they know of a file that they have read before.
+        const QString path = folder.filePath(QString::number(++loads));
+        QFile::copy(original, path);
+        state.ResumeTiming();
+        file.load(path);
+        state.PauseTiming();
+        QFile::remove(path);
+        state.ResumeTiming();
+    }
+    if (!file.isLoaded())
+        state.SkipWithError("nothing was loaded");
+    countEntries(state);
+}
+
+/// Changes one value and saves all of them.
+template<class File> void benchSave(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("saved"));
+    File file(settingNames(sizeOf(state)), path);
+    int value = sizeOf(state); // never one that stands in the file already
     for (auto _ : state)
-        benchmark::DoNotOptimize(QJsonDocument::fromJson(text));
-    countEntries(state, count);
-}
-
-/// Runs the registered benchmarks as a program. What the library logs would be measured as well, and
-/// drown the results, so it is dropped.
-inline int runBenchmarks(int argc, char **argv)
-{
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+        file.save(++value);
+    if (QFileInfo(path).size() < sizeOf(state))
+        state.SkipWithError("nothing was saved");
+    countEntries(state);
 }

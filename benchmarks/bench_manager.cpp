@@ -1,66 +1,108 @@
 #include "BenchmarkSupport.h"
+#include "benchmarks.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include <QFile>
-#include <QTemporaryDir>
+#include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 
-#include <vector>
+#include <memory>
 
 namespace {
 
-/// A configuration file that gives every key a value other than its default.
-QByteArray configurationText(const QStringList &keys)
+/// The store outlives every manager; the next one starts from an empty store.
+void emptyStore()
 {
-    QJsonObject members;
-    for (int i = 0; i < keys.size(); ++i)
-        members.insert(keys.at(i), i + 1);
-    return QJsonDocument(members).toJson();
-}
-
-void parse(benchmark::State &state)
-{
-    const int count = static_cast<int>(state.range(0));
-    benchParse(state, configurationText(settingNames(count)), count);
-}
-
-void loadFromFile(benchmark::State &state)
-{
-    const int count = static_cast<int>(state.range(0));
-    const QStringList keys = settingNames(count);
-
-    std::vector<int> values(static_cast<size_t>(count));
-    MtConf::MtConfManage manager;
-    for (int i = 0; i < count; ++i) {
-        const QStringList parts = keys.at(i).split(QLatin1Char('.'));
-        manager.addConfInt32("Size", &values[static_cast<size_t>(i)], parts.at(0), parts.at(1),
-                             parts.at(2));
-    }
-
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("configuration.json")));
-    if (!file.open(QIODevice::WriteOnly))
-        state.SkipWithError("no temporary file");
-    file.write(configurationText(keys));
-    file.close();
-
-    for (auto _ : state)
-        manager.loadFromFile(file.fileName());
-    if (values.back() != count)
-        state.SkipWithError("nothing was loaded");
-    countEntries(state, count, "parse");
-
-    // The store outlives the manager; the next size starts from an empty one.
     ConfStorage::instance()->mConfValues.clear();
     ConfStorage::instance()->mConfMetas.clear();
 }
 
+std::unique_ptr<MtConf::MtConfManage> declared(const QVector<SettingName> &names,
+                                               std::vector<int> &values)
+{
+    auto manager = std::make_unique<MtConf::MtConfManage>();
+    for (int i = 0; i < names.size(); ++i) {
+        const SettingName &name = names.at(i);
+        manager->addConfInt32("Size", &values[static_cast<size_t>(i)], name.className, name.name,
+                              name.subName);
+    }
+    return manager;
+}
+
+void declareItems(benchmark::State &state)
+{
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    std::vector<int> values(static_cast<size_t>(names.size()));
+    for (auto _ : state) {
+        const auto manager = declared(names, values);
+        state.PauseTiming();
+        if (manager->items.size() != names.size())
+            state.SkipWithError("not every item was declared");
+        emptyStore();
+        state.ResumeTiming();
+    }
+    countEntries(state);
+}
+
+void insertIntoHash(benchmark::State &state)
+{
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    for (auto _ : state) {
+        QHash<QString, int> hash;
+        for (int i = 0; i < names.size(); ++i)
+            hash.insert(names.at(i).key(), i);
+        benchmark::DoNotOptimize(hash);
+    }
+    countEntries(state);
+}
+
+/// A configuration file that gives every key a value other than its default.
+QByteArray configurationText(const QVector<SettingName> &names)
+{
+    QJsonObject members;
+    std::vector<QString> keys = keysOf(names);
+    std::sort(keys.begin(), keys.end()); // an object is built fast in its own order only
+    for (size_t i = 0; i < keys.size(); ++i)
+        members.insert(keys[i], static_cast<int>(i) + 1);
+    return QJsonDocument(members).toJson();
+}
+
+void loadConfiguration(benchmark::State &state)
+{
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    std::vector<int> values(static_cast<size_t>(names.size()));
+    const auto manager = declared(names, values);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("configuration.json")));
+    if (!file.open(QIODevice::WriteOnly))
+        state.SkipWithError("no temporary file");
+    file.write(configurationText(names));
+    file.close();
+
+    for (auto _ : state)
+        manager->loadFromFile(file.fileName());
+    if (std::find(values.cbegin(), values.cend(), 0) != values.cend())
+        state.SkipWithError("not every value was loaded");
+    countEntries(state);
+    emptyStore();
+}
+
+void parseConfiguration(benchmark::State &state)
+{
+    const QByteArray text = configurationText(settingNames(sizeOf(state)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(QJsonDocument::fromJson(text));
+    countEntries(state);
+}
+
 } // namespace
 
-int main(int argc, char **argv)
+void addManagerBenchmarks()
 {
-    benchmark::RegisterBenchmark("parse", parse)->RangeMultiplier(10)->Range(100, 10000);
-    benchmark::RegisterBenchmark("loadFromFile", loadFromFile)
-        ->RangeMultiplier(10)->Range(100, 10000);
-    return runBenchmarks(argc, argv);
+    addBenchmark("declareItems", "library", declareItems);
+    addBenchmark("declareItems", "bare", insertIntoHash);
+    addBenchmark("loadConfiguration", "library", loadConfiguration);
+    addBenchmark("loadConfiguration", "bare", parseConfiguration);
 }

@@ -1,142 +1,187 @@
 #include "BenchmarkSupport.h"
+#include "benchmarks.h"
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include <QTemporaryDir>
+#include <QDateTime>
 
-#include <optional>
-#include <vector>
+#include <functional>
 
 namespace {
 
-/// The variables of a host and a store that is bound to them, at their defaults.
-class Host
+/// Variables of a host: what a host without a library has. (No std::vector: of bools it has none.)
+template<class T> class Variables
 {
 public:
-    explicit Host(const QStringList &keys) : mValues(static_cast<size_t>(keys.size()))
+    explicit Variables(int count) : mValues(count)
     {
-        for (int i = 0; i < keys.size(); ++i)
-            store.reserveConf(keys.at(i), &mValues[static_cast<size_t>(i)]);
+        for (int i = 0; i < count; ++i)
+            mValues[i] = valueOf<T>(i);
     }
-    Q_DISABLE_COPY(Host)
-
-    /// Changes every value, as a person would have over the years.
-    void changeAll(const QStringList &keys)
-    {
-        for (int i = 0; i < keys.size(); ++i)
-            store.set(keys.at(i), i + 1);
-    }
-
-    ConfStorage store;
+    const T &read(int i) const { return mValues[i]; }
+    T *address(int i) { return &mValues[i]; }
 
 private:
-    std::vector<int> mValues;
+    QVector<T> mValues;
 };
 
-QByteArray dumpedText(const QStringList &keys)
+/// Variables and a store that is bound to them.
+template<class T> class BoundStore
 {
-    Host host(keys);
-    host.changeAll(keys);
-    const QJsonObject dump = host.store.dumpConf(ConfStorage::DumpLocal);
-    return QJsonDocument(dump).toJson(QJsonDocument::Compact);
-}
-
-int sizeOf(const benchmark::State &state)
-{
-    return static_cast<int>(state.range(0));
-}
-
-void parse(benchmark::State &state)
-{
-    benchParse(state, dumpedText(settingNames(sizeOf(state))), sizeOf(state));
-}
-
-void serialize(benchmark::State &state)
-{
-    const QByteArray text = dumpedText(settingNames(sizeOf(state)));
-    const QJsonDocument document = QJsonDocument::fromJson(text);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(document.toJson(QJsonDocument::Compact));
-    countEntries(state, sizeOf(state));
-}
-
-void dump(benchmark::State &state)
-{
-    const QStringList keys = settingNames(sizeOf(state));
-    Host host(keys);
-    host.changeAll(keys);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(host.store.dumpConf(ConfStorage::DumpLocal));
-    countEntries(state, sizeOf(state), "serialize");
-}
-
-/// Times `load(store)` into stores that are at their defaults.
-template<class Load> void benchLoad(benchmark::State &state, const QStringList &keys, Load load)
-{
-    std::optional<Host> other;
-    for (auto _ : state) {
-        state.PauseTiming(); // only a fresh store takes the values
-        other.emplace(keys);
-        state.ResumeTiming();
-        load(other->store);
-    }
-    if (other->store.get<int>(keys.last()) != sizeOf(state))
-        state.SkipWithError("nothing was loaded");
-    countEntries(state, sizeOf(state), "parse");
-}
-
-void load(benchmark::State &state)
-{
-    const QStringList keys = settingNames(sizeOf(state));
-    const QJsonObject dump = QJsonDocument::fromJson(dumpedText(keys)).object();
-    benchLoad(state, keys, [&](ConfStorage &store) { store.loadConf(dump, ConfStorage::LoadLocal); });
-}
-
-void saveLocalFile(benchmark::State &state)
-{
-    const QTemporaryDir folder;
-    const QStringList keys = settingNames(sizeOf(state));
-    Host host(keys);
-    host.changeAll(keys);
-    host.store.mLocalSaveFile = folder.filePath(QStringLiteral("local.json"));
-    for (auto _ : state) {
-        host.store.mChanged = true;
-        host.store.saveToLocalConfFile();
-    }
-    if (host.store.mChanged)
-        state.SkipWithError("nothing was saved");
-    countEntries(state, sizeOf(state), "serialize");
-}
-
-void loadLocalFile(benchmark::State &state)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("local.json"));
-    const QStringList keys = settingNames(sizeOf(state));
+public:
+    explicit BoundStore(const QVector<SettingName> &names)
+        : mKeys(keysOf(names)), mVariables(names.size())
     {
-        Host host(keys);
-        host.changeAll(keys);
-        host.store.mLocalSaveFile = path;
-        host.store.saveToLocalConfFile();
+        for (int i = 0; i < names.size(); ++i)
+            mStore.reserveConf(key(i), mVariables.address(i));
     }
-    benchLoad(state, keys, [&](ConfStorage &store) {
-        store.mLocalSaveFile = path;
-        store.loadLocalConfFile();
-    });
+
+    T read(int i) const { return mStore.get<T>(key(i)); }
+    void write(int i, const T &value) { mStore.set(key(i), value); }
+    const Variables<T> &variables() const { return mVariables; }
+
+protected:
+    const QString &key(int i) const { return mKeys[static_cast<size_t>(i)]; }
+
+    std::vector<QString> mKeys;
+    Variables<T> mVariables;
+    ConfStorage mStore;
+};
+
+class WatchedStore : public BoundStore<int>
+{
+public:
+    explicit WatchedStore(const QVector<SettingName> &names) : BoundStore(names)
+    {
+        for (int i = 0; i < names.size(); ++i) {
+            mStore.setConfChangedCallback(key(i), [this](const QString &, const ConfValue *value) {
+                benchmark::DoNotOptimize(value);
+                ++mCalls;
+            });
+        }
+    }
+
+private:
+    int mCalls = 0;
+};
+
+/// The least that a store by ordered key can do.
+template<class T> class BareMap
+{
+public:
+    explicit BareMap(const QVector<SettingName> &names) : mKeys(keysOf(names))
+    {
+        for (int i = 0; i < names.size(); ++i)
+            mValues[key(i)] = valueOf<T>(i);
+    }
+
+    T read(int i) const { return *mValues.constFind(key(i)); }
+
+protected:
+    const QString &key(int i) const { return mKeys[static_cast<size_t>(i)]; }
+
+    std::vector<QString> mKeys;
+    QMap<QString, T> mValues;
+};
+
+/// The least that setting a value does: both lookups, the clock, the callback.
+class BareWatchedMap : public BareMap<int>
+{
+public:
+    explicit BareWatchedMap(const QVector<SettingName> &names) : BareMap(names)
+    {
+        for (int i = 0; i < names.size(); ++i) {
+            mRecords[key(i)].callback = [this](const QString &, const int *value) {
+                benchmark::DoNotOptimize(value);
+                ++mCalls;
+            };
+        }
+    }
+
+    void write(int i, int value)
+    {
+        const auto stored = mValues.find(key(i));
+        *stored = value;
+        const auto record = mRecords.find(key(i));
+        record->time = QDateTime::currentDateTimeUtc();
+        record->callback(key(i), &*stored);
+    }
+
+private:
+    struct Record
+    {
+        QDateTime time;
+        std::function<void(const QString &, const int *)> callback;
+    };
+
+    QMap<QString, Record> mRecords;
+    int mCalls = 0;
+};
+
+void readVariables(benchmark::State &state, const Variables<int> &variables)
+{
+    const std::vector<int> order = shuffled(sizeOf(state));
+    for (auto _ : state) {
+        for (const int i : order)
+            benchmark::DoNotOptimize(variables.read(i));
+    }
+    countEntries(state);
+}
+
+void readBoundVariables(benchmark::State &state)
+{
+    const BoundStore<int> store(settingNames(sizeOf(state)));
+    readVariables(state, store.variables());
+}
+
+void readPlainVariables(benchmark::State &state)
+{
+    readVariables(state, Variables<int>(sizeOf(state)));
+}
+
+void storeMemory(benchmark::State &state)
+{
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    std::vector<int> variables(static_cast<size_t>(names.size()));
+    qint64 bytes = 0;
+    for (auto _ : state) {
+        ConfStorage store;
+        const qint64 before = heapBytes();
+        for (int i = 0; i < names.size(); ++i)
+            store.reserveConf(names.at(i).key(), &variables[static_cast<size_t>(i)]);
+        bytes = heapBytes() - before;
+    }
+    countBytes(state, bytes);
+}
+
+void mapMemory(benchmark::State &state)
+{
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    qint64 bytes = 0;
+    for (auto _ : state) {
+        QMap<QString, int> values;
+        const qint64 before = heapBytes();
+        for (int i = 0; i < names.size(); ++i)
+            values.insert(names.at(i).key(), i);
+        bytes = heapBytes() - before;
+    }
+    countBytes(state, bytes);
 }
 
 } // namespace
 
-int main(int argc, char **argv)
+void addStoreBenchmarks()
 {
-    const auto add = [](const char *name, void (*function)(benchmark::State &)) {
-        benchmark::RegisterBenchmark(name, function)->RangeMultiplier(10)->Range(100, 100000);
-    };
-    add("serialize", serialize);
-    add("dump", dump);
-    add("saveLocalFile", saveLocalFile);
-    add("parse", parse);
-    add("load", load);
-    add("loadLocalFile", loadLocalFile);
-    return runBenchmarks(argc, argv);
+    addBenchmark("readVariable", "library", readBoundVariables);
+    addBenchmark("readVariable", "bare", readPlainVariables);
+    addBenchmark("getInt", "library", benchRead<BoundStore<int>>);
+    addBenchmark("getInt", "bare", benchRead<BareMap<int>>);
+    addBenchmark("getBool", "library", benchRead<BoundStore<bool>>);
+    addBenchmark("getBool", "bare", benchRead<BareMap<bool>>);
+    addBenchmark("getQString", "library", benchRead<BoundStore<QString>>);
+    addBenchmark("getQString", "bare", benchRead<BareMap<QString>>);
+    addBenchmark("setInt", "library", benchWrite<WatchedStore>);
+    addBenchmark("setInt", "bare", benchWrite<BareWatchedMap>);
+    addBenchmark("memory", "library", storeMemory);
+    addBenchmark("memory", "bare", mapMemory);
 }

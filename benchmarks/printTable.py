@@ -1,47 +1,59 @@
 #!/usr/bin/env python3
-"""Prints what benchmark programs measured: nanoseconds per entry for each number of entries, and how
-many times the bare cost that is. A row whose figures stay level has a cost that does not grow with
-the number of settings.
+"""Prints what the benchmarks measured: the cost of one entry in the library, the bare cost, what the
+peers take, and the ratios. A row whose figures stay level has a cost that does not grow with the
+number of settings.
 
-    printTable.py <results.json>...
+    printTable.py <results.json>
 """
 
-import json
 import sys
-from pathlib import Path
+
+from results import GOALS, read_medians
 
 
-def read_medians(path):
-    """{benchmark: {entries: nanoseconds per entry}} and {benchmark: its bare benchmark}."""
-    times, bare = {}, {}
-    for run in json.loads(path.read_text())["benchmarks"]:
-        if run.get("error_occurred"):
-            sys.exit(f"{path}: {run['name']}: {run['error_message']}")
-        if run.get("aggregate_name") != "median":
-            continue
-        name, entries = run["run_name"].split("/")
-        times.setdefault(name, {})[int(entries)] = run["per_entry"] * 1e9
-        bare[name] = run.get("label", "")
-    return times, bare
+def text_of(value, unit):
+    if unit == "bytes":
+        return f"{value:.0f} B"
+    for limit, name in ((1e-6, "ns"), (1e-3, "us"), (1, "ms")):
+        if value < limit:
+            return f"{value / limit * 1000:.1f} {name}"
+    return f"{value:.2f} s"
 
 
-def print_table(path):
-    times, bare = read_medians(path)
-    sizes = sorted({size for row in times.values() for size in row})
-    print(f"{path.stem}: ns per entry (times the bare cost)")
-    print(f"{'entries':<15}" + "".join(f"{size:>18,}" for size in sizes))
-    for name, row in times.items():
-        line = f"{name:<15}"
-        for size in sizes:
-            cell = "-"
-            if size in row:
-                cell = f"{row[size]:.0f}"
-                against = times.get(bare[name], {}).get(size)
-                cell += f" ({row[size] / against:4.1f})" if against else " " * 7
-            line += f"{cell:>18}"
-        print(line + (f"   bare: {bare[name]}" if bare[name] else ""))
-    print()
+def line(cells):
+    return "| " + " | ".join(cells) + " |"
 
 
-for argument in sys.argv[1:]:
-    print_table(Path(argument))
+def print_table(works):
+    peers = sorted({who for work in works.values() for size in work.values() for who in size}
+                   - {"library", "bare"}, reverse=True)
+    head = ["work", "entries", "library", "bare", "times bare", "goal"]
+    for peer in peers:
+        head += [peer, "times library"]
+    rows = []
+    for work, sizes in works.items():
+        goal = GOALS.get(work)
+        for size, costs in sorted(sizes.items()):
+            unit, own = costs["library"]
+            ratio = own / costs["bare"][1]
+            row = [work, f"{size:,}", text_of(own, unit), text_of(costs["bare"][1], unit),
+                   f"{ratio:.2f}", f"{goal}" if goal else ""]
+            for peer in peers:
+                if peer in costs:
+                    row += [text_of(costs[peer][1], unit), f"{costs[peer][1] / own:.1f}"]
+                else:
+                    row += ["", ""]
+            rows.append(row)
+    widths = [max(len(row[i]) for row in [head] + rows) for i in range(len(head))]
+    print(line(cell.ljust(width) for cell, width in zip(head, widths)))
+    print(line("-" * width for width in widths))
+    for row in rows:
+        print(line([row[0].ljust(widths[0])]
+                   + [cell.rjust(width) for cell, width in zip(row[1:], widths[1:])]))
+
+
+if len(sys.argv) != 2:
+    sys.exit(__doc__)
+print("Processor time of one entry, medians; \"times bare\" is library / bare, \"times library\" is\n"
+      "peer / library, so that above 1 the library is the faster one.\n")
+print_table(read_medians(sys.argv[1]))

@@ -1,0 +1,153 @@
+#include "BenchmarkSupport.h"
+#include "benchmarks.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+}
+
+/// A store of which every value has been changed, as a person would have over the years, and its
+/// local file.
+class LocalFile
+{
+public:
+    LocalFile(const QVector<SettingName> &names, const QString &path)
+        : mKeys(keysOf(names)), mValues(mKeys.size())
+    {
+        mStore.mLocalSaveFile = path;
+        for (size_t i = 0; i < mKeys.size(); ++i) {
+            mStore.reserveConf(mKeys[i], &mValues[i]);
+            mStore.set(mKeys[i], static_cast<int>(i) + 1);
+        }
+        mStore.saveToLocalConfFile();
+    }
+
+    /// Back to the defaults: the file is newer than that.
+    void forget()
+    {
+        for (ConfStorage::ConfMeta &meta : mStore.mConfMetas) {
+            meta.lastChangeTime = QDateTime();
+            meta.flags |= ConfStorage::FlagIsDefault;
+        }
+        std::fill(mValues.begin(), mValues.end(), 0);
+    }
+    void load(const QString &path)
+    {
+        mStore.mLocalSaveFile = path;
+        mStore.loadLocalConfFile();
+    }
+    bool isLoaded() const { return mValues.back() == static_cast<int>(mValues.size()); }
+
+    void save(int value)
+    {
+        mStore.set(mKeys.front(), value);
+        mStore.saveToLocalConfFile();
+    }
+
+    ConfStorage &store() { return mStore; }
+    const std::vector<QString> &keys() const { return mKeys; }
+
+private:
+    std::vector<QString> mKeys;
+    std::vector<int> mValues;
+    ConfStorage mStore;
+};
+
+/// The least that loading and saving the same file do.
+class BareFile
+{
+public:
+    BareFile(const QVector<SettingName> &names, const QString &path) : mPath(path)
+    {
+        const LocalFile file(names, path);
+        mText = contentOf(path);
+        mObject = QJsonDocument::fromJson(mText).object();
+    }
+
+    void forget() {}
+    void load(const QString &) { mDocument = QJsonDocument::fromJson(mText); }
+    bool isLoaded() const { return mDocument.object().size() == mObject.size(); }
+
+    void save(int)
+    {
+        QFile file(mPath);
+        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        file.write(QJsonDocument(mObject).toJson(QJsonDocument::Compact));
+    }
+
+private:
+    QString mPath;
+    QByteArray mText;
+    QJsonObject mObject;
+    QJsonDocument mDocument;
+};
+
+constexpr int sNewerEvery = 100; // one in a hundred is newer in the second copy
+
+/// A second copy of the configuration, of which every hundredth entry is newer.
+QString secondCopy(const QString &path)
+{
+    QJsonObject members = QJsonDocument::fromJson(contentOf(path)).object();
+    int i = 0;
+    for (auto member = members.begin(); member != members.end(); ++member, ++i) {
+        if (i % sNewerEvery == 0) {
+            QJsonObject entry = member->toObject();
+            entry.insert(QLatin1String("t"), entry.value(QLatin1String("t")).toInt() + 60);
+            *member = entry;
+        }
+    }
+    return QString::fromUtf8(QJsonDocument(members).toJson(QJsonDocument::Compact));
+}
+
+void mergeCopy(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("local.json"));
+    LocalFile file(settingNames(sizeOf(state)), path);
+    const QString copy = secondCopy(path);
+    const QDateTime saved = file.store().calcLastConfTime();
+    for (auto _ : state) {
+        file.store().loadConf(copy, ConfStorage::LoadShared);
+        state.PauseTiming();
+        if (file.store().calcLastConfTime() == saved)
+            state.SkipWithError("nothing was merged");
+        for (ConfStorage::ConfMeta &meta : file.store().mConfMetas)
+            meta.lastChangeTime = std::min(meta.lastChangeTime, saved);
+        state.ResumeTiming();
+    }
+    countEntries(state);
+}
+
+void parseCopy(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("local.json"));
+    const LocalFile file(settingNames(sizeOf(state)), path);
+    const QString copy = secondCopy(path);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(QJsonDocument::fromJson(copy.toUtf8()));
+    countEntries(state);
+}
+
+} // namespace
+
+void addFileBenchmarks()
+{
+    addBenchmark("loadLocalFile", "library", benchLoad<LocalFile>);
+    addBenchmark("loadLocalFile", "bare", benchLoad<BareFile>);
+    addBenchmark("saveLocalFile", "library", benchSave<LocalFile>);
+    addBenchmark("saveLocalFile", "bare", benchSave<BareFile>);
+    addBenchmark("mergeCopy", "library", mergeCopy);
+    addBenchmark("mergeCopy", "bare", parseCopy);
+}

@@ -1,0 +1,247 @@
+#include "BenchmarkSupport.h"
+#include "HandMadeWindow.h"
+#include "benchmarks.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+QString pageName()
+{
+    return QStringLiteral("Capture");
+}
+
+QString emptyPageName()
+{
+    return QStringLiteral("Empty");
+}
+
+/// Lets the event loop polish, lay out and paint what is new.
+void finishShowing()
+{
+    QApplication::sendPostedEvents();
+    QApplication::processEvents();
+}
+
+/// The other language: every text with a mark before it.
+class MarkingTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1String("* ") + QString::fromUtf8(text);
+    }
+};
+
+/// The settings window over `count` items: a check box, a number and a choice in turn, and an empty
+/// page beside them.
+class LibraryWindow
+{
+public:
+    explicit LibraryWindow(int count) : mFlags(count), mNumbers(count)
+    {
+        // The window keeps its geometry in the working directory.
+        mPrevious = QDir::currentPath();
+        QDir::setCurrent(mFolder.path());
+        for (int i = 0; i < count; ++i)
+            declare(i);
+        mManager.addMajorConfItemIfNotExist(emptyPageName());
+    }
+    ~LibraryWindow()
+    {
+        close();
+        ConfStorage::instance()->mConfValues.clear();
+        ConfStorage::instance()->mConfMetas.clear();
+        QDir::setCurrent(mPrevious);
+    }
+    Q_DISABLE_COPY(LibraryWindow)
+
+    void open() { mManager.ShowWindow(QString()); }
+    void close()
+    {
+        mManager.closeConfigWindow();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        finishShowing();
+    }
+    void showPage() { window()->switchToView(pageName()); }
+    void leavePage() { window()->switchToView(emptyPageName()); }
+    void translate() { Q_EMIT mManager.sigLanguageChange(); }
+    static void setTheme(QThemeCtrl::Theme theme) { QThemeCtrl::instance()->setTheme(theme); }
+
+    static QWidget *widget() { return window(); }
+
+private:
+    static MtConf::ConfigurationWindow *window()
+    {
+        return MtConf::ConfigurationWindow::instance();
+    }
+
+    void declare(int i)
+    {
+        const QString name = QStringLiteral("Item%1").arg(i);
+        if (i % 3 == 0)
+            mManager.addConfBool("Show border", &mFlags[i], pageName(), name, QString());
+        else if (i % 3 == 1)
+            mManager.addConfInt32("Width of the border", &mNumbers[i], pageName(), name, QString());
+        else
+            mManager.addConfInt32WithCombobox("Size of the magnifier", {"Small", "Medium", "Large"},
+                                              &mNumbers[i], pageName(), name, QString());
+    }
+
+    QTemporaryDir mFolder;
+    QString mPrevious;
+    QVector<bool> mFlags;
+    QVector<int> mNumbers;
+    MtConf::MtConfManage mManager;
+};
+
+/// The same by hand.
+class BareWindow
+{
+public:
+    explicit BareWindow(int count) : mCount(count)
+    {
+        LibraryWindow model(0);
+        model.open();
+        mGeometry = LibraryWindow::widget()->geometry();
+        for (const auto theme : {QThemeCtrl::Theme::Dark, QThemeCtrl::Theme::Light}) {
+            LibraryWindow::setTheme(theme);
+            mSheets.insert(static_cast<int>(theme), LibraryWindow::widget()->styleSheet());
+        }
+    }
+
+    void open()
+    {
+        mWindow = std::make_unique<HandMadeWindow>(
+            QStringList{pageName(), emptyPageName()}, mSheets.last());
+        mWindow->setGeometry(mGeometry);
+        showPage();
+        mWindow->show();
+    }
+    void close() { mWindow.reset(); }
+    void showPage() { mWindow->showPage(pageName(), mCount); }
+    void leavePage() { mWindow->showPage(emptyPageName(), 0); }
+    void translate() {}
+    void setTheme(QThemeCtrl::Theme theme)
+    {
+        mWindow->setStyleSheet(mSheets.value(static_cast<int>(theme)));
+    }
+
+    QWidget *widget() const { return mWindow.get(); }
+
+private:
+    int mCount;
+    QRect mGeometry;
+    QMap<int, QString> mSheets;
+    std::unique_ptr<HandMadeWindow> mWindow;
+};
+
+int controlsOf(QWidget *window)
+{
+    return window->findChildren<QAbstractSpinBox *>().size()
+           + window->findChildren<QAbstractButton *>().size()
+           + window->findChildren<QComboBox *>().size();
+}
+
+void checkControls(benchmark::State &state, QWidget *window)
+{
+    if (!window->isVisible() || controlsOf(window) < sizeOf(state))
+        state.SkipWithError("the page is not shown");
+}
+
+template<class Window> void firstShowing(benchmark::State &state)
+{
+    Window window(sizeOf(state));
+    for (auto _ : state) {
+        window.open();
+        finishShowing();
+        state.PauseTiming();
+        checkControls(state, window.widget());
+        window.close();
+        state.ResumeTiming();
+    }
+    countEntries(state);
+}
+
+template<class Window> void switchPage(benchmark::State &state)
+{
+    Window window(sizeOf(state));
+    window.open();
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.leavePage();
+        finishShowing();
+        state.ResumeTiming();
+        window.showPage();
+        finishShowing();
+    }
+    checkControls(state, window.widget());
+    countEntries(state);
+    window.close();
+}
+
+template<class Window> void switchLanguage(benchmark::State &state)
+{
+    Window window(sizeOf(state));
+    window.open();
+    finishShowing();
+    MarkingTranslator translator;
+    bool marked = false;
+    for (auto _ : state) {
+        marked = !marked;
+        if (marked)
+            QCoreApplication::installTranslator(&translator);
+        else
+            QCoreApplication::removeTranslator(&translator);
+        window.translate();
+        finishShowing();
+    }
+    checkControls(state, window.widget());
+    countEntries(state);
+    QCoreApplication::removeTranslator(&translator);
+    window.close();
+}
+
+template<class Window> void switchTheme(benchmark::State &state)
+{
+    Window window(sizeOf(state));
+    window.open();
+    finishShowing();
+    bool dark = false;
+    for (auto _ : state) {
+        dark = !dark;
+        window.setTheme(dark ? QThemeCtrl::Theme::Dark : QThemeCtrl::Theme::Light);
+        finishShowing();
+    }
+    checkControls(state, window.widget());
+    countEntries(state);
+    window.close();
+    QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
+}
+
+} // namespace
+
+void addWindowBenchmarks()
+{
+    addBenchmark("firstShowing", "library", firstShowing<LibraryWindow>, {20});
+    addBenchmark("firstShowing", "bare", firstShowing<BareWindow>, {20});
+    addBenchmark("switchPage", "library", switchPage<LibraryWindow>, {20, 200, 1000});
+    addBenchmark("switchPage", "bare", switchPage<BareWindow>, {20, 200, 1000});
+    addBenchmark("switchLanguage", "library", switchLanguage<LibraryWindow>, {20, 200});
+    addBenchmark("switchLanguage", "bare", switchLanguage<BareWindow>, {20, 200});
+    addBenchmark("switchTheme", "library", switchTheme<LibraryWindow>, {20, 200});
+    addBenchmark("switchTheme", "bare", switchTheme<BareWindow>, {20, 200});
+}

@@ -1,0 +1,36 @@
+"""Reads what the benchmarks wrote."""
+
+import json
+import sys
+
+# How many times the bare cost each work may cost at most.
+GOALS = {
+    "readVariable": 1.0,
+    "getInt": 1.3,
+    "getBool": 1.3,
+    "getQString": 1.3,
+    "setInt": 1.3,
+    "loadLocalFile": 1.5,
+    "saveLocalFile": 1.6,
+    "mergeCopy": 1.3,
+    "firstShowing": 1.3,
+    "switchPage": 1.3,
+    "switchLanguage": 1.5,
+    "switchTheme": 1.5,
+}
+
+
+def read_medians(path):
+    """{work: {entries: {who: (unit, cost of one entry)}}}, costs in seconds or bytes."""
+    works = {}  # as they were registered, whatever the order in which they ran
+    with open(path, encoding="utf-8") as file:
+        runs = json.load(file)["benchmarks"]
+    for run in sorted(runs, key=lambda run: run["family_index"]):
+        if run.get("error_occurred"):
+            sys.exit(f"{path}: {run['name']}: {run['error_message']}")
+        if run.get("aggregate_name") != "median":
+            continue
+        work, who, size = run["run_name"].split("/")
+        cost = ("bytes", run["bytes"]) if "bytes" in run else ("time", run["per_entry"])
+        works.setdefault(work, {}).setdefault(int(size), {})[who] = cost
+    return works
