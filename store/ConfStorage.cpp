@@ -93,19 +93,20 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
     if (stored == mConfValues.end())
         return;
     stored->loadFromJsonValue(value);
-    markUserChange(key);
+    markUserChange(key, nullptr);
 }
 
-void ConfStorage::markUserChange(QString const &key)
+/// `value` is the key's entry where it is known that nothing has moved it, or else null.
+void ConfStorage::markUserChange(QString const &key, ConfValue *value)
 {
     ConfMeta &meta = mConfMetas[key];
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
     meta.flags &= ~FlagIsDefault;
-    callChangedCallback(key, meta);
+    callChangedCallback(key, meta, value);
     mChanged = true;
 }
 
-void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta)
+void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value)
 {
     if (!meta.changedCallback)
         return;
@@ -124,7 +125,7 @@ void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta)
     const QString name = key;
     const ConfChangedCallback callback = meta.changedCallback;
     const QScopedValueRollback<int> depth(mCallbackDepth, mCallbackDepth + 1);
-    callback(name, &mConfValues[name]);
+    callback(name, value ? value : &mConfValues[name]);
 }
 
 bool ConfStorage::isDynamicWithoutPreset(QString const &key) const

@@ -218,9 +218,12 @@ public:
 
 private:
     void reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current);
-    void markUserChange(QString const &key);
-    void callChangedCallback(QString const &key, ConfMeta const &meta);
-    void loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type);
+    struct LoadPosition;
+    void markUserChange(QString const &key, ConfValue *value);
+    void callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value = nullptr);
+    void loadMember(QString key, QJsonValue const &value, LoadConfType type, LoadPosition &position);
+    void loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type,
+                   LoadPosition &position);
     bool isDynamicWithoutPreset(QString const &key) const;
     bool saveInPlace() const;
     bool saveSafely() const;
@@ -253,12 +256,18 @@ template<class T> T ConfStorage::get(QString const &key) const
 template<class T> void ConfStorage::set(QString const &key, T const &value)
 {
     const auto stored = mConfValues.find(key);
+    if (stored != mConfValues.end() && stored->mType == ConfValue::typeOf<T>()) {
+        stored->template set<T>(value);
+        markUserChange(key, &*stored);
+        return;
+    }
+    // What is logged runs a handler of the host, which may change the store.
     if (stored != mConfValues.end())
         stored->template set<T>(value);
     else
         logSetNotFound(key);
     // An unknown key gets its record all the same: its time counts as the newest change.
-    markUserChange(key);
+    markUserChange(key, nullptr);
 }
 
 /// The name under which a system-independent key is written: `key` + "#s.mac".

@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <MaltoConfiguration/store/ConfDump_p.h>
 #include <MaltoConfiguration/store/PosixFile_p.h>
 #include <MaltoConfiguration/store/SafeFile_p.h>
 
@@ -63,7 +64,7 @@ bool ConfStorage::saveInPlace() const
         logOpenFailed(mLocalSaveFile);
         return false;
     }
-    file.write(QJsonDocument(dumpConf(DumpLocal)).toJson(QJsonDocument::Compact));
+    file.write(ConfDump(*this, DumpLocal).toText());
     return true;
 }
 
@@ -74,7 +75,7 @@ bool ConfStorage::saveSafely() const
         logOpenFailed(mLocalSaveFile);
         return false;
     }
-    const QByteArray text = QJsonDocument(dumpConf(DumpLocal)).toJson(QJsonDocument::Compact);
+    const QByteArray text = ConfDump(*this, DumpLocal).toText();
     // Values nested too deeply are written without complaint and never read again.
     if (!QJsonDocument::fromJson(text).isObject()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "

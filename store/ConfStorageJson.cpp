@@ -1,33 +1,33 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <MaltoConfiguration/store/ConfDump_p.h>
+
 #include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
-#include <vector>
 
 namespace {
 
 constexpr QLatin1String sTimeKey("t", 1);
 constexpr QLatin1String sValueKey("v", 1);
-constexpr QLatin1String sRemovedKey("d", 1);
 constexpr QLatin1Char sMarkSeparator('#');
 constexpr QLatin1String sSystemName("s.mac", 5);
 
-using Member = std::pair<QString, QJsonObject>;
-
-/// Inserting in sorted order keeps the building of a large object linear. Of members of one name
-/// the last one counts.
-QJsonObject toObject(std::vector<Member> members)
+/// The entry of `key`, which mostly is the one at `next`.
+template<class Map>
+typename Map::iterator findFrom(Map &map, typename Map::iterator next, const QString &key)
 {
-    std::stable_sort(members.begin(), members.end(),
-                     [](const Member &a, const Member &b) { return a.first < b.first; });
-    QJsonObject object;
-    for (const Member &member : members)
-        object.insert(member.first, member.second);
-    return object;
+    return next != map.end() && next.key() == key ? next : map.find(key);
+}
+
+/// Whether loading `value` writes nothing on the log.
+bool isTyped(const ConfValue &value)
+{
+    return value.mType >= ConfValue::TyQColor && value.mType <= ConfValue::TyQJsonArray;
 }
 
 } // namespace
@@ -37,51 +37,44 @@ QString addSysMark(QString const &key)
     return key + sMarkSeparator + sSystemName;
 }
 
+/// Where the next key is likely to stand in both maps: members of an object are in the order of the
+/// maps. Forgotten as soon as code of the host may have run, callbacks and log handlers, which may
+/// change the maps.
+struct ConfStorage::LoadPosition
+{
+    explicit LoadPosition(ConfStorage &store) : mStore(store) {}
+
+    QMap<QString, ConfValue>::iterator valueOf(const QString &key)
+    {
+        return known ? findFrom(mStore.mConfValues, value, key) : mStore.mConfValues.find(key);
+    }
+    QMap<QString, ConfMeta>::iterator metaOf(const QString &key)
+    {
+        const auto found = known ? findFrom(mStore.mConfMetas, meta, key)
+                                 : mStore.mConfMetas.find(key);
+        return found != mStore.mConfMetas.end() ? found : mStore.mConfMetas.insert(key, ConfMeta());
+    }
+
+    bool known = false;
+    QMap<QString, ConfValue>::iterator value;
+    QMap<QString, ConfMeta>::iterator meta;
+
+private:
+    ConfStorage &mStore;
+};
+
 QJsonObject ConfStorage::dumpConf(DumpConfType type) const
 {
-    std::vector<Member> members;
-    for (auto value = mConfValues.cbegin(); value != mConfValues.cend(); ++value) {
-        const auto meta = mConfMetas.constFind(value.key());
-        if (meta == mConfMetas.constEnd() || meta->lastChangeTime.isNull())
-            continue;
-        if (type != DumpLocal && (meta->flags & FlagLocalOnly))
-            continue;
-        const bool isDefault = meta->flags & FlagIsDefault;
-
-        QJsonObject entry;
-        if (type == DumpChangedOnly) {
-            if (isDefault)
-                continue;
-        } else {
-            const qint64 time = meta->lastChangeTime.toSecsSinceEpoch();
-            if (time == 0)
-                continue;
-            entry.insert(sTimeKey, time);
-        }
-        if (!isDefault)
-            entry.insert(sValueKey, value->toJsonValue());
-        const bool marked = meta->flags & FlagSystemIndependent;
-        members.emplace_back(marked ? addSysMark(value.key()) : value.key(), entry);
-    }
-    if (type != DumpChangedOnly) {
-        for (auto it = mRemovedDynamicConfs.cbegin(); it != mRemovedDynamicConfs.cend(); ++it) {
-            const DynamicConfClass *cls = findDynamicConfClass(it.key());
-            if (!cls)
-                qCritical() << "dumpConf findDynamicConfClass error : " << it.key();
-            const bool marked = cls && (cls->flags & FlagSystemIndependent);
-            members.emplace_back(marked ? addSysMark(it.key()) : it.key(),
-                                 QJsonObject{{sRemovedKey, it->toSecsSinceEpoch()}});
-        }
-    }
-    return toObject(std::move(members));
+    return ConfDump(*this, type).toObject();
 }
 
 int ConfStorage::loadConf(QJsonObject const &conf, LoadConfType type)
 {
     // A copy shares the data and keeps them alive if a callback changes the caller's object.
     const QJsonObject members = conf;
+    LoadPosition position(*this);
     for (auto it = members.constBegin(); it != members.constEnd(); ++it)
-        loadSingleConf(it.key(), it.value(), type);
+        loadMember(it.key(), it.value(), type, position);
     return members.size();
 }
 
@@ -98,6 +91,13 @@ bool ConfStorage::loadConf(QString const &json, LoadConfType type)
 
 void ConfStorage::loadSingleConf(QString key, QJsonValue const &value, LoadConfType type)
 {
+    LoadPosition position(*this);
+    loadMember(std::move(key), value, type, position);
+}
+
+void ConfStorage::loadMember(QString key, QJsonValue const &value, LoadConfType type,
+                             LoadPosition &position)
+{
     const int mark = key.lastIndexOf(sMarkSeparator);
     if (mark >= 0) {
         if (key.midRef(mark + 1) != sSystemName)
@@ -108,37 +108,49 @@ void ConfStorage::loadSingleConf(QString key, QJsonValue const &value, LoadConfT
         if (const DynamicConfClass *cls = findDynamicConfClass(key)) {
             if (type != LoadLocal && (cls->flags & FlagLocalOnly))
                 return;
+            position.known = false;
             if (loadLoadDynamicConf(key, value, cls))
                 return;
         }
     }
-    loadEntry(key, value.toObject(), type);
+    loadEntry(key, value.toObject(), type, position);
 }
 
-void ConfStorage::loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type)
+void ConfStorage::loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type,
+                            LoadPosition &position)
 {
-    const auto stored = mConfValues.find(key);
+    const auto stored = position.valueOf(key);
     if (stored == mConfValues.end())
         return;
-    ConfMeta &meta = mConfMetas[key];
-    if (type != LoadLocal && (meta.flags & FlagLocalOnly))
+    const auto meta = position.metaOf(key);
+    position.known = true;
+    position.value = std::next(stored);
+    position.meta = std::next(meta);
+    if (type != LoadLocal && (meta->flags & FlagLocalOnly))
         return;
 
     const auto time = entry.constFind(sTimeKey);
     const bool hasTime = time != entry.constEnd();
-    if (!meta.lastChangeTime.isNull() && hasTime
-        && meta.lastChangeTime.toSecsSinceEpoch() >= time.value().toInt())
+    const int seconds = hasTime ? time.value().toInt() : 0;
+    if (!meta->lastChangeTime.isNull() && hasTime
+        && meta->lastChangeTime.toSecsSinceEpoch() >= seconds)
         return;
-    meta.lastChangeTime = hasTime ? QDateTime::fromSecsSinceEpoch(time.value().toInt(), Qt::UTC)
-                                  : QDateTime::currentDateTimeUtc();
+    meta->lastChangeTime = hasTime ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)
+                                   : QDateTime::currentDateTimeUtc();
 
     const auto value = entry.constFind(sValueKey);
+    if (value != entry.constEnd() && !meta->changedCallback && isTyped(*stored)) {
+        stored->loadFromJsonValue(value.value());
+        meta->flags &= ~FlagIsDefault;
+        return;
+    }
+    position.known = false;
     if (value == entry.constEnd()) {
         setToDefault(key, false);
         return;
     }
     stored->loadFromJsonValue(value.value());
-    callChangedCallback(key, meta);
+    callChangedCallback(key, mConfMetas[key]);
     // Looked up again: the callback may have removed the key.
     const auto record = mConfMetas.find(key);
     if (record != mConfMetas.end())

@@ -3,6 +3,8 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <unistd.h>
@@ -25,6 +27,8 @@ private Q_SLOTS:
 
     void emptyPathIsLogged();
     void savedFileIsCompactAndSorted();
+    void fileHoldsTheBytesOfTheDump_data();
+    void fileHoldsTheBytesOfTheDump();
     void unchangedStoreWritesNothing();
     void fileThatCannotBeOpenedStaysPending_data();
     void fileThatCannotBeOpenedStaysPending();
@@ -94,6 +98,61 @@ void tst_ConfStorageFile::savedFileIsCompactAndSorted()
              QStringList("ConfStorage::saveToLocalConfFile() save to file:  \"local.json\""));
     QCOMPARE(log.messages().size(), 1);
     QVERIFY(!mStore->mChanged);
+}
+
+void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QByteArray>("text");
+    const auto row = [](const char *name, const QJsonValue &value, const char *text) {
+        QTest::newRow(name) << "k" << value << QByteArray(text);
+    };
+    row("plain text", "Size 1", "\"Size 1\"");
+    row("empty text", "", "\"\"");
+    row("quote and backslash", "a\"b\\", R"("a\"b\\")");
+    row("line break", "a\nb", R"("a\nb")");
+    row("control character", QString(QChar(0x1f)), R"("\u001f")");
+    row("delete character", QString(QChar(0x7f)), "\"\x7f\"");
+    row("two bytes", QString::fromUtf8("ß"), "\"ß\"");
+    row("surrogate pair", QString::fromUtf8("😀"), "\"😀\"");
+    row("half a surrogate pair", QString(QChar(0xd83d)), R"("\ud83d")");
+    row("zero", 0, "0");
+    row("negative zero", -0.0, "0");
+    row("negative", -12, "-12");
+    row("fraction", 0.1, "0.1");
+    row("largest exact integer", 9007199254740991.0, "9007199254740991");
+    row("large number", 1e300, "1e+300");
+    row("flag", true, "true");
+    row("array", QJsonArray{1, "a", QJsonArray()}, R"([1,"a",[]])");
+    row("object", QJsonObject{{"b", 1}, {"a", QJsonValue()}}, R"({"a":null,"b":1})");
+    QTest::newRow("key with a quote") << "k\"" << QJsonValue(1) << QByteArray("1");
+    QTest::newRow("key of two bytes") << QString::fromUtf8("ключ") << QJsonValue(1) << QByteArray("1");
+}
+
+void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump()
+{
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, value);
+    QFETCH(QByteArray, text);
+    const auto hold = [&](const auto &initial) {
+        mStore->mConfValues[key] = ConfValue::owned(initial);
+        mStore->loadValueFromJson(key, value);
+    };
+    switch (value.type()) {
+    case QJsonValue::Bool: hold(false); break;
+    case QJsonValue::Double: hold(0.0); break;
+    case QJsonValue::String: hold(QString()); break;
+    case QJsonValue::Array: hold(QJsonArray()); break;
+    default: hold(QJsonObject()); break;
+    }
+    mStore->saveToLocalConfFile();
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray written = file.readAll();
+    QVERIFY2(written.endsWith(",\"v\":" + text + "}}"), written);
+    QCOMPARE(written, QJsonDocument(mStore->dumpConf(ConfStorage::DumpLocal))
+                          .toJson(QJsonDocument::Compact));
 }
 
 void tst_ConfStorageFile::unchangedStoreWritesNothing()

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void removalOfNoClassIsLogged();
     void removalsIgnoreTheLocalOnlyFlag();
     void dumpIsSortedByKey();
+    void laterMemberOfTheSameNameCounts();
+    void membersLoadPastKeysThatOnlyOneSideKnows();
     void loadedEntry_data();
     void loadedEntry();
     void entryWithoutTimeIsNew();
@@ -189,6 +191,42 @@ void tst_ConfStorageJson::dumpIsSortedByKey()
     for (const char *key : {"a", "b", "b!", "b."})
         change(key, 5, 100);
     QCOMPARE(dumped().keys(), (QStringList{"a", "b!", "b#s.mac", "b."}));
+}
+
+void tst_ConfStorageJson::laterMemberOfTheSameNameCounts()
+{
+    // "a#s.mac" is the marked name of the first and the bare name of the second key.
+    int bare = 3;
+    mStore->reserveConf("a#s.mac", &bare);
+    mStore->reserveConf("a!", &mB);
+    mStore->mConfMetas["a"].flags |= ConfStorage::FlagSystemIndependent;
+    mStore->set("a", 10);
+    mStore->set("a!", 20);
+    mStore->set("a#s.mac", 30);
+    mStore->mLocalSaveFile = "dump.json";
+    mStore->saveToLocalConfFile();
+    QFile file(mStore->mLocalSaveFile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonObject written = QJsonDocument::fromJson(file.readAll()).object();
+    QCOMPARE(written.keys(), (QStringList{"a!", "a#s.mac"}));
+    QCOMPARE(written["a!"].toObject()["v"].toInt(), 20);
+    QCOMPARE(written["a#s.mac"].toObject()["v"].toInt(), 30);
+    QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal), written);
+}
+
+void tst_ConfStorageJson::membersLoadPastKeysThatOnlyOneSideKnows()
+{
+    int c = 3, d = 4;
+    mStore->reserveConf("c", &c);
+    mStore->reserveConf("d", &d);
+    mStore->mConfMetas.remove("c");
+    mStore->loadConf(QJsonObject{{"a", entry(100, 10)}, {"aa", entry(100, 11)},
+                                 {"c", entry(100, 30)}, {"d", entry(100, 40)},
+                                 {"e", entry(100, 50)}}, ConfStorage::LoadLocal);
+    QCOMPARE((QList<int>{mA, mB, c, d}), (QList<int>{10, 2, 30, 40}));
+    QCOMPARE(mStore->mConfMetas.keys(), (QStringList{"a", "b", "c", "d"}));
+    QCOMPARE(mStore->mConfMetas["c"].lastChangeTime, at(100));
+    QCOMPARE(mStore->mConfMetas["c"].flags, 0u);
 }
 
 void tst_ConfStorageJson::loadedEntry_data()

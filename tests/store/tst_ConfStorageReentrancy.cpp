@@ -29,6 +29,7 @@ private Q_SLOTS:
     void callbackMayRemoveItsDynamicKey();
     void callbackMayLoadTheSameObjectAgain();
     void callbackMayChangeTheLoadedObject();
+    void callbackMayReplaceTheKeysThatLoadNext();
     void callbackMayReloadTheLocalFile();
     void callbackMaySaveWhileTheFileIsLoaded();
     void creatorMayRemoveItsClass();
@@ -213,6 +214,23 @@ void tst_ConfStorageReentrancy::callbackMayChangeTheLoadedObject()
     });
     QCOMPARE(mStore->loadConf(conf, ConfStorage::LoadLocal), 2);
     QCOMPARE(last, 3);
+}
+
+void tst_ConfStorageReentrancy::callbackMayReplaceTheKeysThatLoadNext()
+{
+    int first = 0, next = 0, last = 0;
+    mStore->reserveConf("a", &first);
+    mStore->reserveConf("b", &first);
+    mStore->reserveConf("c", &last);
+    mStore->setConfChangedCallback("a", [&](const QString &, const ConfValue *) {
+        mStore->mConfValues.remove("b");
+        mStore->mConfMetas.clear();
+        mStore->reserveConf("b", &next);
+    });
+    const QJsonObject newer{{"t", 100}, {"v", 5}};
+    mStore->loadConf(QJsonObject{{"a", newer}, {"b", newer}, {"c", newer}}, ConfStorage::LoadLocal);
+    QCOMPARE((QList<int>{first, next, last}), (QList<int>{5, 5, 5}));
+    QCOMPARE(mStore->mConfMetas.keys(), (QStringList{"b", "c"}));
 }
 
 void tst_ConfStorageReentrancy::callbackMayReloadTheLocalFile()

@@ -1,0 +1,138 @@
+#include <MaltoConfiguration/store/ConfDump_p.h>
+
+#include <MaltoConfiguration/store/JsonText_p.h>
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QLatin1String sTimeKey("t", 1);
+constexpr QLatin1String sValueKey("v", 1);
+constexpr QLatin1String sRemovedKey("d", 1);
+
+} // namespace
+
+ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
+    : mType(type), mValues(store.mConfValues), mMetas(store.mConfMetas)
+{
+    collectValues();
+    if (type != ConfStorage::DumpChangedOnly)
+        collectRemoved(store);
+    sortMembers();
+}
+
+void ConfDump::collectValues()
+{
+    auto meta = mMetas.cbegin();
+    for (auto value = mValues.cbegin(); value != mValues.cend(); ++value) {
+        // Both maps mostly have the same keys: the record of the next key is the next record.
+        if (meta == mMetas.cend() || meta.key() != value.key())
+            meta = mMetas.constFind(value.key());
+        if (meta == mMetas.cend())
+            continue;
+        const auto record = meta++;
+        const quint32 flags = record->flags;
+        if (record->lastChangeTime.isNull())
+            continue;
+        if (mType != ConfStorage::DumpLocal && (flags & ConfStorage::FlagLocalOnly))
+            continue;
+        const bool isDefault = flags & ConfStorage::FlagIsDefault;
+        qint64 time = 0;
+        if (mType == ConfStorage::DumpChangedOnly) {
+            if (isDefault)
+                continue;
+        } else {
+            time = record->lastChangeTime.toSecsSinceEpoch();
+            if (time == 0)
+                continue;
+        }
+        const bool marked = flags & ConfStorage::FlagSystemIndependent;
+        mMembers.push_back({marked ? addSysMark(value.key()) : value.key(), time, &*value, isDefault});
+    }
+}
+
+void ConfDump::collectRemoved(const ConfStorage &store)
+{
+    const QMap<QString, QDateTime> removed = store.mRemovedDynamicConfs;
+    for (auto it = removed.cbegin(); it != removed.cend(); ++it) {
+        const ConfStorage::DynamicConfClass *cls = store.findDynamicConfClass(it.key());
+        const bool marked = cls && (cls->flags & ConfStorage::FlagSystemIndependent);
+        if (!cls)
+            qCritical() << "dumpConf findDynamicConfClass error : " << it.key();
+        mMembers.push_back({marked ? addSysMark(it.key()) : it.key(), it->toSecsSinceEpoch(),
+                            nullptr, false});
+    }
+}
+
+/// Marks and removals stand out of order. Of members of one name the last one counts.
+void ConfDump::sortMembers()
+{
+    const auto precedes = [](const Member &a, const Member &b) { return a.name < b.name; };
+    const auto isUnordered = [](const Member &a, const Member &b) { return !(a.name < b.name); };
+    if (std::adjacent_find(mMembers.cbegin(), mMembers.cend(), isUnordered) == mMembers.cend())
+        return;
+    std::stable_sort(mMembers.begin(), mMembers.end(), precedes);
+    const auto lastOfEach = std::unique(mMembers.rbegin(), mMembers.rend(),
+                                        [](const Member &a, const Member &b) {
+                                            return a.name == b.name;
+                                        });
+    mMembers.erase(mMembers.begin(), lastOfEach.base());
+}
+
+QJsonObject ConfDump::toObject() const
+{
+    QJsonObject object;
+    for (const Member &member : mMembers)
+        object.insert(member.name, entryOf(member));
+    return object;
+}
+
+QJsonObject ConfDump::entryOf(const Member &member) const
+{
+    if (!member.value)
+        return {{sRemovedKey, member.time}};
+    QJsonObject entry;
+    if (mType != ConfStorage::DumpChangedOnly)
+        entry.insert(sTimeKey, member.time);
+    if (!member.isDefault)
+        entry.insert(sValueKey, member.value->toJsonValue());
+    return entry;
+}
+
+QByteArray ConfDump::toText() const
+{
+    constexpr size_t usualSize = 64; // of one member
+    QByteArray text;
+    text.reserve(static_cast<int>(std::min(mMembers.size(), size_t(1) << 20) * usualSize));
+    text += '{';
+    for (const Member &member : mMembers) {
+        if (text.size() > 1)
+            text += ',';
+        appendJsonString(text, member.name);
+        text += ":{";
+        appendEntry(text, member);
+        text += '}';
+    }
+    text += '}';
+    return text;
+}
+
+void ConfDump::appendEntry(QByteArray &text, const Member &member) const
+{
+    if (!member.value) {
+        text += "\"d\":";
+        appendJsonValue(text, member.time);
+        return;
+    }
+    const bool timed = mType != ConfStorage::DumpChangedOnly;
+    if (timed) {
+        text += "\"t\":";
+        appendJsonValue(text, member.time);
+    }
+    if (!member.isDefault) {
+        text += timed ? ",\"v\":" : "\"v\":";
+        appendJsonValue(text, member.value->toJsonValue());
+    }
+}

@@ -1,0 +1,69 @@
+#include <MaltoConfiguration/store/JsonText_p.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonValue>
+#include <QString>
+
+#include <cmath>
+
+namespace {
+
+constexpr double sLargestExactInteger = 9007199254740992.0; // 2^53
+
+/// As the only element of an array: an element has the same text wherever it stands.
+void appendByDocument(QByteArray &text, const QJsonValue &value)
+{
+    const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+    text.append(array.constData() + 1, array.size() - 2);
+}
+
+/// Whether the character stands for itself in JSON, and is one byte long there.
+bool isPlain(ushort character)
+{
+    return character >= 0x20 && character < 0x7f && character != '"' && character != '\\';
+}
+
+} // namespace
+
+void appendJsonString(QByteArray &text, const QString &string)
+{
+    const int start = text.size();
+    text.resize(start + string.size() + 2);
+    char *out = text.data() + start;
+    *out++ = '"';
+    for (const QChar character : string) {
+        if (!isPlain(character.unicode())) {
+            text.truncate(start);
+            appendByDocument(text, string);
+            return;
+        }
+        *out++ = static_cast<char>(character.unicode());
+    }
+    *out = '"';
+}
+
+void appendJsonValue(QByteArray &text, const QJsonValue &value)
+{
+    switch (value.type()) {
+    case QJsonValue::Bool:
+        text += value.toBool() ? "true" : "false";
+        return;
+    case QJsonValue::String:
+        appendJsonString(text, value.toString());
+        return;
+    case QJsonValue::Double: {
+        const double number = value.toDouble();
+        // Zero may be negative, and is written with its sign then.
+        if (number != 0 && std::abs(number) < sLargestExactInteger && std::trunc(number) == number) {
+            text += QByteArray::number(static_cast<qint64>(number));
+            return;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    appendByDocument(text, value);
+}
