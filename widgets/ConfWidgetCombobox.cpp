@@ -83,15 +83,16 @@ void ConfWidgetCombobox::retranslateUi()
 {
     ConfigItemWidget::retranslateUi();
     mComboBox->setAccessibleName(translatedText());
-    auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
-    for (int i = 0; i < mItemTexts.size(); ++i) {
-        if (!mItemTexts.at(i))
-            continue;
-        const QString text = QObject::tr(mItemTexts.at(i));
-        if (multi)
-            multi->setItemText(i, text);
-        else
-            mComboBox->setItemText(i, text);
+    QStringList texts;
+    for (const char *text : qAsConst(mItemTexts))
+        texts.append(text ? QObject::tr(text) : QString());
+    if (auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox)) {
+        multi->setItemTexts(texts);
+        return;
+    }
+    for (int i = 0; i < texts.size(); ++i) {
+        if (mItemTexts.at(i))
+            mComboBox->setItemText(i, texts.at(i));
     }
 }
 
@@ -111,13 +112,15 @@ void ConfWidgetCombobox::loadChecks()
 {
     auto *multi = static_cast<MultiSelectComboBox *>(mComboBox);
     const int stored = readValue<int>();
-    for (int i = 0; i < multi->count(); ++i) {
+    QVector<bool> checks(multi->count());
+    for (int i = 0; i < checks.size(); ++i) {
         bool checked = false;
         QVariant flag;
         multi->getItemData(i, checked, flag);
         // A label of several bits needs all of them, and one of none is always checked.
-        multi->setItemChecked(i, (flag.toInt() & ~stored) == 0);
+        checks[i] = (flag.toInt() & ~stored) == 0;
     }
+    multi->setItemsChecked(checks);
 }
 
 void ConfWidgetCombobox::loadSelection()

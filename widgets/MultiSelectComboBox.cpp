@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSet>
+#include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QtMath>
@@ -110,6 +111,9 @@ MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
     setLineEdit(mLineEdit);
     connect(this, QOverload<int>::of(&QComboBox::activated),
             this, &MultiSelectComboBox::itemClicked);
+    // The combo box writes the text of its current row, which says nothing here.
+    connect(mLineEdit, &QLineEdit::textChanged, this, &MultiSelectComboBox::showText);
+    alignText();
 }
 
 MultiSelectComboBox::~MultiSelectComboBox() = default;
@@ -159,14 +163,37 @@ void MultiSelectComboBox::setItemChecked(int index, bool checked)
         box->setChecked(checked);
 }
 
+void MultiSelectComboBox::setItemsChecked(const QVector<bool> &checked)
+{
+    bool changed = false;
+    for (int i = 0; i < count() && i < checked.size(); ++i) {
+        QCheckBox *box = checkBox(i);
+        if (!box || box->isChecked() == checked.at(i))
+            continue;
+        const QSignalBlocker blocker(box);
+        box->setChecked(checked.at(i));
+        changed = true;
+    }
+    if (changed)
+        stateChanged(Qt::Checked);
+}
+
 void MultiSelectComboBox::setItemText(int index, const QString &text)
 {
-    QCheckBox *box = checkBox(index);
-    if (!box)
-        return;
-    box->setText(text);
-    if (box->isChecked())
+    if (QCheckBox *box = checkBox(index)) {
+        box->setText(text);
         showSelection();
+    }
+}
+
+void MultiSelectComboBox::setItemTexts(const QStringList &texts)
+{
+    for (int i = 0; i < count() && i < texts.size(); ++i) {
+        QCheckBox *box = checkBox(i);
+        if (box && !texts.at(i).isNull())
+            box->setText(texts.at(i));
+    }
+    showSelection();
 }
 
 QStringList MultiSelectComboBox::currentText() const
@@ -263,10 +290,25 @@ void MultiSelectComboBox::showSelection()
             checked.append(box->text());
     }
     const QString text = checked.join(QLatin1Char(';'));
-    mLineEdit->setText(elided(text, mMaxDisplayLength));
+    mShownText = elided(text, mMaxDisplayLength);
+    showText();
+    mLineEdit->setToolTip(text);
+}
+
+void MultiSelectComboBox::showText()
+{
+    if (mLineEdit->text() != mShownText)
+        mLineEdit->setText(mShownText);
     // A field that is too narrow shows the beginning, not the end.
     mLineEdit->home(false);
-    mLineEdit->setToolTip(text);
+}
+
+void MultiSelectComboBox::alignText()
+{
+    // Line edits follow the direction of their text. The text of a combo box stands where lines
+    // begin in the language of the window.
+    const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    mLineEdit->setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
 void MultiSelectComboBox::stateChanged(int state)
@@ -274,6 +316,22 @@ void MultiSelectComboBox::stateChanged(int state)
     Q_UNUSED(state)
     showSelection();
     Q_EMIT selectionChanged();
+}
+
+void MultiSelectComboBox::changeEvent(QEvent *event)
+{
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignText();
+    else if (event->type() == QEvent::EnabledChange && !isEnabled())
+        QComboBox::hidePopup();
+}
+
+void MultiSelectComboBox::hideEvent(QHideEvent *event)
+{
+    QComboBox::hideEvent(event);
+    // Also with the cursor on it: a list must not outlive the sight of its box.
+    QComboBox::hidePopup();
 }
 
 void MultiSelectComboBox::wheelEvent(QWheelEvent *event)

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 
 #include <memory>
 
@@ -15,7 +16,8 @@ class QLineEdit;
 class QListWidget;
 
 /// A combo box whose rows are check boxes. Any number of them can be checked; the closed box shows
-/// the checked texts, and its list stays open while one clicks inside it.
+/// the checked texts, and its list stays open while one clicks inside it. Hiding or disabling the
+/// box closes its list.
 ///
 /// Several functions of QComboBox have others of the same name here that work on check boxes, so
 /// use the box through this class: rows that are added through a `QComboBox` pointer are plain
@@ -39,9 +41,15 @@ public:
     int findItemByUserData(const QVariant &userData) const;
     /// Checks or unchecks entry `index`.
     void setItemChecked(int index, bool checked);
+    /// Checks or unchecks each entry as `checked` says for its index; entries beyond it stay as they
+    /// are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if anything has
+    /// changed.
+    void setItemsChecked(const QVector<bool> &checked);
     /// Gives entry `index` another text, also in the closed box. The selection is the same after
     /// it: `selectionChanged` is not emitted.
     void setItemText(int index, const QString &text);
+    /// `setItemText` for the entries from the first on; an entry whose text is null keeps its own.
+    void setItemTexts(const QStringList &texts);
 
     /// The parts between the ";" of the text that the closed box shows; empty when it shows none.
     /// A text that is too long to be shown whole is cut here too: its last part ends with "...".
@@ -81,6 +89,8 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -89,10 +99,13 @@ private:
 
     QCheckBox *checkBox(int index) const;
     void showSelection();
+    void showText();
+    void alignText();
 
     int mMaxDisplayLength = 32;
     std::unique_ptr<MultiSelectComboBoxPrivate> d;
     QListWidget *mListWidget = nullptr;
     QLineEdit *mLineEdit = nullptr;
     QDateTime mLastHideTime;
+    QString mShownText;
 };

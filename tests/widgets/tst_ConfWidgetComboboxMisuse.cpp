@@ -1,4 +1,5 @@
 #include "ComboboxFixture.h"
+#include "support/LogCapture.h"
 #include "support/TestMain.h"
 
 #include <QPointer>
@@ -18,8 +19,28 @@ private Q_SLOTS:
     void callbackMayDeleteTheEditor();
     void callbackMayDeleteTheSlotsEditor();
     void callbackMayRefuseTheChange();
+    void callbackMayLoadTheEditorAgain_data();
+    void callbackMayLoadTheEditorAgain();
+    void keyMayBeRemovedWhileItIsShown_data();
+    void keyMayBeRemovedWhileItIsShown();
+    void callbackMayFillTheListAgain_data();
+    void callbackMayFillTheListAgain();
+    void editorMayGoWhileItsListIsOpen_data();
+    void editorMayGoWhileItsListIsOpen();
     void tenThousandLabels_data();
     void tenThousandLabels();
+
+private:
+    static void bothKinds()
+    {
+        QTest::addColumn<bool>("multi");
+        QTest::newRow("in a single selection") << false;
+        QTest::newRow("in a multi-selection") << true;
+    }
+    QList<int> shownRows() const
+    {
+        return mMulti ? checkedRows() : QList<int>{mBox->currentIndex()};
+    }
 };
 
 void tst_ConfWidgetComboboxMisuse::callbackMayDeleteTheEditor_data()
@@ -81,11 +102,98 @@ void tst_ConfWidgetComboboxMisuse::callbackMayRefuseTheChange()
     QCOMPARE(changedMark(editor), QString("0"));
 }
 
+void tst_ConfWidgetComboboxMisuse::callbackMayLoadTheEditorAgain_data()
+{
+    bothKinds();
+}
+
+void tst_ConfWidgetComboboxMisuse::callbackMayLoadTheEditorAgain()
+{
+    QFETCH(bool, multi);
+    ConfItem *item = intItem();
+    ConfWidgetCombobox *editor = edit(item, multi);
+    editor->setSelectItem({"A", "B"}, {1, 2});
+    int calls = 0;
+    item->setConfChangedCallback([&](const QString &key, const ConfValue *) {
+        if (++calls == 1)
+            mFixture->store()->set<int>(key, 1);
+        editor->loadConf();
+    });
+    clickRow(1);
+    QCOMPARE(mInt, 1);
+    QCOMPARE(calls, 2);
+    QCOMPARE(shownRows(), QList<int>{0});
+    QCOMPARE(changedMark(editor), QString("1"));
+}
+
+void tst_ConfWidgetComboboxMisuse::keyMayBeRemovedWhileItIsShown_data()
+{
+    bothKinds();
+}
+
+void tst_ConfWidgetComboboxMisuse::keyMayBeRemovedWhileItIsShown()
+{
+    QFETCH(bool, multi);
+    mInt = 1;
+    ConfWidgetCombobox *editor = edit(intItem(), multi);
+    editor->setSelectItem({"A", "B"}, {1, 2});
+    mFixture->store()->mConfValues.remove("Capture.Mode");
+    const LogCapture log;
+    clickRow(1);
+    QVERIFY(log.texts(QtWarningMsg)
+                .contains("ConfStorage::set key not found:  \"Capture.Mode\""));
+    QCOMPARE(mInt, 1);
+    editor->loadConf();
+    editor->retranslateUi();
+    QCOMPARE(mBox->count(), 2);
+}
+
+void tst_ConfWidgetComboboxMisuse::callbackMayFillTheListAgain_data()
+{
+    bothKinds();
+}
+
+void tst_ConfWidgetComboboxMisuse::callbackMayFillTheListAgain()
+{
+    QFETCH(bool, multi);
+    ConfItem *item = intItem();
+    ConfWidgetCombobox *editor = edit(item, multi);
+    editor->setSelectItem({"A", "B"}, {1, 2});
+    item->setConfChangedCallback([this, editor](const QString &, const ConfValue *) {
+        if (mMulti)
+            mMulti->clear();
+        else
+            mBox->clear();
+        editor->setSelectItem({"C", "D", "E"}, {1, 2, 4});
+    });
+    clickRow(1);
+    QCOMPARE(mInt, 2);
+    QCOMPARE(shownRows(), QList<int>{1});
+    QCOMPARE(multi ? checkBox(1)->text() : mBox->currentText(), QString("D"));
+}
+
+void tst_ConfWidgetComboboxMisuse::editorMayGoWhileItsListIsOpen_data()
+{
+    bothKinds();
+}
+
+void tst_ConfWidgetComboboxMisuse::editorMayGoWhileItsListIsOpen()
+{
+    QFETCH(bool, multi);
+    ConfWidgetCombobox *editor = edit(intItem(), multi);
+    editor->setSelectItem({"A", "B"}, {1, 2});
+    QVERIFY(mFixture->show());
+    mBox->showPopup();
+    QVERIFY(QTest::qWaitForWindowExposed(mBox->view()->window()));
+    QCursor::setPos(mBox->view()->mapToGlobal(QPoint(5, 5)));
+    delete editor;
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(mInt, 0);
+}
+
 void tst_ConfWidgetComboboxMisuse::tenThousandLabels_data()
 {
-    QTest::addColumn<bool>("multi");
-    QTest::newRow("in a single selection") << false;
-    QTest::newRow("in a multi-selection") << true;
+    bothKinds();
 }
 
 void tst_ConfWidgetComboboxMisuse::tenThousandLabels()

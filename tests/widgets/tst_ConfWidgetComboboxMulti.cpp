@@ -25,6 +25,10 @@ private Q_SLOTS:
     void loadingFlagsLeavesCaptionAndStore();
     void plainTextsInAMultiSelection();
     void multiSlotNeedsAMultiBox();
+    void bitsWithoutALabelGoWithTheFirstClick();
+    void labelsOfTheSameBitAreCheckedTogetherWhenLoaded();
+    void secondListIsCheckedToo();
+    void textItemKeepsItsText();
 };
 
 void tst_ConfWidgetComboboxMulti::flagsAreChecked_data()
@@ -139,6 +143,54 @@ void tst_ConfWidgetComboboxMulti::multiSlotNeedsAMultiBox()
     editor->onMultiSelectionChanged();
     QCOMPARE(mInt, 1);
     QVERIFY(!mFixture->store()->mChanged);
+}
+
+void tst_ConfWidgetComboboxMulti::bitsWithoutALabelGoWithTheFirstClick()
+{
+    mInt = 0x71;
+    edit(intItem(), true)->setSelectItem({"A", "B", "C"}, {1, 2, 4});
+    QVERIFY(mFixture->show());
+    mBox->showPopup();
+    clickBox(2);
+    QCOMPARE(mInt, 5);
+}
+
+void tst_ConfWidgetComboboxMulti::labelsOfTheSameBitAreCheckedTogetherWhenLoaded()
+{
+    ConfWidgetCombobox *editor = edit(intItem(), true);
+    editor->setSelectItem({"A", "A too", "B"}, {1, 1, 2});
+    QVERIFY(mFixture->show());
+    mBox->showPopup();
+    clickBox(0);
+    QCOMPARE(mInt, 1);
+    QCOMPARE(checkedRows(), QList<int>{0});
+    editor->loadConf();
+    QCOMPARE(checkedRows(), (QList<int>{0, 1}));
+    clickBox(0);
+    QCOMPARE(mInt, 1);
+    clickBox(1);
+    QCOMPARE(mInt, 0);
+}
+
+void tst_ConfWidgetComboboxMulti::secondListIsCheckedToo()
+{
+    mInt = 6;
+    ConfWidgetCombobox *editor = edit(intItem(), true);
+    editor->setSelectItem({"A", "B"}, {1, 2});
+    editor->setSelectItem({"C"}, {4});
+    QCOMPARE(checkedRows(), (QList<int>{1, 2}));
+    editor->retranslateUi();
+    QCOMPARE(mMulti->currentText(), (QStringList{"B", "C"}));
+    QCOMPARE(mInt, 6);
+}
+
+void tst_ConfWidgetComboboxMulti::textItemKeepsItsText()
+{
+    mString = "B";
+    edit(stringItem(), true)->setSelectItem({"A", "B"}, {1, 2});
+    QTest::ignoreMessage(QtWarningMsg, "ConfValue::get() type mismatch");
+    mMulti->setItemChecked(0, true);
+    QCOMPARE(mString, QString("B"));
 }
 
 int main(int argc, char **argv)

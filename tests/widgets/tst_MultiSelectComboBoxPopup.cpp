@@ -28,6 +28,9 @@ private Q_SLOTS:
     void clearWhileTheListIsOpen();
     void deletedWhileTheListIsOpen();
     void deletedLaterByAReceiver();
+    void goneOrDisabledBoxClosesItsList_data();
+    void goneOrDisabledBoxClosesItsList();
+    void keyboardTogglesTheRowOfTheOpenList();
     void tenThousandEntries();
 };
 
@@ -245,6 +248,41 @@ void tst_MultiSelectComboBoxPopup::deletedLaterByAReceiver()
     click(rowEndPoint(0));
     QTRY_VERIFY(!box);
     QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_MultiSelectComboBoxPopup::goneOrDisabledBoxClosesItsList_data()
+{
+    QTest::addColumn<bool>("hide");
+    QTest::newRow("hidden") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void tst_MultiSelectComboBoxPopup::goneOrDisabledBoxClosesItsList()
+{
+    QFETCH(bool, hide);
+    mBox->addItems({"A", "B"});
+    openByClick();
+    connect(mBox, &MultiSelectComboBox::selectionChanged, mBox, [this, hide] {
+        hide ? mBox->hide() : mBox->setEnabled(false);
+    });
+    click(indicatorPoint(0));
+    QVERIFY(!isOpen());
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(isChecked(0));
+}
+
+void tst_MultiSelectComboBoxPopup::keyboardTogglesTheRowOfTheOpenList()
+{
+    mBox->addItems({"A", "B"});
+    openByClick();
+    placeCursor(rowEndPoint(1));
+    QTRY_COMPARE(mBox->view()->currentIndex().row(), 1);
+    QTest::keyClick(mBox->view(), Qt::Key_Return);
+    QCOMPARE(mText->text(), QString("B"));
+    QTest::keyClick(mBox->view(), Qt::Key_Up);
+    QTest::keyClick(mBox->view(), Qt::Key_Return);
+    QCOMPARE(mText->text(), QString("A;B"));
+    QVERIFY(isOpen());
 }
 
 void tst_MultiSelectComboBoxPopup::tenThousandEntries()

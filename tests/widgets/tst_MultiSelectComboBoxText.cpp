@@ -4,6 +4,10 @@
 #include <QSignalSpy>
 #include <QStyleOptionComboBox>
 
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void(QComboBox *)>)
+
 /// The text that the closed box shows, and the room that it asks for.
 class tst_MultiSelectComboBoxText : public QObject, private MultiSelectFixture
 {
@@ -17,6 +21,11 @@ private Q_SLOTS:
     void shownTextFollowsTheEntriesOrder();
     void everyRebuildEmitsSelectionChanged();
     void setItemTextShowsWithoutASignal();
+    void manyTextsAtOnceShowWithoutASignal();
+    void manyChecksAtOnceEmitOnce();
+    void shownTextSurvivesWhatAComboBoxWrites_data();
+    void shownTextSurvivesWhatAComboBoxWrites();
+    void textStandsWhereLinesBegin();
     void focusThatLeavesChangesNothing();
     void hintOfAnEmptyBox();
     void hintOfAllTexts_data();
@@ -119,6 +128,81 @@ void tst_MultiSelectComboBoxText::setItemTextShowsWithoutASignal()
     QCOMPARE(mText->text(), QString("Alpha"));
     QCOMPARE(mText->toolTip(), QString("Alpha"));
     QCOMPARE(spy.count(), 0);
+}
+
+void tst_MultiSelectComboBoxText::manyTextsAtOnceShowWithoutASignal()
+{
+    mBox->addItems({"A", "B", "C"});
+    mBox->setCurrentText(QStringList{"A", "B", "C"});
+    const QSignalSpy spy(mBox, &MultiSelectComboBox::selectionChanged);
+    mBox->setItemTexts({"Alpha", QString()});
+    QCOMPARE(mText->text(), QString("Alpha;B;C"));
+    mBox->setItemTexts({"a", "", "c", "behind the last"});
+    QCOMPARE(mText->text(), QString("a;;c"));
+    QCOMPARE(mText->toolTip(), QString("a;;c"));
+    QCOMPARE(spy.count(), 0);
+}
+
+void tst_MultiSelectComboBoxText::manyChecksAtOnceEmitOnce()
+{
+    mBox->addItems({"A", "B", "C"});
+    const QSignalSpy spy(mBox, &MultiSelectComboBox::selectionChanged);
+    mBox->setItemsChecked({true, false, true, true});
+    QCOMPARE(mText->text(), QString("A;C"));
+    QCOMPARE(spy.count(), 1);
+    mBox->setItemsChecked({false});
+    QCOMPARE(mText->text(), QString("C"));
+    QCOMPARE(spy.count(), 2);
+    mBox->setItemsChecked({false, false, true});
+    mBox->setItemsChecked({});
+    QCOMPARE(spy.count(), 2);
+}
+
+void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites_data()
+{
+    using Action = std::function<void(QComboBox *)>;
+    QTest::addColumn<Action>("action");
+    QTest::newRow("another current row") << Action([](QComboBox *box) { box->setCurrentIndex(1); });
+    QTest::newRow("no current row") << Action([](QComboBox *box) { box->setCurrentIndex(-1); });
+    QTest::newRow("an icon") << Action([](QComboBox *box) {
+        QPixmap pixmap(8, 8);
+        pixmap.fill(Qt::red);
+        box->setItemIcon(0, pixmap);
+    });
+    QTest::newRow("an edited text") << Action([](QComboBox *box) { box->setEditText("X"); });
+    QTest::newRow("its text as a property")
+        << Action([](QComboBox *box) { box->setProperty("currentText", "X"); });
+}
+
+void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites()
+{
+    QFETCH(std::function<void(QComboBox *)>, action);
+    mBox->addItems({"A", "B", "C"});
+    mBox->setCurrentText(QStringList{"A", "C"});
+    const QSignalSpy spy(mBox, &MultiSelectComboBox::selectionChanged);
+    action(mBox);
+    QCOMPARE(mText->text(), QString("A;C"));
+    QCOMPARE(mBox->currentText(), (QStringList{"A", "C"}));
+    QCOMPARE(spy.count(), 0);
+}
+
+void tst_MultiSelectComboBoxText::textStandsWhereLinesBegin()
+{
+    const QString hebrew(QChar(0x5d0));
+    mBox->addItems({"A", hebrew});
+    const auto cursor = [this] {
+        mText->grab(); // the text is placed when it is painted
+        return mText->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+    };
+    const int middle = mText->width() / 2;
+    for (const int entry : {0, 1}) {
+        mBox->ResetSelection();
+        mBox->setItemChecked(entry, true);
+        mBox->setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(cursor() < middle);
+        mBox->setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(cursor() > middle);
+    }
 }
 
 void tst_MultiSelectComboBoxText::focusThatLeavesChangesNothing()
