@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
+#include <MaltoConfiguration/widgets/FaintPlaceholder_p.h>
+
 #include <OrvUtils/GetKeySequence.h>
 #include <OrvUtils/QMsgeBox.h>
 #include <QIconfont/QIconfont.h>
@@ -61,6 +63,7 @@ KeySequenceEdit::KeySequenceEdit(QKeySequence sequence, QWidget *parent)
     mClearAction = addAction(icon, QLineEdit::TrailingPosition);
     mClearAction->setText(QString());
     connect(mClearAction, &QAction::triggered, this, &KeySequenceEdit::cleanSetting);
+    new FaintPlaceholder(this);
     retranslate();
     showSequence();
 }

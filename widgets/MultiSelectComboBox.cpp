@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
+#include <MaltoConfiguration/widgets/FaintPlaceholder_p.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QCursor>
@@ -104,6 +106,7 @@ MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
 {
     mLineEdit->setReadOnly(true);
     mLineEdit->installEventFilter(this);
+    new FaintPlaceholder(mLineEdit);
     setProperty("class", QStringLiteral("MultiSelectComboBox"));
     setModel(mListWidget->model());
     setView(mListWidget);

@@ -1,0 +1,258 @@
+#include "support/TestMain.h"
+
+#include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QGroupBox>
+#include <QListView>
+#include <QSpinBox>
+#include <QStyleOptionComboBox>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace {
+
+const QString sText = QStringLiteral("HHH");
+
+} // namespace
+
+/// How combo boxes look under the built-in style sheets, beside the other fields of a page.
+class tst_ComboBoxAppearance : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup()
+    {
+        mWindow.reset();
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    void textsBeginAtTheSamePlace_data();
+    void textsBeginAtTheSamePlace();
+    void checkBoxesAreAsLargeAsTheClosedText_data() { textsBeginAtTheSamePlace_data(); }
+    void checkBoxesAreAsLargeAsTheClosedText();
+    void rowsHaveThePanelsColours_data() { textsBeginAtTheSamePlace_data(); }
+    void rowsHaveThePanelsColours();
+    void longestTextFitsAtTheSmallestWidth_data() { textsBeginAtTheSamePlace_data(); }
+    void longestTextFitsAtTheSmallestWidth();
+    void placeholderIsFainterThanAText_data();
+    void placeholderIsFainterThanAText();
+    void placeholderColourOfTheHostStays();
+
+private:
+    static void applySheets(QWidget *widget, QThemeCtrl::Theme theme, double scale)
+    {
+        QThemeCtrl::instance()->setTheme(theme);
+        QThemeCtrl::instance()->handleQssFile(
+            widget, {":/qss/CommonWindow", ":/qss/ConfigurationWindow"}, scale);
+    }
+    void applyRow();
+    int textEdge(QWidget *field) const;
+    static bool openList(QComboBox *box);
+
+    std::unique_ptr<QWidget> mWindow;
+    QSpinBox *mSpin = nullptr;
+    QLineEdit *mLine = nullptr;
+    ComboboxDisableWheel *mPlain = nullptr;
+    MultiSelectComboBox *mMulti = nullptr;
+};
+
+void tst_ComboBoxAppearance::init()
+{
+    mWindow = std::make_unique<QWidget>();
+    mWindow->setObjectName("centralwidget");
+    mWindow->setAttribute(Qt::WA_StyledBackground);
+    mSpin = new QSpinBox;
+    mSpin->setPrefix(sText);
+    mLine = new QLineEdit(sText);
+    mPlain = new ComboboxDisableWheel;
+    mPlain->setView(new QListView(mPlain));
+    mPlain->addItems({sText, "H"});
+    mMulti = new MultiSelectComboBox;
+    mMulti->addItems({sText, "H"});
+    mMulti->setItemChecked(0, true);
+    auto *layout = new QVBoxLayout(mWindow.get());
+    for (QWidget *field : {static_cast<QWidget *>(mSpin), static_cast<QWidget *>(mLine),
+                           static_cast<QWidget *>(mPlain), static_cast<QWidget *>(mMulti)})
+        layout->addWidget(field);
+}
+
+/// Applies the theme, scale and direction of the test's row, and shows the window.
+void tst_ComboBoxAppearance::applyRow()
+{
+    QFETCH(bool, dark);
+    QFETCH(double, scale);
+    QFETCH(bool, rightToLeft);
+    QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    applySheets(mWindow.get(), dark ? QThemeCtrl::Theme::Dark : QThemeCtrl::Theme::Light, scale);
+    mWindow->resize(qRound(300 * scale), qRound(200 * scale));
+    mWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(mWindow.get()));
+}
+
+/// How far from the side where lines begin the first letter of `field` is painted, in pixels.
+int tst_ComboBoxAppearance::textEdge(QWidget *field) const
+{
+    const QImage image = mWindow->grab(field->geometry()).toImage();
+    const QColor ink = field->palette().color(QPalette::Text);
+    const bool fromRight = field->isRightToLeft();
+    const int row = image.height() / 2; // through the bars of every H
+    for (int i = 0; i < image.width(); ++i) {
+        const QColor color = image.pixelColor(fromRight ? image.width() - 1 - i : i, row);
+        if (qAbs(color.lightness() - ink.lightness()) < 60)
+            return i;
+    }
+    return -1;
+}
+
+bool tst_ComboBoxAppearance::openList(QComboBox *box)
+{
+    box->showPopup();
+    return QTest::qWaitForWindowExposed(box->view()->window());
+}
+
+void tst_ComboBoxAppearance::textsBeginAtTheSamePlace_data()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<double>("scale"); // pixels per point
+    QTest::addColumn<bool>("rightToLeft");
+    for (const bool dark : {false, true}) {
+        for (const bool doubled : {false, true}) {
+            for (const bool rightToLeft : {false, true}) {
+                QTest::addRow("%s, %s, %s", dark ? "dark" : "light", doubled ? "200%" : "100%",
+                              rightToLeft ? "right to left" : "left to right")
+                    << dark << (doubled ? 192 : 96) / 72.0 << rightToLeft;
+            }
+        }
+    }
+}
+
+void tst_ComboBoxAppearance::textsBeginAtTheSamePlace()
+{
+    applyRow();
+    const int edge = textEdge(mPlain);
+    QVERIFY(edge > 8);
+    const auto besideEdge = [edge, this](QWidget *field, int slack) {
+        const int other = textEdge(field);
+        if (qAbs(other - edge) > slack)
+            qWarning("%s begins at %d instead of %d", field->metaObject()->className(), other, edge);
+        return qAbs(other - edge) <= slack;
+    };
+    if (mWindow->isRightToLeft()) {
+        // A line edit keeps room for the cursor behind its text; others follow the text's direction.
+        QVERIFY(besideEdge(mMulti, 2));
+        return;
+    }
+    for (QWidget *field : {static_cast<QWidget *>(mMulti), static_cast<QWidget *>(mSpin),
+                           static_cast<QWidget *>(mLine)})
+        QVERIFY(besideEdge(field, 1));
+}
+
+void tst_ComboBoxAppearance::checkBoxesAreAsLargeAsTheClosedText()
+{
+    auto *group = new QGroupBox(mWindow.get());
+    group->setObjectName("ConfigGroupBox");
+    auto *groupLayout = new QVBoxLayout(group);
+    auto *inGroup = new MultiSelectComboBox;
+    inGroup->addItems({sText, "H"});
+    groupLayout->addWidget(inGroup);
+    group->setProperty("NoGroupBox", "1");
+    mWindow->layout()->addWidget(group);
+    applyRow();
+    int height = 0;
+    for (MultiSelectComboBox *box : {mMulti, inGroup}) {
+        QVERIFY(openList(box));
+        const QWidget *row = box->view()->indexWidget(box->model()->index(0, 0));
+        QCOMPARE(row->font().pointSize(), 14);
+        QCOMPARE(box->lineEdit()->font().pointSize(), 14);
+        if (height == 0)
+            height = row->height();
+        // Check boxes that stand without a panel on a page are higher, those in a list are not.
+        QCOMPARE(row->height(), height);
+        box->view()->window()->hide();
+    }
+}
+
+void tst_ComboBoxAppearance::rowsHaveThePanelsColours()
+{
+    applyRow();
+    const QThemeCtrl *theme = QThemeCtrl::instance();
+    const QColor panel = theme->color("ColorBg1");
+    for (QComboBox *box : {static_cast<QComboBox *>(mPlain), static_cast<QComboBox *>(mMulti)}) {
+        QVERIFY(openList(box));
+        box->view()->setCurrentIndex(box->model()->index(0, 0));
+        const QImage list = box->view()->window()->grab().toImage();
+        // Down the middle: the frame, the chosen row, the other one, the frame, and nothing else.
+        const QColor chosen = theme->color(box == mPlain ? "ColorMain" : "ColorBg2");
+        const QList<QColor> allowed{theme->color("ColorBg3Border"), chosen, panel};
+        for (int y = 0; y < list.height(); ++y) {
+            const QColor color = list.pixelColor(list.width() / 2, y);
+            QVERIFY2(allowed.contains(color),
+                     qPrintable(QString("%1 at %2").arg(color.name()).arg(y)));
+        }
+        box->view()->window()->hide();
+    }
+}
+
+void tst_ComboBoxAppearance::longestTextFitsAtTheSmallestWidth()
+{
+    applyRow();
+    const auto room = [](QComboBox *box) {
+        QStyleOptionComboBox option;
+        option.initFrom(box);
+        option.rect.setSize(box->minimumSizeHint());
+        option.editable = box->isEditable();
+        return box->style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box)
+            .width();
+    };
+    QVERIFY(room(mPlain) >= mPlain->fontMetrics().horizontalAdvance(sText));
+    QVERIFY(room(mMulti) >= mMulti->fontMetrics().horizontalAdvance(sText));
+}
+
+void tst_ComboBoxAppearance::placeholderIsFainterThanAText_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("enabled") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void tst_ComboBoxAppearance::placeholderIsFainterThanAText()
+{
+    QFETCH(bool, enabled);
+    auto *keys = new KeySequenceEdit(QKeySequence(), mWindow.get());
+    mWindow->setEnabled(enabled);
+    // One after the other: each takes the place of the one before.
+    for (const auto theme : {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark,
+                             QThemeCtrl::Theme::Light}) {
+        applySheets(mWindow.get(), theme, 1);
+        mWindow->show();
+        const QThemeCtrl *controller = QThemeCtrl::instance();
+        const QColor text = controller->color(enabled ? "ColorFg0" : "ColorDisable");
+        for (const QLineEdit *edit : {static_cast<QLineEdit *>(keys), mMulti->lineEdit()}) {
+            QCOMPARE(edit->palette().color(QPalette::Text), text);
+            const QColor placeholder = edit->palette().color(QPalette::PlaceholderText);
+            QCOMPARE(placeholder.rgb(), text.rgb());
+            QCOMPARE(placeholder.alpha(), 128);
+        }
+    }
+}
+
+void tst_ComboBoxAppearance::placeholderColourOfTheHostStays()
+{
+    QPalette palette = mMulti->lineEdit()->palette();
+    palette.setColor(QPalette::PlaceholderText, Qt::red);
+    mMulti->lineEdit()->setPalette(palette);
+    QCOMPARE(mMulti->lineEdit()->palette().color(QPalette::PlaceholderText), QColor(Qt::red));
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_ComboBoxAppearance>(argc, argv);
+}
+
+#include "tst_ComboBoxAppearance.moc"
