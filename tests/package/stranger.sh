@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# The way of a stranger, on a Debian 12 with nothing on it: install the packages, copy the README's
+# program and its CMake file, build, run, and look at the picture of its window.
+#   stranger.sh [<folder for the packages and the picture>]
+# Needs root, debootstrap and the network; takes some minutes.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+out=$(realpath -m "${1:-build-package}")
+. cmake/prepare.sh
+
+install_missing "${BUILD_PACKAGES[@]}" debootstrap dpkg-dev file lintian
+[ -f build-package/build.ninja ] || cmake --preset package >&2
+cmake --build build-package >&2
+rm -f build-package/*.deb
+(cd build-package && cpack -G DEB >&2)
+lintian --allow-root --fail-on error build-package/*.deb >&2
+
+root=$(mktemp -d)
+trap 'umount "$root/proc" 2>/dev/null || true; rm -rf "$root"' EXIT
+debootstrap --variant=minbase bookworm "$root" >&2
+cp -r /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/" # the proxies of this machine
+mount -t proc proc "$root/proc" 2>/dev/null || true
+mkdir "$root/stranger"
+cp build-package/*.deb "$root/stranger"
+
+# The blocks of the README, as a reader copies them.
+block() { # <language> <text on its first line>
+    awk -v fence="\`\`\`$1" -v first="$2" '
+        $0 == fence { getline; inside = index($0, first) == 1 }
+        /^```$/ { inside = 0 }
+        inside' README.md
+}
+block cpp '#include <MaltoConfiguration' > "$root/stranger/main.cpp"
+block cmake cmake_minimum_required > "$root/stranger/CMakeLists.txt"
+test -s "$root/stranger/main.cpp"
+test -s "$root/stranger/CMakeLists.txt"
+
+cat > "$root/stranger/go" <<'END'
+set -eu
+export DEBIAN_FRONTEND=noninteractive
+cd /stranger
+apt-get update -qq
+apt-get install -y -qq --no-install-recommends ./*.deb g++ cmake make >/dev/null
+apt-get install -y -qq --no-install-recommends \
+    xvfb xauth xdotool imagemagick fonts-dejavu-core >/dev/null
+cmake -S . -B build
+cmake --build build
+xvfb-run -a -s '-screen 0 1400x900x24' sh -ec '
+    build/your-program &
+    xdotool search --sync --onlyvisible --name "Quorvi Configuration" >/dev/null
+    while import -window root window.png && [ "$(identify -format %k window.png)" -lt 50 ]; do :; done
+    kill $!'
+END
+chroot "$root" sh /stranger/go >&2
+mkdir -p "$out"
+cp "$root/stranger/window.png" "$out/stranger.png"
+printf '%s\n' "$out/stranger.png"
