@@ -41,8 +41,8 @@ public:
     int findItemByUserData(const QVariant &userData) const;
     /// Checks or unchecks entry `index`.
     void setItemChecked(int index, bool checked);
-    /// Checks or unchecks each entry as `checked` says for its index; entries beyond it stay as they
-    /// are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if anything has
+    /// Checks or unchecks each entry as `checked` says for its index; entries beyond it stay as
+    /// they are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if anything has
     /// changed.
     void setItemsChecked(const QVector<bool> &checked);
     /// Gives entry `index` another text, also in the closed box. The selection is the same after

@@ -139,11 +139,11 @@ void tst_ComboBoxAppearance::textsBeginAtTheSamePlace()
     const auto besideEdge = [edge, this](QWidget *field, int slack) {
         const int other = textEdge(field);
         if (qAbs(other - edge) > slack)
-            qWarning("%s begins at %d instead of %d", field->metaObject()->className(), other, edge);
+            qWarning("%s begins at %d, not %d", field->metaObject()->className(), other, edge);
         return qAbs(other - edge) <= slack;
     };
     if (mWindow->isRightToLeft()) {
-        // A line edit keeps room for the cursor behind its text; others follow the text's direction.
+        // A line edit keeps room for the cursor behind its text; others follow their text.
         QVERIFY(besideEdge(mMulti, 2));
         return;
     }
