@@ -147,6 +147,7 @@ void tst_ConfStorageFaults::fullDiskCutsTheFileAtEveryByte()
         QCOMPARE(next.number(), space == whole.size() ? 2 : 0);
         QVERIFY(log.messages().isEmpty());
     }
+    qInfo("room for each of 0 to %d bytes", whole.size());
 }
 
 void tst_ConfStorageFaults::readOnlyFolder_data()

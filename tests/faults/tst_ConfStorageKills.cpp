@@ -115,22 +115,24 @@ void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall()
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
         QCOMPARE(QDir("box").entryList(QDir::Files), QStringList("local.json"));
     }
+    qInfo("died at each of %d calls", calls - 1); // the last process finished its work
     QVERIFY2(calls > 15, qPrintable(QString::number(calls)));
 }
 
 void tst_ConfStorageKills::secondTrySurvivesDeathAtEveryCall()
 {
     for (const bool halfway : {false, true}) {
-        int call = 0;
-        for (bool died = true; died; ++call) {
+        int calls = 0;
+        for (bool died = true; died; ++calls) {
             SavedSettings::makeFolder();
             QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
             failToSave();
             QCOMPARE(SavedSettings::content(), QByteArray());
-            died = diesAtCall(call, halfway, [] { save(true, 3); });
+            died = diesAtCall(calls, halfway, [] { save(true, 3); });
             const int found = nextRun();
             QVERIFY2(found == 3 || (died && found == 2), qPrintable(QString::number(found)));
         }
+        qInfo("died at each of %d calls", calls - 1);
     }
 }
 
@@ -146,6 +148,7 @@ void tst_ConfStorageKills::recoverySurvivesDeathAtEveryCall()
             QCOMPARE(nextRun(), 2);
             QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
         }
+        qInfo("died at each of %d calls", calls - 1);
         QVERIFY2(calls > 10, qPrintable(QString::number(calls)));
     }
 }

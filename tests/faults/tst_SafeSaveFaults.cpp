@@ -146,6 +146,7 @@ void tst_SafeSaveFaults::fullDiskLosesNothing()
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
         QCOMPARE(QDir("box").entryList(QDir::Files), QStringList("local.json"));
     }
+    qInfo("room for each of 0 to %d bytes", journalSize + fileSize);
 }
 
 void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal_data()
