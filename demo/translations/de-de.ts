@@ -293,7 +293,7 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Nach einer Aufnahme einen Ton abspielen</translation>
+        <translation>Ton nach der Aufnahme abspielen</translation>
     </message>
     <message>
         <source>Show tips</source>

@@ -293,7 +293,7 @@ Añada uno o restaure los predefinidos.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Reproducir un sonido tras una captura</translation>
+        <translation>Sonido tras una captura</translation>
     </message>
     <message>
         <source>Show tips</source>

@@ -293,7 +293,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Émettre un son après une capture</translation>
+        <translation>Son après une capture</translation>
     </message>
     <message>
         <source>Show tips</source>

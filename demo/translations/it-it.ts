@@ -293,7 +293,7 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Riproduci un suono dopo una cattura</translation>
+        <translation>Suono dopo una cattura</translation>
     </message>
     <message>
         <source>Show tips</source>

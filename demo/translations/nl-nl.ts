@@ -293,7 +293,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Geluid afspelen na een opname</translation>
+        <translation>Geluid na een opname</translation>
     </message>
     <message>
         <source>Show tips</source>

@@ -413,7 +413,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
-        <translation>Сочетания клавиш в полноэкранных программах</translation>
+        <translation>Работают в полноэкранном режиме</translation>
     </message>
     <message>
         <source>Repeat delay (ms)</source>
@@ -513,7 +513,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>
-        <translation>Разрешить простые глобальные сочетания клавиш</translation>
+        <translation>Разрешить простые глобальные сочетания</translation>
     </message>
     <message>
         <source>Show expert settings</source>
@@ -525,7 +525,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>
-        <translation>Возвращать закреплённые изображения при запуске</translation>
+        <translation>Возвращать закреплённое при запуске</translation>
     </message>
     <message>
         <source>Cache (MB)</source>
