@@ -16,12 +16,11 @@ namespace {
 constexpr int sSpacing = 16;
 constexpr int sSpinBoxWidth = 128;
 
-QFrame *makeEditor(QWidget *parent, QWidget *control)
+QFrame *makeEditor(QWidget *parent)
 {
     auto *editor = new QFrame(parent);
     auto *layout = new QHBoxLayout(editor);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(control);
     return editor;
 }
 
@@ -79,14 +78,16 @@ void HandMadeWindow::addRow(QGroupBox *box, QGridLayout *grid, int i)
         grid->addWidget(new QFrame(box), row, 1);
         grid->addWidget(check, row, 0);
     } else if (i % 3 == 1) {
-        auto *spin = new QSpinBoxDisableWheel(box);
+        QFrame *editor = makeEditor(box);
+        auto *spin = new QSpinBoxDisableWheel(editor);
         spin->setFixedWidth(sSpinBoxWidth);
-        QFrame *editor = makeEditor(box, spin);
+        editor->layout()->addWidget(spin);
         editor->layout()->setAlignment(Qt::AlignLeft);
         grid->addWidget(editor, row, 1);
         addCaption(box, grid, row, "Width of the border");
     } else {
-        auto *combo = new ComboboxDisableWheel(box);
+        QFrame *editor = makeEditor(box);
+        auto *combo = new ComboboxDisableWheel(editor);
         combo->setView(new QListView(combo));
         combo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
         for (const char *text : {"Small", "Medium", "Large"})
@@ -96,7 +97,8 @@ void HandMadeWindow::addRow(QGroupBox *box, QGridLayout *grid, int i)
             combo->setItemText(1, QObject::tr("Medium"));
             combo->setItemText(2, QObject::tr("Large"));
         });
-        grid->addWidget(makeEditor(box, combo), row, 1);
+        editor->layout()->addWidget(combo);
+        grid->addWidget(editor, row, 1);
         addCaption(box, grid, row, "Size of the magnifier");
     }
 }

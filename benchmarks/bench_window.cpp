@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QListView>
 #include <QTranslator>
 
 #include <memory>
@@ -76,8 +77,8 @@ public:
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         finishShowing();
     }
-    void showPage() { window()->switchToView(pageName()); }
-    void leavePage() { window()->switchToView(emptyPageName()); }
+    void showPage() { makeCurrent(0); }
+    void leavePage() { makeCurrent(1); }
     void translate() { Q_EMIT mManager.sigLanguageChange(); }
     static void setTheme(QThemeCtrl::Theme theme) { QThemeCtrl::instance()->setTheme(theme); }
 
@@ -87,6 +88,13 @@ private:
     static MtConf::ConfigurationWindow *window()
     {
         return MtConf::ConfigurationWindow::instance();
+    }
+
+    /// As a click on the row does.
+    static void makeCurrent(int row)
+    {
+        auto *list = window()->findChild<QListView *>(QStringLiteral("configList"));
+        list->setCurrentIndex(list->model()->index(row, 0));
     }
 
     void declare(int i)

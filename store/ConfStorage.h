@@ -218,7 +218,7 @@ public:
 
 private:
     void reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current);
-    struct LoadPosition;
+    class LoadPosition;
     void markUserChange(QString const &key, ConfValue *value);
     void callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value = nullptr);
     void loadMember(QString key, QJsonValue const &value, LoadConfType type, LoadPosition &position);

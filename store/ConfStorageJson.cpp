@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -16,13 +17,6 @@ constexpr QLatin1String sTimeKey("t", 1);
 constexpr QLatin1String sValueKey("v", 1);
 constexpr QLatin1Char sMarkSeparator('#');
 constexpr QLatin1String sSystemName("s.mac", 5);
-
-/// The entry of `key`, which mostly is the one at `next`.
-template<class Map>
-typename Map::iterator findFrom(Map &map, typename Map::iterator next, const QString &key)
-{
-    return next != map.end() && next.key() == key ? next : map.find(key);
-}
 
 /// Whether loading `value` writes nothing on the log.
 bool isTyped(const ConfValue &value)
@@ -40,27 +34,41 @@ QString addSysMark(QString const &key)
 /// Where the next key is likely to stand in both maps: members of an object are in the order of the
 /// maps. Forgotten as soon as code of the host may have run, callbacks and log handlers, which may
 /// change the maps.
-struct ConfStorage::LoadPosition
+class ConfStorage::LoadPosition
 {
+public:
     explicit LoadPosition(ConfStorage &store) : mStore(store) {}
 
     QMap<QString, ConfValue>::iterator valueOf(const QString &key)
     {
-        return known ? findFrom(mStore.mConfValues, value, key) : mStore.mConfValues.find(key);
+        return findFrom(mStore.mConfValues, mNextValue, key);
     }
     QMap<QString, ConfMeta>::iterator metaOf(const QString &key)
     {
-        const auto found = known ? findFrom(mStore.mConfMetas, meta, key)
-                                 : mStore.mConfMetas.find(key);
-        return found != mStore.mConfMetas.end() ? found : mStore.mConfMetas.insert(key, ConfMeta());
+        return findFrom(mStore.mConfMetas, mNextMeta, key);
+    }
+    void forget()
+    {
+        mNextValue.reset();
+        mNextMeta.reset();
     }
 
-    bool known = false;
-    QMap<QString, ConfValue>::iterator value;
-    QMap<QString, ConfMeta>::iterator meta;
-
 private:
+    /// The entry of `key`, which mostly is the one at `next`; `next` goes on behind it.
+    template<class Map>
+    static typename Map::iterator findFrom(Map &map, std::optional<typename Map::iterator> &next,
+                                           const QString &key)
+    {
+        const bool isNext = next && *next != map.end() && next->key() == key;
+        const auto found = isNext ? *next : map.find(key);
+        if (found != map.end())
+            next = std::next(found);
+        return found;
+    }
+
     ConfStorage &mStore;
+    std::optional<QMap<QString, ConfValue>::iterator> mNextValue;
+    std::optional<QMap<QString, ConfMeta>::iterator> mNextMeta;
 };
 
 QJsonObject ConfStorage::dumpConf(DumpConfType type) const
@@ -108,7 +116,7 @@ void ConfStorage::loadMember(QString key, QJsonValue const &value, LoadConfType 
         if (const DynamicConfClass *cls = findDynamicConfClass(key)) {
             if (type != LoadLocal && (cls->flags & FlagLocalOnly))
                 return;
-            position.known = false;
+            position.forget();
             if (loadLoadDynamicConf(key, value, cls))
                 return;
         }
@@ -119,21 +127,20 @@ void ConfStorage::loadMember(QString key, QJsonValue const &value, LoadConfType 
 void ConfStorage::loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type,
                             LoadPosition &position)
 {
-    const auto stored = position.valueOf(key);
-    if (stored == mConfValues.end())
-        return;
-    const auto meta = position.metaOf(key);
-    position.known = true;
-    position.value = std::next(stored);
-    position.meta = std::next(meta);
-    if (type != LoadLocal && (meta->flags & FlagLocalOnly))
-        return;
-
     const auto time = entry.constFind(sTimeKey);
     const bool hasTime = time != entry.constEnd();
     const int seconds = hasTime ? time.value().toInt() : 0;
-    if (!meta->lastChangeTime.isNull() && hasTime
-        && meta->lastChangeTime.toSecsSinceEpoch() >= seconds)
+
+    // Most entries of a copy are no newer than the store: their values need no look.
+    const auto known = position.metaOf(key);
+    if (known != mConfMetas.end() && hasTime && !known->lastChangeTime.isNull()
+        && known->lastChangeTime.toSecsSinceEpoch() >= seconds)
+        return;
+    const auto stored = position.valueOf(key);
+    if (stored == mConfValues.end())
+        return;
+    const auto meta = known != mConfMetas.end() ? known : mConfMetas.insert(key, ConfMeta());
+    if (type != LoadLocal && (meta->flags & FlagLocalOnly))
         return;
     meta->lastChangeTime = hasTime ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)
                                    : QDateTime::currentDateTimeUtc();
@@ -144,7 +151,7 @@ void ConfStorage::loadEntry(QString const &key, QJsonObject const &entry, LoadCo
         meta->flags &= ~FlagIsDefault;
         return;
     }
-    position.known = false;
+    position.forget();
     if (value == entry.constEnd()) {
         setToDefault(key, false);
         return;

@@ -92,7 +92,8 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
     if (!bare)
         addClassLabel(caption);
 
-    auto *box = new QGroupBox(this);
+    // Where it is going to stay: changing parents gives every widget inside its style again.
+    auto *box = new QGroupBox(mUi->gboxConfigBoard);
     box->setObjectName(QStringLiteral("ConfigGroupBox"));
     auto *grid = new QGridLayout;
     grid->setSpacing(0);
@@ -155,7 +156,7 @@ bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLay
 
 void ConfigurationWindow::addClassLabel(const QString &caption)
 {
-    auto *label = new QLabel(translatedName(caption), this);
+    auto *label = new QLabel(translatedName(caption), mUi->gboxConfigBoard);
     label->setProperty("SourceText", caption);
     label->setProperty("ClassLabel", QStringLiteral("normal"));
     mClassCaptions.append(label);
