@@ -11,8 +11,12 @@ quint64 ConfItemRevision::sCurrent = 0;
 
 QString ConfItem::getFullName() const
 {
-    const QString fullName = majorName + QLatin1Char('.') + name;
-    return subName.isEmpty() ? fullName : fullName + QLatin1Char('.') + subName;
+    QString fullName;
+    fullName.reserve(majorName.size() + name.size() + subName.size() + 2);
+    fullName.append(majorName).append(QLatin1Char('.')).append(name);
+    if (!subName.isEmpty())
+        fullName.append(QLatin1Char('.')).append(subName);
+    return fullName;
 }
 
 void ConfItem::setFlagSystemIndependent() const

@@ -20,7 +20,9 @@ ConfStorage *ConfStorage::instance()
 
 void ConfStorage::reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current)
 {
-    mConfValues[key] = bound;
+    // A text that was put together has room to grow, which the store would keep for good.
+    const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size()) : key;
+    mConfValues[exactKey] = bound;
 
     ConfMeta meta;
     if (isDynamicWithoutPreset(key))
@@ -33,7 +35,7 @@ void ConfStorage::reserveValue(QString const &key, ConfValue const &bound, ConfV
         if (meta.defaultValue != bound)
             meta.flags &= ~FlagIsDefault;
     }
-    mConfMetas[key] = meta;
+    mConfMetas[exactKey] = meta;
 }
 
 void ConfStorage::setToDefault(QString const &key, bool updateTime)
