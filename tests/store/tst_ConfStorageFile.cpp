@@ -110,7 +110,8 @@ void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
     };
     row("plain text", "Size 1", "\"Size 1\"");
     row("empty text", "", "\"\"");
-    row("quote and backslash", "a\"b\\", R"("a\"b\\")");
+    row("quote", "a\"b", R"("a\"b")");
+    row("backslash", "a\\b", R"("a\\b")");
     row("line break", "a\nb", R"("a\nb")");
     row("control character", QString(QChar(0x1f)), R"("\u001f")");
     row("delete character", QString(QChar(0x7f)), "\"\x7f\"");
