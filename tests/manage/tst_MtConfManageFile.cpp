@@ -41,6 +41,7 @@ private Q_SLOTS:
     void itemDeclaredByACallbackIsFoundInTheSameFile();
     void itemsRemovedByACallbackAreNoLongerFound();
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
+    void replacedItemIsFoundWithoutLookingForTheOldOneFirst();
     void itemsReorderedByACallbackAreFound();
     void listGivenAwayByACallbackIsReadAgain();
     void managerMayBeDestroyedByACallbackOfALoad();
@@ -245,6 +246,18 @@ void tst_MtConfManageFile::itemsReplacedByACallbackAreFoundByTheirNewNames()
     writeFile(QJsonObject{{"General.a", 1}, {"General.y", 2}, {"General.z", 3}});
     mManager->_loadFromFile(path());
     QCOMPARE(y, 0);
+    QCOMPARE(z, 3);
+}
+
+void tst_MtConfManageFile::replacedItemIsFoundWithoutLookingForTheOldOneFirst()
+{
+    int a = 0, y = 0, z = 0;
+    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mManager->items.replace(1, ConfItem(&z, "General", "z", ""));
+    });
+    declare(&y, "y");
+    writeFile(QJsonObject{{"General.a", 1}, {"General.z", 3}});
+    mManager->_loadFromFile(path());
     QCOMPARE(z, 3);
 }
 

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void cleanup() { mFixture.reset(); }
 
     void checkBoxIsItsOwnCaption();
+    void checkBoxFillsAnEditorWhoseCaptionNobodyMoves();
     void clickWritesAndMarks();
     void spaceKeyWritesToo();
     void clickOnTheStoredValueWritesNothing();
@@ -51,6 +52,16 @@ void tst_ConfDefWidgetBool::checkBoxIsItsOwnCaption()
     QVERIFY(mFixture->parent.findChildren<QLabel *>().isEmpty());
     QCOMPARE(mEditor->layout()->contentsMargins(), QMargins());
     QCOMPARE(mEditor->layout()->spacing(), 0);
+}
+
+void tst_ConfDefWidgetBool::checkBoxFillsAnEditorWhoseCaptionNobodyMoves()
+{
+    ConfDefWidgetBool editor(mItem, nullptr);
+    editor.resize(300, 50);
+    editor.show();
+    const QRect box = editor.findChild<QCheckBox *>()->geometry();
+    QCOMPARE(box.x(), 0);
+    QCOMPARE(box.width(), 300);
 }
 
 void tst_ConfDefWidgetBool::clickWritesAndMarks()

@@ -5,6 +5,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
 
 #include <QFontDialog>
+#include <QLayout>
 #include <QPushButton>
 
 using MtConf::ConfDefWidgetQFont;
@@ -70,6 +71,9 @@ void tst_ConfDefWidgetQFont::buttonNamesTheFont()
     edit();
     QCOMPARE(mButton->text(), QString("Sans, 16"));
     QCOMPARE(changedMark(mEditor), QString("0"));
+    QCOMPARE(mEditor->layout()->contentsMargins(), QMargins());
+    QCOMPARE(mEditor->layout()->alignment(), Qt::Alignment(Qt::AlignLeft));
+    QCOMPARE(mEditor->layout()->indexOf(mButton), 0);
 }
 
 void tst_ConfDefWidgetQFont::fontInPointsShowsNoPixels()

@@ -15,14 +15,15 @@ const char sGreen[] = "QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt Quorv
 const char sGrey[] = "QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt QuorviIconfont;\n"
                      "color: rgb(120, 129, 130);  \n}";
 
-/// Puts "de " before every text of the editor.
+/// Puts "de " before every text of the editor and the host.
 class Prefixer : public QTranslator
 {
 public:
     QString translate(const char *context, const char *text, const char *, int) const override
     {
-        return qstrcmp(context, "MtConf::ConfDefWidgetQKeySequence") == 0 ? QString("de ") + text
-                                                                          : QString();
+        const bool known = qstrcmp(context, "MtConf::ConfDefWidgetQKeySequence") == 0
+            || qstrcmp(context, "QObject") == 0;
+        return known ? QString("de ") + text : QString();
     }
     bool isEmpty() const override { return false; }
 };
@@ -55,7 +56,7 @@ private Q_SLOTS:
     void failedButtonLoadsTheStoredHotkey();
     void failedButtonWithTheShownHotkeyDoesNothing();
     void validShortcutIsNotSetAgain();
-    void toolTipFollowsTheLanguage();
+    void toolTipAndNameFollowTheLanguage();
 };
 
 void tst_ConfDefWidgetQKeySequence::partsAndOrder()
@@ -283,7 +284,7 @@ void tst_ConfDefWidgetQKeySequence::validShortcutIsNotSetAgain()
     QCOMPARE(mShortcut->shortcut(), QKeySequence("Ctrl+Alt+F9"));
 }
 
-void tst_ConfDefWidgetQKeySequence::toolTipFollowsTheLanguage()
+void tst_ConfDefWidgetQKeySequence::toolTipAndNameFollowTheLanguage()
 {
     makeItem(true);
     makeEditor();
@@ -292,6 +293,7 @@ void tst_ConfDefWidgetQKeySequence::toolTipFollowsTheLanguage()
     const auto remove =
         qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
     QTRY_COMPARE(mButton->toolTip(), QString("de Not set"));
+    QCOMPARE(mField->accessibleName(), QString("de Capture area"));
     mShortcut->setEnabled(false);
     store(neverValid());
     mEditor->refreshState();

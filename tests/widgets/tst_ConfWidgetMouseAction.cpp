@@ -56,6 +56,7 @@ private Q_SLOTS:
 
     void loadingStoresAgain();
     void loadingWhatIsShownStoresNothing();
+    void loadingWhatNoControlShowsMarksTheCaption();
     void loadingAnActionThatIsNotOfferedStoresNone();
 
     void textsHaveTheirContexts();
@@ -347,6 +348,15 @@ void tst_ConfWidgetMouseAction::loadingWhatIsShownStoresNothing()
     QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
     gesture->editor->refreshConflictState();
     QCOMPARE(stateClass(gesture), QString("WarningIcon"));
+}
+
+void tst_ConfWidgetMouseAction::loadingWhatNoControlShowsMarksTheCaption()
+{
+    Gesture *gesture = add("Zoom", 0x02000004, 1);
+    store(gesture, 0x22000004); // with the modifier of the keypad
+    gesture->editor->loadConf();
+    QCOMPARE(gesture->value, 0x22000004);
+    QCOMPARE(changedMark(gesture->editor), QString("1"));
 }
 
 void tst_ConfWidgetMouseAction::loadingAnActionThatIsNotOfferedStoresNone()

@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 
 #include <QLabel>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QTranslator>
 
@@ -34,6 +35,29 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+/// Notes how the widgets that have it are polished.
+class NotingStyle : public QProxyStyle
+{
+public:
+    void polish(QWidget *widget) override
+    {
+        notes << "polish " + changed(widget);
+        QProxyStyle::polish(widget);
+    }
+    void unpolish(QWidget *widget) override
+    {
+        notes << "unpolish " + changed(widget);
+        QProxyStyle::unpolish(widget);
+    }
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+
+    QStringList notes;
+
+private:
+    static QString changed(QWidget *widget) { return widget->property("changed").toString(); }
+};
+
 } // namespace
 
 class tst_ConfigItemWidget : public QObject
@@ -58,6 +82,7 @@ private Q_SLOTS:
     void labelOfAnEditorWithoutParentHasNoParent();
     void nullTextGivesAnEmptyLabel();
     void changedMarkFollowsTheValue();
+    void captionIsPolishedAnewWithTheMark();
     void refreshWithoutLabelDoesNothing();
     void restoreDefaultLeavesTheControlAlone();
     void retranslationReachesLabelsAndButtons();
@@ -134,6 +159,18 @@ void tst_ConfigItemWidget::changedMarkFollowsTheValue()
     QCOMPARE(changedMark(made), QString("1"));
     made->refreshLabelState();
     QCOMPARE(changedMark(made), QString("0"));
+}
+
+void tst_ConfigItemWidget::captionIsPolishedAnewWithTheMark()
+{
+    PlainEditor *made = editor();
+    NotingStyle style;
+    made->label()->setStyle(&style);
+    mFixture->store()->set<int>("General.Size", 5);
+    style.notes.clear();
+    made->refreshLabelState();
+    QCOMPARE(style.notes, (QStringList{"unpolish 1", "polish 1"}));
+    made->label()->setStyle(nullptr);
 }
 
 void tst_ConfigItemWidget::refreshWithoutLabelDoesNothing()

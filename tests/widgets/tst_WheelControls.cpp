@@ -40,6 +40,7 @@ private Q_SLOTS:
     void spinBoxWithFocusChanges();
     void comboBoxAlwaysScrollsThePage_data();
     void comboBoxAlwaysScrollsThePage();
+    void wheelHandedOverDirectlyIsLeftToOthers();
 
 private:
     static void turnWheelOver(QWidget *widget)
@@ -90,6 +91,19 @@ void tst_WheelControls::comboBoxAlwaysScrollsThePage()
     turnWheelOver(mComboBox);
     QCOMPARE(mComboBox->currentIndex(), 1);
     QVERIFY(scrolled() > 0);
+}
+
+void tst_WheelControls::wheelHandedOverDirectlyIsLeftToOthers()
+{
+    mComboBox->setFocus();
+    for (QWidget *widget : {static_cast<QWidget *>(mComboBox), static_cast<QWidget *>(mSpinBox)}) {
+        const QPointF position(widget->rect().center());
+        QWheelEvent event(position, widget->mapToGlobal(position.toPoint()), QPoint(),
+                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        event.accept(); // as whoever filters events may find and send it
+        static_cast<QObject *>(widget)->event(&event);
+        QVERIFY(!event.isAccepted());
+    }
 }
 
 int main(int argc, char **argv)
