@@ -32,17 +32,6 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
     layout->addWidget(mComboBox);
 }
 
-ConfWidgetCombobox::~ConfWidgetCombobox()
-{
-    if (!isWriting())
-        return;
-    // A callback of the host deletes this editor while its box is still handling the click.
-    mComboBox->disconnect(this);
-    mComboBox->hide();
-    mComboBox->setParent(nullptr);
-    mComboBox->deleteLater();
-}
-
 ConfigItemWidget *ConfWidgetCombobox::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
     return new ConfWidgetCombobox(item, parent);

@@ -22,7 +22,6 @@ class MALTO_EXPORT ConfWidgetCombobox : public ConfigItemWidget
     Q_OBJECT
 public:
     ConfWidgetCombobox(ConfItem *item, QWidget *parent);
-    ~ConfWidgetCombobox() override;
     /// Makes the editor, with an empty list.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 

@@ -103,16 +103,6 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
 ConfWidgetMouseAction::~ConfWidgetMouseAction()
 {
     sConflictList.removeAll(this);
-    if (!isWriting())
-        return;
-    // A callback of the host deletes this editor while one of its boxes is handling the click.
-    for (QComboBox *box : {static_cast<QComboBox *>(mModifierBox),
-                           static_cast<QComboBox *>(mActionBox)}) {
-        box->disconnect(this);
-        box->hide();
-        box->setParent(nullptr);
-        box->deleteLater();
-    }
 }
 
 void ConfWidgetMouseAction::addActions(int kind)

@@ -6,6 +6,37 @@
 
 namespace MtConf {
 
+ConfigItemWidget::Writing::Writing(ConfigItemWidget *editor)
+    : mEditor(editor), mOuter(editor->mWriting)
+{
+    editor->mWriting = this;
+}
+
+ConfigItemWidget::Writing::~Writing()
+{
+    if (mEditor)
+        mEditor->mWriting = mOuter;
+    for (const QPointer<QWidget> &control : qAsConst(mControls)) {
+        if (control)
+            control->deleteLater();
+    }
+}
+
+void ConfigItemWidget::Writing::takeControls(const QList<QWidget *> &controls)
+{
+    // The outermost returns last.
+    if (mOuter) {
+        mOuter->takeControls(controls);
+        return;
+    }
+    for (QWidget *control : controls) {
+        control->disconnect(mEditor);
+        control->hide();
+        control->setParent(nullptr);
+        mControls.append(control);
+    }
+}
+
 ConfigItemWidget::ConfigItemWidget(ConfItem *item, QWidget *parent) : QFrame(parent), mItem(item)
 {
     mItem->editor = this;
@@ -24,6 +55,13 @@ ConfigItemWidget::~ConfigItemWidget()
     // A page that was rebuilt meanwhile may already show the item in another editor.
     if (mItem->editor == this)
         mItem->editor = nullptr;
+    if (!mWriting)
+        return;
+    QList<QWidget *> controls = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    // A control that is its own caption lies beside the editor.
+    if (mLabel && mLabel->parent() != this)
+        controls.append(mLabel);
+    mWriting->takeControls(controls);
 }
 
 QWidget *ConfigItemWidget::label()

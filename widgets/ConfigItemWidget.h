@@ -5,6 +5,7 @@
 
 #include <QFrame>
 #include <QJsonValue>
+#include <QList>
 #include <QPointer>
 
 namespace MtConf {
@@ -39,7 +40,7 @@ public:
 
     /// Whether a value that this editor writes is on its way through the store. Callbacks run
     /// meanwhile; whoever wants to delete the editor then does it later.
-    bool isWriting() const { return mWriting > 0; }
+    bool isWriting() const { return mWriting; }
 
 protected:
     /// The stored value of the item.
@@ -59,13 +60,9 @@ protected:
     /// editor: the caller returns at once then.
     template<class T> bool storeValue(const T &value)
     {
-        const QPointer<ConfigItemWidget> self(this);
-        ++mWriting;
+        const Writing writing(this);
         ConfStorage::instance()->set<T>(mItem->getFullName(), value);
-        if (!self)
-            return false;
-        --mWriting;
-        return true;
+        return writing.hasEditor();
     }
 
     /// The item's label in the current language.
@@ -75,8 +72,27 @@ protected:
     QPointer<QWidget> mLabel;  ///< the caption; null until first asked for
 
 private:
+    /// One value on its way through the store. The control that it comes from still handles its
+    /// event then. When a callback deletes the editor, the control lives on here until the store
+    /// returns, also when that takes a dialog of the host.
+    class MALTO_EXPORT Writing
+    {
+    public:
+        explicit Writing(ConfigItemWidget *editor);
+        ~Writing();
+        Q_DISABLE_COPY(Writing)
+
+        bool hasEditor() const { return mEditor; }
+        void takeControls(const QList<QWidget *> &controls);
+
+    private:
+        const QPointer<ConfigItemWidget> mEditor;
+        Writing *const mOuter;
+        QList<QPointer<QWidget>> mControls;
+    };
+
     QJsonValue mInitialValue;
-    int mWriting = 0;
+    Writing *mWriting = nullptr;
 };
 
 } // namespace MtConf

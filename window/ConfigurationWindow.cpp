@@ -13,6 +13,9 @@
 #include <QMessageBox>
 #include <QPersistentModelIndex>
 #include <QStandardItemModel>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace MtConf {
 
@@ -104,7 +107,36 @@ void ConfigurationWindow::giveWay()
 {
     saveGeometryToFile();
     mGaveWay = true;
-    sWindow = nullptr;
+    if (sWindow == this)
+        sWindow = nullptr;
+}
+
+bool ConfigurationWindow::runsHostCode() const
+{
+    const QList<QWidget *> widgets = findChildren<QWidget *>();
+    return mHostCode > 0
+           || std::any_of(widgets.cbegin(), widgets.cend(), [](const QWidget *widget) {
+                  const auto *editor = dynamic_cast<const ConfigItemWidget *>(widget);
+                  return editor && editor->isWriting();
+              });
+}
+
+void ConfigurationWindow::managerIsGoing(const QList<QList<ConfItem>> &items)
+{
+    const QPointer<ConfigurationWindow> self(this);
+    close();
+    if (!self)
+        return;
+    if (!mBuildingPage && !runsHostCode()) {
+        delete this;
+        return;
+    }
+    if (!mGaveWay)
+        giveWay();
+    mManager = nullptr;
+    // The copy shares the manager's items, and a connection goes after the last editor.
+    connect(this, &QObject::destroyed, [items] {});
+    deleteLater();
 }
 
 ConfigurationWindow *ConfigurationWindow::instance()
@@ -127,10 +159,23 @@ void ConfigurationWindow::switchToView(QString className)
         onClassItemClick(index);
 }
 
+bool ConfigurationWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::DeferredDelete && (mBuildingPage || runsHostCode())) {
+        // A dialog of the host has an event loop of its own, above the control that opened it.
+        QTimer::singleShot(sWaitForHost, this, &QObject::deleteLater);
+        return true;
+    }
+    // Changes of language, font and style are passed on from here to the editors.
+    const HostCode running(this);
+    return QMainWindow::event(event);
+}
+
 void ConfigurationWindow::closeEvent(QCloseEvent *event)
 {
     QMainWindow::closeEvent(event);
-    mManager->saveToFile();
+    if (mManager)
+        mManager->saveToFile();
 }
 
 void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QModelIndex &previous)
@@ -145,10 +190,13 @@ void ConfigurationWindow::restorePageDefault()
         return;
     // A callback may rebuild the page, which deletes editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
-    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
-    for (const QPointer<ConfigItemWidget> &editor : editors) {
-        if (editor)
-            editor->restoreDefault();
+    {
+        const HostCode running(this);
+        const QList<QPointer<ConfigItemWidget>> editors = mEditors;
+        for (const QPointer<ConfigItemWidget> &editor : editors) {
+            if (editor)
+                editor->restoreDefault();
+        }
     }
     if (self)
         rebuildPage();
@@ -159,7 +207,10 @@ void ConfigurationWindow::restoreAllDefault()
     if (!confirm(tr("Are you sure to restore all default?")))
         return;
     const QPointer<ConfigurationWindow> self(this);
-    mManager->restoreAllDefault();
+    {
+        const HostCode running(this);
+        mManager->restoreAllDefault();
+    }
     if (self)
         rebuildPage();
 }

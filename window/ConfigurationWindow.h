@@ -6,6 +6,7 @@
 #include <QList>
 #include <QMainWindow>
 #include <QMap>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QString>
 
@@ -57,7 +58,7 @@ public:
     /// The one settings window, or null.
     static ConfigurationWindow *instance();
 
-    /// The manager that the window shows.
+    /// The manager that the window shows, or null when it has gone: the window is about to go too.
     MtConfManage *manager() const { return mManager; }
 
     /// Makes the class of that name current and shows its page; an unknown name shows an empty page.
@@ -78,13 +79,39 @@ public Q_SLOTS:
     void restoreAllDefault();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
     friend MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
     friend MALTO_EXPORT void setStaysOnTopHint(bool on);
+    friend class MtConfManage;
 
     static constexpr int ClassNameRole = Qt::UserRole + 1;
+    static constexpr int sWaitForHost = 20; // milliseconds
+
+    /// Code of the host runs while one lives, or may. The page that it takes away, or the window,
+    /// goes when it has returned: a control of it may still handle the event that all began with.
+    class HostCode
+    {
+    public:
+        explicit HostCode(ConfigurationWindow *window) : mWindow(window) { ++window->mHostCode; }
+        ~HostCode()
+        {
+            if (mWindow)
+                --mWindow->mHostCode;
+        }
+        Q_DISABLE_COPY(HostCode)
+
+    private:
+        const QPointer<ConfigurationWindow> mWindow;
+    };
+
+    /// Whether code of the host runs that was called from a control of the window.
+    bool runsHostCode() const;
+    /// Closes the window and deletes it, at once if that is safe. Editors that must live a little
+    /// longer have `items`, the manager's, until then.
+    void managerIsGoing(const QList<QList<ConfItem>> &items);
 
     /// Closed in this turn of the event loop, and about to be deleted.
     bool isGoing() const;
@@ -106,18 +133,23 @@ private:
     bool isShown(ConfItem *item) const;
     void addClassLabel(const QString &caption);
     void clearConfigItem();
+    void deleteOldPages();
 
     bool confirm(const QString &question);
     void rebuildPage();
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;
-    MtConfManage *const mManager;
+    MtConfManage *mManager;
     QStandardItemModel *mClassModel = nullptr;
     QList<QPointer<ConfigItemWidget>> mEditors;
     QList<QLabel *> mClassCaptions;
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
+    QList<QPointer<QWidget>> mOldPages;
+    QPersistentModelIndex mNextPage;
+    int mHostCode = 0;
     bool mBuildingPage = false;
+    bool mIsNextPageWanted = false;
     bool mGaveWay = false;
 };
 

@@ -95,6 +95,7 @@ void ConfigurationWindow::saveGeometryToFile() const
 
 void ConfigurationWindow::loadQss()
 {
+    const HostCode running(this);
     mScale = screenScale();
     setQssForWidget(this, mScale);
     refreshItemIcon();
@@ -138,6 +139,7 @@ void ConfigurationWindow::retranslateUi()
     mUi->retranslateUi(this);
     // An editor of the host may open another page, or close the window.
     const QPointer<ConfigurationWindow> self(this);
+    const HostCode running(this);
     const QList<QPointer<ConfigItemWidget>> editors = mEditors;
     for (const QPointer<ConfigItemWidget> &editor : editors) {
         if (editor)

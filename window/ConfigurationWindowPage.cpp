@@ -11,7 +11,7 @@
 #include <QPersistentModelIndex>
 #include <QTimer>
 
-#include <algorithm>
+#include <utility>
 
 namespace MtConf {
 
@@ -23,10 +23,12 @@ constexpr int sGridSpacing = 12; // points
 
 void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
 {
+    if (!mManager)
+        return;
     if (mBuildingPage) {
         // Code of the host that builds part of the page has asked for another page: afterwards.
-        const QPersistentModelIndex later(index);
-        QTimer::singleShot(0, this, [this, later] { onClassItemClick(later); });
+        mNextPage = index;
+        mIsNextPageWanted = true;
         return;
     }
     // Building runs code of the host, which may take the window away.
@@ -34,10 +36,15 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
     const QString className = index.data(ClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
-    if (self)
+    if (self && mManager)
         buildPage(className);
-    if (self)
-        mBuildingPage = false;
+    if (!self)
+        return;
+    mBuildingPage = false;
+    if (mIsNextPageWanted) {
+        mIsNextPageWanted = false;
+        QTimer::singleShot(0, this, [this] { onClassItemClick(mNextPage); });
+    }
 }
 
 void ConfigurationWindow::buildPage(const QString &className)
@@ -75,7 +82,7 @@ void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
     if (!ungrouped.isEmpty())
         addClassItemWidgets(className, ungrouped, classFlag);
     for (const QString &name : qAsConst(groupNames)) {
-        if (self)
+        if (self && mManager)
             addClassItemWidgets(name, groups.value(name), classFlag);
     }
     if (!self)
@@ -111,7 +118,7 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
     }
 
     const QPointer<QGroupBox> guard(box); // goes with the window
-    for (int i = 0; i < items.size(); ++i) {
+    for (int i = 0; mManager && i < items.size(); ++i) {
         const bool added = isShown(items.at(i)) && guard && addItemWidget(items.at(i), box, grid);
         if (!guard)
             return;
@@ -165,17 +172,14 @@ void ConfigurationWindow::addClassLabel(const QString &caption)
 
 void ConfigurationWindow::clearConfigItem()
 {
-    // Editors go at once. Only if one of them is just writing a value, and a callback of the host
-    // asks for another page, its control still runs below us and has to live a little longer.
-    const bool writing = std::any_of(mEditors.cbegin(), mEditors.cend(),
-                                     [](const QPointer<ConfigItemWidget> &editor) {
-                                         return editor && editor->isWriting();
-                                     });
+    // Editors go at once. Only if code of the host asks for another page, called from a control of
+    // the old one, that control still runs below us and has to live a little longer.
+    const bool inUse = runsHostCode();
     while (QLayoutItem *item = mUi->layoutConfigItem->takeAt(0)) {
         QWidget *widget = item->widget();
-        if (widget && writing) {
+        if (widget && inUse) {
             widget->hide();
-            widget->deleteLater();
+            mOldPages.append(widget);
         } else {
             delete widget;
         }
@@ -183,6 +187,19 @@ void ConfigurationWindow::clearConfigItem()
     }
     mEditors.clear();
     mClassCaptions.clear();
+    if (inUse)
+        QTimer::singleShot(0, this, &ConfigurationWindow::deleteOldPages);
+}
+
+void ConfigurationWindow::deleteOldPages()
+{
+    if (runsHostCode()) {
+        QTimer::singleShot(sWaitForHost, this, &ConfigurationWindow::deleteOldPages);
+        return;
+    }
+    const QList<QPointer<QWidget>> pages = std::exchange(mOldPages, {});
+    for (const QPointer<QWidget> &page : pages)
+        delete page;
 }
 
 } // namespace MtConf

@@ -21,8 +21,7 @@ MtConfManage::~MtConfManage()
     }
     for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
         if (window)
-            window->close();
-        delete window;
+            window->managerIsGoing(mSharedItems + QList<QList<ConfItem>>{items});
     }
 }
 
@@ -31,7 +30,8 @@ ConfigurationWindow *MtConfManage::ShowWindow(QString majorName)
     const QPointer<ConfigurationWindow> window(ShowConfigurationWindow(this));
     if (window && !majorName.isEmpty())
         window->switchToView(majorName);
-    return window;
+    // A page may have taken this manager away.
+    return window && window->manager() ? window.data() : nullptr;
 }
 
 void MtConfManage::closeConfigWindow()
