@@ -43,6 +43,7 @@ private Q_SLOTS:
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
     void replacedItemIsFoundWithoutLookingForTheOldOneFirst();
     void itemsReorderedByACallbackAreFound();
+    void firstItemReorderedByACallbackIsFound();
     void listGivenAwayByACallbackIsReadAgain();
     void managerMayBeDestroyedByACallbackOfALoad();
     void managerMayBeDestroyedByTheRestoreHook();
@@ -272,6 +273,20 @@ void tst_MtConfManageFile::itemsReorderedByACallbackAreFound()
     writeFile(QJsonObject{{"General.a", 1}, {"General.y", 2}, {"General.z", 3}});
     mManager->_loadFromFile(path());
     QCOMPARE(y, 2);
+    QCOMPARE(z, 3);
+}
+
+void tst_MtConfManageFile::firstItemReorderedByACallbackIsFound()
+{
+    int a = 0, y = 0, z = 0;
+    declare(&z, "z");
+    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mManager->items.swapItemsAt(0, 2);
+    });
+    declare(&y, "y");
+    writeFile(QJsonObject{{"General.a", 1}, {"General.z", 3}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(y, 0);
     QCOMPARE(z, 3);
 }
 

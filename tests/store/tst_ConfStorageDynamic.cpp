@@ -68,6 +68,7 @@ private Q_SLOTS:
     void removingAnUnknownKeyIsLogged();
     void creatingAgainForgetsTheRemoval();
     void presetsAreCreatedUntouched();
+    void presetIsTheDefaultWhateverItsCreatorMakesOfIt();
     void removedPresetStaysRemoved();
     void restoreBringsPresetsBackAndRemovesOthers();
     void restoreOfOneClassBringsTheOthersPresetsBack();
@@ -214,6 +215,19 @@ void tst_ConfStorageDynamic::presetsAreCreatedUntouched()
     QVERIFY(mCopy->store.isEqualToDefault("P.a"));
     QCOMPARE(mCopy->dump().keys(), QStringList("P.b"));
     QCOMPARE(mCopy->store.calcLastConfTime(), at(100));
+}
+
+void tst_ConfStorageDynamic::presetIsTheDefaultWhateverItsCreatorMakesOfIt()
+{
+    mCopy->cls.creator = [this](QString key, const QJsonValue *value) {
+        mCopy->variables[key] = value->toObject();
+        mCopy->variables[key]["id"] = 7; // as a host numbers its entries
+        mCopy->store.reserveConf(key, &mCopy->variables[key]);
+    };
+    mCopy->store.mPresetDynamicConfs["P.a"] = QJsonObject{{"x", 1}};
+    mCopy->store.setToDefault("P.a", true);
+    QVERIFY(mCopy->store.isEqualToDefault("P.a"));
+    QCOMPARE(mCopy->dump().value("P.a").toObject().keys(), QStringList("t"));
 }
 
 void tst_ConfStorageDynamic::removedPresetStaysRemoved()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void init() { mFolder = std::make_unique<LanguageFolder>(); }
     void cleanup();
 
+    void boxFillsTheEditor();
     void rowsAreNamesInTheirOwnLanguage();
     void englishFileGetsARowOfItsOwn();
     void unnamedLanguageMovesTheRowsAfterIt();
@@ -87,6 +88,15 @@ void tst_ConfWidgetLanguage::cleanup()
     clearStore();
     const LogCapture log;
     mFolder.reset();
+}
+
+void tst_ConfWidgetLanguage::boxFillsTheEditor()
+{
+    ConfWidgetLanguage *editor = makeEditor("auto");
+    mFixture->parent.resize(400, 100);
+    QVERIFY(mFixture->show());
+    QCOMPARE(mCombo->x(), 0);
+    QCOMPARE(mCombo->width(), editor->width());
 }
 
 void tst_ConfWidgetLanguage::rowsAreNamesInTheirOwnLanguage()
