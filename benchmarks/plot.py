@@ -37,6 +37,7 @@ def draw(axes, work, sizes):
 def main(results, picture):
     # The same results give the same bytes.
     plt.rcParams["svg.hashsalt"] = "performance"
+    plt.rcParams["svg.fonttype"] = "none"
     works = {work: sizes for work, sizes in read_medians(results).items()
              if len(sizes) > 2 and next(iter(sizes.values()))["library"][0] == "time"
              and work != "readVariable"}
