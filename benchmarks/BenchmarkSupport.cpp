@@ -74,11 +74,13 @@ void countBytes(benchmark::State &state, qint64 bytes)
     state.counters["bytes"] = static_cast<double>(bytes) / sizeOf(state);
 }
 
-void addBenchmark(const char *work, const char *who, void (*function)(benchmark::State &),
-                  const std::vector<int> &sizes)
+benchmark::internal::Benchmark *addBenchmark(const char *work, const char *who,
+                                             void (*function)(benchmark::State &),
+                                             const std::vector<int> &sizes)
 {
     const std::string name = std::string(work) + '/' + who;
     auto *registered = benchmark::RegisterBenchmark(name.c_str(), function);
     for (const int size : sizes)
         registered->Arg(size);
+    return registered;
 }

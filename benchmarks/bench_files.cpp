@@ -64,6 +64,16 @@ private:
     ConfStorage mStore;
 };
 
+/// The same, saved so that a crash or a full disk loses nothing.
+class SafeLocalFile : public LocalFile
+{
+public:
+    SafeLocalFile(const QVector<SettingName> &names, const QString &path) : LocalFile(names, path)
+    {
+        store().mSafeSave = true;
+    }
+};
+
 /// The least that loading and saving the same file do.
 class BareFile
 {
@@ -148,6 +158,9 @@ void addFileBenchmarks()
     addBenchmark("loadLocalFile", "bare", benchLoad<BareFile>);
     addBenchmark("saveLocalFile", "library", benchSave<LocalFile>);
     addBenchmark("saveLocalFile", "bare", benchSave<BareFile>);
+    // Beside a plain save, by the clock on the wall: a safe one waits for the disk.
+    addBenchmark("saveSafely", "library", benchSave<SafeLocalFile>)->UseRealTime();
+    addBenchmark("saveSafely", "bare", benchSave<LocalFile>)->UseRealTime();
     addBenchmark("mergeCopy", "library", mergeCopy);
     addBenchmark("mergeCopy", "bare", parseCopy);
 }

@@ -30,7 +30,7 @@ def read_medians(path):
             sys.exit(f"{path}: {run['name']}: {run['error_message']}")
         if run.get("aggregate_name") != "median":
             continue
-        work, who, size = run["run_name"].split("/")
+        work, who, size = run["run_name"].split("/")[:3]  # "real_time" may follow
         cost = ("bytes", run["bytes"]) if "bytes" in run else ("time", run["per_entry"])
         works.setdefault(work, {}).setdefault(int(size), {})[who] = cost
     return works
