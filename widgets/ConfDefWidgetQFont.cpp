@@ -27,6 +27,8 @@ void ConfDefWidgetQFont::loadConf()
 {
     const QFont font = readValue<QFont>();
     mButton->setText(QStringLiteral("%1, %2").arg(font.family()).arg(font.pixelSize()));
+    // The name of the button, for screen readers, is that of the setting.
+    mButton->setAccessibleDescription(mButton->text());
     refreshLabelState();
 }
 

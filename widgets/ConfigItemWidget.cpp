@@ -6,6 +6,48 @@
 
 namespace MtConf {
 
+namespace {
+
+/// Marks the accessible texts of a control that the page has set, so that it may set them again.
+const char sNamedByPage[] = "NamedByPage";
+const char sDescribedByPage[] = "DescribedByPage";
+
+/// Sets the name, unless the widget came with one of its own.
+void setNameUnlessOwn(QWidget *widget, const QString &name)
+{
+    if (!widget->property(sNamedByPage).toBool() && !widget->accessibleName().isEmpty())
+        return;
+    widget->setProperty(sNamedByPage, true);
+    widget->setAccessibleName(name);
+}
+
+void setDescriptionUnlessOwn(QWidget *widget, const QString &description)
+{
+    if (!widget->property(sDescribedByPage).toBool() && !widget->accessibleDescription().isEmpty())
+        return;
+    widget->setProperty(sDescribedByPage, true);
+    widget->setAccessibleDescription(description);
+}
+
+/// The widgets inside `widget` that take the keyboard, without those that they consist of.
+QList<QWidget *> controlsIn(const QWidget *widget)
+{
+    QList<QWidget *> controls;
+    const QList<QWidget *> children =
+        widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        if (child->isWindow())
+            continue;
+        if (child->focusPolicy() != Qt::NoFocus)
+            controls.append(child);
+        else
+            controls.append(controlsIn(child));
+    }
+    return controls;
+}
+
+} // namespace
+
 ConfigItemWidget::Writing::Writing(ConfigItemWidget *editor)
     : mEditor(editor), mOuter(editor->mWriting)
 {
@@ -80,6 +122,26 @@ void ConfigItemWidget::retranslateUi()
         text->setText(translatedText());
     else if (auto *button = qobject_cast<QAbstractButton *>(mLabel))
         button->setText(translatedText());
+}
+
+void ConfigItemWidget::describeControls(const QString &group)
+{
+    QList<QWidget *> controls = controlsIn(this);
+    // A control that is its own caption says its name itself.
+    if (mLabel && !isAncestorOf(mLabel) && mLabel->focusPolicy() != Qt::NoFocus)
+        controls.prepend(mLabel);
+    // The frame too: combo boxes say their value in the place of their name on some systems.
+    setNameUnlessOwn(this, translatedText());
+    for (QWidget *control : qAsConst(controls)) {
+        if (control != mLabel)
+            setNameUnlessOwn(control, translatedText());
+        setDescriptionUnlessOwn(control, group);
+    }
+    if (auto *caption = qobject_cast<QLabel *>(mLabel)) {
+        // A caption with a buddy would take an ampersand for the mark of a shortcut key.
+        const bool canHaveBuddy = !controls.isEmpty() && !caption->text().contains(QLatin1Char('&'));
+        caption->setBuddy(canHaveBuddy ? controls.first() : nullptr);
+    }
 }
 
 void ConfigItemWidget::refreshLabelState()

@@ -38,6 +38,12 @@ public:
     /// Copies the stored value into the control.
     virtual void loadConf() = 0;
 
+    /// Tells screen readers what the controls are for: each is named as the caption and described by
+    /// `group`, the caption of its group, unless the editor has named or described it itself. The
+    /// caption becomes the buddy of the first control. Called when the page is built and again
+    /// when the language changes.
+    void describeControls(const QString &group);
+
     /// Whether a value that this editor writes is on its way through the store. Callbacks run
     /// meanwhile; whoever wants to delete the editor then does it later.
     bool isWriting() const { return mWriting; }

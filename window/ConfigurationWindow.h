@@ -130,6 +130,8 @@ private:
     void addItemPage(const QString &className, int classFlag);
     void addClassItemWidgets(const QString &caption, const QList<ConfItem *> &items, int flags);
     bool addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid);
+    void describePage();
+    void orderTabs();
     bool isShown(ConfItem *item) const;
     void addClassLabel(const QString &caption);
     void clearConfigItem();

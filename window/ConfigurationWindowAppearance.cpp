@@ -151,6 +151,7 @@ void ConfigurationWindow::retranslateUi()
         row.key()->setText(translatedName(row.value()));
     for (QLabel *caption : qAsConst(mClassCaptions))
         caption->setText(translatedName(caption->property("SourceText").toString()));
+    describePage();
 }
 
 } // namespace MtConf

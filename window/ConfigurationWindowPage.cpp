@@ -19,6 +19,9 @@ namespace {
 
 constexpr int sGridSpacing = 12; // points
 
+/// The untranslated caption of a group, on its box.
+const char sGroupName[] = "GroupName";
+
 } // namespace
 
 void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
@@ -41,6 +44,8 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
     if (!self)
         return;
     mBuildingPage = false;
+    describePage();
+    orderTabs();
     if (mIsNextPageWanted) {
         mIsNextPageWanted = false;
         QTimer::singleShot(0, this, [this] { onClassItemClick(mNextPage); });
@@ -101,6 +106,7 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
 
     // Where it is going to stay: changing parents gives every widget inside its style again.
     auto *box = new QGroupBox(mUi->gboxConfigBoard);
+    box->setProperty(sGroupName, caption);
     box->setObjectName(QStringLiteral("ConfigGroupBox"));
     auto *grid = new QGridLayout;
     grid->setSpacing(0);
@@ -168,6 +174,36 @@ void ConfigurationWindow::addClassLabel(const QString &caption)
     label->setProperty("ClassLabel", QStringLiteral("normal"));
     mClassCaptions.append(label);
     mUi->layoutConfigItem->addWidget(label);
+}
+
+void ConfigurationWindow::describePage()
+{
+    mUi->configList->setAccessibleName(windowTitle());
+    const QString page = mUi->configList->currentIndex().data().toString();
+    mUi->scrollArea->setAccessibleName(page);
+    mUi->gboxConfigBoard->setAccessibleName(page);
+    for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
+        if (!editor)
+            continue;
+        QWidget *box = editor->parentWidget();
+        const QString group = translatedName(box->property(sGroupName).toString());
+        box->setAccessibleName(group);
+        editor->describeControls(group);
+    }
+}
+
+void ConfigurationWindow::orderTabs()
+{
+    // Pages come after the buttons in time. What restores stands behind what is set.
+    QWidget *last = mUi->scrollArea;
+    for (QWidget *widget = last->nextInFocusChain(); widget != mUi->scrollArea;
+         widget = widget->nextInFocusChain()) {
+        const bool isOnPage = mUi->gboxConfigBoard->isAncestorOf(widget);
+        if (isOnPage && widget != mUi->btnRestoreDefault && widget->focusPolicy() != Qt::NoFocus)
+            last = widget;
+    }
+    setTabOrder(last, mUi->btnRestoreDefault);
+    setTabOrder(mUi->btnRestoreDefault, mUi->btnRestoreAllDefault);
 }
 
 void ConfigurationWindow::clearConfigItem()

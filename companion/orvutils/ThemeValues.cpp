@@ -39,7 +39,7 @@ QMap<QString, QString> darkThemeValues()
         {QStringLiteral("ColorBg3"), QStringLiteral("#232528")},
         {QStringLiteral("ColorBg3Border"), QStringLiteral("#4c5058")},
         {QStringLiteral("ColorFg0"), QStringLiteral("#e4e6ea")},
-        {QStringLiteral("ColorMain"), QStringLiteral("#3370db")},
+        {QStringLiteral("ColorMain"), QStringLiteral("#3673dd")},
         {QStringLiteral("ColorSuccess"), QStringLiteral("#62b76b")},
         {QStringLiteral("ColorWarning"), QStringLiteral("#e3a53a")},
         {QStringLiteral("ColorFailed"), QStringLiteral("#f26d6d")},
