@@ -51,7 +51,9 @@ xvfb-run -a -s '-screen 0 1400x900x24' sh -ec '
     while import -window root window.png && [ "$(identify -format %k window.png)" -lt 50 ]; do :; done
     kill $!'
 END
-chroot "$root" sh /stranger/go >&2
+# Nothing of this machine but the way to the network.
+env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root http_proxy="${http_proxy:-}" \
+    https_proxy="${https_proxy:-}" chroot "$root" sh /stranger/go >&2
 mkdir -p "$out"
 cp "$root/stranger/window.png" "$out/stranger.png"
 printf '%s\n' "$out/stranger.png"
