@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 
+#include <utility>
+
 using MtConf::ConfItem;
 using MtConf::MtConfManage;
 
@@ -43,7 +45,7 @@ private Q_SLOTS:
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
     void replacedItemIsFoundWithoutLookingForTheOldOneFirst();
     void itemsReorderedByACallbackAreFound();
-    void firstItemReorderedByACallbackIsFound();
+    void itemsRenamedByACallbackAreFoundByTheirNewNames();
     void listGivenAwayByACallbackIsReadAgain();
     void managerMayBeDestroyedByACallbackOfALoad();
     void managerMayBeDestroyedByTheRestoreHook();
@@ -276,12 +278,12 @@ void tst_MtConfManageFile::itemsReorderedByACallbackAreFound()
     QCOMPARE(z, 3);
 }
 
-void tst_MtConfManageFile::firstItemReorderedByACallbackIsFound()
+void tst_MtConfManageFile::itemsRenamedByACallbackAreFoundByTheirNewNames()
 {
     int a = 0, y = 0, z = 0;
     declare(&z, "z");
     declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager->items.swapItemsAt(0, 2);
+        std::swap(mManager->items[0].name, mManager->items[2].name);
     });
     declare(&y, "y");
     writeFile(QJsonObject{{"General.a", 1}, {"General.z", 3}});

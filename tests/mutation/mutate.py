@@ -167,15 +167,17 @@ class Copy:
 class Results:
     """What is known so far: one JSON object in each line of a file."""
 
-    def __init__(self, path, forget_survivors):
+    def __init__(self, path, forgotten):
+        """`forgotten` are the files whose survivors are to be tried again."""
         self.path = path
         self.rows = {}
         if path.exists():
             for line in path.read_text().splitlines():
                 row = json.loads(line)
                 self.rows[row["key"]] = row
-        if forget_survivors:
-            self.rows = {key: row for key, row in self.rows.items() if row["end"] != "survived"}
+        if forgotten:
+            self.rows = {key: row for key, row in self.rows.items()
+                         if row["end"] != "survived" or row["file"] not in forgotten}
             path.write_text("".join(json.dumps(row) + "\n" for row in self.rows.values()))
 
     def add(self, mutant, end, test):
@@ -236,12 +238,14 @@ def report(drawn, quota, results):
                 excused += 1
             else:
                 survivors.append(mutant)
-    for mutant in sorted(survivors):
+    for mutant in sorted(survivors, key=lambda it: (it.file, it.line, it.start)):
         print("%s:%d: `%s` became `%s` (%s, %s)" % (mutant.file, mutant.line, mutant.before,
                                                    mutant.after, mutant.kind, mutant.key))
     total = killed + len(survivors)
-    print("%d of %d breaks noticed (%.1f %%); %d more change nothing (survivors.md); %d drawn"
-          % (killed, total, 100.0 * killed / max(total, 1), excused, sum(quota.values())))
+    print("%d of %d breaks noticed (%.1f %%); %d more change nothing (survivors.md); "
+          "%d of %d drawn are not tried yet"
+          % (killed, total, 100.0 * killed / max(total, 1), excused,
+             sum(quota.values()) - total - excused, sum(quota.values())))
 
 
 def main():
@@ -259,7 +263,7 @@ def main():
     drawn, quota = chosen(options.seed, options.count)
     drawn = {name: mutants for name, mutants in drawn.items() if options.only in name}
     quota = {name: quota[name] for name in drawn}
-    results = Results(options.work / "results.jsonl", options.retry)
+    results = Results(options.work / "results.jsonl", set(drawn) if options.retry else set())
     if options.report:
         report(drawn, quota, results)
         return

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QListView>
 
 using MtConf::ConfItem;
@@ -97,6 +98,7 @@ void tst_ConfWidgetLanguage::boxFillsTheEditor()
     QVERIFY(mFixture->show());
     QCOMPARE(mCombo->x(), 0);
     QCOMPARE(mCombo->width(), editor->width());
+    QCOMPARE(editor->layout()->contentsMargins(), QMargins());
 }
 
 void tst_ConfWidgetLanguage::rowsAreNamesInTheirOwnLanguage()
