@@ -183,9 +183,9 @@ void ConfigurationWindow::describePage()
     mUi->scrollArea->setAccessibleName(page);
     mUi->gboxConfigBoard->setAccessibleName(page);
     for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
-        if (!editor)
+        QWidget *box = editor ? editor->parentWidget() : nullptr;
+        if (!box) // a host may have deleted the editor or taken it elsewhere
             continue;
-        QWidget *box = editor->parentWidget();
         const QString group = translatedName(box->property(sGroupName).toString());
         box->setAccessibleName(group);
         editor->describeControls(group);
