@@ -52,12 +52,14 @@ bool WindowGeometryFile::isHarmless(const QByteArray &text)
     // QSettings turns every value of the file into what it stands for, whichever key is asked for,
     // and for "@Variant(" and "@DateTime(" that means reading a stream of any type: eight bytes that
     // announce a list of four thousand million entries end the process. It takes out quotes and
-    // decodes escapes before it looks: the sign and the letter may be written as either.
+    // decodes escapes before it looks: the sign and the letter may be written as either, with quotes,
+    // blanks, unknown escapes and the ends of continued lines between them.
     static const QRegularExpression danger(QStringLiteral(
         R"((?:@|\\x[0-9a-fA-F]*40|\\[0-7]*100))"
-        R"((?:["\s]|\\[^x0-7])*)"
+        R"((?:["\t ]|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*)"
         R"((?:[VD]|\\x[0-9a-fA-F]*(?:56|44)|\\[0-7]*(?:126|104)))"));
-    return !QString::fromLatin1(text).contains(danger);
+    // With the size: a zero byte is no end.
+    return !QString::fromLatin1(text.constData(), text.size()).contains(danger);
 }
 
 WindowGeometryFile::Content WindowGeometryFile::content() const
