@@ -37,6 +37,7 @@ DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core 
 TEST_PACKAGES=(python3 python3-fonttools libxcb-xtest0-dev openbox x11-utils librapidcheck-dev
                libbenchmark-dev)
 BENCHMARK_PACKAGES=(libbenchmark-dev libkf5config-dev python3)
+FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
 
 # Texts of every language pass through the console and the file system.
 [ -n "${LC_ALL:-}${LANG:-}" ] || export LC_ALL=C.UTF-8

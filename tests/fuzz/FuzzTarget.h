@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+
+/// The target: called with one input after the other, by the fuzzer or by the replay.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+/// Once per process: an application on the offscreen platform, the C locale, and a silent log.
+void startFuzzing();
+
+/// Ends the process, after printing the rest, when something does not hold.
+void expect(bool holds, const char *what, const QByteArray &found = QByteArray(),
+            const QByteArray &expected = QByteArray());
+
+/// A folder in memory where there is one, of this process alone, removed at its end.
+QString scratchFolder();
+
+/// Makes the file hold `content`.
+void writeScratchFile(const QString &path, const QByteArray &content);
+
+/// `data` as bytes, without a copy.
+inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
+{
+    return QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
+}

@@ -1,0 +1,163 @@
+#include "FuzzTarget.h"
+#include "StoreHost.h"
+
+#include <QJsonDocument>
+#include <QSet>
+
+namespace {
+
+QByteArray jsonText(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+/// The key that a member of a configuration is meant for; null for another system's.
+QString storeKey(const QString &member)
+{
+    const int mark = member.lastIndexOf('#');
+    if (mark < 0)
+        return member;
+    return member.mid(mark) == "#s.mac" ? member.left(mark) : QString();
+}
+
+QSet<QString> namedKeys(const QJsonObject &document)
+{
+    QSet<QString> keys;
+    for (auto it = document.begin(); it != document.end(); ++it)
+        keys.insert(storeKey(it.key()));
+    return keys;
+}
+
+bool everyEntryHasItsTime(const QJsonObject &document)
+{
+    for (auto it = document.begin(); it != document.end(); ++it) {
+        if (!it->toObject().contains("t"))
+            return false;
+    }
+    return true;
+}
+
+void expectDeclaredKeysOnly(const StoreHost &host)
+{
+    for (auto it = host.store.mConfValues.begin(); it != host.store.mConfValues.end(); ++it)
+        expect(host.isDeclared(it.key()), "no unknown key has a value", it.key().toUtf8());
+    for (auto it = host.store.mConfMetas.begin(); it != host.store.mConfMetas.end(); ++it)
+        expect(host.isDeclared(it.key()), "no unknown key has a record", it.key().toUtf8());
+    const auto &removed = host.store.mRemovedDynamicConfs;
+    for (auto it = removed.begin(); it != removed.end(); ++it)
+        expect(host.isDeclared(it.key()), "no unknown key counts as removed", it.key().toUtf8());
+}
+
+void expectNamedVariablesOnly(const std::map<QString, StoreHost::Variable> &before,
+                              const StoreHost &host, const QJsonObject &document,
+                              ConfStorage::LoadConfType type)
+{
+    const QSet<QString> named = namedKeys(document);
+    const auto after = host.variables();
+    for (const auto &[key, variable] : after) {
+        if (variable == before.at(key))
+            continue;
+        expect(named.contains(key), "a variable changes under its key only", key.toUtf8());
+        // Of dynamic keys the class says whether they are local, not the record.
+        const bool local = host.store.mConfMetas.value(key).flags & ConfStorage::FlagLocalOnly;
+        expect(!local || host.store.findDynamicConfClass(key) || type == ConfStorage::LoadLocal, "a local setting stays local",
+               key.toUtf8());
+    }
+}
+
+/// JSON null makes a dynamic key with an empty object, and empties it when it is there.
+void expectSameValues(const QJsonObject &found, const QJsonObject &expected)
+{
+    for (auto it = found.begin(); it != found.end(); ++it)
+        expect(it->isNull() || it.value() == expected.value(it.key()),
+               "loading again changes no value", jsonText(found), jsonText(expected));
+}
+
+void expectNothingFromLoadingAgain(StoreHost &host, const QJsonObject &document,
+                                   ConfStorage::LoadConfType type)
+{
+    // An entry without a time is a change made now, each time that it is loaded: then only the
+    // values stay.
+    const bool timed = everyEntryHasItsTime(document);
+    // Of two members that name one key the second may see what the first made, and the first,
+    // loaded again, what the second made. No dump holds two.
+    if (namedKeys(document).size() != document.size())
+        return;
+    const QByteArray dumped = host.dump();
+    const QJsonObject values = host.values();
+    host.calls.clear();
+    host.store.loadConf(document, type);
+    if (!timed) {
+        expectSameValues(host.values(), values);
+        return;
+    }
+    expect(host.values() == values, "loading again changes no value", jsonText(host.values()),
+           jsonText(values));
+    expect(host.dump() == dumped, "loading again changes nothing", host.dump(), dumped);
+    expect(host.calls.isEmpty(), "loading again calls no callback");
+}
+
+/// Qt writes some hotkeys that it does not read, such as keys without a name.
+bool isReadBack(const ConfValue &value)
+{
+    if (value.mType != ConfValue::TyQKeySequence)
+        return true;
+    const auto keys = value.get<QKeySequence>();
+    return QKeySequence::fromString(keys.toString()) == keys;
+}
+
+/// What of a dump another store with the same declarations can take over.
+QJsonObject portablePart(const StoreHost &host)
+{
+    // As the file has it: JSON numbers there know no negative zero.
+    QJsonObject dump = QJsonDocument::fromJson(host.dump()).object();
+    const ConfStorage &store = host.store;
+    for (auto it = store.mConfValues.begin(); it != store.mConfValues.end(); ++it) {
+        const bool isDynamic = store.findDynamicConfClass(it.key());
+        // A dynamic key without a preset that was restored has no value left to create it from. One
+        // that JSON null emptied is created with an empty object, and one that was set to just its
+        // preset is created as the preset.
+        const ConfStorage::ConfMeta meta = store.mConfMetas.value(it.key());
+        const bool isDefault = meta.flags & ConfStorage::FlagIsDefault;
+        const bool isPreset = store.mPresetDynamicConfs.contains(it.key());
+        const bool isLost = isDefault ? !isPreset : isPreset && *it == meta.defaultValue;
+        const bool isEmpty = it->mType == ConfValue::TyNone;
+        if ((isDynamic && (isLost || isEmpty)) || !isReadBack(*it)) {
+            dump.remove(it.key());
+            dump.remove(addSysMark(it.key()));
+        }
+    }
+    return dump;
+}
+
+/// "#" in a key is the store's, and text that is no Unicode has no form in a file.
+bool hasKeysThatFilesCannotName(const StoreHost &host)
+{
+    const QStringList keys = host.store.mConfValues.keys() + host.store.mRemovedDynamicConfs.keys();
+    return std::any_of(keys.begin(), keys.end(), [](const QString &key) {
+        return key.contains('#') || QString::fromUtf8(key.toUtf8()) != key;
+    });
+}
+
+} // namespace
+
+void checkLoading(const StoreDeclarations &declarations, const QJsonObject &document,
+                  ConfStorage::LoadConfType type)
+{
+    StoreHost host(declarations);
+    const auto before = host.variables();
+    expect(host.store.loadConf(document, type) == document.size(), "loading counts the members");
+    expectDeclaredKeysOnly(host);
+    expectNamedVariablesOnly(before, host, document, type);
+    expectNothingFromLoadingAgain(host, document, type);
+
+    if (hasKeysThatFilesCannotName(host))
+        return;
+    const QJsonObject portable = portablePart(host);
+    StoreHost other(declarations);
+    expect(other.store.loadConf(QString::fromUtf8(jsonText(portable)), ConfStorage::LoadLocal),
+           "what was dumped can be read", jsonText(portable));
+    const QByteArray again = jsonText(QJsonDocument::fromJson(other.dump()).object());
+    expect(again == jsonText(portable), "a dump loaded and dumped again is the same", again,
+           jsonText(portable));
+}

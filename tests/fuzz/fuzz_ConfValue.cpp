@@ -1,0 +1,121 @@
+// One value from JSON: the first byte chooses the type, the rest is the JSON.
+#include "FuzzTarget.h"
+
+#include <MaltoConfiguration/store/ConfValue.h>
+
+#include <QJsonDocument>
+
+#include <cmath>
+
+namespace {
+
+QByteArray text(const QJsonValue &value)
+{
+    return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+}
+
+/// As a file gives it back.
+QJsonValue throughText(const QJsonValue &value)
+{
+    return QJsonDocument::fromJson(text(value)).array().at(0);
+}
+
+/// What is promised about the plain types: the value itself, or the type's zero.
+void expectPlainValue(const QJsonValue &json, int loaded)
+{
+    const double number = json.toDouble();
+    const bool fits = number == std::trunc(number) && number >= -2147483648.0
+                      && number <= 2147483647.0;
+    expect(loaded == (fits ? static_cast<int>(number) : 0), "an integer is read exactly");
+}
+void expectPlainValue(const QJsonValue &json, qreal loaded)
+{
+    expect(loaded == json.toDouble(), "a number is read exactly");
+}
+void expectPlainValue(const QJsonValue &json, bool loaded)
+{
+    expect(loaded == json.toBool(), "a switch is read exactly");
+}
+void expectPlainValue(const QJsonValue &json, const QString &loaded)
+{
+    expect(loaded == json.toString(), "a text is read exactly");
+}
+void expectPlainValue(const QJsonValue &json, const QColor &loaded)
+{
+    expect(loaded.isValid() == (json.toString() != "None"), "only None is no colour");
+}
+void expectPlainValue(const QJsonValue &, const QFont &loaded)
+{
+    const double size = qMax<double>(loaded.pixelSize(), loaded.pointSizeF());
+    expect(size >= 0.1 && size <= 4096, "a font can be shown", loaded.toString().toUtf8());
+}
+void expectPlainValue(const QJsonValue &, const QKeySequence &loaded)
+{
+    expect(loaded.count() <= 4, "a hotkey has four keys at most");
+}
+void expectPlainValue(const QJsonValue &json, const QJsonObject &loaded)
+{
+    expect(loaded == json.toObject(), "an object is read exactly");
+}
+void expectPlainValue(const QJsonValue &json, const QJsonArray &loaded)
+{
+    expect(loaded == json.toArray(), "an array is read exactly");
+}
+
+/// Qt writes some hotkeys that it does not read, such as keys without a name.
+template<class T> bool isReadBack(const T &) { return true; }
+bool isReadBack(const QKeySequence &keys)
+{
+    return QKeySequence::fromString(keys.toString()) == keys;
+}
+
+template<class T> void check(const QJsonValue &json)
+{
+    T variable{};
+    ConfValue bound = ConfValue::bound(&variable);
+    ConfValue owned = ConfValue::owned(T());
+    bound.loadFromJsonValue(json);
+    owned.loadFromJsonValue(json);
+    if (json.isNull() || json.isUndefined()) {
+        expect(bound.mType == ConfValue::TyNone && variable == T(), "null unbinds and writes nothing");
+        return;
+    }
+    expect(bound.mIsPtr && bound.mType == ConfValue::typeOf<T>(), "a bound value stays bound");
+    expect(owned == bound, "bound and owned values are equal", text(owned.toJsonValue()),
+           text(bound.toJsonValue()));
+    expectPlainValue(json, variable);
+
+    if (!isReadBack(variable))
+        return;
+    const QByteArray written = text(throughText(bound.toJsonValue()));
+    ConfValue again = ConfValue::owned(T());
+    again.loadFromJsonValue(throughText(bound.toJsonValue()));
+    const QByteArray rewritten = text(throughText(again.toJsonValue()));
+    expect(rewritten == written, "a value written and read is the same", rewritten, written);
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    startFuzzing();
+    if (size == 0)
+        return 0;
+    const QByteArray json = bytesOf(data + 1, size - 1);
+    const QJsonDocument document = QJsonDocument::fromJson('[' + json + ']');
+    // Most inputs are no JSON; then they are a text, as fonts, colours and keys are.
+    const QJsonValue value = document.array().size() == 1 ? document.array().at(0)
+                                                          : QJsonValue(QString::fromUtf8(json));
+    switch (data[0] % 9) {
+    case 0: check<QFont>(value); break;
+    case 1: check<QColor>(value); break;
+    case 2: check<int>(value); break;
+    case 3: check<qreal>(value); break;
+    case 4: check<bool>(value); break;
+    case 5: check<QString>(value); break;
+    case 6: check<QKeySequence>(value); break;
+    case 7: check<QJsonObject>(value); break;
+    default: check<QJsonArray>(value); break;
+    }
+    return 0;
+}

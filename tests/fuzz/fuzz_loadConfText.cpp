@@ -1,0 +1,44 @@
+// Text that claims to be a dumped configuration, loaded by a host with a setting of every kind.
+#include "FuzzTarget.h"
+#include "StoreHost.h"
+
+#include <QJsonDocument>
+
+namespace {
+
+StoreDeclarations declarations()
+{
+    StoreDeclarations all;
+    const QStringList keys{"None", "Color", "Int", "Real", "Bool", "Text", "Font", "Keys", "Object",
+                           "Array"};
+    for (int type = 1; type <= 9; ++type)
+        all.settings.push_back({keys.at(type), static_cast<ConfValue::ConfType>(type), 0});
+    all.settings.push_back({"Marked", ConfValue::TyInt32, ConfStorage::FlagSystemIndependent});
+    all.settings.push_back({"Local", ConfValue::TyInt32, ConfStorage::FlagLocalOnly});
+    all.families.push_back({"p.", 0, true});
+    all.families.push_back({"m.", ConfStorage::FlagSystemIndependent, true});
+    all.families.push_back({"l.", ConfStorage::FlagLocalOnly, true});
+    all.presets.insert("p.preset", QJsonObject{{"n", 1}});
+    return all;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    startFuzzing();
+    static const StoreDeclarations sDeclarations = declarations();
+    const QString text = QString::fromUtf8(bytesOf(data, size));
+
+    StoreHost host(sDeclarations);
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    const bool loaded = host.store.loadConf(text, ConfStorage::LoadLocal);
+    expect(loaded == document.isObject(), "an object loads, and nothing else does");
+    if (!loaded) {
+        expect(host.dump() == "{}" && host.calls.isEmpty(), "what does not load leaves no trace");
+        return 0;
+    }
+    checkLoading(sDeclarations, document.object(), ConfStorage::LoadLocal);
+    checkLoading(sDeclarations, document.object(), ConfStorage::LoadShared);
+    return 0;
+}

@@ -1,0 +1,89 @@
+// Names of files in the folder of translations, one a line, and below an empty line a stored code.
+#include "FuzzTarget.h"
+
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <fcntl.h>
+#include <unistd.h>
+
+using MtConf::ConfWidgetLanguage;
+
+namespace {
+
+constexpr int sMostFiles = 4;
+
+/// An empty folder of translations, in the place where they are looked for.
+QByteArray translationsFolder()
+{
+    const QString folder = scratchFolder() + "/language/";
+    expect(QDir().mkpath(folder), "a folder can be made");
+    const QDir program(QCoreApplication::applicationDirPath());
+    ConfWidgetLanguage::sLanguagePath = '/' + program.relativeFilePath(folder) + '/';
+    return QFile::encodeName(folder);
+}
+
+/// Those of the files that could be made.
+QByteArrayList makeFiles(const QByteArray &folder, const QByteArrayList &names)
+{
+    QByteArrayList made;
+    for (const QByteArray &name : names) {
+        if (name.contains('/') || name.contains('\0') || made.size() == sMostFiles)
+            continue;
+        const int file = ::open((folder + name).constData(), O_CREAT | O_EXCL | O_WRONLY, 0600);
+        if (file < 0)
+            continue;
+        ::close(file);
+        made.append(name);
+    }
+    return made;
+}
+
+QStringList expectedCodes(const QByteArrayList &files)
+{
+    QStringList codes;
+    for (const QByteArray &file : files) {
+        const QString name = QFile::decodeName(file);
+        // Hidden files are no translations, and neither is what no text can name.
+        if (!name.startsWith('.') && name.endsWith(".qm", Qt::CaseInsensitive)
+            && QFile::encodeName(name) == file)
+            codes.append(name.left(name.indexOf('.')).toLower());
+    }
+    std::sort(codes.begin(), codes.end());
+    return codes;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    startFuzzing();
+    static const QByteArray sFolder = translationsFolder();
+    const QByteArray input = bytesOf(data, size);
+    const int gap = input.indexOf("\n\n");
+    const QByteArrayList files = makeFiles(sFolder, input.left(gap).split('\n'));
+    const QString stored = gap < 0 ? QString("auto") : QString::fromUtf8(input.mid(gap + 2));
+
+    ConfWidgetLanguage::mSupportLangCodes.clear();
+    const QStringList codes = ConfWidgetLanguage::loadSupportLanguageCode();
+    for (const QByteArray &file : files)
+        ::unlink((sFolder + file).constData());
+
+    expect(codes.mid(0, 2) == QStringList({"auto", "en-us"}), "two codes are built in");
+    QStringList found = codes.mid(2);
+    std::sort(found.begin(), found.end());
+    expect(found == expectedCodes(files), "every file has its code", found.join('|').toUtf8(),
+           expectedCodes(files).join('|').toUtf8());
+
+    const QString valid = ConfWidgetLanguage::getVaildLanguageCode(stored);
+    expect(valid != "auto" && codes.contains(valid), "a stored code leads to a usable one",
+           valid.toUtf8());
+    if (stored != "auto" && codes.contains(stored))
+        expect(valid == stored, "a usable code stays", valid.toUtf8(), stored.toUtf8());
+    ConfWidgetLanguage::installTranslator(stored);
+    return 0;
+}

@@ -1,0 +1,52 @@
+// The content of the file in which the settings window keeps its place.
+#include "FuzzTarget.h"
+
+#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace {
+
+/// The rectangle of a file that holds nothing else, as the window writes it.
+bool readPlain(const QByteArray &content, QRect *geometry)
+{
+    static const QRegularExpression sPlain(
+        "\\A\\[General\\]\nGeometry=@Rect\\((-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5})\\)\n\\z");
+    const auto match = sPlain.match(QString::fromLatin1(content));
+    if (match.hasMatch())
+        *geometry = QRect(match.captured(1).toInt(), match.captured(2).toInt(),
+                          match.captured(3).toInt(), match.captured(4).toInt());
+    return match.hasMatch();
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    startFuzzing();
+    const QByteArray content = bytesOf(data, size);
+    // QSettings remembers files by their names, so each input gets one of its own.
+    static qint64 sCount = 0;
+    const QString path = scratchFolder() + '/' + QString::number(++sCount) + ".ini";
+    writeScratchFile(path, content);
+    const WindowGeometryFile file(path);
+
+    const bool harmless = WindowGeometryFile::isHarmless(content);
+    const WindowGeometryFile::Saved saved = file.read();
+    expect(harmless || (saved.found && !saved.geometry.isValid()), "a dangerous file is unusable");
+    QRect plain;
+    if (readPlain(content, &plain))
+        expect(saved.found && saved.geometry == plain, "a plain geometry is read exactly");
+
+    // Writing takes ten times as long as reading; one input in eight will do.
+    if (size % 8 == 0) {
+        const QRect geometry(static_cast<int>(size), 2, 30, 40);
+        file.write(geometry);
+        const WindowGeometryFile::Saved written = file.read();
+        expect(written.found && written.geometry == geometry, "what is written is read");
+    }
+    QFile::remove(path);
+    return 0;
+}
