@@ -74,7 +74,7 @@ public:
     enum DumpConfType {
         DumpLocal = 0,       ///< everything that ever changed, local-only keys too
         DumpShared = 1,      ///< the same without local-only keys
-        DumpChangedOnly = 2  ///< bare values of what is not at its default, without local-only keys
+        DumpChangedOnly = 2  ///< values without times of what is not at its default, shared keys only
     };
 
     /// The store of the process, made empty by the first call and never destroyed.
