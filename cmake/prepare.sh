@@ -34,8 +34,8 @@ MACOS_PACKAGES=(cmake ninja qt@5 google-benchmark)
 BUILD_PACKAGES=(g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
                 qttranslations5-l10n libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
-TEST_PACKAGES=(python3 python3-fonttools libxcb-xtest0-dev openbox x11-utils librapidcheck-dev
-               libbenchmark-dev)
+TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
+               librapidcheck-dev libbenchmark-dev)
 BENCHMARK_PACKAGES=(libbenchmark-dev libkf5config-dev python3)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
 

@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <MaltoConfiguration/malto_export.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
@@ -12,6 +14,7 @@
 
 class QWidget;
 
+/// What a host declares, the editors of it and the window.
 namespace MtConf {
 
 class ConfItem;
@@ -31,7 +34,9 @@ class MALTO_EXPORT ConfItemRevision
 {
 public:
     ConfItemRevision() { ++sCurrent; }
+    /// Counts the copy.
     ConfItemRevision(const ConfItemRevision &) { ++sCurrent; }
+    /// Counts the assignment.
     ConfItemRevision &operator=(const ConfItemRevision &)
     {
         ++sCurrent;

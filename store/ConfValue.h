@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <MaltoConfiguration/malto_export.h>
 
 #include <QColor>
@@ -16,15 +18,15 @@
 class QJsonValue;
 
 // The names under which Qt's meta-type system knows a pointer to a variable of the host.
-using TyQColorPtr = QColor *;
-using TyInt32Ptr = int *;
-using TyQrealPtr = qreal *;
-using TyBoolPtr = bool *;
-using TyQStringPtr = QString *;
-using TyQFontPtr = QFont *;
-using TyQKeySequencePtr = QKeySequence *;
-using TyQJsonObjectPtr = QJsonObject *;
-using TyQJsonArrayPtr = QJsonArray *;
+using TyQColorPtr = QColor *;  ///< to a colour
+using TyInt32Ptr = int *;  ///< to an integer
+using TyQrealPtr = qreal *;  ///< to a number
+using TyBoolPtr = bool *;  ///< to a switch
+using TyQStringPtr = QString *;  ///< to a text
+using TyQFontPtr = QFont *;  ///< to a font
+using TyQKeySequencePtr = QKeySequence *;  ///< to a hotkey
+using TyQJsonObjectPtr = QJsonObject *;  ///< to an object
+using TyQJsonArrayPtr = QJsonArray *;  ///< to an array
 
 Q_DECLARE_METATYPE(TyQColorPtr)
 Q_DECLARE_METATYPE(TyInt32Ptr)
@@ -92,6 +94,7 @@ public:
     /// no known type, empty ones included, are never equal, which logs the critical message
     /// "restoreDefault: unknow type: " and the type.
     bool operator==(const ConfValue &other) const;
+    /// The opposite of `==`, with the same message.
     bool operator!=(const ConfValue &other) const { return !(*this == other); }
 
     /// The value as JSON: a colour as the hexadecimal digits of its ARGB value or "None" when it is

@@ -13,5 +13,6 @@ public:
     using QComboBox::QComboBox;
 
 protected:
+    /// Leaves the event to the page, which scrolls.
     void wheelEvent(QWheelEvent *event) override;
 };

@@ -44,6 +44,7 @@ public Q_SLOTS:
     void setHotKeyAgain();
 
 protected:
+    /// Shows the state in the new language.
     void changeEvent(QEvent *event) override;
 
 private:

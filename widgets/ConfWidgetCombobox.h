@@ -21,6 +21,7 @@ class MALTO_EXPORT ConfWidgetCombobox : public ConfigItemWidget
 {
     Q_OBJECT
 public:
+    /// An editor of `item` inside `parent`, with an empty list.
     ConfWidgetCombobox(ConfItem *item, QWidget *parent);
     /// Makes the editor, with an empty list.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);

@@ -42,6 +42,7 @@ public Q_SLOTS:
     void onCurrentIndexChanged();
 
 protected:
+    /// Shows the actions in the new language.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -51,9 +51,13 @@ Q_SIGNALS:
     void sigKeySequenceChanged(QKeySequence sequence);
 
 protected:
+    /// Takes keys before the window's shortcuts and the focus do.
     bool event(QEvent *event) override;
+    /// Records the key with the modifiers that are held.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Records a modifier key that was pressed and released alone, where that is allowed.
     void keyReleaseEvent(QKeyEvent *event) override;
+    /// Shows the texts of the field in the new language.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -27,6 +27,7 @@ class MALTO_EXPORT MultiSelectComboBox : public QComboBox
 {
     Q_OBJECT
 public:
+    /// A box without entries inside `parent`, which may be null and owns it.
     explicit MultiSelectComboBox(QWidget *parent = nullptr);
     ~MultiSelectComboBox() override;
 
@@ -89,9 +90,13 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
+    /// Closes the list of a box that is disabled, and follows the direction of the layout.
     void changeEvent(QEvent *event) override;
+    /// Closes the list.
     void hideEvent(QHideEvent *event) override;
+    /// Does nothing with the wheel, and keeps it from the page.
     void wheelEvent(QWheelEvent *event) override;
+    /// Does nothing with keys: they would step through the rows of the closed box.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

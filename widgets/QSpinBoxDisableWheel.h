@@ -13,5 +13,6 @@ public:
     using QSpinBox::QSpinBox;
 
 protected:
+    /// Leaves the event to the page unless the box has the keyboard focus.
     void wheelEvent(QWheelEvent *event) override;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <MaltoConfiguration/malto_export.h>
 
 #include <QChar>
@@ -79,7 +81,9 @@ public Q_SLOTS:
     void restoreAllDefault();
 
 protected:
+    /// Puts its own deletion off while code of the host runs that the window has called.
     bool event(QEvent *event) override;
+    /// Has the manager save.
     void closeEvent(QCloseEvent *event) override;
 
 private:

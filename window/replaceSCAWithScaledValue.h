@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <MaltoConfiguration/malto_export.h>
 
 #include <QString>

@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <QChar>
 
 /// The glyphs of the icon font "QuorviIconfont" by their meaning.

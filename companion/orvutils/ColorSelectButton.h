@@ -20,6 +20,7 @@ class ORVUTILS_EXPORT ColorSelectButton : public QPushButton
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY sigColorChanged)
 
 public:
+    /// A button without a colour inside `parent`, which may be null and owns it.
     explicit ColorSelectButton(QWidget *parent = nullptr);
 
     /// The colour, exactly as it was set or picked; invalid at first.
@@ -27,7 +28,9 @@ public:
     /// Shows `color`, which may be invalid. Emits nothing.
     void setColor(const QColor &color);
 
+    /// Room for a swatch of 3.5 by 1.1 em, in pixels, with what the style puts around it.
     QSize sizeHint() const override;
+    /// The same as `sizeHint()`.
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
@@ -35,8 +38,11 @@ Q_SIGNALS:
     void sigColorChanged(const QColor &color);
 
 protected:
+    /// Describes the colour in the new language.
     void changeEvent(QEvent *event) override;
+    /// Opens the dialog on Return and Enter as on Space.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Draws the button of the style with the swatch inside.
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+/// @file
+
 #include <OrvUtils/orvutils_export.h>
 
 #include <QFont>

@@ -13,7 +13,7 @@ for language in en-us de-de zh-cn ar-eg; do
         build/bin/malto-demo --pictures "$work/$language" --language "$language" >/dev/null 2>&1
 done
 
-small=(-resize 760x -colors 128 -strip)
+small=(-resize 760x +dither -colors 256 -strip)
 convert "$work/en-us/appearance-light.png" "${small[@]}" docs/pictures/window-light.png
 convert "$work/en-us/appearance-dark.png" "${small[@]}" docs/pictures/window-dark.png
 convert "$work/ar-eg/appearance-light.png" "${small[@]}" docs/pictures/window-rtl.png
@@ -24,5 +24,5 @@ for frame in en-us/mouse-light en-us/mouse-dark de-de/mouse-dark zh-cn/mouse-dar
     frames+=("$work/$frame.png")
 done
 convert -delay 140 -loop 0 "${frames[@]}" -resize 760x -gravity north -extent 760x700 \
-    -layers OptimizePlus -colors 64 docs/pictures/window.gif
+    +dither -colors 128 -layers OptimizePlus docs/pictures/window.gif
 ls -l docs/pictures/window*

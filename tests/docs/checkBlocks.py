@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Fails when a fenced block right after a line <!-- path/of/a/file --> of a page in docs/ does not hold
-that file's very text.
+"""Fails when a fenced block right after a line <!-- path/of/a/file --> of README.md or of a page in
+docs/ does not hold that file's very text.
 
     checkBlocks.py <folder of the project>
 """
@@ -10,7 +10,7 @@ import sys
 
 root = pathlib.Path(sys.argv[1])
 found, problems = 0, []
-for page in sorted(root.glob("docs/**/*.md")):
+for page in [root / "README.md", *sorted(root.glob("docs/**/*.md"))]:
     text = page.read_text(encoding="utf-8")
     for path, block in re.findall(r"^<!-- (\S+/\S+) -->\n```\w*\n(.*?)^```$", text, flags=re.M | re.S):
         found += 1

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds the consumer against the project in one of three ways, and runs it.
-#   consume.sh package|pkgconfig <build of the project> <work folder> <compiler> <flags>
+# Builds the consumer against the project in one of three ways, and runs it; with "readme" the program of
+# the README against the installed package, as the README says.
+#   consume.sh package|pkgconfig|readme <build of the project> <work folder> <compiler> <flags>
 #   consume.sh tree              <source of the project> <work folder> <compiler> <flags>
 set -euo pipefail
 way=$1 project=$2 work=$3 compiler=$4 flags=$5
@@ -28,6 +29,11 @@ package)
     build "$consumer" -DCMAKE_PREFIX_PATH="$work/moved/here"
     test -s "$work/build/Resources/language/de-de.qm"
     "$work/build/consumer"
+    ;;
+readme)
+    install_and_move
+    build "$consumer/../../../examples/minimal" -DCMAKE_PREFIX_PATH="$work/moved/here"
+    test -x "$work/build/your-program"
     ;;
 pkgconfig)
     install_and_move
