@@ -207,12 +207,12 @@ void MainWindow::save()
 void MainWindow::restoreAll()
 {
     const QPointer<MainWindow> self(this);
-    auto *question = new QMessageBox(
+    const QPointer<QMessageBox> question = new QMessageBox(
         QMessageBox::Question, windowTitle(),
         tr("Restore the defaults of all settings and the presets of the profiles?"),
         QMessageBox::Yes | QMessageBox::No, this);
     const int answer = question->exec();
-    if (!self)
+    if (!self || !question)
         return;
     question->deleteLater();
     if (answer == QMessageBox::Yes)
