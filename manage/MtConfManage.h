@@ -22,6 +22,9 @@ class ConfigurationWindow;
 /// Items and classes are only ever added by the manager, and their addresses stay valid as the lists
 /// grow. A host may edit the lists itself, but must not do so while a copy of them is alive, nor
 /// remove an item whose editor is shown.
+///
+/// A whole host:
+/// @include minimal/main.cpp
 class MALTO_EXPORT MtConfManage : public QObject
 {
     Q_OBJECT

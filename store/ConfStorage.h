@@ -36,6 +36,9 @@ using ConfChangedCallback = std::function<void(QString const &key, ConfValue con
 ///
 /// All data are public: a host fills `mLocalSaveFile`, `mDynamicConfClasses` and
 /// `mPresetDynamicConfs`, and may set flags in `mConfMetas`.
+///
+/// The store by itself:
+/// @include headless/main.cpp
 class MALTO_EXPORT ConfStorage
 {
 public:
@@ -56,6 +59,8 @@ public:
     };
 
     /// A family of keys that come and go at run time. Owned by the host.
+    ///
+    /// @include dynamic-entries/main.cpp
     struct DynamicConfClass
     {
         QString prefix;  ///< a key belongs to the class when it starts with this

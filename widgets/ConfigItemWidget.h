@@ -18,6 +18,8 @@ namespace MtConf {
 ///
 /// An editor lives as long as the page that shows it; the item must outlive it. Meanwhile the
 /// item's `editor` points to it.
+///
+/// @include own-editor/main.cpp
 class MALTO_EXPORT ConfigItemWidget : public QFrame
 {
 public:

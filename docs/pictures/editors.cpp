@@ -72,7 +72,7 @@ int main(int argc, char **argv)
     manager.addConfLanguage("Language", &language, page, "language");
 
     QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
-    manager.ShowWindow()->resize(780, 1000);
+    manager.ShowWindow()->resize(920, 1000);
     settle();
     for (const ConfItem &item : qAsConst(manager.items)) {
         if (!pictureOf(item).save(folder + '/' + item.name + ".png"))
