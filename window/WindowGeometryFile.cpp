@@ -55,11 +55,12 @@ bool WindowGeometryFile::isHarmless(const QByteArray &text)
     // decodes escapes before it looks: the sign and the letter may be written as either, with quotes,
     // blanks, unknown escapes and the ends of continued lines between them.
     static const QRegularExpression danger(QStringLiteral(
-        R"((?:@|\\x[0-9a-fA-F]*40|\\[0-7]*100))"
-        R"((?:["\t ]|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*)"
-        R"((?:[VD]|\\x[0-9a-fA-F]*(?:56|44)|\\[0-7]*(?:126|104)))"));
-    // With the size: a zero byte is no end.
-    return !QString::fromLatin1(text.constData(), text.size()).contains(danger);
+        R"((?:@|\\x(?:[0-9a-fA-F]*00|0?)40(?![0-9a-fA-F])|\\[0-7]*100))"
+        R"((?:["\t ]|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*+)"
+        R"((?:[VD]|\\x(?:[0-9a-fA-F]*00|0?)(?:56|44)(?![0-9a-fA-F])|\\[0-7]*(?:126|104)))"));
+    // With the size: a zero byte is no end. A search that gave up has found nothing, and is no proof.
+    const auto found = danger.match(QString::fromLatin1(text.constData(), text.size()));
+    return found.isValid() && !found.hasMatch();
 }
 
 WindowGeometryFile::Content WindowGeometryFile::content() const

@@ -34,6 +34,11 @@ void expect(bool holds, const char *what, const QByteArray &found, const QByteAr
     std::abort();
 }
 
+bool isReadBack(const QKeySequence &keys)
+{
+    return QKeySequence::fromString(keys.toString()) == keys;
+}
+
 QString scratchFolder()
 {
     const QString memory = QStringLiteral("/dev/shm");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QKeySequence>
 #include <QString>
 
 #include <cstddef>
@@ -22,8 +23,17 @@ QString scratchFolder();
 /// Makes the file hold `content`.
 void writeScratchFile(const QString &path, const QByteArray &content);
 
+/// Whether Qt reads what it writes of a hotkey; it does not of keys without a name, for one.
+bool isReadBack(const QKeySequence &keys);
+
 /// `data` as bytes, without a copy.
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
 {
     return QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
+}
+
+/// `data` as text in UTF-8, to its end: QString::fromUtf8(QByteArray) stops at a zero byte.
+inline QString textOf(const std::uint8_t *data, std::size_t size)
+{
+    return QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
 }

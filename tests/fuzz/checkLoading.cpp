@@ -97,17 +97,13 @@ void expectNothingFromLoadingAgain(StoreHost &host, const QJsonObject &document,
     expect(host.calls.isEmpty(), "loading again calls no callback");
 }
 
-/// Qt writes some hotkeys that it does not read, such as keys without a name.
 bool isReadBack(const ConfValue &value)
 {
-    if (value.mType != ConfValue::TyQKeySequence)
-        return true;
-    const auto keys = value.get<QKeySequence>();
-    return QKeySequence::fromString(keys.toString()) == keys;
+    return value.mType != ConfValue::TyQKeySequence || ::isReadBack(value.get<QKeySequence>());
 }
 
-/// What of a dump another store with the same declarations can take over.
-QJsonObject portablePart(const StoreHost &host)
+/// What of a dump `other`, declared in the same way, can take over.
+QJsonObject portablePart(const StoreHost &host, const StoreHost &other)
 {
     // As the file has it: JSON numbers there know no negative zero.
     QJsonObject dump = QJsonDocument::fromJson(host.dump()).object();
@@ -122,7 +118,14 @@ QJsonObject portablePart(const StoreHost &host)
         const bool isPreset = store.mPresetDynamicConfs.contains(it.key());
         const bool isLost = isDefault ? !isPreset : isPreset && *it == meta.defaultValue;
         const bool isEmpty = it->mType == ConfValue::TyNone;
-        if ((isDynamic && (isLost || isEmpty)) || !isReadBack(*it)) {
+        // A setting among the keys of a dynamic class that was removed and created again is an
+        // object, and has the flags of the class.
+        const auto declared = other.store.mConfValues.constFind(it.key());
+        const quint32 declaredFlags = other.store.mConfMetas.value(it.key()).flags;
+        const bool isReplaced = declared != other.store.mConfValues.constEnd()
+                                && (declared->mType != it->mType
+                                    || ((declaredFlags ^ meta.flags) & ~ConfStorage::FlagIsDefault));
+        if ((isDynamic && (isLost || isEmpty || isReplaced)) || !isReadBack(*it)) {
             dump.remove(it.key());
             dump.remove(addSysMark(it.key()));
         }
@@ -153,8 +156,8 @@ void checkLoading(const StoreDeclarations &declarations, const QJsonObject &docu
 
     if (hasKeysThatFilesCannotName(host))
         return;
-    const QJsonObject portable = portablePart(host);
     StoreHost other(declarations);
+    const QJsonObject portable = portablePart(host, other);
     expect(other.store.loadConf(QString::fromUtf8(jsonText(portable)), ConfStorage::LoadLocal),
            "what was dumped can be read", jsonText(portable));
     const QByteArray again = jsonText(QJsonDocument::fromJson(other.dump()).object());

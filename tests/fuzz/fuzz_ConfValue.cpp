@@ -62,13 +62,6 @@ void expectPlainValue(const QJsonValue &json, const QJsonArray &loaded)
     expect(loaded == json.toArray(), "an array is read exactly");
 }
 
-/// Qt writes some hotkeys that it does not read, such as keys without a name.
-template<class T> bool isReadBack(const T &) { return true; }
-bool isReadBack(const QKeySequence &keys)
-{
-    return QKeySequence::fromString(keys.toString()) == keys;
-}
-
 template<class T> void check(const QJsonValue &json)
 {
     T variable{};
@@ -85,8 +78,10 @@ template<class T> void check(const QJsonValue &json)
            text(bound.toJsonValue()));
     expectPlainValue(json, variable);
 
-    if (!isReadBack(variable))
-        return;
+    if constexpr (std::is_same_v<T, QKeySequence>) {
+        if (!isReadBack(variable))
+            return;
+    }
     const QByteArray written = text(throughText(bound.toJsonValue()));
     ConfValue again = ConfValue::owned(T());
     again.loadFromJsonValue(throughText(bound.toJsonValue()));
@@ -105,7 +100,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const QJsonDocument document = QJsonDocument::fromJson('[' + json + ']');
     // Most inputs are no JSON; then they are a text, as fonts, colours and keys are.
     const QJsonValue value = document.array().size() == 1 ? document.array().at(0)
-                                                          : QJsonValue(QString::fromUtf8(json));
+                                                          : QJsonValue(textOf(data + 1, size - 1));
     switch (data[0] % 9) {
     case 0: check<QFont>(value); break;
     case 1: check<QColor>(value); break;

@@ -28,7 +28,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     startFuzzing();
     static const StoreDeclarations sDeclarations = declarations();
-    const QString text = QString::fromUtf8(bytesOf(data, size));
+    const QString text = textOf(data, size);
 
     StoreHost host(sDeclarations);
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());

@@ -81,7 +81,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     if (size == 0)
         return 0;
     const double scale = sScales[data[0] % 8];
-    const QString text = QString::fromUtf8(bytesOf(data + 1, size - 1));
+    const QString text = textOf(data + 1, size - 1);
     const auto single = static_cast<float>(scale);
     const QString replaced = replaceSCAWithScaledValue(text, single);
     expect(replaced == replacedModel(text, single), "macros are replaced", replaced.toUtf8(),

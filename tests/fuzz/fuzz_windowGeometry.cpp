@@ -1,11 +1,14 @@
-// The content of the file in which the settings window keeps its place.
+// The content of the file in which the settings window keeps its place: the input as it is, or behind
+// a "~" the pieces that its bytes choose.
+#include "ByteReader.h"
 #include "FuzzTarget.h"
 
 #include <MaltoConfiguration/window/WindowGeometryFile_p.h>
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QSettings>
+
+#include <iterator>
 
 namespace {
 
@@ -14,11 +17,26 @@ bool readPlain(const QByteArray &content, QRect *geometry)
 {
     static const QRegularExpression sPlain(
         "\\A\\[General\\]\nGeometry=@Rect\\((-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5})\\)\n\\z");
-    const auto match = sPlain.match(QString::fromLatin1(content));
+    const auto match = sPlain.match(QString::fromLatin1(content.constData(), content.size()));
     if (match.hasMatch())
         *geometry = QRect(match.captured(1).toInt(), match.captured(2).toInt(),
                           match.captured(3).toInt(), match.captured(4).toInt());
     return match.hasMatch();
+}
+
+/// Text around the values that end the process, which plain mutation seldom hits.
+QByteArray composed(const QByteArray &choices)
+{
+    static const QByteArray sPieces[] = {
+        "x=", "@", "Variant", "DateTime", "(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)", "\"", " ", "\t", "\n",
+        "\r\n", "\\", "\\\n", "\\x40", "\\x56", "\\x0056", "\\x10040", "\\100", "\\126", "\\104",
+        "\\x44", "\\a", "\\8", "\\\"", ",", ";", "[S]\n", "ariant", "V", "D", "ateTime", "@@",
+        QByteArray(1, '\0'), "\xe9", "\\x144", "Geometry=@Rect(1 2 3 4)", "%40", "(", ")", "\v", "\xa0"};
+    ByteReader bytes(choices);
+    QByteArray text;
+    while (!bytes.atEnd())
+        text += sPieces[bytes.below(static_cast<int>(std::size(sPieces)))];
+    return text;
 }
 
 } // namespace
@@ -26,7 +44,8 @@ bool readPlain(const QByteArray &content, QRect *geometry)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     startFuzzing();
-    const QByteArray content = bytesOf(data, size);
+    const bool pieces = size > 0 && data[0] == '~';
+    const QByteArray content = pieces ? composed(bytesOf(data + 1, size - 1)) : bytesOf(data, size);
     // QSettings remembers files by their names, so each input gets one of its own.
     static qint64 sCount = 0;
     const QString path = scratchFolder() + '/' + QString::number(++sCount) + ".ini";

@@ -89,11 +89,12 @@ void tst_WindowGeometryFile::hiddenVariantIsSeen_data()
     QTest::newRow("octal sign") << QByteArray("x=\\100Variant(1)");
     QTest::newRow("blanks behind a quote") << QByteArray("x=\"@\"  Variant(1)");
     QTest::newRow("octal letter") << QByteArray("x=@\\126ariant(1)");
-    QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56ariant(1)");
+    QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56\"ariant(1)\"");
     QTest::newRow("unknown escape") << QByteArray("x=@\\zVariant(1)");
     QTest::newRow("continued line of another system") << QByteArray("x=@\\\r\nVariant(1)");
     QTest::newRow("continued line") << QByteArray("x=@\\\nVariant(1)");
     QTest::newRow("behind a zero byte") << QByteArray("\0x=@Variant(1)", 14);
+    QTest::newRow("far behind the sign") << "x=@" + QByteArray(60000, '"') + "Variant(1)";
     QTest::newRow("in a list") << QByteArray("x=a, @Variant(1)");
 }
 
@@ -111,6 +112,7 @@ void tst_WindowGeometryFile::ordinaryTextIsHarmless_data()
     QTest::newRow("address") << QByteArray("x=me@example.org\n");
     QTest::newRow("letter of another script behind the sign") << QByteArray("x=me@\\xe9\\x63ole\n");
     QTest::newRow("escaped character behind the sign") << QByteArray("x=@\\bV\n");
+    QTest::newRow("letter of a far script behind the sign") << QByteArray("x=@\\x144\\x5644\n");
     QTest::newRow("letter on the next line") << QByteArray("x=me@\nVersion=1\n");
     QTest::newRow("bytes") << QByteArray("x=@ByteArray(\\0\\xff)\n");
     QTest::newRow("sign at the beginning of a text") << QByteArray("x=@@home\n");
