@@ -28,7 +28,7 @@ bool readPlain(const QByteArray &content, QRect *geometry)
 QByteArray composed(const QByteArray &choices)
 {
     static const QByteArray sPieces[] = {
-        "x=", "@", "Variant", "DateTime", "(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)", "\"", " ", "\t", "\n",
+        "x=", "@", "Variant", "DateTime", "(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)", "\"", " ", "\t", "\n",
         "\r\n", "\\", "\\\n", "\\x40", "\\x56", "\\x0056", "\\x10040", "\\100", "\\126", "\\104",
         "\\x44", "\\a", "\\8", "\\\"", ",", ";", "[S]\n", "ariant", "V", "D", "ateTime", "@@",
         QByteArray(1, '\0'), "\xe9", "\\x144", "Geometry=@Rect(1 2 3 4)", "%40", "(", ")", "\v", "\xa0"};

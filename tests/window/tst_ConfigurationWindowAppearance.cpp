@@ -181,9 +181,9 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
     QTest::newRow("numbers beyond integers")
         << QByteArray("[General]\nGeometry=@Rect(10 10 99999999999999999999 500)\n") << formSize;
     QTest::newRow("a list that no memory holds")
-        << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n") << formSize;
+        << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n") << formSize;
     QTest::newRow("such a list under another key")
-        << QByteArray("[Other]\nx=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n") << formSize;
+        << QByteArray("[Other]\nx=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n") << formSize;
 }
 
 void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()

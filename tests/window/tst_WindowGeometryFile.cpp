@@ -127,7 +127,7 @@ void tst_WindowGeometryFile::ordinaryTextIsHarmless()
 void tst_WindowGeometryFile::dangerousFileIsUnusableAndReplaced()
 {
     writeFile("[General]\nGeometry=@Rect(1 2 3 4)\n"
-              "x=@Variant(\\0\\0\\0\\v\\xff\\xff\\xff\\xfe)\n");
+              "x=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n");
     const LogCapture log;
     const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
     QVERIFY(saved.found);
