@@ -17,7 +17,7 @@ void startFuzzing();
 void expect(bool holds, const char *what, const QByteArray &found = QByteArray(),
             const QByteArray &expected = QByteArray());
 
-/// A folder in memory where there is one, of this process alone, removed at its end.
+/// A folder of this process alone, in the system's one for temporary files.
 QString scratchFolder();
 
 /// Makes the file hold `content`.

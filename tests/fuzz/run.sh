@@ -23,6 +23,12 @@ dictionary_of() {
 
 # Leaks are looked for where the corpora are replayed, with the list of those that are not ours.
 export ASAN_OPTIONS=detect_leaks=0
+# In memory where there is some, and removed here: the fuzzer ends its processes without goodbye.
+memory=/tmp
+[ ! -w /dev/shm ] || memory=/dev/shm
+TMPDIR=$(mktemp -d "$memory/malto-fuzz-XXXXXX")
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
 findings=build-fuzz/findings
 mkdir -p "$findings"
 failed=0
