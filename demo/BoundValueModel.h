@@ -25,13 +25,14 @@ public:
     /// How many variables differ from their defaults.
     int changedCount() const;
 
+    /// The row of a setting by its key, -1 when there is none.
+    int rowOf(const QString &key) const { return mKeys.indexOf(key); }
+
 public Q_SLOTS:
     /// Reads all variables again; to be called when settings have changed.
     void refresh();
     /// Has the headings read again, after a change of the language.
     void retranslate();
-    /// The row of a setting by its key, -1 when there is none.
-    int rowOf(const QString &key) const { return mKeys.indexOf(key); }
 
 private:
     QStringList currentKeys() const;

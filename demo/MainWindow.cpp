@@ -112,7 +112,7 @@ void MainWindow::buildMenu()
 {
     mFileMenu = menuBar()->addMenu(QString());
     mSettingsAction = mFileMenu->addAction(QString(), this, [this] { showSettings(QString()); },
-                                           QKeySequence(Qt::CTRL | Qt::Key_Comma));
+                                           QKeySequence(Qt::CTRL + Qt::Key_Comma));
     mSaveAction = mFileMenu->addAction(QString(), this, &MainWindow::save, QKeySequence::Save);
     mRestoreAction = mFileMenu->addAction(QString(), this, &MainWindow::restoreAll);
     mFileMenu->addSeparator();
@@ -147,7 +147,8 @@ void MainWindow::retranslate()
     mQuitAction->setText(tr("&Quit"));
     mThemeMenu->setTitle(tr("&Theme"));
     const QStringList names{tr("Like the system"), tr("Light"), tr("Dark")};
-    for (QAction *action : mThemes->actions())
+    const QList<QAction *> themes = mThemes->actions();
+    for (QAction *action : themes)
         action->setText(names.value(action->data().toInt()));
 }
 
@@ -165,7 +166,8 @@ void MainWindow::onSettingsChanged()
     mValuesCaption->setText(tr("Variables — %1 of %2 changed")
                                 .arg(mModel->changedCount())
                                 .arg(mModel->rowCount()));
-    for (QAction *action : mThemes->actions())
+    const QList<QAction *> themes = mThemes->actions();
+    for (QAction *action : themes)
         action->setChecked(action->data().toInt() == mSession.settings().theme);
 }
 

@@ -63,7 +63,8 @@ public:
     /// `int`, `bool`, `QString`, `QColor`, `QFont` and `QKeySequence`. A null pointer is reported
     /// by the store, and the key stays unknown.
     template<class T>
-    ConfItem(T *value, const QString &majorName, const QString &name, const QString &subName);
+    ConfItem(T *value, const QString &majorItemName, const QString &itemName,
+             const QString &itemSubName);
 
     /// The key of the item in the store and in files: the names joined by ".", the sub-name only
     /// when there is one. A "." inside a name is kept as it stands, and then no key of a

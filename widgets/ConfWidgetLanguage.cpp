@@ -32,7 +32,7 @@ bool installFile(QTranslator *translator, const QString &file)
     // Qt asks a translator once for every time that it was installed.
     QCoreApplication::removeTranslator(translator);
     // This file and no other: by default Qt tries shorter and shorter names as well.
-    const QString none = QStringLiteral("");
+    const QString none = QLatin1String("");
     if (!translator->load(file, none, none, none))
         return false;
     QCoreApplication::installTranslator(translator);

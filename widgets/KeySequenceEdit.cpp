@@ -54,7 +54,7 @@ bool isSimple(const QKeySequence &sequence)
 } // namespace
 
 KeySequenceEdit::KeySequenceEdit(QKeySequence sequence, QWidget *parent)
-    : QLineEdit(parent), mKeySequence(std::move(sequence))
+    : QLineEdit(parent), mKeySequence(sequence)
 {
     setReadOnly(true);
     setAlignment(Qt::AlignCenter);

@@ -98,7 +98,8 @@ GlobalShortcutBackend &GlobalShortcutRegistry::backend()
     // Not remembered: an application may still come.
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return mNoBackend;
-    mApplicationGone = QObject::connect(qApp, &QObject::destroyed, [this] { applicationGone(); });
+    mApplicationGone = QObject::connect(qApp, &QObject::destroyed, qApp,
+                                        [this] { applicationGone(); });
     mBackend = GlobalShortcutBackend::create(*this);
     return *mBackend;
 }

@@ -4,7 +4,6 @@
 #include "X11KeySymbols_p.h"
 
 #include <X11/keysym.h>
-#include <xcb/xcb_keysyms.h>
 
 #include <QScopedPointer>
 

@@ -2,11 +2,9 @@
 
 #include "KeyCombination_p.h"
 
-#include <xcb/xcb.h>
+#include <xcb/xcb_keysyms.h>
 
 #include <QVector>
-
-using xcb_key_symbols_t = struct _XCBKeySymbols;
 
 /// The keyboard of an X server as it is now: which key has which symbol, and which of the eight
 /// modifiers means what.

@@ -82,9 +82,10 @@ QVector<KeyCombination> X11ShortcutBackend::combinations(int chord) const
 
 bool X11ShortcutBackend::grab(const KeyCombination &combination)
 {
+    const QVector<quint16> states = modifierStates(combination);
     QVector<xcb_void_cookie_t> requests;
     for (const xcb_window_t root : qAsConst(mRoots)) {
-        for (const quint16 state : modifierStates(combination))
+        for (const quint16 state : states)
             requests.append(xcb_grab_key_checked(
                 mConnection, false, root, state, static_cast<xcb_keycode_t>(combination.key),
                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
@@ -102,8 +103,9 @@ bool X11ShortcutBackend::grab(const KeyCombination &combination)
 
 void X11ShortcutBackend::ungrab(const KeyCombination &combination)
 {
+    const QVector<quint16> states = modifierStates(combination);
     for (const xcb_window_t root : qAsConst(mRoots)) {
-        for (const quint16 state : modifierStates(combination))
+        for (const quint16 state : states)
             xcb_ungrab_key(mConnection, static_cast<xcb_keycode_t>(combination.key), root, state);
     }
     // An answer to anything shows that the server has come this far.

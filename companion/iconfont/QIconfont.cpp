@@ -75,8 +75,8 @@ QPixmap draw(const QChar &glyph, const QColor &color, int size, const QMargins &
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
         // Whole pixels of the screen: outlines that lie on the grid keep their sharp edges.
-        painter.translate(rect.left() + (rect.width() - side) / 2,
-                          rect.top() + (rect.height() - side) / 2);
+        painter.translate(QPoint(rect.left() + (rect.width() - side) / 2,
+                                 rect.top() + (rect.height() - side) / 2));
         painter.scale(qreal(side) / sEm, qreal(side) / sEm);
         painter.fillPath(outline(glyph), color);
     }
