@@ -128,7 +128,8 @@ public:
     // The settings window.
 
     /// Shows the one settings window, or raises it, and opens the page `majorName` unless that is
-    /// empty. A window that another manager opened stays that manager's.
+    /// empty. A window that another manager opened stays that manager's. Null when there is no
+    /// window afterwards: a page closed it, or there is no `QApplication`, which is logged.
     ConfigurationWindow *ShowWindow(QString majorName = QString());
     /// Closes the settings window if there is one.
     void closeConfigWindow();

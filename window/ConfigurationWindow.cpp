@@ -7,6 +7,7 @@
 
 #include <OrvUtils/SetWindowTopmost.h>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
 #include <QIcon>
@@ -39,6 +40,11 @@ ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
     }
     if (!manager) {
         qCritical() << "ShowConfigurationWindow without a manager";
+        return nullptr;
+    }
+    // Qt ends the process at the first widget then.
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
+        qCritical() << "ShowConfigurationWindow without an application";
         return nullptr;
     }
     new ConfigurationWindow(manager);

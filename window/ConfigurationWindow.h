@@ -31,7 +31,7 @@ class MtConfManage;
 
 /// Shows the settings window of `manager`: the existing window, restored if it is minimised and
 /// raised, whoever opened it, or else a new one. Null, and one critical line on the log, without a
-/// manager.
+/// manager or without a `QApplication`.
 MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
 
 /// Whether the settings window stays above other windows; shows and raises it. Does nothing while

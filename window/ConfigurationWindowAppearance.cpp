@@ -138,15 +138,12 @@ void ConfigurationWindow::retranslateUi()
 {
     mUi->retranslateUi(this);
     // An editor of the host may open another page, or close the window.
-    const QPointer<ConfigurationWindow> self(this);
     const HostCode running(this);
     const QList<QPointer<ConfigItemWidget>> editors = mEditors;
     for (const QPointer<ConfigItemWidget> &editor : editors) {
         if (editor)
             editor->retranslateUi();
     }
-    if (!self)
-        return;
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
         row.key()->setText(translatedName(row.value()));
     for (QLabel *caption : qAsConst(mClassCaptions))

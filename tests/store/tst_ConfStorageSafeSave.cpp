@@ -3,6 +3,7 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -21,6 +22,12 @@ const QByteArray sJournal =
     "d7cf89c8c25ec749882ab96c326c67ec032ca61b93007c4a7312cdaef248a7e6\n"
     "62bfa2bd920b273ce71623cf41b9a8dc174aaf806065031e0af7cba76e854e41\n"
     "{\"size\":{\"t\":200,\"v\":9}}";
+
+QByteArray journalOf(const QByteArray &body)
+{
+    const QByteArray checksum = QCryptographicHash::hash(body, QCryptographicHash::Sha256).toHex();
+    return "malto save journal 1\n" + checksum + '\n' + body;
+}
 
 const QString sWarning = "ConfStorage::loadLocalConfFile() ";
 
@@ -253,6 +260,11 @@ void tst_ConfStorageSafeSave::damagedJournalIsDropped_data()
     QTest::newRow("changed checksum") << changed;
     QTest::newRow("zeros after the magic") << "malto save journal 1\n" + QByteArray(200, '\0');
     QTest::newRow("line breaks") << "malto save journal 1\n" + QByteArray(200, '\n');
+    // Their checksums are right.
+    const QByteArray hashes = sJournal.mid(sJournal.indexOf("\n24\n") + 3, 2 * 65 + 1);
+    QTest::newRow("no hashes") << journalOf("24\n");
+    QTest::newRow("another length") << journalOf("23" + hashes + sNew);
+    QTest::newRow("another text") << journalOf("24" + hashes + sOld);
 }
 
 void tst_ConfStorageSafeSave::damagedJournalIsDropped()

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void toJsonOfUnknownTypeIsLogged();
     void fromJson_data();
     void fromJson();
+    void textThatIsNoFontGivesTheDefaultFont();
     void fontSizeOutOfRangeGivesTheDefaultFont_data();
     void fontSizeOutOfRangeGivesTheDefaultFont();
     void fontSizeInRangeIsKept_data();
@@ -327,6 +328,14 @@ void tst_ConfValue::fromJson()
     ConfValue fontValue = ConfValue::owned(QFont());
     fontValue.loadFromJsonValue(font.toString());
     QCOMPARE(fontValue.get<QFont>().pixelSize(), 21);
+}
+
+void tst_ConfValue::textThatIsNoFontGivesTheDefaultFont()
+{
+    ConfValue value = ConfValue::owned(QFont("Serif", 33));
+    QTest::ignoreMessage(QtWarningMsg, "QFont::fromString: Invalid description 'Sans,9,-1'");
+    value.loadFromJsonValue("Sans,9,-1");
+    QCOMPARE(value.get<QFont>(), QFont());
 }
 
 void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont_data()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void managerLeavesTheWindowOfAnotherAlone();
     void windowWithoutManagerIsRefused();
     void hostMayDeleteTheWindow();
+    void hostMayDeleteTheWindowThatItsManagerTakesAlong();
 
 private:
     std::unique_ptr<WindowFixture> mFixture;
@@ -182,6 +183,24 @@ void tst_MtConfManageWindow::hostMayDeleteTheWindow()
     delete mFixture->open();
     QVERIFY(!ConfigurationWindow::instance());
     QVERIFY(mFixture->open());
+}
+
+void tst_MtConfManageWindow::hostMayDeleteTheWindowThatItsManagerTakesAlong()
+{
+    /// Deletes what it watches as soon as that is to close.
+    class Deleter : public QObject
+    {
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            if (event->type() != QEvent::Close)
+                return false;
+            delete watched;
+            return true;
+        }
+    } deleter;
+    mFixture->open()->installEventFilter(&deleter);
+    mFixture->manager.reset();
+    QVERIFY(!ConfigurationWindow::instance());
 }
 
 int main(int argc, char **argv)
