@@ -9,14 +9,11 @@ int main(int argc, char **argv)
     // Your variables, at their defaults. The program reads them like any others.
     bool playSound = true;
     int delay = 3;
-    QColor frameColor = Qt::red;
 
     // One line for each: its label, its variable, its page and its name.
     MtConf::MtConfManage settings;
     settings.addConfBool("Play a sound", &playSound, "General", "Sound");
-    MtConf::ConfItem *item = settings.addConfInt32("Delay in seconds", &delay, "Capture", "Delay");
-    item->properties = {{"MinValue", 0}, {"MaxValue", 10}};
-    settings.addConfQColor("Colour of the frame", &frameColor, "Capture", "FrameColor");
+    settings.addConfInt32("Delay in seconds", &delay, "Capture", "Delay");
 
     // What was changed in earlier runs goes into the variables, before anybody reads them.
     ConfStorage::instance()->mLocalSaveFile = "settings.json";

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void removerMayRemoveTheClass();
     void removerMayRemoveItsKeyAgain();
     void creatorMayCreateItsKeyAgain();
+    void creatorMayLoadItsKey();
     void keyMayStandInTheMapThatChanges();
     void callbackMayRemoveOtherKeysWhileAClassIsRestored();
 
@@ -327,6 +328,25 @@ void tst_ConfStorageReentrancy::creatorMayCreateItsKeyAgain()
     QCOMPARE(log.texts(QtCriticalMsg),
              QStringList("ConfStorage::createDynamicConf() key already exists:  \"P.a\""));
     QVERIFY(mStore->mConfValues.contains("P.a"));
+}
+
+void tst_ConfStorageReentrancy::creatorMayLoadItsKey()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "Dyn.";
+    const QJsonObject member{{"Dyn.a", QJsonObject{{"t", 100}, {"v", 7}}}};
+    cls.creator = [&](const QString &name, const QJsonValue *) {
+        mStore->loadConf(member, ConfStorage::LoadLocal);
+        mStore->reserveConf(name, &mSize);
+    };
+    mStore->mDynamicConfClasses.append(&cls);
+    const LogCapture log;
+    mStore->loadConf(member, ConfStorage::LoadLocal);
+    QCOMPARE(log.texts(QtCriticalMsg),
+             (QStringList{"ConfStorage::createDynamicConf() key already exists:  \"Dyn.a\"",
+                          "createDynamicConf Not create conf:  \"Dyn.a\""}));
+    QVERIFY(mStore->mConfValues.contains("Dyn.a"));
+    QCOMPARE(mStore->mConfMetas["Dyn.a"].lastChangeTime.toSecsSinceEpoch(), 100);
 }
 
 void tst_ConfStorageReentrancy::keyMayStandInTheMapThatChanges()

@@ -195,6 +195,18 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::callbackPlaces()
              WindowFixture::clickBox(WindowFixture::checkBox(
                  host->manager->getItemByName("Edit", "Flag", "")));
          })},
+        {"callback inside a callback of the same check box", [this, host] {
+             QCheckBox *box = WindowFixture::checkBox(
+                 host->manager->getItemByName("Edit", "Flag", ""));
+             const auto isInner = std::make_shared<bool>(false);
+             host->store()->setConfChangedCallback("Edit.Flag", [=](const QString &, const ConfValue *) {
+                 if (std::exchange(*isInner, true))
+                     act();
+                 else
+                     box->click();
+             });
+             WindowFixture::clickBox(box);
+         }},
         {"callback of a spin box",
          fromCallback("Number", [host] { typeInto(host->control<QSpinBox>("Number")); })},
         {"callback of a combo box",
