@@ -207,6 +207,7 @@ QStringList pageNames()
 
 void declareSettings(MtConfManage &manager, Settings &settings)
 {
+    MtConf::ConfigItemWidget::sFullKeyboardAccess = true;
     declareGeneral(manager, settings);
     declareAppearance(manager, settings);
     declareCapture(manager, settings);

@@ -40,6 +40,7 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
     layout->addWidget(mStateButton);
     // A style sheet's min-height lets buttons shrink, which here would cut the glyph.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+    mKeySequenceEdit->clearByDeleteKeys = sFullKeyboardAccess;
     mKeySequenceEdit->setAccessibleName(translatedText());
     refreshState();
 }

@@ -20,6 +20,7 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
         mComboBox = box;
         connect(box, &MultiSelectComboBox::selectionChanged,
                 this, &ConfWidgetCombobox::onMultiSelectionChanged);
+        box->opensByKeyboard = sFullKeyboardAccess;
     } else {
         mComboBox = new ComboboxDisableWheel(this);
         // Style sheets reach the rows of this view only, not those of the native one.

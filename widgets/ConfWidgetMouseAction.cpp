@@ -87,6 +87,7 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
         layout->addWidget(widget);
     }
     layout->addWidget(mStateLabel);
+    mModifierBox->opensByKeyboard = sFullKeyboardAccess;
     mModifierBox->setAccessibleName(translatedText());
     mActionBox->setAccessibleName(translatedText());
 

@@ -48,6 +48,8 @@ QList<QWidget *> controlsIn(const QWidget *widget)
 
 } // namespace
 
+bool ConfigItemWidget::sFullKeyboardAccess = false;
+
 ConfigItemWidget::Writing::Writing(ConfigItemWidget *editor)
     : mEditor(editor), mOuter(editor->mWriting)
 {

@@ -50,6 +50,11 @@ public:
     /// meanwhile; whoever wants to delete the editor then does it later.
     bool isWriting() const { return mWriting; }
 
+    /// Whether editors that are made from now on can be used by the keyboard alone: boxes of several
+    /// choices open on Alt+Down, F4 and Space, and Backspace and Delete clear a hotkey instead of
+    /// being recorded. False by default.
+    static bool sFullKeyboardAccess;
+
 protected:
     /// The stored value of the item.
     template<class T> T readValue() const

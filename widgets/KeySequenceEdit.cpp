@@ -133,6 +133,10 @@ void KeySequenceEdit::keyPressEvent(QKeyEvent *event)
     if (isModifierKey(mLastKey) || mLastKey == 0 || mLastKey == Qt::Key_unknown)
         return;
     const QKeySequence sequence = GetKeySequence(event);
+    if (clearByDeleteKeys && (sequence == Qt::Key_Backspace || sequence == Qt::Key_Delete)) {
+        cleanSetting();
+        return;
+    }
     if (!isNameless(sequence))
         record(sequence);
 }

@@ -25,6 +25,13 @@ QString elided(const QString &text, int length)
     return text.size() > length ? text.left(length) + QLatin1String("...") : text;
 }
 
+/// Whether other combo boxes open at this key.
+bool opensList(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_F4 || event.key() == Qt::Key_Space
+           || (event.key() == Qt::Key_Down && event.modifiers() & Qt::AltModifier);
+}
+
 /// Gives each row the height of its check box, which a list view does not ask by itself, and a
 /// background on which the check box can be read.
 class CheckBoxRowDelegate : public QStyledItemDelegate
@@ -346,6 +353,7 @@ void MultiSelectComboBox::wheelEvent(QWheelEvent *event)
 
 void MultiSelectComboBox::keyPressEvent(QKeyEvent *event)
 {
-    // Keys would step through the rows, or add the shown text as a row of its own.
-    Q_UNUSED(event)
+    // Other keys would step through the rows, or add the shown text as a row of its own.
+    if (opensByKeyboard && opensList(*event))
+        showPopup();
 }

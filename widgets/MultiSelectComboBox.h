@@ -77,6 +77,10 @@ public:
     /// Opens the list when a mouse button is released on the text.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// When true, Alt+Down, F4 and Space open the list, as in other combo boxes; Up and Down walk
+    /// through it, Return checks or unchecks an entry and closes it.
+    bool opensByKeyboard = false;
+
 public Q_SLOTS:
     /// Checks entry `index` if it is unchecked, and the other way round.
     void itemClicked(int index);
@@ -96,7 +100,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
     /// Does nothing with the wheel, and keeps it from the page.
     void wheelEvent(QWheelEvent *event) override;
-    /// Does nothing with keys: they would step through the rows of the closed box.
+    /// Opens the list, where that is wanted. Does nothing else with keys: they would step through the
+    /// rows of the closed box.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

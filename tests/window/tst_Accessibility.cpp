@@ -65,6 +65,7 @@ private Q_SLOTS:
     void namesThatAHostGaveStay();
     void tabGoesThroughThePageThenToWhatRestores();
     void everySimpleEditorWorksByKeyboard();
+    void everyEditorWorksByKeyboardOnceTheHostWantsIt();
     void focusIsSeen_data();
     void focusIsSeen();
 
@@ -206,6 +207,44 @@ void tst_Accessibility::everySimpleEditorWorksByKeyboard()
     WindowFixture::classList()->setFocus();
     QTest::keyClick(WindowFixture::classList(), Qt::Key_Up);
     QTRY_VERIFY(mFixture->other->editor);
+}
+
+void tst_Accessibility::everyEditorWorksByKeyboardOnceTheHostWantsIt()
+{
+    QVERIFY(!MtConf::ConfigItemWidget::sFullKeyboardAccess);
+    MtConf::ConfigItemWidget::sFullKeyboardAccess = true;
+    mFixture->window()->switchToView("Other");
+    mFixture->window()->switchToView("Edit");
+    MtConf::ConfigItemWidget::sFullKeyboardAccess = false;
+    QCursor::setPos(0, 0); // a list stays open under the cursor
+
+    const auto stored = [this](const QString &name) { return mFixture->store()->get<int>("Edit." + name); };
+    for (const char *name : {"Bits", "Mouse"}) {
+        auto *box = qobject_cast<QComboBox *>(firstControl(name));
+        const int before = stored(name);
+        for (const auto &[key, modifier] : {std::pair(Qt::Key_Space, Qt::NoModifier),
+                                            std::pair(Qt::Key_F4, Qt::NoModifier),
+                                            std::pair(Qt::Key_Down, Qt::AltModifier)}) {
+            box->setFocus();
+            QTest::keyClick(box, key, modifier);
+            QVERIFY(box->view()->isVisible());
+            QTest::keyClick(box->view(), Qt::Key_Escape);
+            QTRY_VERIFY(!box->view()->isVisible());
+        }
+        QTest::keyClick(box, Qt::Key_Space);
+        QTest::keyClick(box->view(), Qt::Key_Down);
+        QTest::keyClick(box->view(), Qt::Key_Return);
+        QTRY_VERIFY(stored(name) != before);
+    }
+
+    auto *hotkey = firstControl("Key");
+    hotkey->setFocus();
+    QTest::keyClick(hotkey, Qt::Key_F7, Qt::ControlModifier);
+    QCOMPARE(mFixture->key, QKeySequence(Qt::CTRL + Qt::Key_F7));
+    QTest::keyClick(hotkey, Qt::Key_Backspace);
+    QVERIFY(mFixture->key.isEmpty());
+    QTest::keyClick(hotkey, Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(mFixture->key, QKeySequence(Qt::CTRL + Qt::Key_Delete));
 }
 
 void tst_Accessibility::focusIsSeen_data()
