@@ -1,17 +1,13 @@
 #include <MaltoConfiguration/manage/helpers.h>
 
+#include <MaltoConfiguration/store/SafeFile_p.h>
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonParseError>
 #include <QTextStream>
-
-namespace {
-
-constexpr qint64 sMaxFileSize = 128 * 1024 * 1024;
-
-} // namespace
 
 QString getIndexName(const QString &a, const QString &b, const QString &c)
 {
@@ -27,7 +23,7 @@ QJsonDocument readJsonFromFile(QString path)
     if (!file.exists())
         return QJsonDocument();
     // Reading a pipe or a device might never end, and what no memory holds would end the process.
-    const bool isUsable = QFileInfo(path).isFile() && file.size() <= sMaxFileSize;
+    const bool isUsable = QFileInfo(path).isFile() && file.size() <= SafeFile::sMaxSize;
     if (!isUsable || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qCritical() << "can't open config file" << path;
         return QJsonDocument();

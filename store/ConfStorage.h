@@ -187,7 +187,9 @@ public:
     void saveToLocalConfFile();
 
     /// Merges `mLocalSaveFile` and creates missing presets. A missing or unreadable file, or one
-    /// that holds no JSON object, counts as an empty configuration, silently. Logs the critical
+    /// that holds no JSON object, counts as an empty configuration, silently; so does a file of more
+    /// than 128 MiB, with the critical message
+    /// "ConfStorage::loadLocalConfFile() file too large: " and the path. Logs the critical
     /// message "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()" and does nothing when no
     /// path is set.
     ///

@@ -76,8 +76,9 @@ bool ConfStorage::saveSafely() const
         return false;
     }
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
-    // Values nested too deeply are written without complaint and never read again.
-    if (!QJsonDocument::fromJson(text).isObject()) {
+    // Values nested too deeply are written without complaint and never read again, and so are texts
+    // that are too large.
+    if (text.size() > SafeFile::sMaxSize || !QJsonDocument::fromJson(text).isObject()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "
                     << mLocalSaveFile;
         return false;
@@ -105,6 +106,8 @@ void ConfStorage::loadLocalConfFile()
     QByteArray text;
     {
         SafeFile file(mLocalSaveFile);
+        if (file.isTooLarge())
+            qCritical() << "ConfStorage::loadLocalConfFile() file too large: " << mLocalSaveFile;
         SafeFile::Recovery recovery = SafeFile::Recovery::None;
         text = file.load(&recovery);
         logRecovery(recovery, file);

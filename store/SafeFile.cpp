@@ -38,7 +38,8 @@ bool SafeFile::open()
 
 SafeFile::Saved SafeFile::save(const QByteArray &text)
 {
-    if (!mJournal.write(mFile.readAll(), text, mFile.permissions()))
+    const QByteArray oldText = isTooLarge() ? QByteArray() : mFile.readAll();
+    if (!mJournal.write(oldText, text, mFile.permissions()))
         return Saved::JournalFailed;
     if (!rewrite(text))
         return Saved::FileFailed;
@@ -93,7 +94,7 @@ QByteArray SafeFile::readFile()
 {
     QFile file(path());
     // Reading another kind of file could block, or never end.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || isTooLarge() || !file.open(QIODevice::ReadOnly))
         return QByteArray();
     return file.readAll();
 }

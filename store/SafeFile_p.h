@@ -25,6 +25,9 @@ public:
         KeptAside       ///< the same; the journal was of another text, and was renamed
     };
 
+    /// What no memory holds would end the process: more bytes are neither read nor saved.
+    static constexpr qint64 sMaxSize = 128 * 1024 * 1024;
+
     /// The file that `path` leads to through any links; the journal lies beside that file.
     explicit SafeFile(const QString &path);
 
@@ -35,8 +38,10 @@ public:
     /// Replaces the content of the opened file by `text`, a JSON object.
     Saved save(const QByteArray &text);
 
+    bool isTooLarge() const { return mFile.size() > sMaxSize; }
+
     /// The text of the file, or of the journal when a save was interrupted. A file that cannot be
-    /// read counts as empty.
+    /// read, or is too large, counts as empty.
     QByteArray load(Recovery *recovery);
 
     QString path() const { return mFile.fileName(); }

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/store/SaveJournal_p.h>
 
 #include <MaltoConfiguration/store/PosixFile_p.h>
+#include <MaltoConfiguration/store/SafeFile_p.h>
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -12,6 +13,7 @@ namespace {
 
 constexpr char sMagic[] = "malto save journal 1\n";
 constexpr int sHeaderLines = 3;
+constexpr int sMaxHeaderSize = 1024;
 
 /// What the checksum covers: length of the text, hash of the old one, hash of the new one, text.
 QByteArray toBody(const SaveJournal::Entry &entry)
@@ -76,7 +78,8 @@ SaveJournal::State SaveJournal::read(Entry *entry) const
     QFile file(mPath);
     if (!file.open(QIODevice::ReadOnly))
         return State::None;
-    const QByteArray content = file.readAll();
+    // A longer one is cut here, and found to be damaged.
+    const QByteArray content = file.read(qMin(file.size(), SafeFile::sMaxSize + sMaxHeaderSize));
     if (!content.startsWith(sMagic))
         return State::None;
     const int magicSize = int(sizeof(sMagic)) - 1;

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void loadedFileRestoresEverything();
     void fileThatHoldsNoObjectCountsAsEmpty_data();
     void fileThatHoldsNoObjectCountsAsEmpty();
+    void hugeFileCountsAsEmptyAndIsLogged();
     void firstStartCreatesPresetsUnsaved();
     void loadingWithoutAPathCreatesNoPresets();
     void newerChangesOfTheStoreStay();
@@ -265,6 +266,27 @@ void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty()
     QVERIFY(mStore->mLocalLoaded);
     QVERIFY(log.messages().isEmpty());
     QCOMPARE(content(), text); // untouched until something changes
+}
+
+void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
+{
+    write("{\"size\":{\"t\":100,\"v\":9}}");
+    QVERIFY(QFile::resize(path(), qint64(1) << 36)); // takes no room on the disk
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QVERIFY(mStore->mLocalLoaded);
+    QCOMPARE(mSize, 7);
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too large:  "
+                                                   "\"local.json\""}}));
+    // A save makes it a usable file again, with and without the journal.
+    for (const bool safely : {false, true}) {
+        QVERIFY(QFile::resize(path(), qint64(1) << 36));
+        mStore->mSafeSave = safely;
+        change(9, 100);
+        mStore->saveToLocalConfFile();
+        QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":9}}"));
+    }
 }
 
 void tst_ConfStorageFile::firstStartCreatesPresetsUnsaved()

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void journalLiesBesideTheTargetOfALink();
     void damagedJournalIsDropped_data();
     void damagedJournalIsDropped();
+    void hugeJournalIsDropped();
     void filesThatAreNoJournalAreLeftAlone_data();
     void filesThatAreNoJournalAreLeftAlone();
     void strangersJournalIsLeftAlone();
@@ -280,6 +281,19 @@ void tst_ConfStorageSafeSave::damagedJournalIsDropped()
                                                              "\"box/local.json.save-journal\""}}));
     QCOMPARE(filesIn("box"), QStringList("local.json"));
     QCOMPARE(content(path()), sOld);
+}
+
+void tst_ConfStorageSafeSave::hugeJournalIsDropped()
+{
+    write(path(), sOld);
+    write(journalPath(), sJournal);
+    QVERIFY(QFile::resize(journalPath(), qint64(1) << 36)); // takes no room on the disk
+    const LogCapture log;
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 8);
+    QCOMPARE(log.texts(QtWarningMsg), QStringList(sWarning + "damaged journal dropped:  "
+                                                             "\"box/local.json.save-journal\""));
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
 void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone_data()
