@@ -106,15 +106,15 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Arrastrar con el botón izquierdo</translation>
+        <translation>Arrastre izquierdo</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Arrastrar con el botón derecho</translation>
+        <translation>Arrastre derecho</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Arrastrar con el botón central</translation>
+        <translation>Arrastre central</translation>
     </message>
 </context>
 <context>

@@ -106,15 +106,15 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Glisser avec le bouton gauche</translation>
+        <translation>Glisser (gauche)</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Glisser avec le bouton droit</translation>
+        <translation>Glisser (droit)</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Glisser avec le bouton central</translation>
+        <translation>Glisser (central)</translation>
     </message>
 </context>
 <context>

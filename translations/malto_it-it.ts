@@ -106,15 +106,15 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Trascinamento con il tasto sinistro</translation>
+        <translation>Trascina (sinistro)</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Trascinamento con il tasto destro</translation>
+        <translation>Trascina (destro)</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Trascinamento con il tasto centrale</translation>
+        <translation>Trascina (centrale)</translation>
     </message>
 </context>
 <context>

@@ -106,15 +106,15 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Slepen met de linkerknop</translation>
+        <translation>Slepen links</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Slepen met de rechterknop</translation>
+        <translation>Slepen rechts</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Slepen met de middelste knop</translation>
+        <translation>Slepen midden</translation>
     </message>
 </context>
 <context>

@@ -78,27 +78,27 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
     <message>
         <source>Left Click</source>
-        <translation>Kliknięcie lewym przyciskiem</translation>
+        <translation>Kliknięcie lewym</translation>
     </message>
     <message>
         <source>Left Double Click</source>
-        <translation>Dwukrotne kliknięcie lewym przyciskiem</translation>
+        <translation>Dwuklik lewym</translation>
     </message>
     <message>
         <source>Right Click</source>
-        <translation>Kliknięcie prawym przyciskiem</translation>
+        <translation>Kliknięcie prawym</translation>
     </message>
     <message>
         <source>Right Double Click</source>
-        <translation>Dwukrotne kliknięcie prawym przyciskiem</translation>
+        <translation>Dwuklik prawym</translation>
     </message>
     <message>
         <source>Middle Click</source>
-        <translation>Kliknięcie środkowym przyciskiem</translation>
+        <translation>Kliknięcie środkowym</translation>
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>Dwukrotne kliknięcie środkowym przyciskiem</translation>
+        <translation>Dwuklik środkowym</translation>
     </message>
     <message>
         <source>Wheel</source>
@@ -106,15 +106,15 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Przeciąganie lewym przyciskiem</translation>
+        <translation>Ciągnięcie lewym</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Przeciąganie prawym przyciskiem</translation>
+        <translation>Ciągnięcie prawym</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Przeciąganie środkowym przyciskiem</translation>
+        <translation>Ciągnięcie środkowym</translation>
     </message>
 </context>
 <context>

@@ -106,15 +106,15 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Arrastar com o botão esquerdo</translation>
+        <translation>Arraste esquerdo</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Arrastar com o botão direito</translation>
+        <translation>Arraste direito</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Arrastar com o botão do meio</translation>
+        <translation>Arraste do meio</translation>
     </message>
 </context>
 <context>

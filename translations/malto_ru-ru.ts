@@ -16,11 +16,11 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Восстановить всё по умолчанию</translation>
+        <translation>Восстановить всё</translation>
     </message>
     <message>
         <source>Restore Default</source>
-        <translation>Восстановить по умолчанию</translation>
+        <translation>По умолчанию</translation>
     </message>
 </context>
 <context>
@@ -78,27 +78,27 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Left Click</source>
-        <translation>Щелчок левой кнопкой</translation>
+        <translation>Левый щелчок</translation>
     </message>
     <message>
         <source>Left Double Click</source>
-        <translation>Двойной щелчок левой кнопкой</translation>
+        <translation>Двойной левый</translation>
     </message>
     <message>
         <source>Right Click</source>
-        <translation>Щелчок правой кнопкой</translation>
+        <translation>Правый щелчок</translation>
     </message>
     <message>
         <source>Right Double Click</source>
-        <translation>Двойной щелчок правой кнопкой</translation>
+        <translation>Двойной правый</translation>
     </message>
     <message>
         <source>Middle Click</source>
-        <translation>Щелчок средней кнопкой</translation>
+        <translation>Средний щелчок</translation>
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>Двойной щелчок средней кнопкой</translation>
+        <translation>Двойной средний</translation>
     </message>
     <message>
         <source>Wheel</source>
@@ -106,15 +106,15 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Перетаскивание левой кнопкой</translation>
+        <translation>Тянуть левой</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Перетаскивание правой кнопкой</translation>
+        <translation>Тянуть правой</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Перетаскивание средней кнопкой</translation>
+        <translation>Тянуть средней</translation>
     </message>
 </context>
 <context>

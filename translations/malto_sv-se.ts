@@ -82,7 +82,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>Left Double Click</source>
-        <translation>Dubbelklick med vänster knapp</translation>
+        <translation>Dubbelklick vänster</translation>
     </message>
     <message>
         <source>Right Click</source>
@@ -90,7 +90,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>Right Double Click</source>
-        <translation>Dubbelklick med höger knapp</translation>
+        <translation>Dubbelklick höger</translation>
     </message>
     <message>
         <source>Middle Click</source>
@@ -98,7 +98,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>Dubbelklick med mittknappen</translation>
+        <translation>Dubbelklick mitten</translation>
     </message>
     <message>
         <source>Wheel</source>
@@ -106,15 +106,15 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Dra med vänster knapp</translation>
+        <translation>Vänsterdrag</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Dra med höger knapp</translation>
+        <translation>Högerdrag</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Dra med mittknappen</translation>
+        <translation>Mittendrag</translation>
     </message>
 </context>
 <context>

@@ -106,15 +106,15 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Sol düğmeyle sürükleme</translation>
+        <translation>Sol sürükleme</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Sağ düğmeyle sürükleme</translation>
+        <translation>Sağ sürükleme</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Orta düğmeyle sürükleme</translation>
+        <translation>Orta sürükleme</translation>
     </message>
 </context>
 <context>

@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation>Сочетания клавиш</translation>
+        <translation>Сочетания</translation>
     </message>
     <message>
         <source>Mouse</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Stored data</source>
-        <translation>Сохранённые данные</translation>
+        <translation>Данные</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -552,7 +552,7 @@ Add one, or restore the presets.</source>
     <name>StoredDataPage</name>
     <message>
         <source>Stored data</source>
-        <translation>Сохранённые данные</translation>
+        <translation>Данные</translation>
     </message>
     <message>
         <source>Nothing has been changed yet.</source>
