@@ -19,7 +19,7 @@ ConfDefWidgetBool::ConfDefWidgetBool(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfDefWidgetBool::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfDefWidgetBool(item, parent);
+    return create<ConfDefWidgetBool>(item, parent);
 }
 
 void ConfDefWidgetBool::retranslateUi()

@@ -26,7 +26,7 @@ ConfDefWidgetInt32::ConfDefWidgetInt32(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfDefWidgetInt32::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfDefWidgetInt32(item, parent);
+    return create<ConfDefWidgetInt32>(item, parent);
 }
 
 void ConfDefWidgetInt32::applyRange()

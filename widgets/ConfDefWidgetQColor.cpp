@@ -20,7 +20,7 @@ ConfDefWidgetQColor::ConfDefWidgetQColor(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfDefWidgetQColor::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfDefWidgetQColor(item, parent);
+    return create<ConfDefWidgetQColor>(item, parent);
 }
 
 void ConfDefWidgetQColor::loadConf()

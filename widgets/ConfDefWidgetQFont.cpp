@@ -20,7 +20,7 @@ ConfDefWidgetQFont::ConfDefWidgetQFont(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfDefWidgetQFont::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfDefWidgetQFont(item, parent);
+    return create<ConfDefWidgetQFont>(item, parent);
 }
 
 void ConfDefWidgetQFont::loadConf()

@@ -55,7 +55,7 @@ ConfDefWidgetQKeySequence::~ConfDefWidgetQKeySequence()
 
 ConfigItemWidget *ConfDefWidgetQKeySequence::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfDefWidgetQKeySequence(item, parent);
+    return create<ConfDefWidgetQKeySequence>(item, parent);
 }
 
 void ConfDefWidgetQKeySequence::loadConf()

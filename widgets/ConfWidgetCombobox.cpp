@@ -35,7 +35,7 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfWidgetCombobox::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfWidgetCombobox(item, parent);
+    return create<ConfWidgetCombobox>(item, parent);
 }
 
 void ConfWidgetCombobox::setSelectItem(QStringList texts)

@@ -61,7 +61,7 @@ ConfWidgetLanguage::ConfWidgetLanguage(ConfItem *item, QWidget *parent)
 
 ConfigItemWidget *ConfWidgetLanguage::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
-    return new ConfWidgetLanguage(item, parent);
+    return create<ConfWidgetLanguage>(item, parent);
 }
 
 QStringList ConfWidgetLanguage::loadSupportLanguageCode()

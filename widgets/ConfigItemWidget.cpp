@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QAbstractButton>
+#include <QDebug>
 #include <QLabel>
 #include <QStyle>
 
@@ -49,6 +50,11 @@ QList<QWidget *> controlsIn(const QWidget *widget)
 } // namespace
 
 bool ConfigItemWidget::sFullKeyboardAccess = false;
+
+void ConfigItemWidget::logNoItem()
+{
+    qCritical() << "ConfigItemWidget without an item";
+}
 
 ConfigItemWidget::Writing::Writing(ConfigItemWidget *editor)
     : mEditor(editor), mOuter(editor->mWriting)

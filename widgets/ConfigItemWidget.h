@@ -56,6 +56,16 @@ public:
     static bool sFullKeyboardAccess;
 
 protected:
+    /// What a factory of editors returns: a new `Editor` of `item`. Null, and the critical message
+    /// "ConfigItemWidget without an item", when there is none.
+    template<class Editor> static ConfigItemWidget *create(ConfItem *item, QWidget *parent)
+    {
+        if (item)
+            return new Editor(item, parent);
+        logNoItem();
+        return nullptr;
+    }
+
     /// The stored value of the item.
     template<class T> T readValue() const
     {
@@ -103,6 +113,8 @@ private:
         Writing *const mOuter;
         QList<QPointer<QWidget>> mControls;
     };
+
+    static void logNoItem();
 
     QJsonValue mInitialValue;
     Writing *mWriting = nullptr;

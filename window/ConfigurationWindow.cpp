@@ -82,7 +82,10 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
             this, &ConfigurationWindow::restoreAllDefault);
     connect(mUi->btnRestoreDefault, &QAbstractButton::clicked,
             this, &ConfigurationWindow::restorePageDefault);
-    connect(mManager, &MtConfManage::sigLanguageChange, this, &ConfigurationWindow::retranslateUi);
+    if (mManager)
+        connect(mManager, &MtConfManage::sigLanguageChange, this, &ConfigurationWindow::retranslateUi);
+    else
+        qCritical() << "ConfigurationWindow without a manager";
     connect(mUi->configList->selectionModel(), &QItemSelectionModel::currentChanged,
             this, &ConfigurationWindow::onClassItemChange);
 
@@ -210,7 +213,7 @@ void ConfigurationWindow::restorePageDefault()
 
 void ConfigurationWindow::restoreAllDefault()
 {
-    if (!confirm(tr("Are you sure to restore all default?")))
+    if (!confirm(tr("Are you sure to restore all default?")) || !mManager)
         return;
     const QPointer<ConfigurationWindow> self(this);
     {
@@ -253,6 +256,8 @@ void ConfigurationWindow::initConfigClassList()
     mUi->configList->setMinimumWidth(qRound(200 * scale));
     const int iconSize = static_cast<int>(28 * scale);
     mUi->configList->setIconSize(QSize(iconSize, iconSize));
+    if (!mManager)
+        return;
     for (const MajorConfItem &major : qAsConst(mManager->majorItems)) {
         auto *row = new QStandardItem(translatedName(major.name));
         mItemIcons.insert(row, major.name);

@@ -52,7 +52,8 @@ class MALTO_EXPORT ConfigurationWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Builds the window of `manager`, which must not be null and must outlive the window. Hosts
+    /// Builds the window of `manager`, which must outlive the window. Without one the window is empty,
+    /// and the critical message "ConfigurationWindow without a manager" says so. Hosts
     /// call `MtConfManage::ShowWindow` instead.
     explicit ConfigurationWindow(MtConfManage *manager);
     ~ConfigurationWindow() override;

@@ -2,6 +2,14 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
+#include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+#include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+
 #include <QLabel>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -9,6 +17,9 @@
 
 using MtConf::ConfItem;
 using MtConf::ConfigItemWidget;
+
+using Factory = ConfigItemWidget *(*)(ConfItem *, QWidget *);
+Q_DECLARE_METATYPE(Factory)
 
 namespace {
 
@@ -91,6 +102,8 @@ private Q_SLOTS:
     void storingWritesAlsoTheStoredValue();
     void editorIsWritingWhileCallbacksRun();
     void editorDeletedByACallbackIsNotTouchedAgain();
+    void factoryWithoutAnItemMakesNothing_data();
+    void factoryWithoutAnItemMakesNothing();
 
 private:
     PlainEditor *editor() { return mFixture->edit<PlainEditor>(mItem); }
@@ -256,6 +269,26 @@ void tst_ConfigItemWidget::editorDeletedByACallbackIsNotTouchedAgain()
     QVERIFY(!made->write(2));
     QVERIFY(!mItem->editor);
     QCOMPARE(mValue, 2);
+}
+
+void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing_data()
+{
+    QTest::addColumn<Factory>("factory");
+    QTest::newRow("ConfDefWidgetBool") << Factory(&MtConf::ConfDefWidgetBool::CreatConfWidget);
+    QTest::newRow("ConfDefWidgetInt32") << Factory(&MtConf::ConfDefWidgetInt32::CreatConfWidget);
+    QTest::newRow("ConfDefWidgetQColor") << Factory(&MtConf::ConfDefWidgetQColor::CreatConfWidget);
+    QTest::newRow("ConfDefWidgetQFont") << Factory(&MtConf::ConfDefWidgetQFont::CreatConfWidget);
+    QTest::newRow("ConfDefWidgetQKeySequence") << Factory(&MtConf::ConfDefWidgetQKeySequence::CreatConfWidget);
+    QTest::newRow("ConfWidgetCombobox") << Factory(&MtConf::ConfWidgetCombobox::CreatConfWidget);
+    QTest::newRow("ConfWidgetLanguage") << Factory(&MtConf::ConfWidgetLanguage::CreatConfWidget);
+}
+
+void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing()
+{
+    QFETCH(Factory, factory);
+    const LogCapture log;
+    QVERIFY(!factory(nullptr, nullptr));
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList("ConfigItemWidget without an item"));
 }
 
 int main(int argc, char **argv)

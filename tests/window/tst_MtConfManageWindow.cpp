@@ -33,6 +33,7 @@ private Q_SLOTS:
     void managerTakesItsWindowAlong();
     void managerLeavesTheWindowOfAnotherAlone();
     void windowWithoutManagerIsRefused();
+    void windowOfNobodyIsEmpty();
     void hostMayDeleteTheWindow();
     void hostMayDeleteTheWindowThatItsManagerTakesAlong();
 
@@ -176,6 +177,22 @@ void tst_MtConfManageWindow::windowWithoutManagerIsRefused()
     const LogCapture log;
     QVERIFY(!MtConf::ShowConfigurationWindow(nullptr));
     QCOMPARE(log.texts(QtCriticalMsg), QStringList("ShowConfigurationWindow without a manager"));
+}
+
+void tst_MtConfManageWindow::windowOfNobodyIsEmpty()
+{
+    const LogCapture log;
+    ConfigurationWindow window(nullptr);
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.show();
+    window.switchToView("General");
+    QTimer::singleShot(0, [] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QTest::mouseClick(question->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    window.restoreAllDefault();
+    window.close();
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList("ConfigurationWindow without a manager"));
 }
 
 void tst_MtConfManageWindow::hostMayDeleteTheWindow()
