@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>Restore Default</source>
-        <translation>По умолчанию</translation>
+        <translation>Восстановить по умолчанию</translation>
     </message>
 </context>
 <context>
