@@ -1,6 +1,6 @@
 #include <MaltoConfiguration/manage/helpers.h>
 
-#include <MaltoConfiguration/store/SafeFile_p.h>
+#include <MaltoConfiguration/store/PosixFile_p.h>
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -23,7 +23,7 @@ QJsonDocument readJsonFromFile(QString path)
     if (!file.exists())
         return QJsonDocument();
     // Reading a pipe or a device might never end, and what no memory holds would end the process.
-    const bool isUsable = QFileInfo(path).isFile() && file.size() <= SafeFile::sMaxSize;
+    const bool isUsable = QFileInfo(path).isFile() && file.size() <= PosixFile::sMaxSize;
     if (!isUsable || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qCritical() << "can't open config file" << path;
         return QJsonDocument();

@@ -78,7 +78,7 @@ bool ConfStorage::saveSafely() const
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
     // Values nested too deeply are written without complaint and never read again, and so are texts
     // that are too large.
-    if (text.size() > SafeFile::sMaxSize || !QJsonDocument::fromJson(text).isObject()) {
+    if (text.size() > PosixFile::sMaxSize || !QJsonDocument::fromJson(text).isObject()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "
                     << mLocalSaveFile;
         return false;

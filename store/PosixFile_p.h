@@ -2,8 +2,11 @@
 
 #include <QFile>
 
-/// What safe saves need of the operating system, and Qt does not offer.
+/// What the files of values need of the operating system, and Qt does not offer.
 namespace PosixFile {
+
+/// What no memory holds would end the process: files of more bytes are not read.
+constexpr qint64 sMaxSize = 128 * 1024 * 1024;
 
 /// Whether `path` leads to a named pipe, which blocks whoever opens it until somebody else does.
 bool isPipe(const QString &path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <MaltoConfiguration/store/PosixFile_p.h>
 #include <MaltoConfiguration/store/SaveJournal_p.h>
 
 #include <QFile>
@@ -25,9 +26,6 @@ public:
         KeptAside       ///< the same; the journal was of another text, and was renamed
     };
 
-    /// What no memory holds would end the process: more bytes are neither read nor saved.
-    static constexpr qint64 sMaxSize = 128 * 1024 * 1024;
-
     /// The file that `path` leads to through any links; the journal lies beside that file.
     explicit SafeFile(const QString &path);
 
@@ -38,7 +36,8 @@ public:
     /// Replaces the content of the opened file by `text`, a JSON object.
     Saved save(const QByteArray &text);
 
-    bool isTooLarge() const { return mFile.size() > sMaxSize; }
+    /// Whether the file has more bytes than are ever read.
+    bool isTooLarge() const { return mFile.size() > PosixFile::sMaxSize; }
 
     /// The text of the file, or of the journal when a save was interrupted. A file that cannot be
     /// read, or is too large, counts as empty.

@@ -1,7 +1,6 @@
 #include <MaltoConfiguration/store/SaveJournal_p.h>
 
 #include <MaltoConfiguration/store/PosixFile_p.h>
-#include <MaltoConfiguration/store/SafeFile_p.h>
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -79,7 +78,7 @@ SaveJournal::State SaveJournal::read(Entry *entry) const
     if (!file.open(QIODevice::ReadOnly))
         return State::None;
     // A longer one is cut here, and found to be damaged.
-    const QByteArray content = file.read(qMin(file.size(), SafeFile::sMaxSize + sMaxHeaderSize));
+    const QByteArray content = file.read(qMin(file.size(), PosixFile::sMaxSize + sMaxHeaderSize));
     if (!content.startsWith(sMagic))
         return State::None;
     const int magicSize = int(sizeof(sMagic)) - 1;

@@ -28,8 +28,8 @@ QString elided(const QString &text, int length)
 /// Whether other combo boxes open at this key.
 bool opensList(const QKeyEvent &event)
 {
-    return event.key() == Qt::Key_F4 || event.key() == Qt::Key_Space
-           || (event.key() == Qt::Key_Down && event.modifiers() & Qt::AltModifier);
+    const int keys = event.key() | static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
+    return keys == Qt::Key_F4 || keys == Qt::Key_Space || keys == Qt::ALT + Qt::Key_Down;
 }
 
 /// Gives each row the height of its check box, which a list view does not ask by itself, and a

@@ -231,6 +231,8 @@ void tst_Accessibility::everyEditorWorksByKeyboardOnceTheHostWantsIt()
             QTest::keyClick(box->view(), Qt::Key_Escape);
             QTRY_VERIFY(!box->view()->isVisible());
         }
+        QTest::keyClick(box, Qt::Key_F4, Qt::AltModifier);
+        QVERIFY(!box->view()->isVisible());
         QTest::keyClick(box, Qt::Key_Space);
         QTest::keyClick(box->view(), Qt::Key_Down);
         QTest::keyClick(box->view(), Qt::Key_Return);

@@ -1,36 +1,17 @@
 #include <OrvUtils/QThemeCtrl.h>
 
+#include "support/Contrast.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
 #include <QPalette>
 #include <QSignalSpy>
 
-#include <cmath>
-
 Q_DECLARE_METATYPE(QThemeCtrl::Theme)
 
 namespace {
 
 using Theme = QThemeCtrl::Theme;
-
-double channelLight(double value)
-{
-    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &color)
-{
-    return 0.2126 * channelLight(color.redF()) + 0.7152 * channelLight(color.greenF())
-           + 0.0722 * channelLight(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const double brighter = qMax(luminance(one), luminance(other));
-    const double darker = qMin(luminance(one), luminance(other));
-    return (brighter + 0.05) / (darker + 0.05);
-}
 
 QPalette systemPalette(bool dark)
 {
