@@ -226,13 +226,10 @@ public:
     QMap<QString, QDateTime> mRemovedDynamicConfs;  ///< when each removed dynamic key was removed
 
 private:
+    friend class ConfLoad;
     void reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current);
-    class LoadPosition;
     void markUserChange(QString const &key, ConfValue *value);
     void callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value = nullptr);
-    void loadMember(QString key, QJsonValue const &value, LoadConfType type, LoadPosition &position);
-    void loadEntry(QString const &key, QJsonObject const &entry, LoadConfType type,
-                   LoadPosition &position);
     bool isDynamicWithoutPreset(QString const &key) const;
     bool saveInPlace() const;
     bool saveSafely() const;

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <MaltoConfiguration/store/ConfDump_p.h>
+#include <MaltoConfiguration/store/ConfLoad_p.h>
 #include <MaltoConfiguration/store/PosixFile_p.h>
 #include <MaltoConfiguration/store/SafeFile_p.h>
 
@@ -112,9 +113,7 @@ void ConfStorage::loadLocalConfFile()
         text = file.load(&recovery);
         logRecovery(recovery, file);
     }
-    const QJsonDocument document = QJsonDocument::fromJson(text);
-    if (document.isObject())
-        loadConf(document.object(), LoadLocal);
+    ConfLoad(*this, LoadLocal).loadText(text);
     loadPresetDynamicConf();
     mChanged = false;
     mLocalLoaded = true;

@@ -38,6 +38,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         expect(host.dump() == "{}" && host.calls.isEmpty(), "what does not load leaves no trace");
         return 0;
     }
+    // The text is mostly read without a document.
+    StoreHost parsed(sDeclarations);
+    parsed.store.loadConf(document.object(), ConfStorage::LoadLocal);
+    expect(host.values() == parsed.values() && host.variables() == parsed.variables(),
+           "text and object hold the same");
+    expect(host.calls == parsed.calls, "text and object are told of in the same way");
+
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadLocal);
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadShared);
     return 0;

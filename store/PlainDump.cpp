@@ -1,0 +1,219 @@
+#include <MaltoConfiguration/store/PlainDump_p.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr int sMostDigits = 15; // any whole number of so many digits is exact as a double, too
+constexpr int sMostLevels = 500; // far from those at which QJsonDocument gives up
+
+/// Whether the byte of a JSON string stands for itself, and is a whole character.
+bool isPlain(char byte)
+{
+    return byte >= 0x20 && byte < 0x7f && byte != '"' && byte != '\\';
+}
+
+/// Takes a text apart from its start to its end. What cannot be taken stays where it is.
+class Scanner
+{
+public:
+    explicit Scanner(const QByteArray &text)
+        : mNext(text.constData()), mEnd(mNext + text.size())
+    {
+    }
+
+    bool isAtEnd() const { return mNext == mEnd; }
+    bool take(QLatin1String literal);
+    bool takeMember(PlainMember *member);
+
+private:
+    bool isNext(char byte) const { return mNext != mEnd && *mNext == byte; }
+    bool takePlainString(QLatin1String *string);
+    bool takeNumber(qint64 *number);
+    bool takeSeconds(int *seconds);
+    bool takeValue(PlainMember *member);
+    bool takePlainValue(PlainMember *member);
+    bool takeParsedValue(PlainMember *member);
+    const char *endOfValue() const;
+
+    const char *mNext;
+    const char *const mEnd;
+};
+
+bool Scanner::take(QLatin1String literal)
+{
+    const auto size = static_cast<size_t>(literal.size());
+    if (mEnd - mNext < literal.size() || std::memcmp(mNext, literal.data(), size) != 0)
+        return false;
+    mNext += literal.size();
+    return true;
+}
+
+bool Scanner::takePlainString(QLatin1String *string)
+{
+    if (!isNext('"'))
+        return false;
+    const char *const start = mNext + 1;
+    const char *end = start;
+    while (end != mEnd && isPlain(*end))
+        ++end;
+    if (end == mEnd || *end != '"')
+        return false;
+    *string = QLatin1String(start, static_cast<int>(end - start));
+    mNext = end + 1;
+    return true;
+}
+
+/// The first digits of a longer number, or of one with a fraction, are taken, too: the caller looks
+/// at what follows.
+bool Scanner::takeNumber(qint64 *number)
+{
+    const bool isNegative = isNext('-');
+    const char *const start = isNegative ? mNext + 1 : mNext;
+    const char *end = start;
+    qint64 sum = 0;
+    while (end != mEnd && *end >= '0' && *end <= '9' && end - start < sMostDigits)
+        sum = 10 * sum + (*end++ - '0');
+    // A zero in front is no JSON, and minus zero no whole number.
+    if (end == start || (*start == '0' && (isNegative || end - start > 1)))
+        return false;
+    *number = isNegative ? -sum : sum;
+    mNext = end;
+    return true;
+}
+
+bool Scanner::takeSeconds(int *seconds)
+{
+    qint64 number = 0;
+    if (!takeNumber(&number) || number < std::numeric_limits<int>::min()
+        || number > std::numeric_limits<int>::max())
+        return false;
+    *seconds = static_cast<int>(number);
+    return true;
+}
+
+bool Scanner::takeValue(PlainMember *member)
+{
+    const char *const start = mNext;
+    if (takePlainValue(member) && isNext('}'))
+        return true;
+    mNext = start;
+    member->plainString = QLatin1String();
+    return takeParsedValue(member);
+}
+
+bool Scanner::takePlainValue(PlainMember *member)
+{
+    qint64 number = 0;
+    if (takeNumber(&number))
+        member->otherValue = number;
+    else if (take(QLatin1String("true")))
+        member->otherValue = true;
+    else if (take(QLatin1String("false")))
+        member->otherValue = false;
+    else
+        return takePlainString(&member->plainString);
+    return true;
+}
+
+bool Scanner::takeParsedValue(PlainMember *member)
+{
+    const char *const end = endOfValue();
+    if (!end)
+        return false;
+    const QByteArray text = QByteArray::fromRawData(mNext, static_cast<int>(end - mNext));
+    // As the only element of an array: a value means the same wherever it stands.
+    const QJsonArray array = QJsonDocument::fromJson('[' + text + ']').array();
+    if (array.size() != 1)
+        return false;
+    member->otherValue = array.first();
+    mNext = end;
+    return true;
+}
+
+/// Where the value ends if it is one: only strings and brackets are looked at.
+const char *Scanner::endOfValue() const
+{
+    int level = 0;
+    bool isInString = false;
+    for (const char *at = mNext; at != mEnd; ++at) {
+        if (isInString) {
+            if (*at != '\\')
+                isInString = *at != '"';
+            else if (++at == mEnd)
+                break;
+            continue;
+        }
+        if (level == 0 && *at == '}')
+            return at;
+        if (*at == '"')
+            isInString = true;
+        else if (*at == '[' || *at == '{')
+            ++level;
+        else if (*at == ']' || *at == '}')
+            --level;
+        if (level < 0 || level > sMostLevels)
+            return nullptr;
+    }
+    return nullptr;
+}
+
+bool Scanner::takeMember(PlainMember *member)
+{
+    if (!takePlainString(&member->name) || !take(QLatin1String(":")))
+        return false;
+    const char *const start = mNext;
+    member->isRemoval = take(QLatin1String(R"({"d":)"));
+    if (!member->isRemoval && !take(QLatin1String(R"({"t":)")))
+        return false;
+    if (!takeSeconds(&member->seconds))
+        return false;
+    if (!member->isRemoval && take(QLatin1String(R"(,"v":)")) && !takeValue(member))
+        return false;
+    if (!take(QLatin1String("}")))
+        return false;
+    member->text = QLatin1String(start, static_cast<int>(mNext - start));
+    return true;
+}
+
+} // namespace
+
+std::optional<int> PlainMember::time() const
+{
+    return isRemoval ? std::nullopt : std::make_optional(seconds);
+}
+
+QJsonValue PlainMember::value() const
+{
+    return plainString.data() ? QJsonValue(plainString) : otherValue;
+}
+
+QJsonObject PlainMember::toObject() const
+{
+    return QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size())).object();
+}
+
+std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)
+{
+    Scanner scanner(text);
+    std::vector<PlainMember> members;
+    if (!scanner.take(QLatin1String("{")))
+        return std::nullopt;
+    do {
+        PlainMember member;
+        if (!scanner.takeMember(&member))
+            return std::nullopt;
+        // Of members of one name the last one counts, and objects are in the order of their names.
+        if (!members.empty() && !(members.back().name < member.name))
+            return std::nullopt;
+        members.push_back(std::move(member));
+    } while (scanner.take(QLatin1String(",")));
+    if (!scanner.take(QLatin1String("}")) || !scanner.isAtEnd())
+        return std::nullopt;
+    return members;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QLatin1String>
+
+#include <optional>
+#include <vector>
+
+class QByteArray;
+
+/// One member of a dump, as `readPlainDump` finds it. It points into the text.
+struct PlainMember
+{
+    /// True, unlike of members that are parsed; each is an entry of this form.
+    bool isObject() const { return true; }
+    /// The member "t".
+    std::optional<int> time() const;
+    /// The member "v", or undefined.
+    QJsonValue value() const;
+    /// The whole, as QJsonDocument reads it.
+    QJsonObject toObject() const;
+
+    QLatin1String name;
+    QLatin1String text;
+    int seconds = 0;
+    bool isRemoval = false; ///< the seconds are those of the member "d", and there is no other
+    QLatin1String plainString; ///< null when the value is another one
+    QJsonValue otherValue{QJsonValue::Undefined};
+};
+
+/// The members of the text of a dump, without a document: building one takes most of the time of a
+/// load.
+///
+/// The text is read only as the library writes it: compact, members in the order of their names,
+/// names of printable ASCII without escapes, times first. A value that is neither a whole number, a
+/// flag nor a string of printable ASCII is parsed by QJsonDocument. So is every other text as a
+/// whole, by the caller: nothing is returned then. No text means anything else here than there.
+std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text);
