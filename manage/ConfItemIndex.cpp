@@ -4,30 +4,41 @@
 
 namespace MtConf {
 
-uint qHash(const ConfItemIndex::Names &names, uint seed)
+namespace {
+
+constexpr QLatin1Char sSeparator('.');
+
+/// A separator inside a name would be taken for one between two names.
+bool isInFiles(const ConfItem &item)
 {
-    QtPrivate::QHashCombine combine;
-    seed = combine(seed, names.majorName);
-    seed = combine(seed, names.name);
-    return combine(seed, names.subName);
+    return !item.majorName.contains(sSeparator) && !item.name.contains(sSeparator)
+           && !item.subName.contains(sSeparator);
 }
 
-ConfItemIndex::Names ConfItemIndex::namesOf(const ConfItem &item)
+/// The full name of the item that the member is meant for; null when it is for none.
+QString fullNameOf(const QString &memberName)
 {
-    return {item.majorName, item.name, item.subName};
+    const int separators = memberName.count(sSeparator);
+    if (separators != 1 && separators != 2)
+        return QString();
+    const bool isLastEmpty = separators == 2 && memberName.endsWith(sSeparator);
+    return isLastEmpty ? memberName.chopped(1) : memberName;
 }
 
-const ConfItem *ConfItemIndex::find(const QString &majorName, const QString &name,
-                                    const QString &subName)
+} // namespace
+
+const ConfItem *ConfItemIndex::find(const QString &memberName)
 {
+    const QString fullName = fullNameOf(memberName);
+    if (fullName.isNull())
+        return nullptr;
     if (isStale())
         rebuild();
-    const Names names{majorName, name, subName};
-    int index = mFirst.value(names, -1);
+    int index = mFirst.value(fullName, -1);
     // A swap inside the list makes and destroys no item; it shows only here.
-    if (index >= 0 && !(namesOf(mItems.at(index)) == names)) {
+    if (index >= 0 && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
         rebuild();
-        index = mFirst.value(names, -1);
+        index = mFirst.value(fullName, -1);
     }
     return index >= 0 ? &mItems.at(index) : nullptr;
 }
@@ -42,8 +53,10 @@ void ConfItemIndex::rebuild()
 {
     mFirst.clear();
     mFirst.reserve(mItems.size());
-    for (int i = mItems.size() - 1; i >= 0; --i)
-        mFirst.insert(namesOf(mItems.at(i)), i);
+    for (int i = mItems.size() - 1; i >= 0; --i) {
+        if (isInFiles(mItems.at(i)))
+            mFirst.insert(mItems.at(i).getFullName(), i);
+    }
     mSize = mItems.size();
     mData = mItems.isEmpty() ? nullptr : &mItems.first();
     mRevision = ConfItemRevision::current();

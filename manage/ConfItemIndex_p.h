@@ -8,34 +8,25 @@ namespace MtConf {
 
 class ConfItem;
 
-/// Finds items of a list by their names at a cost that does not grow with the list. It notices when
-/// the list changes and then reads it again, so that a callback that declares, removes or replaces
-/// items between two lookups gets the same answers as a walk through the list would give.
+/// Finds items of a list by their member of a configuration file at a cost that does not grow with
+/// the list. It notices when the list changes and then reads it again, so that a callback that
+/// declares, removes or replaces items between two lookups gets the same answers as a walk through
+/// the list would give.
 class ConfItemIndex
 {
 public:
     explicit ConfItemIndex(const QList<ConfItem> &items) : mItems(items) {}
 
-    /// The first item with these three names, or null.
-    const ConfItem *find(const QString &majorName, const QString &name, const QString &subName);
+    /// The first item whose two or three names `memberName` joins by ".", or null. A third name may
+    /// be empty.
+    const ConfItem *find(const QString &memberName);
 
 private:
-    struct Names
-    {
-        QString majorName, name, subName;
-        bool operator==(const Names &other) const
-        {
-            return majorName == other.majorName && name == other.name && subName == other.subName;
-        }
-    };
-    friend uint qHash(const Names &names, uint seed);
-    static Names namesOf(const ConfItem &item);
-
     bool isStale() const;
     void rebuild();
 
     const QList<ConfItem> &mItems;
-    QHash<Names, int> mFirst;
+    QHash<QString, int> mFirst; // by full name
     const void *mData = nullptr;
     int mSize = -1;
     quint64 mRevision = 0;

@@ -5,7 +5,6 @@
 
 #include <QJsonObject>
 #include <QPointer>
-#include <QStringList>
 
 namespace MtConf {
 
@@ -16,10 +15,7 @@ void MtConfManage::_loadFromFile(QString path)
     ConfItemIndex index(items);
     const QPointer<MtConfManage> self(this); // a callback may destroy the manager
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
-        const QStringList parts = member.key().split(QLatin1Char('.'));
-        if (parts.size() != 2 && parts.size() != 3)
-            continue;
-        if (const ConfItem *item = index.find(parts.at(0), parts.at(1), parts.value(2)))
+        if (const ConfItem *item = index.find(member.key()))
             item->loadFromJsonValue(member.value());
         if (!self)
             return;

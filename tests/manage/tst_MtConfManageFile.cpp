@@ -46,6 +46,7 @@ private Q_SLOTS:
     void replacedItemIsFoundWithoutLookingForTheOldOneFirst();
     void itemsReorderedByACallbackAreFound();
     void itemsRenamedByACallbackAreFoundByTheirNewNames();
+    void itemThatACallbackGivesAFullStopIsOutOfReach();
     void listGivenAwayByACallbackIsReadAgain();
     void managerMayBeDestroyedByACallbackOfALoad();
     void managerMayBeDestroyedByTheRestoreHook();
@@ -79,6 +80,8 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
     QTest::newRow("two parts") << "General.Hotkey" << "General.Hotkey";
     QTest::newRow("three parts") << "General.Hotkey.Left" << "General.Hotkey.Left";
     QTest::newRow("four parts are skipped") << "General.A.B.C" << "";
+    QTest::newRow("name with a full stop is out of reach") << "General.D.E" << "";
+    QTest::newRow("and so is one at its end") << "General.F." << "";
     QTest::newRow("one part is skipped") << "General" << "";
     QTest::newRow("full stop at the end is an empty name") << "General." << "General.";
     QTest::newRow("empty third part is no sub-name") << "General.Hotkey." << "General.Hotkey";
@@ -90,17 +93,20 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
 
 void tst_MtConfManageFile::keysReachItemsByTheirParts()
 {
-    int two = 0, three = 0, four = 0, empty = 0;
+    int two = 0, three = 0, four = 0, dotted = 0, dots = 0, empty = 0;
     declare(&two, "Hotkey");
     declare(&three, "Hotkey", "Left");
     declare(&four, "A.B", "C");
+    declare(&dotted, "D.E");
+    declare(&dots, "F.");
     declare(&empty, "");
     QFETCH(QString, key);
     writeFile(QJsonObject{{key, 7}});
     const LogCapture log;
     mManager->_loadFromFile(path());
     const QMap<QString, int> values{{"General.Hotkey", two}, {"General.Hotkey.Left", three},
-                                    {"General.A.B.C", four}, {"General.", empty}};
+                                    {"General.A.B.C", four}, {"General.D.E", dotted},
+                                    {"General.F.", dots}, {"General.", empty}};
     QTEST(values.key(7), "reached");
     QVERIFY(log.messages().isEmpty());
 }
@@ -290,6 +296,20 @@ void tst_MtConfManageFile::itemsRenamedByACallbackAreFoundByTheirNewNames()
     mManager->_loadFromFile(path());
     QCOMPARE(y, 0);
     QCOMPARE(z, 3);
+}
+
+void tst_MtConfManageFile::itemThatACallbackGivesAFullStopIsOutOfReach()
+{
+    int a = 0, z = 0;
+    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mManager->items[1].name = "y.z";
+        mManager->items[1].subName.clear();
+    });
+    declare(&z, "y", "z");
+    writeFile(QJsonObject{{"General.a", 1}, {"General.y.z", 3}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(a, 1);
+    QCOMPARE(z, 0);
 }
 
 void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
