@@ -17,18 +17,29 @@ QByteArray contentOf(const QString &path)
     return file.readAll();
 }
 
+struct Numbers
+{
+    static int valueOf(int i) { return i; }
+};
+
+/// Not in ASCII, and so not plain to the library's own reader.
+struct Texts
+{
+    static QString valueOf(int i) { return QStringLiteral("B\u00fccher %1").arg(i); }
+};
+
 /// A store of which every value has been changed, as a person would have over the years, and its
 /// local file.
-class LocalFile
+template<class Values> class StoredFile
 {
 public:
-    LocalFile(const QVector<SettingName> &names, const QString &path)
+    StoredFile(const QVector<SettingName> &names, const QString &path)
         : mKeys(keysOf(names)), mValues(mKeys.size())
     {
         mStore.mLocalSaveFile = path;
         for (size_t i = 0; i < mKeys.size(); ++i) {
             mStore.reserveConf(mKeys[i], &mValues[i]);
-            mStore.set(mKeys[i], static_cast<int>(i) + 1);
+            mStore.set(mKeys[i], Values::valueOf(static_cast<int>(i) + 1));
         }
         mStore.saveToLocalConfFile();
     }
@@ -40,18 +51,21 @@ public:
             meta.lastChangeTime = QDateTime();
             meta.flags |= ConfStorage::FlagIsDefault;
         }
-        std::fill(mValues.begin(), mValues.end(), 0);
+        std::fill(mValues.begin(), mValues.end(), Values::valueOf(0));
     }
     void load(const QString &path)
     {
         mStore.mLocalSaveFile = path;
         mStore.loadLocalConfFile();
     }
-    bool isLoaded() const { return mValues.back() == static_cast<int>(mValues.size()); }
+    bool isLoaded() const
+    {
+        return mValues.back() == Values::valueOf(static_cast<int>(mValues.size()));
+    }
 
     void save(int value)
     {
-        mStore.set(mKeys.front(), value);
+        mStore.set(mKeys.front(), Values::valueOf(value));
         mStore.saveToLocalConfFile();
     }
 
@@ -60,9 +74,11 @@ public:
 
 private:
     std::vector<QString> mKeys;
-    std::vector<int> mValues;
+    std::vector<decltype(Values::valueOf(0))> mValues;
     ConfStorage mStore;
 };
+
+using LocalFile = StoredFile<Numbers>;
 
 /// The same, saved so that a crash or a full disk loses nothing.
 class SafeLocalFile : public LocalFile
@@ -74,13 +90,26 @@ public:
     }
 };
 
+/// The same, written by another program: a text that is left to Qt's parser.
+class IndentedFile : public LocalFile
+{
+public:
+    IndentedFile(const QVector<SettingName> &names, const QString &path) : LocalFile(names, path)
+    {
+        const QByteArray text = QJsonDocument::fromJson(contentOf(path)).toJson();
+        QFile file(path);
+        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        file.write(text);
+    }
+};
+
 /// The least that loading and saving the same file do.
-class BareFile
+template<class File> class BareFile
 {
 public:
     BareFile(const QVector<SettingName> &names, const QString &path) : mPath(path)
     {
-        const LocalFile file(names, path);
+        const File file(names, path);
         mText = contentOf(path);
         mObject = QJsonDocument::fromJson(mText).object();
     }
@@ -155,9 +184,13 @@ void parseCopy(benchmark::State &state)
 void addFileBenchmarks()
 {
     addBenchmark("loadLocalFile", "library", benchLoad<LocalFile>);
-    addBenchmark("loadLocalFile", "bare", benchLoad<BareFile>);
+    addBenchmark("loadLocalFile", "bare", benchLoad<BareFile<LocalFile>>);
+    addBenchmark("loadTexts", "library", benchLoad<StoredFile<Texts>>);
+    addBenchmark("loadTexts", "bare", benchLoad<BareFile<StoredFile<Texts>>>);
+    addBenchmark("loadIndented", "library", benchLoad<IndentedFile>);
+    addBenchmark("loadIndented", "bare", benchLoad<BareFile<IndentedFile>>);
     addBenchmark("saveLocalFile", "library", benchSave<LocalFile>);
-    addBenchmark("saveLocalFile", "bare", benchSave<BareFile>);
+    addBenchmark("saveLocalFile", "bare", benchSave<BareFile<LocalFile>>);
     // Beside a plain save, by the clock on the wall: a safe one waits for the disk.
     addBenchmark("saveSafely", "library", benchSave<SafeLocalFile>)->UseRealTime();
     addBenchmark("saveSafely", "bare", benchSave<LocalFile>)->UseRealTime();

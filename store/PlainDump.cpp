@@ -34,6 +34,7 @@ public:
 private:
     bool isNext(char byte) const { return mNext != mEnd && *mNext == byte; }
     bool takePlainString(QLatin1String *string);
+    bool takeText(QJsonValue *value);
     bool takeNumber(qint64 *number);
     bool takeSeconds(int *seconds);
     bool takeValue(PlainMember *member);
@@ -65,6 +66,26 @@ bool Scanner::takePlainString(QLatin1String *string)
     if (end == mEnd || *end != '"')
         return false;
     *string = QLatin1String(start, static_cast<int>(end - start));
+    mNext = end + 1;
+    return true;
+}
+
+/// A string beyond ASCII, without escapes.
+bool Scanner::takeText(QJsonValue *value)
+{
+    if (!isNext('"'))
+        return false;
+    const char *const start = mNext + 1;
+    const char *end = start;
+    while (end != mEnd && (isPlain(*end) || static_cast<uchar>(*end) >= 0x80))
+        ++end;
+    if (end == mEnd || *end != '"')
+        return false;
+    const QString text = QString::fromUtf8(start, static_cast<int>(end - start));
+    // What stands for broken sequences may be in the text itself, too; Qt's parser tells.
+    if (text.contains(QChar::ReplacementCharacter))
+        return false;
+    *value = text;
     mNext = end + 1;
     return true;
 }
@@ -117,7 +138,7 @@ bool Scanner::takePlainValue(PlainMember *member)
     else if (take(QLatin1String("false")))
         member->otherValue = false;
     else
-        return takePlainString(&member->plainString);
+        return takePlainString(&member->plainString) || takeText(&member->otherValue);
     return true;
 }
 

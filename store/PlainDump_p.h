@@ -25,7 +25,7 @@ struct PlainMember
     QLatin1String text;
     int seconds = 0;
     bool isRemoval = false; ///< the seconds are those of the member "d", and there is no other
-    QLatin1String plainString; ///< null when the value is another one
+    QLatin1String plainString; ///< in ASCII; null when the value is another one
     QJsonValue otherValue{QJsonValue::Undefined};
 };
 
@@ -33,7 +33,7 @@ struct PlainMember
 /// load.
 ///
 /// The text is read only as the library writes it: compact, members in the order of their names,
-/// names of printable ASCII without escapes, times first. A value that is neither a whole number, a
-/// flag nor a string of printable ASCII is parsed by QJsonDocument. So is every other text as a
-/// whole, by the caller: nothing is returned then. No text means anything else here than there.
+/// names of printable ASCII, times first. A value that is neither a whole number, a flag nor a string
+/// without escapes is parsed by QJsonDocument. So is every other text as a whole, by the caller:
+/// nothing is returned then. No text means anything else here than there.
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text);

@@ -158,7 +158,11 @@ class Copy:
         source = (ROOT / mutant.file).read_text()
         broken = source[:mutant.start] + mutant.after + source[mutant.end:]
         (self.tree / mutant.file).write_text(broken)
-        return self.compiles(["MaltoConfiguration"])
+        # Sources that the library does not export are compiled into the test named after them.
+        folder, stem = mutant.file.split("/")[0], Path(mutant.file).stem
+        test = "tst_%s" % stem
+        has_test = (ROOT / "tests" / folder / (test + ".cpp")).exists()
+        return self.compiles(["MaltoConfiguration"] + [test] * has_test)
 
     def heals(self, mutant):
         (self.tree / mutant.file).write_text((ROOT / mutant.file).read_text())

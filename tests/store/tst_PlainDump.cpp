@@ -39,6 +39,7 @@ private Q_SLOTS:
     void noBeginningIsRead();
     void noChangedByteChangesTheMeaning();
     void noInsertedByteChangesTheMeaning();
+    void noCutChangesTheMeaning();
 };
 
 void tst_PlainDump::textOfTheLibraryIsRead_data()
@@ -50,6 +51,7 @@ void tst_PlainDump::textOfTheLibraryIsRead_data()
         "true", "false", "null",
         R"("")", R"("plain")", R"(" !#[]^~{}:,")", R"("Ctrl+A")", R"("\"")", R"("\\")",
         R"("\\\"}")", R"("\u00e9")", "\"\303\251\"", "\"\177\"", "\"\357\273\277\"",
+        "\"\357\277\275\"", "\"\357\277\277\"", "\"\360\237\230\200\"", "\"\303\251\\n\"",
         "\"\n\"", R"("\x")", // no JSON, but Qt takes them
         "[]", "{}", R"([1,"}",{"a":[]}])", R"({"t":1,"v":{"]":"["}})", nestedArrays(500)};
     for (const QByteArray &value : values)
@@ -119,7 +121,7 @@ void tst_PlainDump::everyOtherTextIsRefused_data()
                                "true", "2147483648", "-2147483649", "99999999999999999999"};
     for (const QByteArray &time : times)
         QTest::addRow("time %s", time.constData()) << withTime(time);
-    const QByteArrayList values{"01", "-", "+1", "1 2", "truex", "nul", R"("a"b)", "\"\303\"", "[", "]", "{]", "[}", nestedArrays(501)};
+    const QByteArrayList values{"01", "-", "+1", "1 2", "truex", "nul", R"("a"b)", "\"\303\"", "\"\355\240\200\"", "\"\300\200\"", "[", "]", "{]", "[}", nestedArrays(501)};
     for (const QByteArray &value : values)
         QTest::addRow("value %s", nameOf(value).constData()) << withValue(value);
 }
@@ -133,6 +135,7 @@ void tst_PlainDump::everyOtherTextIsRefused()
 namespace {
 
 const QByteArray sText(R"({"A.b1":{"t":17,"v":-20},"A.b2":{"t":3,"v":"x\"y"},"B":{"d":4},)"
+                       "\"B2\":{\"t\":8,\"v\":\"\342\202\254\"},"
                        R"("C":{"t":5},"D":{"t":6,"v":[true,{"k":null}]},"E":{"t":7,"v":false}})");
 
 } // namespace
@@ -161,6 +164,17 @@ void tst_PlainDump::noInsertedByteChangesTheMeaning()
         for (int byte = 0; byte < 256; ++byte) {
             QByteArray text = sText;
             text.insert(place, static_cast<char>(byte));
+            QVERIFY2(!isMistaken(text), text.constData());
+        }
+    }
+}
+
+void tst_PlainDump::noCutChangesTheMeaning()
+{
+    for (int place = 0; place < sText.size(); ++place) {
+        for (int size = 1; size <= sText.size() - place; ++size) {
+            QByteArray text = sText;
+            text.remove(place, size);
             QVERIFY2(!isMistaken(text), text.constData());
         }
     }
