@@ -38,9 +38,10 @@ private:
 };
 
 /// Whether loading `value` writes nothing on the log.
-bool isTyped(const ConfValue &value)
+bool isSilent(const ConfValue &value)
 {
-    return value.mType >= ConfValue::TyQColor && value.mType <= ConfValue::TyQJsonArray;
+    return value.mType >= ConfValue::TyQColor && value.mType <= ConfValue::TyQJsonArray
+           && value.mType != ConfValue::TyQFont;
 }
 
 /// The entry of `key`, which mostly is the one at `next`; `next` goes on behind it.
@@ -147,7 +148,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
         time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC) : QDateTime::currentDateTimeUtc();
 
     const QJsonValue value = member.value();
-    if (!value.isUndefined() && !meta->changedCallback && isTyped(*stored)) {
+    if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;
         return;
@@ -157,7 +158,8 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
         mStore.setToDefault(key, false);
         return;
     }
-    stored->loadFromJsonValue(value);
+    if (!mStore.loadValue(key, value))
+        return;
     mStore.callChangedCallback(key, mStore.mConfMetas[key]);
     // Looked up again: the callback may have removed the key.
     const auto record = mStore.mConfMetas.find(key);

@@ -91,11 +91,28 @@ void ConfStorage::setConfChangedCallback(QString const &key, ConfChangedCallback
 
 void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
-    const auto stored = mConfValues.find(key);
+    if (loadValue(key, value))
+        markUserChange(key, nullptr);
+}
+
+/// Whether the key is there, and still is when its value has been loaded.
+bool ConfStorage::loadValue(QString const &key, QJsonValue const &json)
+{
+    auto stored = mConfValues.find(key);
     if (stored == mConfValues.end())
-        return;
-    stored->loadFromJsonValue(value);
-    markUserChange(key, nullptr);
+        return false;
+    if (stored->mType != ConfValue::TyQFont || json.isNull() || json.isUndefined()) {
+        stored->loadFromJsonValue(json);
+        return true;
+    }
+    // Of a text that is no font Qt and we write on the log, and a handler may change the store.
+    ConfValue font = ConfValue::owned(QFont());
+    font.loadFromJsonValue(json);
+    stored = mConfValues.find(key);
+    if (stored == mConfValues.end())
+        return false;
+    stored->set(font);
+    return true;
 }
 
 /// `value` is the key's entry where it is known that nothing has moved it, or else null.

@@ -228,6 +228,7 @@ public:
 private:
     friend class ConfLoad;
     void reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current);
+    bool loadValue(QString const &key, QJsonValue const &json);
     void markUserChange(QString const &key, ConfValue *value);
     void callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value = nullptr);
     bool isDynamicWithoutPreset(QString const &key) const;

@@ -3,6 +3,7 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <QFont>
 #include <QJsonObject>
 
 /// Callbacks that work on the store, on their own key above all.
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void callbackMayReplaceTheKeysThatLoadNext();
     void callbackMayReloadTheLocalFile();
     void callbackMaySaveWhileTheFileIsLoaded();
+    void logHandlerMayRemoveTheFontThatLoads_data();
+    void logHandlerMayRemoveTheFontThatLoads();
     void creatorMayRemoveItsClass();
     void removerMayRemoveTheClass();
     void removerMayRemoveItsKeyAgain();
@@ -269,6 +272,59 @@ void tst_ConfStorageReentrancy::callbackMaySaveWhileTheFileIsLoaded()
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 42);
     QCOMPARE(last, 43);
+}
+
+namespace {
+
+ConfStorage *sEmptiedStore = nullptr;
+
+void emptyTheStore(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    sEmptiedStore->mConfValues.clear();
+    sEmptiedStore->mConfMetas.clear();
+}
+
+} // namespace
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontThatLoads_data()
+{
+    QTest::addColumn<QString>("font");
+    QTest::addColumn<bool>("hasCallback");
+    QTest::newRow("message of Qt") << "Sans,9,-1" << false;
+    QTest::newRow("message of ours") << "Sans,inf,-1,5,50,0,0,0,0,0" << false;
+    QTest::newRow("of Qt, with a callback") << "Sans,9,-1" << true;
+}
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontThatLoads()
+{
+    QFETCH(QString, font);
+    QFETCH(bool, hasCallback);
+    const QFont initial("Serif", 33);
+    const auto declare = [&](QFont *variable) {
+        mStore->reserveConf("General.Font", variable);
+        mStore->reserveConf("General.Next", &mSize);
+        if (hasCallback)
+            mStore->setConfChangedCallback("General.Font", [](const QString &, const ConfValue *) {
+                QFAIL("called for a key that is gone");
+            });
+    };
+    const QJsonObject entry{{"t", 5}, {"v", font}};
+    const QJsonObject next{{"t", 5}, {"v", 9}};
+    QFont loaded = initial, set = initial;
+    sEmptiedStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(emptyTheStore);
+    declare(&loaded);
+    mStore->loadConf({{"General.Font", entry}, {"General.Next", next}}, ConfStorage::LoadLocal);
+    const bool isEmptyAfterLoad = mStore->mConfValues.isEmpty() && mStore->mConfMetas.isEmpty();
+    declare(&set);
+    mStore->loadValueFromJson("General.Font", font);
+    qInstallMessageHandler(previous);
+
+    QVERIFY(isEmptyAfterLoad);
+    QVERIFY(mStore->mConfValues.isEmpty() && mStore->mConfMetas.isEmpty());
+    QCOMPARE(loaded, initial);
+    QCOMPARE(set, initial);
+    QCOMPARE(mSize, 7);
 }
 
 void tst_ConfStorageReentrancy::creatorMayRemoveItsClass()
