@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int sMostDigits = 15; // any whole number of so many digits is exact as a double, too
+constexpr int sMostDigits = 18;  // any number of so many digits fits into 64 bits
 constexpr int sMostLevels = 500; // far from those at which QJsonDocument gives up
 
 /// Whether the byte of a JSON string stands for itself, and is a whole character.
