@@ -376,6 +376,11 @@ void tst_ConfStorageDynamic::mergingIntoALocalOnlyClass()
     QVERIFY(!mCopy->has("P.a"));
     mCopy->store.loadSingleConf("P.a", entry, ConfStorage::LoadLocal);
     QVERIFY(mCopy->has("P.a"));
+    // Nor is a setting of the host among its keys taken from another copy.
+    int size = 7;
+    mCopy->store.reserveConf("P.size", &size);
+    mCopy->store.loadSingleConf("P.size", QJsonObject{{"t", 50}, {"v", 9}}, ConfStorage::LoadShared);
+    QCOMPARE(size, 7);
 }
 
 void tst_ConfStorageDynamic::entryThatIsNoObjectIsAnOrdinaryOne()

@@ -311,6 +311,7 @@ void tst_ConfStorageJson::loadedValueCallsBackBeforeTheFlagFalls()
     mStore->loadSingleConf("a", entry(100, 10), ConfStorage::LoadShared);
     QCOMPARE(flags, 1u);
     QCOMPARE(value, 10);
+    QCOMPARE(mStore->mConfMetas["a"].flags, 0u);
 }
 
 void tst_ConfStorageJson::skippedEntryDoesNotCallBack()
