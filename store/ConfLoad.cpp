@@ -82,7 +82,7 @@ bool ConfLoad::loadText(const QByteArray &text)
 {
     if (const auto members = readPlainDump(text)) {
         for (const PlainMember &member : *members)
-            loadEntry(member.name, member);
+            loadEntry(member.key(), member);
         return true;
     }
     const QJsonDocument document = QJsonDocument::fromJson(text);

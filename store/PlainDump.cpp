@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -16,6 +17,29 @@ constexpr int sMostLevels = 500; // far from those at which QJsonDocument gives 
 bool isPlain(char byte)
 {
     return byte >= 0x20 && byte < 0x7f && byte != '"' && byte != '\\';
+}
+
+bool isBeyondAscii(char byte)
+{
+    return static_cast<uchar>(byte) >= 0x80;
+}
+
+bool isPlainOrBeyondAscii(char byte)
+{
+    return isPlain(byte) || isBeyondAscii(byte);
+}
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
+/// False also for a text with the character that stands for broken sequences: Qt's parser tells them
+/// apart.
+bool isUnbroken(std::string_view utf8)
+{
+    return std::none_of(utf8.begin(), utf8.end(), isBeyondAscii)
+           || !textOf(utf8).contains(QChar::ReplacementCharacter);
 }
 
 /// Takes a text apart from its start to its end. What cannot be taken stays where it is.
@@ -33,8 +57,7 @@ public:
 
 private:
     bool isNext(char byte) const { return mNext != mEnd && *mNext == byte; }
-    bool takePlainString(QLatin1String *string);
-    bool takeText(QJsonValue *value);
+    bool takeQuoted(std::string_view *inside, bool (*isInside)(char));
     bool takeNumber(qint64 *number);
     bool takeSeconds(int *seconds);
     bool takeValue(PlainMember *member);
@@ -55,37 +78,15 @@ bool Scanner::take(QLatin1String literal)
     return true;
 }
 
-bool Scanner::takePlainString(QLatin1String *string)
+bool Scanner::takeQuoted(std::string_view *inside, bool (*isInside)(char))
 {
     if (!isNext('"'))
         return false;
     const char *const start = mNext + 1;
-    const char *end = start;
-    while (end != mEnd && isPlain(*end))
-        ++end;
+    const char *const end = std::find_if_not(start, mEnd, isInside);
     if (end == mEnd || *end != '"')
         return false;
-    *string = QLatin1String(start, static_cast<int>(end - start));
-    mNext = end + 1;
-    return true;
-}
-
-/// A string beyond ASCII, without escapes.
-bool Scanner::takeText(QJsonValue *value)
-{
-    if (!isNext('"'))
-        return false;
-    const char *const start = mNext + 1;
-    const char *end = start;
-    while (end != mEnd && (isPlain(*end) || static_cast<uchar>(*end) >= 0x80))
-        ++end;
-    if (end == mEnd || *end != '"')
-        return false;
-    const QString text = QString::fromUtf8(start, static_cast<int>(end - start));
-    // What stands for broken sequences may be in the text itself, too; Qt's parser tells.
-    if (text.contains(QChar::ReplacementCharacter))
-        return false;
-    *value = text;
+    *inside = std::string_view(start, static_cast<size_t>(end - start));
     mNext = end + 1;
     return true;
 }
@@ -124,7 +125,7 @@ bool Scanner::takeValue(PlainMember *member)
     if (takePlainValue(member) && isNext('}'))
         return true;
     mNext = start;
-    member->plainString = QLatin1String();
+    member->string = std::string_view();
     return takeParsedValue(member);
 }
 
@@ -138,7 +139,7 @@ bool Scanner::takePlainValue(PlainMember *member)
     else if (take(QLatin1String("false")))
         member->otherValue = false;
     else
-        return takePlainString(&member->plainString) || takeText(&member->otherValue);
+        return takeQuoted(&member->string, isPlainOrBeyondAscii) && isUnbroken(member->string);
     return true;
 }
 
@@ -186,7 +187,7 @@ const char *Scanner::endOfValue() const
 
 bool Scanner::takeMember(PlainMember *member)
 {
-    if (!takePlainString(&member->name) || !take(QLatin1String(":")))
+    if (!takeQuoted(&member->name, isPlain) || !take(QLatin1String(":")))
         return false;
     const char *const start = mNext;
     member->isRemoval = take(QLatin1String(R"({"d":)"));
@@ -198,11 +199,16 @@ bool Scanner::takeMember(PlainMember *member)
         return false;
     if (!take(QLatin1String("}")))
         return false;
-    member->text = QLatin1String(start, static_cast<int>(mNext - start));
+    member->text = std::string_view(start, static_cast<size_t>(mNext - start));
     return true;
 }
 
 } // namespace
+
+QString PlainMember::key() const
+{
+    return QString::fromLatin1(name.data(), static_cast<int>(name.size()));
+}
 
 std::optional<int> PlainMember::time() const
 {
@@ -211,12 +217,13 @@ std::optional<int> PlainMember::time() const
 
 QJsonValue PlainMember::value() const
 {
-    return plainString.data() ? QJsonValue(plainString) : otherValue;
+    return string.data() ? QJsonValue(textOf(string)) : otherValue;
 }
 
 QJsonObject PlainMember::toObject() const
 {
-    return QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size())).object();
+    const auto bytes = QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
+    return QJsonDocument::fromJson(bytes).object();
 }
 
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)
@@ -230,7 +237,7 @@ std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)
         if (!scanner.takeMember(&member))
             return std::nullopt;
         // Of members of one name the last one counts, and objects are in the order of their names.
-        if (!members.empty() && !(members.back().name < member.name))
+        if (!members.empty() && members.back().name >= member.name)
             return std::nullopt;
         members.push_back(std::move(member));
     } while (scanner.take(QLatin1String(",")));

@@ -2,9 +2,10 @@
 
 #include <QJsonObject>
 #include <QJsonValue>
-#include <QLatin1String>
+#include <QString>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 class QByteArray;
@@ -12,6 +13,7 @@ class QByteArray;
 /// One member of a dump, as `readPlainDump` finds it. It points into the text.
 struct PlainMember
 {
+    QString key() const;
     /// True, unlike of members that are parsed; each is an entry of this form.
     bool isObject() const { return true; }
     /// The member "t".
@@ -21,11 +23,11 @@ struct PlainMember
     /// The whole, as QJsonDocument reads it.
     QJsonObject toObject() const;
 
-    QLatin1String name;
-    QLatin1String text;
+    std::string_view name; ///< in ASCII
+    std::string_view text; ///< of the whole after the name
     int seconds = 0;
     bool isRemoval = false; ///< the seconds are those of the member "d", and there is no other
-    QLatin1String plainString; ///< in ASCII; null when the value is another one
+    std::string_view string; ///< the value in UTF-8; null when it is no string, or has escapes
     QJsonValue otherValue{QJsonValue::Undefined};
 };
 

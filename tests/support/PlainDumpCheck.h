@@ -17,13 +17,13 @@ inline bool isMistaken(const QByteArray &text)
         return true;
     QStringList names;
     for (const PlainMember &member : *members) {
-        const QJsonObject entry = document.object().value(member.name).toObject();
+        const QJsonObject entry = document.object().value(member.key()).toObject();
         const auto time = entry.constFind("t");
         const bool hasSameTime = time != entry.constEnd() ? member.time() == time->toInt(-1)
                                                           : !member.time();
         if (member.toObject() != entry || member.value() != entry.value("v") || !hasSameTime)
             return true;
-        names.append(member.name);
+        names.append(member.key());
     }
     return names != document.object().keys();
 }
