@@ -58,7 +58,7 @@ findFrom(Map &map, std::optional<typename Map::iterator> &next, const QString &k
 } // namespace
 
 ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
-    : mStore(store), mType(type), mSystemMark(addSysMark(QString()))
+    : mStore(store), mIsLocal(type == ConfStorage::LoadLocal), mSystemMark(addSysMark(QString()))
 {
 }
 
@@ -121,7 +121,7 @@ template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Memb
     const ConfStorage::DynamicConfClass *cls = mStore.findDynamicConfClass(key);
     if (!cls)
         return false;
-    if (mType != ConfStorage::LoadLocal && (cls->flags & ConfStorage::FlagLocalOnly))
+    if (!mIsLocal && (cls->flags & ConfStorage::FlagLocalOnly))
         return true;
     forgetPosition();
     return mStore.loadLoadDynamicConf(key, member.toObject(), cls);
@@ -142,7 +142,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     const auto meta = known != mStore.mConfMetas.end()
         ? known
         : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
-    if (mType != ConfStorage::LoadLocal && (meta->flags & ConfStorage::FlagLocalOnly))
+    if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
     meta->lastChangeTime =
         time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC) : QDateTime::currentDateTimeUtc();

@@ -26,7 +26,7 @@ private:
     void forgetPosition();
 
     ConfStorage &mStore;
-    const ConfStorage::LoadConfType mType;
+    const bool mIsLocal; // and not shared, as any other type counts
     const QString mSystemMark;
 
     // Where the next key is likely to stand in both maps: members of a dump are in the order of the
