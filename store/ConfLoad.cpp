@@ -6,7 +6,6 @@
 #include <QJsonObject>
 
 #include <iterator>
-#include <utility>
 
 namespace {
 
@@ -14,7 +13,7 @@ constexpr QLatin1String sTimeKey("t", 1);
 constexpr QLatin1String sValueKey("v", 1);
 constexpr QLatin1Char sMarkSeparator('#');
 
-/// What `PlainMember` is of a text, of a parsed object.
+/// A member of a parsed object, to be loaded like a `PlainMember`.
 class ParsedMember
 {
 public:

@@ -8,7 +8,6 @@
 #include <QDebug>
 #include <QFile>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace {
 

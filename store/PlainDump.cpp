@@ -42,7 +42,7 @@ bool isUnbroken(std::string_view utf8)
            || !textOf(utf8).contains(QChar::ReplacementCharacter);
 }
 
-/// Takes a text apart from its start to its end. What cannot be taken stays where it is.
+/// Takes a text apart from its start to its end; where that fails, the whole text is refused.
 class Scanner
 {
 public:
