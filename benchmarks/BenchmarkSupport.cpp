@@ -65,8 +65,8 @@ int sizeOf(const benchmark::State &state)
 void countEntries(benchmark::State &state)
 {
     using Counter = benchmark::Counter;
-    state.counters["per_entry"] = Counter(sizeOf(state), Counter::kIsIterationInvariantRate
-                                                             | Counter::kInvert);
+    state.counters["per_entry"] = Counter(sizeOf(state),
+                                          Counter::kIsIterationInvariantRate | Counter::kInvert);
 }
 
 void countBytes(benchmark::State &state, qint64 bytes)

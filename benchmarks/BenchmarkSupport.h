@@ -48,9 +48,10 @@ qint64 heapBytes();
 void countBytes(benchmark::State &state, qint64 bytes);
 
 /// Registers `function` as what `who` ("library", "bare" or a peer) does for `work`.
-benchmark::internal::Benchmark *addBenchmark(
-    const char *work, const char *who, void (*function)(benchmark::State &),
-    const std::vector<int> &sizes = {100, 1000, 10000, 100000});
+benchmark::internal::Benchmark *addBenchmark(const char *work, const char *who,
+                                             void (*function)(benchmark::State &),
+                                             const std::vector<int> &sizes = {100, 1000, 10000,
+                                                                              100000});
 
 /// Reads every key once in each iteration. A `Subject` holds values of the names it is made of.
 template<class Subject> void benchRead(benchmark::State &state)

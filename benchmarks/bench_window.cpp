@@ -85,10 +85,7 @@ public:
     static QWidget *widget() { return window(); }
 
 private:
-    static MtConf::ConfigurationWindow *window()
-    {
-        return MtConf::ConfigurationWindow::instance();
-    }
+    static MtConf::ConfigurationWindow *window() { return MtConf::ConfigurationWindow::instance(); }
 
     /// As a click on the row does.
     static void makeCurrent(int row)
@@ -133,8 +130,8 @@ public:
 
     void open()
     {
-        mWindow = std::make_unique<HandMadeWindow>(
-            QStringList{pageName(), emptyPageName()}, mSheets.last());
+        mWindow = std::make_unique<HandMadeWindow>(QStringList{pageName(), emptyPageName()},
+                                                   mSheets.last());
         mWindow->setGeometry(mGeometry);
         showPage();
         mWindow->show();

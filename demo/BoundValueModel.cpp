@@ -11,7 +11,8 @@
 
 BoundValueModel::BoundValueModel(const MtConf::MtConfManage &manager, QObject *parent)
     : QAbstractTableModel(parent), mManager(manager), mKeys(currentKeys())
-{}
+{
+}
 
 int BoundValueModel::rowCount(const QModelIndex &parent) const
 {
@@ -41,12 +42,9 @@ QVariant BoundValueModel::data(const QModelIndex &index, int role) const
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return QVariant();
     switch (index.column()) {
-    case KeyColumn:
-        return key;
-    case ValueColumn:
-        return valueText(key);
-    default:
-        return changed ? tr("changed") : QString();
+    case KeyColumn: return key;
+    case ValueColumn: return valueText(key);
+    default: return changed ? tr("changed") : QString();
     }
 }
 
@@ -55,12 +53,9 @@ QVariant BoundValueModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QVariant();
     switch (section) {
-    case KeyColumn:
-        return tr("Setting");
-    case ValueColumn:
-        return tr("Value");
-    default:
-        return tr("State");
+    case KeyColumn: return tr("Setting");
+    case ValueColumn: return tr("Value");
+    default: return tr("State");
     }
 }
 
@@ -120,11 +115,9 @@ QString BoundValueModel::valueText(const QString &key)
     case ConfValue::TyQJsonObject:
         return QString::fromUtf8(
             QJsonDocument(value.get<QJsonObject>()).toJson(QJsonDocument::Compact));
-    case ConfValue::TyQString:
-        return value.get<QString>();
+    case ConfValue::TyQString: return value.get<QString>();
     case ConfValue::TyBool:
         return value.get<bool>() ? QStringLiteral("true") : QStringLiteral("false");
-    default:
-        return value.toJsonValue().toVariant().toString();
+    default: return value.toJsonValue().toVariant().toString();
     }
 }

@@ -76,24 +76,30 @@ QString absolute(const QString &path)
 
 void addOptions(QCommandLineParser *parser)
 {
-    parser->setApplicationDescription(
-        QStringLiteral("Shows the settings of a screen-capture tool, and how its variables follow them."));
+    parser->setApplicationDescription(QStringLiteral(
+        "Shows the settings of a screen-capture tool, and how its variables follow them."));
     const QString file = QStringLiteral("file");
     parser->addOptions({
         {QStringLiteral("local-file"), QStringLiteral("Keep the settings in <file>."), file},
-        {QStringLiteral("config"), QStringLiteral("Take over the settings in <file>, a JSON object by names."), file},
-        {QStringLiteral("page"), QStringLiteral("Open the page <name>: %1.")
-             .arg(pageNames().join(QStringLiteral(", "))), QStringLiteral("name")},
-        {QStringLiteral("theme"), QStringLiteral("Choose and keep the theme <name>: light, dark or system."),
+        {QStringLiteral("config"),
+         QStringLiteral("Take over the settings in <file>, a JSON object by names."), file},
+        {QStringLiteral("page"),
+         QStringLiteral("Open the page <name>: %1.").arg(pageNames().join(QStringLiteral(", "))),
          QStringLiteral("name")},
-        {QStringLiteral("language"), QStringLiteral("Choose and keep the language <code>, such as de-de."),
+        {QStringLiteral("theme"),
+         QStringLiteral("Choose and keep the theme <name>: light, dark or system."),
+         QStringLiteral("name")},
+        {QStringLiteral("language"),
+         QStringLiteral("Choose and keep the language <code>, such as de-de."),
          QStringLiteral("code")},
-        {QStringLiteral("scale"), QStringLiteral("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
+        {QStringLiteral("scale"),
+         QStringLiteral("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
          QStringLiteral("factor")},
-        {QStringLiteral("pictures"), QStringLiteral("Draw every page in both themes into <folder>, and quit."),
+        {QStringLiteral("pictures"),
+         QStringLiteral("Draw every page in both themes into <folder>, and quit."),
          QStringLiteral("folder")},
-        {QStringLiteral("occupied"),
-         QStringLiteral("Let another program take the hotkey %1 first.").arg(DemoArguments::occupiedKey().toString())},
+        {QStringLiteral("occupied"), QStringLiteral("Let another program take the hotkey %1 first.")
+                                         .arg(DemoArguments::occupiedKey().toString())},
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
     });
     QCommandLineOption holdKey(KeyHolder::option(), QString(), QStringLiteral("keys"));
@@ -132,7 +138,8 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
     const double factor = given("scale") ? value("scale").toDouble(&isNumber) : 1;
     const QStringList unexpected = parser.positionalArguments();
     message = firstOf({
-        unexpected.isEmpty() ? QString() : QStringLiteral("Unexpected argument \"%1\"").arg(unexpected.first()),
+        unexpected.isEmpty() ? QString()
+                             : QStringLiteral("Unexpected argument \"%1\"").arg(unexpected.first()),
         given("page") ? choiceError(QStringLiteral("page"), value("page"), pageNames()) : QString(),
         given("theme") ? choiceError(QStringLiteral("theme"), value("theme"), themes) : QString(),
         given("language") ? choiceError(QStringLiteral("language"), value("language"),
@@ -160,7 +167,7 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
     localFile = absolute(value("local-file"));
     if (localFile.isEmpty() && !given("pictures"))
         localFile = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-            + QStringLiteral("/settings.json");
+                    + QStringLiteral("/settings.json");
     message = firstOf({
         localFile.isEmpty() ? QString() : localFileError(localFile),
         given("config") ? jsonError(configFile) : QString(),

@@ -24,14 +24,14 @@ public:
     /// The hotkey that another program takes with `--occupied`.
     static QKeySequence occupiedKey();
 
-    QString localFile;         ///< where settings are kept; empty with pictures unless it was given
-    QString configFile;        ///< a file of settings to take over; may be empty
-    QString page;              ///< the page to open; may be empty
-    std::optional<int> theme;  ///< a `QThemeCtrl::Theme`
-    QString language;          ///< code of a language; may be empty
-    std::optional<double> scale;  ///< multiplies the screen's dots per inch
-    QString picturesFolder;    ///< where to draw every page; empty: run
-    bool occupied = false;     ///< whether another program takes one of the hotkeys first
-    QString keyToHold;         ///< the key to hold for another instance; empty: none
-    QString message;           ///< for the console
+    QString localFile;        ///< where settings are kept; empty with pictures unless it was given
+    QString configFile;       ///< a file of settings to take over; may be empty
+    QString page;             ///< the page to open; may be empty
+    std::optional<int> theme; ///< a `QThemeCtrl::Theme`
+    QString language;         ///< code of a language; may be empty
+    std::optional<double> scale; ///< multiplies the screen's dots per inch
+    QString picturesFolder;      ///< where to draw every page; empty: run
+    bool occupied = false;       ///< whether another program takes one of the hotkeys first
+    QString keyToHold;           ///< the key to hold for another instance; empty: none
+    QString message;             ///< for the console
 };

@@ -46,8 +46,8 @@ DemoSession::DemoSession(const QString &localFile)
     addHotkeyCallbacks();
     mManager->restoreAllHook = [this] { mProfiles.restorePresets(); };
     mWatcher.watchAll();
-    connect(&mProfiles, &ProfileStore::profilesChanged,
-            &mWatcher, &SettingsWatcher::announceChange);
+    connect(&mProfiles, &ProfileStore::profilesChanged, &mWatcher,
+            &SettingsWatcher::announceChange);
 }
 
 DemoSession::~DemoSession()
@@ -93,8 +93,9 @@ void DemoSession::addPages()
 
 void DemoSession::addCallbacks()
 {
-    item("Appearance", "Theme")->setConfChangedCallback(
-        [this](const QString &, const ConfValue *) { showTheme(mSettings.theme); });
+    item("Appearance", "Theme")->setConfChangedCallback([this](const QString &, const ConfValue *) {
+        showTheme(mSettings.theme);
+    });
     const MtConf::ConfItem *const showExpert = item("System", "ShowExpert");
     showExpert->setConfChangedCallback([this, showExpert](const QString &, const ConfValue *) {
         // Later: the switch that was clicked stands on the page that is built again.
@@ -168,8 +169,7 @@ void DemoSession::showTheme(int theme)
     const auto chosen = static_cast<QThemeCtrl::Theme>(qBound(0, theme, 2));
     themes->setTheme(chosen);
     // Without a palette of ours the application goes on following the system's.
-    QApplication::setPalette(chosen == QThemeCtrl::Theme::System ? QPalette()
-                                                                 : themes->palette());
+    QApplication::setPalette(chosen == QThemeCtrl::Theme::System ? QPalette() : themes->palette());
 }
 
 void DemoSession::rebuildPageOf(const MtConf::ConfItem *changed)

@@ -12,7 +12,7 @@
 namespace MtConf {
 class ConfItem;
 class MtConfManage;
-}
+} // namespace MtConf
 
 /// The program's settings at work: the variables, their declaration, and what follows when one of
 /// them changes. One session exists at a time; its end forgets everything but the files.

@@ -21,10 +21,9 @@ QString KeyHolder::option()
 KeyHolder::KeyHolder(const QString &program, const QKeySequence &sequence)
 {
     mProgram.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    mProgram.start(program, {QStringLiteral("--") + option(),
-                             sequence.toString(QKeySequence::PortableText)});
-    while (!mProgram.canReadLine() && mProgram.waitForReadyRead()) {
-    }
+    mProgram.start(
+        program, {QStringLiteral("--") + option(), sequence.toString(QKeySequence::PortableText)});
+    while (!mProgram.canReadLine() && mProgram.waitForReadyRead()) {}
     mHolds = mProgram.readLine() == sHeld;
 }
 

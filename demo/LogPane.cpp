@@ -9,28 +9,20 @@ namespace {
 QString levelName(QtMsgType level)
 {
     switch (level) {
-    case QtDebugMsg:
-        return QStringLiteral("debug");
-    case QtInfoMsg:
-        return QStringLiteral("info");
-    case QtWarningMsg:
-        return QStringLiteral("warning");
-    default:
-        return QStringLiteral("critical");
+    case QtDebugMsg: return QStringLiteral("debug");
+    case QtInfoMsg: return QStringLiteral("info");
+    case QtWarningMsg: return QStringLiteral("warning");
+    default: return QStringLiteral("critical");
     }
 }
 
 QString levelColor(QtMsgType level)
 {
     switch (level) {
-    case QtDebugMsg:
-        return QStringLiteral("ColorDisable");
-    case QtInfoMsg:
-        return QStringLiteral("ColorFg0");
-    case QtWarningMsg:
-        return QStringLiteral("ColorWarning");
-    default:
-        return QStringLiteral("ColorFailed");
+    case QtDebugMsg: return QStringLiteral("ColorDisable");
+    case QtInfoMsg: return QStringLiteral("ColorFg0");
+    case QtWarningMsg: return QStringLiteral("ColorWarning");
+    default: return QStringLiteral("ColorFailed");
     }
 }
 

@@ -43,8 +43,8 @@ MainWindow::MainWindow(DemoSession &session, const MessageLog &log)
     const double scale = designScale(this);
     resize(qRound(480 * scale), qRound(500 * scale));
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this, &MainWindow::applySheet);
-    connect(&session.watcher(), &SettingsWatcher::settingsChanged,
-            this, &MainWindow::onSettingsChanged);
+    connect(&session.watcher(), &SettingsWatcher::settingsChanged, this,
+            &MainWindow::onSettingsChanged);
     connect(&session, &DemoSession::hotkeyPressed, this, &MainWindow::onHotkeyPressed);
 }
 
@@ -111,8 +111,9 @@ QPushButton *MainWindow::addButton(const char *name)
 void MainWindow::buildMenu()
 {
     mFileMenu = menuBar()->addMenu(QString());
-    mSettingsAction = mFileMenu->addAction(QString(), this, [this] { showSettings(QString()); },
-                                           QKeySequence(Qt::CTRL + Qt::Key_Comma));
+    mSettingsAction = mFileMenu->addAction(
+        QString(), this, [this] { showSettings(QString()); },
+        QKeySequence(Qt::CTRL + Qt::Key_Comma));
     mSaveAction = mFileMenu->addAction(QString(), this, &MainWindow::save, QKeySequence::Save);
     mRestoreAction = mFileMenu->addAction(QString(), this, &MainWindow::restoreAll);
     mFileMenu->addSeparator();
@@ -163,9 +164,8 @@ void MainWindow::applySheet()
 void MainWindow::onSettingsChanged()
 {
     mModel->refresh();
-    mValuesCaption->setText(tr("Variables — %1 of %2 changed")
-                                .arg(mModel->changedCount())
-                                .arg(mModel->rowCount()));
+    mValuesCaption->setText(
+        tr("Variables — %1 of %2 changed").arg(mModel->changedCount()).arg(mModel->rowCount()));
     const QList<QAction *> themes = mThemes->actions();
     for (QAction *action : themes)
         action->setChecked(action->data().toInt() == mSession.settings().theme);
@@ -184,7 +184,7 @@ void MainWindow::onHotkeyPressed(const QString &key, const char *label)
 void MainWindow::showSettings(const QString &page)
 {
     const bool isFirst = !MtConf::ConfigurationWindow::instance()
-        && !QFile::exists(QStringLiteral("ConfigurationWindowConfig.ini"));
+                         && !QFile::exists(QStringLiteral("ConfigurationWindowConfig.ini"));
     QWidget *window = mSession.manager().ShowWindow(page);
     window->activateWindow();
     if (!isFirst || !isVisible())

@@ -42,8 +42,8 @@ void MessageLog::handle(QtMsgType level, const QMessageLogContext &context, cons
         previous = sPrevious;
         if (MessageLog *log = sLog) {
             const Message message{QDateTime::currentDateTime(), level, text};
-            QMetaObject::invokeMethod(log, [log, message] { log->append(message); },
-                                      Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                log, [log, message] { log->append(message); }, Qt::QueuedConnection);
         }
     }
     if (previous)

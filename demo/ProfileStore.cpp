@@ -61,8 +61,8 @@ void ProfileStore::create(const QString &key, const QJsonValue &value)
     profile = value.toObject();
     ConfStorage *store = ConfStorage::instance();
     store->reserveConf(key, &profile);
-    store->setConfChangedCallback(
-        key, [this](const QString &, const ConfValue *) { announceChange(); });
+    store->setConfChangedCallback(key,
+                                  [this](const QString &, const ConfValue *) { announceChange(); });
     announceChange();
 }
 

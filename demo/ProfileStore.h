@@ -11,8 +11,8 @@
 /// The capture profiles: settings that a person adds and deletes while the program runs, each one a
 /// key of the store, "Profiles.<id>", with a JSON object as its value.
 ///
-/// It owns the variables of these keys and tells the store how they come and go. Three presets exist
-/// from the start, can be deleted, and come back with `restorePresets`.
+/// It owns the variables of these keys and tells the store how they come and go. Three presets
+/// exist from the start, can be deleted, and come back with `restorePresets`.
 class ProfileStore : public QObject
 {
     Q_OBJECT
@@ -56,5 +56,5 @@ private:
     void announceChange();
 
     ConfStorage::DynamicConfClass mClass;
-    std::map<QString, QJsonObject> mProfiles;  // a map: its elements stay where they are
+    std::map<QString, QJsonObject> mProfiles; // a map: its elements stay where they are
 };

@@ -199,8 +199,7 @@ void ProfilesPage::refresh()
         mList->setIconSize(QSize(iconSize, iconSize));
         const QStringList keys = mProfiles.keys();
         for (const QString &key : keys) {
-            const QColor color(
-                mProfiles.profile(key).value(QLatin1String("color")).toString());
+            const QColor color(mProfiles.profile(key).value(QLatin1String("color")).toString());
             auto *item = new QListWidgetItem(swatch(color, iconSize), mProfiles.name(key), mList);
             item->setData(Qt::UserRole, key);
         }

@@ -9,41 +9,41 @@
 /// What the program can be told: one plain variable for each setting, holding the default.
 ///
 /// The rest of the program just reads these variables. Whatever writes them (a file, the settings
-/// window, a restore) goes through the library, which was told their addresses by `declareSettings`;
-/// so the object must stay where it is, and outlive the library's use of it.
+/// window, a restore) goes through the library, which was told their addresses by
+/// `declareSettings`; so the object must stay where it is, and outlive the library's use of it.
 struct Settings
 {
     // General
-    QString language = QStringLiteral("auto");  ///< code of the interface's language
+    QString language = QStringLiteral("auto"); ///< code of the interface's language
     bool startAtLogin = false;
     bool showTrayIcon = true;
     bool playSound = true;
     bool showTips = true;
-    int recentCaptures = 20;                    ///< how many are kept in the menu
+    int recentCaptures = 20; ///< how many are kept in the menu
     bool checkUpdates = true;
-    int updateInterval = 7;                     ///< days
+    int updateInterval = 7; ///< days
     bool betaUpdates = false;
 
     // Appearance
-    int theme = 0;                              ///< a `QThemeCtrl::Theme`: system, light, dark
+    int theme = 0; ///< a `QThemeCtrl::Theme`: system, light, dark
     QColor frameColor{0x2a, 0x67, 0xd8};
-    int frameWidth = 2;                         ///< pixels
-    QColor shadeColor{0, 0, 0, 0x73};           ///< over what is not selected
+    int frameWidth = 2;               ///< pixels
+    QColor shadeColor{0, 0, 0, 0x73}; ///< over what is not selected
     bool showMagnifier = true;
-    int magnifierZoom = 4;                      ///< times
+    int magnifierZoom = 4; ///< times
     bool showSize = true;
     QFont labelFont = pixelFont(14);
     QColor labelColor{Qt::white};
 
     // Capture
-    int delay = 0;                              ///< seconds
+    int delay = 0; ///< seconds
     bool countdown = true;
     bool includePointer = false;
     bool includeShadow = true;
     bool freezeScreen = true;
-    int frameRate = 30;                         ///< frames per second
-    int snapTargets = 0x1 | 0x2;                ///< bits: window edges, screen edges, guides, last area
-    int snapDistance = 8;                       ///< pixels
+    int frameRate = 30;          ///< frames per second
+    int snapTargets = 0x1 | 0x2; ///< bits: window edges, screen edges, guides, last area
+    int snapDistance = 8;        ///< pixels
 
     // Hotkeys
     QKeySequence captureArea{Qt::CTRL | Qt::ALT | Qt::Key_A};
@@ -52,38 +52,38 @@ struct Settings
     QKeySequence pinClipboard{Qt::CTRL | Qt::ALT | Qt::Key_V};
     QKeySequence pickColor;
     bool hotkeysInFullScreen = false;
-    int repeatDelay = 400;                      ///< milliseconds
+    int repeatDelay = 400; ///< milliseconds
 
     // Mouse: an action bit and `Qt::KeyboardModifier` bits
-    int zoomAction = 0x04000000 | 64;           ///< the wheel with Ctrl (Command on macOS)
-    int opacityAction = 0x02000000 | 64;        ///< the wheel with Shift
-    int menuAction = 4;                         ///< a right click
-    int closeAction = 8;                        ///< a right double click: in conflict with the menu
-    int copyAction = 16;                        ///< a middle click
-    int hideAction = 0;                         ///< none
-    int moveAction = 128;                       ///< dragging
-    int drawAction = 256;                       ///< dragging with the right button
+    int zoomAction = 0x04000000 | 64;    ///< the wheel with Ctrl (Command on macOS)
+    int opacityAction = 0x02000000 | 64; ///< the wheel with Shift
+    int menuAction = 4;                  ///< a right click
+    int closeAction = 8;                 ///< a right double click: in conflict with the menu
+    int copyAction = 16;                 ///< a middle click
+    int hideAction = 0;                  ///< none
+    int moveAction = 128;                ///< dragging
+    int drawAction = 256;                ///< dragging with the right button
     bool doubleClickFinishes = true;
     bool invertWheel = false;
-    int dragThreshold = 4;                      ///< pixels
+    int dragThreshold = 4; ///< pixels
 
     // Output
     QString format = QStringLiteral("PNG");
-    int quality = 90;                           ///< percent
-    int scale = 100;                            ///< percent
-    QString watermark;                          ///< empty: none
-    int watermarkOpacity = 40;                  ///< percent
+    int quality = 90;          ///< percent
+    int scale = 100;           ///< percent
+    QString watermark;         ///< empty: none
+    int watermarkOpacity = 40; ///< percent
     bool copyAfterCapture = true;
     bool saveAfterCapture = false;
     bool openAfterCapture = false;
 
     // System
-    bool simpleHotkeys = false;                 ///< whether a letter alone may be a hotkey
-    bool showExpert = false;                    ///< whether the expert settings are shown
+    bool simpleHotkeys = false; ///< whether a letter alone may be a hotkey
+    bool showExpert = false;    ///< whether the expert settings are shown
     int undoSteps = 50;
     bool restorePins = true;
     bool logToFile = false;
-    int cacheSize = 256;                        ///< megabytes
+    int cacheSize = 256; ///< megabytes
     int workerThreads = 2;
     bool hardwareDrawing = true;
     bool debugOverlay = false;

@@ -20,8 +20,8 @@ WatermarkEditor::WatermarkEditor(MtConf::ConfItem *item, QWidget *parent)
     retranslateUi();
     loadConf();
     connect(mText, &QLineEdit::textEdited, this, &WatermarkEditor::storeText);
-    connect(mOpacity, QOverload<int>::of(&QSpinBox::valueChanged),
-            this, &WatermarkEditor::storeOpacity);
+    connect(mOpacity, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &WatermarkEditor::storeOpacity);
 }
 
 MtConf::ConfigItemWidget *WatermarkEditor::create(MtConf::ConfItem *item, QWidget *parent)

@@ -5,8 +5,8 @@
 class QLineEdit;
 class QSpinBox;
 
-/// An editor of the program's own: a text, and beside it a sub-item of the same setting, the opacity
-/// in percent. Both count when the caption tells whether the setting was changed.
+/// An editor of the program's own: a text, and beside it a sub-item of the same setting, the
+/// opacity in percent. Both count when the caption tells whether the setting was changed.
 class WatermarkEditor : public MtConf::ConfigItemWidget
 {
     Q_OBJECT

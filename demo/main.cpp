@@ -54,8 +54,8 @@ int drawPictures(const DemoArguments &arguments)
     // Nothing is written beside a person's own settings, not even the geometry of the window.
     const QTemporaryDir folder;
     const QString localFile = arguments.localFile.isEmpty()
-        ? folder.filePath(QStringLiteral("settings.json"))
-        : arguments.localFile;
+                                  ? folder.filePath(QStringLiteral("settings.json"))
+                                  : arguments.localFile;
     if (!folder.isValid() || !QDir::setCurrent(folder.path()))
         return fail(folder.errorString());
     QString error;

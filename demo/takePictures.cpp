@@ -41,7 +41,8 @@ void fitToPage(QWidget *window)
     const auto *area = window->findChild<QScrollArea *>(QStringLiteral("scrollArea"));
     if (!area || !area->widget())
         return;
-    const QSize missing = (area->widget()->size() - area->viewport()->size()).expandedTo(QSize(0, 0));
+    const QSize missing = (area->widget()->size() - area->viewport()->size())
+                              .expandedTo(QSize(0, 0));
     if (!missing.isNull())
         window->resize(window->size() + missing);
 }
@@ -64,8 +65,8 @@ QString takePictures(DemoSession &session, QWidget &mainWindow, const QString &f
     for (const QThemeCtrl::Theme theme : {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark}) {
         DemoSession::showTheme(static_cast<int>(theme));
         const QString path = folder + QStringLiteral("/%1-")
-            + (theme == QThemeCtrl::Theme::Dark ? QStringLiteral("dark.png")
-                                                : QStringLiteral("light.png"));
+                             + (theme == QThemeCtrl::Theme::Dark ? QStringLiteral("dark.png")
+                                                                 : QStringLiteral("light.png"));
         QString error = save(settledPicture(&mainWindow), path.arg(QStringLiteral("main")));
         const QStringList pages = pageNames();
         for (const QString &page : pages) {

@@ -22,7 +22,7 @@ class ConfigItemWidget;
 
 /// Bits of `ConfItem::flags` that the library reads; other bits are the host's.
 enum ConfItemFlag : quint32 {
-    ItemIsFiltered = 0x1  ///< shown only when the manager's `itemFilter` accepts the item
+    ItemIsFiltered = 0x1 ///< shown only when the manager's `itemFilter` accepts the item
 };
 
 /// Makes the editor of an item, given the item and the editor's parent.
@@ -62,9 +62,8 @@ public:
     /// Reserves `getFullName()` in the store for `*value`, whose content becomes the default. For
     /// `int`, `bool`, `QString`, `QColor`, `QFont` and `QKeySequence`. A null pointer is reported
     /// by the store, and the key stays unknown.
-    template<class T>
-    ConfItem(T *value, const QString &majorItemName, const QString &itemName,
-             const QString &itemSubName);
+    template<class T> ConfItem(T *value, const QString &majorItemName, const QString &itemName,
+                               const QString &itemSubName);
 
     /// The key of the item in the store and in files: the names joined by ".", the sub-name only
     /// when there is one. A "." inside a name is kept as it stands, and then no key of a
@@ -92,16 +91,16 @@ public:
     /// value. The store converts it and calls the callbacks. Always true.
     bool loadFromJsonValue(QJsonValue value) const;
 
-    QMap<QString, ConfItem> subConfs;     ///< sub-items by name; filled by the host
-    int valueType = ConfValue::TyNone;    ///< the type of the value, a `ConfValue::ConfType`
-    QString majorName;                    ///< name of the class, the first part of the key
-    QString name;                         ///< second part of the key
-    QString subName;                      ///< third part of the key, mostly empty
-    quint32 flags = 0;                    ///< `ConfItemFlag` bits and the host's
-    const char *displayText = nullptr;    ///< untranslated label; a literal of the host
-    WidgetCreator widgetCreator;          ///< makes the editor; empty: the item has none
-    QMap<QString, QVariant> properties;   ///< options of the editor, such as "MinValue"
-    ConfigItemWidget *editor = nullptr;   ///< the live editor, null while none is shown
+    QMap<QString, ConfItem> subConfs;   ///< sub-items by name; filled by the host
+    int valueType = ConfValue::TyNone;  ///< the type of the value, a `ConfValue::ConfType`
+    QString majorName;                  ///< name of the class, the first part of the key
+    QString name;                       ///< second part of the key
+    QString subName;                    ///< third part of the key, mostly empty
+    quint32 flags = 0;                  ///< `ConfItemFlag` bits and the host's
+    const char *displayText = nullptr;  ///< untranslated label; a literal of the host
+    WidgetCreator widgetCreator;        ///< makes the editor; empty: the item has none
+    QMap<QString, QVariant> properties; ///< options of the editor, such as "MinValue"
+    ConfigItemWidget *editor = nullptr; ///< the live editor, null while none is shown
     /// Told the value from before the editor was made when the editor goes and the value has
     /// changed meanwhile. It compares `toJsonValue()`, and so stays silent while that is null.
     std::function<void(QJsonValue oldValue, ConfItem *item)> auxCallback;
@@ -110,9 +109,8 @@ private:
     ConfItemRevision mRevision;
 };
 
-template<class T>
-ConfItem::ConfItem(T *value, const QString &majorItemName, const QString &itemName,
-                   const QString &itemSubName)
+template<class T> ConfItem::ConfItem(T *value, const QString &majorItemName,
+                                     const QString &itemName, const QString &itemSubName)
     : valueType(ConfValue::typeOf<T>()), majorName(majorItemName), name(itemName),
       subName(itemSubName)
 {

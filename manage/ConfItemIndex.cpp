@@ -36,7 +36,8 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
         rebuild();
     int index = mFirst.value(fullName, -1);
     // A swap inside the list makes and destroys no item; it shows only here.
-    if (index >= 0 && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
+    if (index >= 0
+        && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
         rebuild();
         index = mFirst.value(fullName, -1);
     }
@@ -46,7 +47,7 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
 bool ConfItemIndex::isStale() const
 {
     return mSize != mItems.size() || mRevision != ConfItemRevision::current()
-        || (mSize > 0 && mData != &mItems.first());
+           || (mSize > 0 && mData != &mItems.first());
 }
 
 void ConfItemIndex::rebuild()

@@ -22,8 +22,8 @@ template<class T, class Predicate> T *findFirst(const QList<T> &list, Predicate 
 }
 
 /// Appends without letting the addresses of the elements so far dangle.
-template<class T> T *appendKeepingAddresses(QList<T> &list, const T &element,
-                                            QList<QList<T>> &shared)
+template<class T>
+T *appendKeepingAddresses(QList<T> &list, const T &element, QList<QList<T>> &shared)
 {
     if (!list.isDetached())
         shared.append(list);

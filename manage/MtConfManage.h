@@ -15,13 +15,13 @@ class ConfigurationWindow;
 /// window.
 ///
 /// The host makes one manager, calls one `addConf` operation for each setting, then loads its files
-/// and shows the window. The manager must not outlive the `QApplication` with the window still open;
-/// destroying it closes the window, and must therefore not happen in a callback that an editor of the
-/// window sets off: use `deleteLater` there. Everything runs on the GUI thread.
+/// and shows the window. The manager must not outlive the `QApplication` with the window still
+/// open; destroying it closes the window, and must therefore not happen in a callback that an
+/// editor of the window sets off: use `deleteLater` there. Everything runs on the GUI thread.
 ///
-/// Items and classes are only ever added by the manager, and their addresses stay valid as the lists
-/// grow. A host may edit the lists itself, but must not do so while a copy of them is alive, nor
-/// remove an item whose editor is shown.
+/// Items and classes are only ever added by the manager, and their addresses stay valid as the
+/// lists grow. A host may edit the lists itself, but must not do so while a copy of them is alive,
+/// nor remove an item whose editor is shown.
 ///
 /// A whole host:
 /// @include minimal/main.cpp
@@ -36,8 +36,9 @@ public:
 
     // Declaration. `text` is the untranslated label and must outlive the manager, as a literal
     // does; it is translated in the context "QObject". The three names make the key of the setting.
-    // An empty `creator` stands for the type's own editor. The pointers that are returned stay valid
-    // for the manager's life. A null `value` is reported by the store, and the setting has no key.
+    // An empty `creator` stands for the type's own editor. The pointers that are returned stay
+    // valid for the manager's life. A null `value` is reported by the store, and the setting has no
+    // key.
 
     /// Declares an integer, edited in a spin box. Its properties "MinValue" and "MaxValue" set the
     /// range, 0 to 99 without them.
@@ -61,13 +62,14 @@ public:
                            const QString &name, const QString &subName = QString(),
                            WidgetCreator creator = WidgetCreator());
     /// Declares a hotkey, recorded from the keyboard. The item's property "Shortcut" holds the
-    /// `QxtGlobalShortcut *` that registers it with the system; without one the editor stores nothing.
+    /// `QxtGlobalShortcut *` that registers it with the system; without one the editor stores
+    /// nothing.
     ConfItem *addConfQKeySequence(const char *text, QKeySequence *value, const QString &majorName,
                                   const QString &name, const QString &subName = QString(),
                                   WidgetCreator creator = WidgetCreator());
-    /// Declares a mouse gesture: an action in the low 16 bits and `Qt::KeyboardModifier` bits above.
-    /// `mode` chooses the actions to offer: 0 the wheel, 1 clicks, 2 drags. Each operating system
-    /// keeps a gesture of its own.
+    /// Declares a mouse gesture: an action in the low 16 bits and `Qt::KeyboardModifier` bits
+    /// above. `mode` chooses the actions to offer: 0 the wheel, 1 clicks, 2 drags. Each operating
+    /// system keeps a gesture of its own.
     void addConfMouseAction(const char *text, int *value, int mode, const QString &majorName,
                             const QString &name, const QString &subName = QString());
     /// Declares the language of the interface, kept as its code, and remembers it as
@@ -139,21 +141,21 @@ public:
     /// open window shows them from its next change of theme on.
     void setIconMap(QMap<QString, QChar> &map);
 
-    QList<ConfItem> items;             ///< every item, in declaration order
-    QList<MajorConfItem> majorItems;   ///< the classes, in order of first mention
-    QString confFilePath;              ///< the file last given to `_loadFromFile`
-    ConfItem *languageItem = nullptr;  ///< the language setting, if one was declared
-    std::function<void()> restoreAllHook;          ///< called first by `restoreAllDefault`
-    std::function<bool(ConfItem &)> itemFilter;    ///< accepts items flagged `ItemIsFiltered`
+    QList<ConfItem> items;                      ///< every item, in declaration order
+    QList<MajorConfItem> majorItems;            ///< the classes, in order of first mention
+    QString confFilePath;                       ///< the file last given to `_loadFromFile`
+    ConfItem *languageItem = nullptr;           ///< the language setting, if one was declared
+    std::function<void()> restoreAllHook;       ///< called first by `restoreAllDefault`
+    std::function<bool(ConfItem &)> itemFilter; ///< accepts items flagged `ItemIsFiltered`
 
 Q_SIGNALS:
     /// The language setting has changed and its translators are installed.
     void sigLanguageChange();
 
 private:
-    template<class T>
-    ConfItem *addConf(const char *text, T *value, const QString &majorName, const QString &name,
-                      const QString &subName, WidgetCreator creator, WidgetCreator defaultCreator);
+    template<class T> ConfItem *addConf(const char *text, T *value, const QString &majorName,
+                                        const QString &name, const QString &subName,
+                                        WidgetCreator creator, WidgetCreator defaultCreator);
 
     // Lists that somebody held a copy of when the next element came, kept so that pointers to their
     // elements do not dangle.

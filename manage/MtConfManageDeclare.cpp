@@ -14,10 +14,10 @@
 
 namespace MtConf {
 
-template<class T>
-ConfItem *MtConfManage::addConf(const char *text, T *value, const QString &majorName,
-                                const QString &name, const QString &subName,
-                                WidgetCreator creator, WidgetCreator defaultCreator)
+template<class T> ConfItem *MtConfManage::addConf(const char *text, T *value,
+                                                  const QString &majorName, const QString &name,
+                                                  const QString &subName, WidgetCreator creator,
+                                                  WidgetCreator defaultCreator)
 {
     ConfItem item(value, majorName, name, subName);
     item.displayText = text;
@@ -133,9 +133,8 @@ void MtConfManage::addConfAutoRun(const char *text, bool *value, const QString &
                                   const QString &name, const QString &subName)
 {
     const ConfItem *item = addConfBool(text, value, majorName, name, subName);
-    item->setConfChangedCallback([](const QString &, const ConfValue *changed) {
-        setAppAutoRun(changed->get<bool>());
-    });
+    item->setConfChangedCallback(
+        [](const QString &, const ConfValue *changed) { setAppAutoRun(changed->get<bool>()); });
 }
 
 void MtConfManage::runAfterLoadFromFile()

@@ -49,7 +49,8 @@ void ConfDump::collectValues()
                 continue;
         }
         const bool marked = flags & ConfStorage::FlagSystemIndependent;
-        mMembers.push_back({marked ? addSysMark(value.key()) : value.key(), time, &*value, isDefault});
+        mMembers.push_back(
+            {marked ? addSysMark(value.key()) : value.key(), time, &*value, isDefault});
     }
 }
 
@@ -61,8 +62,8 @@ void ConfDump::collectRemoved(const ConfStorage &store)
         const bool marked = cls && (cls->flags & ConfStorage::FlagSystemIndependent);
         if (!cls)
             qCritical() << "dumpConf findDynamicConfClass error : " << it.key();
-        mMembers.push_back({marked ? addSysMark(it.key()) : it.key(), it->toSecsSinceEpoch(),
-                            nullptr, false});
+        mMembers.push_back(
+            {marked ? addSysMark(it.key()) : it.key(), it->toSecsSinceEpoch(), nullptr, false});
     }
 }
 
@@ -74,10 +75,9 @@ void ConfDump::sortMembers()
     if (std::adjacent_find(mMembers.cbegin(), mMembers.cend(), isUnordered) == mMembers.cend())
         return;
     std::stable_sort(mMembers.begin(), mMembers.end(), precedes);
-    const auto lastOfEach = std::unique(mMembers.rbegin(), mMembers.rend(),
-                                        [](const Member &a, const Member &b) {
-                                            return a.name == b.name;
-                                        });
+    const auto lastOfEach = std::unique(
+        mMembers.rbegin(), mMembers.rend(),
+        [](const Member &a, const Member &b) { return a.name == b.name; });
     mMembers.erase(mMembers.begin(), lastOfEach.base());
 }
 

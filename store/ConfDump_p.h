@@ -7,8 +7,8 @@
 
 #include <vector>
 
-/// What a store dumps, as it was when this was made: one walk through both maps of the store side by
-/// side, and then either the object or the text.
+/// What a store dumps, as it was when this was made: one walk through both maps of the store side
+/// by side, and then either the object or the text.
 ///
 /// It shares the maps with the store, so that a log handler that changes the store while a message
 /// of the dump is on its way takes nothing away from under it.

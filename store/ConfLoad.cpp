@@ -44,8 +44,9 @@ bool isSilent(const ConfValue &value)
 }
 
 /// The entry of `key`, which mostly is the one at `next`; `next` goes on behind it.
-template<class Map> typename Map::iterator
-findFrom(Map &map, std::optional<typename Map::iterator> &next, const QString &key)
+template<class Map> typename Map::iterator findFrom(Map &map,
+                                                    std::optional<typename Map::iterator> &next,
+                                                    const QString &key)
 {
     const bool isNext = next && *next != map.end() && next->key() == key;
     const auto found = isNext ? *next : map.find(key);
@@ -139,12 +140,12 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (stored == mStore.mConfValues.end())
         return;
     const auto meta = known != mStore.mConfMetas.end()
-        ? known
-        : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
+                          ? known
+                          : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
-    meta->lastChangeTime =
-        time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC) : QDateTime::currentDateTimeUtc();
+    meta->lastChangeTime = time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC)
+                                : QDateTime::currentDateTimeUtc();
 
     const QJsonValue value = member.value();
     if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {

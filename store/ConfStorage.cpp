@@ -18,10 +18,11 @@ ConfStorage *ConfStorage::instance()
     return sInstance;
 }
 
-void ConfStorage::reserveValue(QString const &key, ConfValue const &bound, ConfValue const &current)
+void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current)
 {
     // A text that was put together has room to grow, which the store would keep for good.
-    const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size()) : key;
+    const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size())
+                                                         : key;
     mConfValues[exactKey] = bound;
 
     ConfMeta meta;
@@ -38,7 +39,7 @@ void ConfStorage::reserveValue(QString const &key, ConfValue const &bound, ConfV
     mConfMetas[exactKey] = meta;
 }
 
-void ConfStorage::setToDefault(QString const &key, bool updateTime)
+void ConfStorage::setToDefault(const QString &key, bool updateTime)
 {
     const auto value = mConfValues.find(key);
     if (value != mConfValues.end()) {
@@ -70,7 +71,7 @@ void ConfStorage::setToDefault(QString const &key, bool updateTime)
     mChanged = true;
 }
 
-bool ConfStorage::isEqualToDefault(QString const &key) const
+bool ConfStorage::isEqualToDefault(const QString &key) const
 {
     const auto meta = mConfMetas.constFind(key);
     if (meta == mConfMetas.constEnd() || (meta->flags & FlagIsDefault))
@@ -81,7 +82,7 @@ bool ConfStorage::isEqualToDefault(QString const &key) const
     return meta->defaultValue == mConfValues.value(key);
 }
 
-void ConfStorage::setConfChangedCallback(QString const &key, ConfChangedCallback cb)
+void ConfStorage::setConfChangedCallback(const QString &key, ConfChangedCallback cb)
 {
     if (mConfValues.contains(key))
         mConfMetas[key].changedCallback = std::move(cb);
@@ -96,7 +97,7 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 }
 
 /// Whether the key is there, and still is when its value has been loaded.
-bool ConfStorage::loadValue(QString const &key, QJsonValue const &json)
+bool ConfStorage::loadValue(const QString &key, const QJsonValue &json)
 {
     auto stored = mConfValues.find(key);
     if (stored == mConfValues.end())
@@ -116,7 +117,7 @@ bool ConfStorage::loadValue(QString const &key, QJsonValue const &json)
 }
 
 /// `value` is the key's entry where it is known that nothing has moved it, or else null.
-void ConfStorage::markUserChange(QString const &key, ConfValue *value)
+void ConfStorage::markUserChange(const QString &key, ConfValue *value)
 {
     ConfMeta &meta = mConfMetas[key];
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
@@ -125,7 +126,7 @@ void ConfStorage::markUserChange(QString const &key, ConfValue *value)
     mChanged = true;
 }
 
-void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta, ConfValue *value)
+void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value)
 {
     if (!meta.changedCallback)
         return;
@@ -147,22 +148,22 @@ void ConfStorage::callChangedCallback(QString const &key, ConfMeta const &meta, 
     callback(name, value ? value : &mConfValues[name]);
 }
 
-bool ConfStorage::isDynamicWithoutPreset(QString const &key) const
+bool ConfStorage::isDynamicWithoutPreset(const QString &key) const
 {
     return !mPresetDynamicConfs.contains(key) && findDynamicConfClass(key);
 }
 
-void ConfStorage::logNullPointer(QString const &key)
+void ConfStorage::logNullPointer(const QString &key)
 {
     qCritical() << "ConfStorage::reserveConf null pointer: " << key;
 }
 
-void ConfStorage::logGetNotFound(QString const &key)
+void ConfStorage::logGetNotFound(const QString &key)
 {
     qCritical() << "ConfStorage::get key not found: " << key;
 }
 
-void ConfStorage::logSetNotFound(QString const &key)
+void ConfStorage::logSetNotFound(const QString &key)
 {
     qWarning() << "ConfStorage::set key not found: " << key;
 }

@@ -25,7 +25,8 @@ QString valueText(const ConfValue &value)
 {
     if (value.mType == ConfValue::TyNone)
         return nothing();
-    const QByteArray json = QJsonDocument(QJsonArray{value.toJsonValue()}).toJson(QJsonDocument::Compact);
+    const QByteArray json = QJsonDocument(QJsonArray{value.toJsonValue()})
+                                .toJson(QJsonDocument::Compact);
     const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
     return text.size() > sMostCharacters ? text.left(sMostCharacters - 1) + QChar(0x2026) : text;
 }
@@ -83,7 +84,8 @@ QString ConfStorage::debugTable() const
                      isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),
                      timeText(meta.lastChangeTime), flagsText(meta.flags)});
     }
-    for (auto removed = mRemovedDynamicConfs.cbegin(); removed != mRemovedDynamicConfs.cend(); ++removed)
+    for (auto removed = mRemovedDynamicConfs.cbegin(); removed != mRemovedDynamicConfs.cend();
+         ++removed)
         rows.append({keyText(removed.key()), nothing(), nothing(), QStringLiteral("removed"),
                      timeText(removed.value()), nothing()});
     return aligned(rows);

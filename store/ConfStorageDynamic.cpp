@@ -7,7 +7,7 @@
 
 namespace {
 
-void logClassNotFound(QString const &key)
+void logClassNotFound(const QString &key)
 {
     // Removal logs the text of creation on purpose: both mean that no class declares the key.
     qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: " << key;
@@ -15,7 +15,7 @@ void logClassNotFound(QString const &key)
 
 /// The time that an entry of a dumped configuration bears: of its removal, else of its change, else
 /// the current time.
-QDateTime incomingTime(QJsonObject const &entry)
+QDateTime incomingTime(const QJsonObject &entry)
 {
     for (const QLatin1String member : {QLatin1String("d"), QLatin1String("t")}) {
         const auto time = entry.constFind(member);
@@ -27,17 +27,16 @@ QDateTime incomingTime(QJsonObject const &entry)
 
 } // namespace
 
-ConfStorage::DynamicConfClass const *ConfStorage::findDynamicConfClass(QString const &key) const
+const ConfStorage::DynamicConfClass *ConfStorage::findDynamicConfClass(const QString &key) const
 {
-    const auto found = std::find_if(mDynamicConfClasses.cbegin(), mDynamicConfClasses.cend(),
-                                    [&](const DynamicConfClass *cls) {
-                                        return cls && key.startsWith(cls->prefix);
-                                    });
+    const auto found = std::find_if(
+        mDynamicConfClasses.cbegin(), mDynamicConfClasses.cend(),
+        [&](const DynamicConfClass *cls) { return cls && key.startsWith(cls->prefix); });
     return found != mDynamicConfClasses.cend() ? *found : nullptr;
 }
 
-void ConfStorage::createDynamicConf(QString const &key, QJsonValue const &value,
-                                    DynamicConfClass const *cls)
+void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
+                                    const DynamicConfClass *cls)
 {
     if (!cls)
         cls = findDynamicConfClass(key);
@@ -67,7 +66,7 @@ void ConfStorage::createDynamicConf(QString const &key, QJsonValue const &value,
     mChanged = true;
 }
 
-void ConfStorage::removeDynamicConf(QString const &key)
+void ConfStorage::removeDynamicConf(const QString &key)
 {
     const DynamicConfClass *cls = findDynamicConfClass(key);
     if (!cls) {
@@ -91,7 +90,7 @@ void ConfStorage::removeDynamicConf(QString const &key)
     mChanged = true;
 }
 
-void ConfStorage::restoreDynamicConf(QString const &prefix)
+void ConfStorage::restoreDynamicConf(const QString &prefix)
 {
     const QString start = prefix; // may stand in a class that goes meanwhile
     const QList<QString> keys = mConfValues.keys();
@@ -127,7 +126,7 @@ void ConfStorage::loadPresetDynamicConf()
     }
 }
 
-bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, DynamicConfClass const *cls)
+bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls)
 {
     const QJsonObject entry = value.toObject();
     const QDateTime incoming = incomingTime(entry);
@@ -142,8 +141,8 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, DynamicConf
         const bool present = mConfValues.contains(key);
         if (present)
             removeDynamicConf(key);
-        // Not by comparing with the null time of an absent entry, which counts as 1970: a removal of
-        // that time, as a number out of range is read, would leave no trace.
+        // Not by comparing with the null time of an absent entry, which counts as 1970: a removal
+        // of that time, as a number out of range is read, would leave no trace.
         const auto removed = mRemovedDynamicConfs.constFind(key);
         if (present || removed == mRemovedDynamicConfs.constEnd() || *removed < incoming)
             mRemovedDynamicConfs[key] = incoming;

@@ -19,8 +19,7 @@ void logOpenFailed(const QString &path)
 void logRecovery(SafeFile::Recovery recovery, const SafeFile &file)
 {
     switch (recovery) {
-    case SafeFile::Recovery::None:
-        break;
+    case SafeFile::Recovery::None: break;
     case SafeFile::Recovery::Replayed:
         qWarning() << "ConfStorage::loadLocalConfFile() recovered from journal: " << file.path();
         break;
@@ -84,8 +83,7 @@ bool ConfStorage::saveSafely() const
         return false;
     }
     switch (file.save(text)) {
-    case SafeFile::Saved::Whole:
-        return true;
+    case SafeFile::Saved::Whole: return true;
     case SafeFile::Saved::JournalFailed:
         qCritical() << "ConfStorage::saveToLocalConfFile() write journal failed: "
                     << file.journal().path();

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-QString addSysMark(QString const &key)
+QString addSysMark(const QString &key)
 {
     return key + QLatin1String("#s.mac");
 }
@@ -18,14 +18,14 @@ QJsonObject ConfStorage::dumpConf(DumpConfType type) const
     return ConfDump(*this, type).toObject();
 }
 
-int ConfStorage::loadConf(QJsonObject const &conf, LoadConfType type)
+int ConfStorage::loadConf(const QJsonObject &conf, LoadConfType type)
 {
     const int count = conf.size(); // a callback may change it
     ConfLoad(*this, type).loadObject(conf);
     return count;
 }
 
-bool ConfStorage::loadConf(QString const &json, LoadConfType type)
+bool ConfStorage::loadConf(const QString &json, LoadConfType type)
 {
     const bool isObject = ConfLoad(*this, type).loadText(json.toUtf8());
     if (!isObject)
@@ -33,7 +33,7 @@ bool ConfStorage::loadConf(QString const &json, LoadConfType type)
     return isObject;
 }
 
-void ConfStorage::loadSingleConf(QString key, QJsonValue const &value, LoadConfType type)
+void ConfStorage::loadSingleConf(QString key, const QJsonValue &value, LoadConfType type)
 {
     ConfLoad(*this, type).loadMember(key, value);
 }

@@ -31,23 +31,44 @@ QJsonValue toJson(const QColor &color)
 {
     return color.isValid() ? QString::number(color.rgba(), 16) : QStringLiteral("None");
 }
-QJsonValue toJson(const QFont &font) { return font.toString(); }
-QJsonValue toJson(const QKeySequence &keys) { return keys.toString(QKeySequence::PortableText); }
-template<class T> QJsonValue toJson(const T &value) { return value; }
+QJsonValue toJson(const QFont &font)
+{
+    return font.toString();
+}
+QJsonValue toJson(const QKeySequence &keys)
+{
+    return keys.toString(QKeySequence::PortableText);
+}
+template<class T> QJsonValue toJson(const T &value)
+{
+    return value;
+}
 
 void fromJson(const QJsonValue &json, QColor &color)
 {
     const QString text = json.toString();
     color = text == QLatin1String("None") ? QColor() : QColor::fromRgba(text.toUInt(nullptr, 16));
 }
-void fromJson(const QJsonValue &json, int &number) { number = json.toInt(0); }
-void fromJson(const QJsonValue &json, qreal &number) { number = json.toDouble(0.0); }
-void fromJson(const QJsonValue &json, bool &flag) { flag = json.toBool(false); }
-void fromJson(const QJsonValue &json, QString &text) { text = json.toString(); }
+void fromJson(const QJsonValue &json, int &number)
+{
+    number = json.toInt(0);
+}
+void fromJson(const QJsonValue &json, qreal &number)
+{
+    number = json.toDouble(0.0);
+}
+void fromJson(const QJsonValue &json, bool &flag)
+{
+    flag = json.toBool(false);
+}
+void fromJson(const QJsonValue &json, QString &text)
+{
+    text = json.toString();
+}
 void fromJson(const QJsonValue &json, QFont &font)
 {
-    // Qt takes "inf" and a thousand million points for sizes, and any program that then shows a text
-    // in that font stalls or draws nothing. Such a text counts as one that is no font.
+    // Qt takes "inf" and a thousand million points for sizes, and any program that then shows a
+    // text in that font stalls or draws nothing. Such a text counts as one that is no font.
     QFont read;
     if (!read.fromString(json.toString()))
         return;
@@ -61,8 +82,14 @@ void fromJson(const QJsonValue &json, QKeySequence &keys)
 {
     keys = QKeySequence::fromString(json.toString(), QKeySequence::PortableText);
 }
-void fromJson(const QJsonValue &json, QJsonObject &object) { object = json.toObject(); }
-void fromJson(const QJsonValue &json, QJsonArray &array) { array = json.toArray(); }
+void fromJson(const QJsonValue &json, QJsonObject &object)
+{
+    object = json.toObject();
+}
+void fromJson(const QJsonValue &json, QJsonArray &array)
+{
+    array = json.toArray();
+}
 
 } // namespace
 

@@ -18,15 +18,15 @@
 class QJsonValue;
 
 // The names under which Qt's meta-type system knows a pointer to a variable of the host.
-using TyQColorPtr = QColor *;  ///< to a colour
-using TyInt32Ptr = int *;  ///< to an integer
-using TyQrealPtr = qreal *;  ///< to a number
-using TyBoolPtr = bool *;  ///< to a switch
-using TyQStringPtr = QString *;  ///< to a text
-using TyQFontPtr = QFont *;  ///< to a font
-using TyQKeySequencePtr = QKeySequence *;  ///< to a hotkey
-using TyQJsonObjectPtr = QJsonObject *;  ///< to an object
-using TyQJsonArrayPtr = QJsonArray *;  ///< to an array
+using TyQColorPtr = QColor *;             ///< to a colour
+using TyInt32Ptr = int *;                 ///< to an integer
+using TyQrealPtr = qreal *;               ///< to a number
+using TyBoolPtr = bool *;                 ///< to a switch
+using TyQStringPtr = QString *;           ///< to a text
+using TyQFontPtr = QFont *;               ///< to a font
+using TyQKeySequencePtr = QKeySequence *; ///< to a hotkey
+using TyQJsonObjectPtr = QJsonObject *;   ///< to an object
+using TyQJsonArrayPtr = QJsonArray *;     ///< to an array
 
 Q_DECLARE_METATYPE(TyQColorPtr)
 Q_DECLARE_METATYPE(TyInt32Ptr)
@@ -104,21 +104,22 @@ public:
     QJsonValue toJsonValue() const;
 
     /// Sets the value from JSON written by `toJsonValue`, with Qt's lenient conversions when the
-    /// JSON is of another type. A font of less than 0.1 or more than 4096 points or pixels counts as
-    /// a text that is no font, which gives the default font; it logs the warning
-    /// "ConfValue::loadFromJsonValue() font size out of range: " and the text. JSON null or undefined
-    /// empties the value and unbinds it from its variable, which keeps its content. Logs the critical
-    /// message "restoreDefault: unknow type: " and the type for an unknown one.
+    /// JSON is of another type. A font of less than 0.1 or more than 4096 points or pixels counts
+    /// as a text that is no font, which gives the default font; it logs the warning
+    /// "ConfValue::loadFromJsonValue() font size out of range: " and the text. JSON null or
+    /// undefined empties the value and unbinds it from its variable, which keeps its content. Logs
+    /// the critical message "restoreDefault: unknow type: " and the type for an unknown one.
     void loadFromJsonValue(const QJsonValue &value);
 
-    QVariant mValue;          ///< the value itself, or a pointer `T *` to the host's variable
-    bool mIsPtr = false;      ///< whether `mValue` holds a pointer
-    ConfType mType = TyNone;  ///< which type the value is
+    QVariant mValue;         ///< the value itself, or a pointer `T *` to the host's variable
+    bool mIsPtr = false;     ///< whether `mValue` holds a pointer
+    ConfType mType = TyNone; ///< which type the value is
 
 private:
     ConfValue(const QVariant &value, bool isPtr, ConfType type)
         : mValue(value), mIsPtr(isPtr), mType(type)
-    {}
+    {
+    }
 
     static void logGetMismatch();
 };

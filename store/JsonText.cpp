@@ -47,23 +47,19 @@ void appendJsonString(QByteArray &text, const QString &string)
 void appendJsonValue(QByteArray &text, const QJsonValue &value)
 {
     switch (value.type()) {
-    case QJsonValue::Bool:
-        text += value.toBool() ? "true" : "false";
-        return;
-    case QJsonValue::String:
-        appendJsonString(text, value.toString());
-        return;
+    case QJsonValue::Bool: text += value.toBool() ? "true" : "false"; return;
+    case QJsonValue::String: appendJsonString(text, value.toString()); return;
     case QJsonValue::Double: {
         const double number = value.toDouble();
         // Zero may be negative, and is written with its sign then.
-        if (number != 0 && std::abs(number) < sLargestExactInteger && std::trunc(number) == number) {
+        if (number != 0 && std::abs(number) < sLargestExactInteger
+            && std::trunc(number) == number) {
             text += QByteArray::number(static_cast<qint64>(number));
             return;
         }
         break;
     }
-    default:
-        break;
+    default: break;
     }
     appendByDocument(text, value);
 }

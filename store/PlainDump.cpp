@@ -34,8 +34,8 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-/// False also for a text with the character that stands for broken sequences: Qt's parser tells them
-/// apart.
+/// False also for a text with the character that stands for broken sequences: Qt's parser tells
+/// them apart.
 bool isUnbroken(std::string_view utf8)
 {
     return std::none_of(utf8.begin(), utf8.end(), isBeyondAscii)
@@ -46,10 +46,7 @@ bool isUnbroken(std::string_view utf8)
 class Scanner
 {
 public:
-    explicit Scanner(const QByteArray &text)
-        : mNext(text.constData()), mEnd(mNext + text.size())
-    {
-    }
+    explicit Scanner(const QByteArray &text) : mNext(text.constData()), mEnd(mNext + text.size()) {}
 
     bool isAtEnd() const { return mNext == mEnd; }
     bool take(QLatin1String literal);

@@ -26,7 +26,7 @@ struct PlainMember
     std::string_view name; ///< in ASCII
     std::string_view text; ///< of the whole after the name
     int seconds = 0;
-    bool isRemoval = false; ///< the seconds are those of the member "d", and there is no other
+    bool isRemoval = false;  ///< the seconds are those of the member "d", and there is no other
     std::string_view string; ///< the value in UTF-8; null when it is no string, or has escapes
     QJsonValue otherValue{QJsonValue::Undefined};
 };
@@ -35,7 +35,7 @@ struct PlainMember
 /// load.
 ///
 /// The text is read only as the library writes it: compact, members in the order of their names,
-/// names of printable ASCII, times first. A value that is neither a whole number, a flag nor a string
-/// without escapes is parsed by QJsonDocument. So is every other text as a whole, by the caller:
-/// nothing is returned then. No text means anything else here than there.
+/// names of printable ASCII, times first. A value that is neither a whole number, a flag nor a
+/// string without escapes is parsed by QJsonDocument. So is every other text as a whole, by the
+/// caller: nothing is returned then. No text means anything else here than there.
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text);

@@ -23,10 +23,7 @@ QString followLinks(QString path)
 
 } // namespace
 
-SafeFile::SafeFile(const QString &path)
-    : mFile(followLinks(path))
-    , mJournal(mFile.fileName())
-{}
+SafeFile::SafeFile(const QString &path) : mFile(followLinks(path)), mJournal(mFile.fileName()) {}
 
 bool SafeFile::open()
 {

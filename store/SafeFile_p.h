@@ -14,16 +14,16 @@ class SafeFile
 public:
     enum class Saved {
         Whole,
-        JournalFailed,  ///< the file is untouched
-        FileFailed      ///< the file is damaged, and the journal holds the new text
+        JournalFailed, ///< the file is untouched
+        FileFailed     ///< the file is damaged, and the journal holds the new text
     };
 
     enum class Recovery {
-        None,           ///< the file's own text was loaded, and no journal stood beside it
-        Replayed,       ///< the journal's text was loaded, and written into the file
-        ReplayedInMemory,  ///< the journal's text was loaded; the file could not be written
-        Dropped,        ///< the file's own text was loaded, and a damaged journal removed
-        KeptAside       ///< the same; the journal was of another text, and was renamed
+        None,             ///< the file's own text was loaded, and no journal stood beside it
+        Replayed,         ///< the journal's text was loaded, and written into the file
+        ReplayedInMemory, ///< the journal's text was loaded; the file could not be written
+        Dropped,          ///< the file's own text was loaded, and a damaged journal removed
+        KeptAside         ///< the same; the journal was of another text, and was renamed
     };
 
     /// The file that `path` leads to through any links; the journal lies beside that file.

@@ -42,9 +42,9 @@ bool fromBody(const QByteArray &body, SaveJournal::Entry *entry)
 } // namespace
 
 SaveJournal::SaveJournal(const QString &filePath)
-    : mFilePath(filePath)
-    , mPath(filePath + QLatin1String(".save-journal"))
-{}
+    : mFilePath(filePath), mPath(filePath + QLatin1String(".save-journal"))
+{
+}
 
 bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText,
                         QFile::Permissions permissions) const

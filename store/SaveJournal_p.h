@@ -10,14 +10,14 @@ class SaveJournal
 public:
     struct Entry
     {
-        QByteArray oldHash;  ///< of what the file held
-        QByteArray newHash;  ///< of `newText`
-        QByteArray newText;  ///< what the file is to hold
+        QByteArray oldHash; ///< of what the file held
+        QByteArray newHash; ///< of `newText`
+        QByteArray newText; ///< what the file is to hold
     };
 
     enum class State {
-        None,     ///< no journal, or a file of that name that is none of ours
-        Invalid,  ///< a journal that was damaged
+        None,    ///< no journal, or a file of that name that is none of ours
+        Invalid, ///< a journal that was damaged
         Valid
     };
 

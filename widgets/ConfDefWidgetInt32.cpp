@@ -19,8 +19,8 @@ ConfDefWidgetInt32::ConfDefWidgetInt32(ConfItem *item, QWidget *parent)
     layout->addWidget(mSpinBox);
     layout->setSpacing(0);
     layout->setAlignment(Qt::AlignLeft);
-    connect(mSpinBox, QOverload<int>::of(&QSpinBox::valueChanged),
-            this, &ConfDefWidgetInt32::onValueChanged);
+    connect(mSpinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &ConfDefWidgetInt32::onValueChanged);
     loadConf();
 }
 

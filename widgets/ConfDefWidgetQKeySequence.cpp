@@ -29,10 +29,9 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    connect(mKeySequenceEdit, &KeySequenceEdit::sigKeySequenceChanged,
-            this, &ConfDefWidgetQKeySequence::onKeySequenceChanged);
-    connect(mStateButton, &QPushButton::clicked,
-            this, &ConfDefWidgetQKeySequence::setHotKeyAgain);
+    connect(mKeySequenceEdit, &KeySequenceEdit::sigKeySequenceChanged, this,
+            &ConfDefWidgetQKeySequence::onKeySequenceChanged);
+    connect(mStateButton, &QPushButton::clicked, this, &ConfDefWidgetQKeySequence::setHotKeyAgain);
     // operator[] makes the entry where there is none: with it an item without a global shortcut
     // shows on its button that no hotkey is set.
     watchShortcut(mItem->properties[shortcutKey()].value<QxtGlobalShortcut *>());
@@ -111,7 +110,8 @@ void ConfDefWidgetQKeySequence::showState(const QChar &glyph, const QString &col
     mStateButton->setText(glyph);
     mStateButton->setStyleSheet(
         QStringLiteral("QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt QuorviIconfont;\n"
-                       "color: rgb(%1);  \n}").arg(color));
+                       "color: rgb(%1);  \n}")
+            .arg(color));
     mStateButton->setToolTip(toolTip);
     // The glyph says nothing to a screen reader.
     mStateButton->setAccessibleName(toolTip);
@@ -155,8 +155,8 @@ void ConfDefWidgetQKeySequence::watchShortcut(QxtGlobalShortcut *shortcut)
     mShortcut = shortcut;
     if (!shortcut)
         return;
-    connect(shortcut, &QxtGlobalShortcut::enabledChanged,
-            this, &ConfDefWidgetQKeySequence::refreshState);
+    connect(shortcut, &QxtGlobalShortcut::enabledChanged, this,
+            &ConfDefWidgetQKeySequence::refreshState);
     connect(shortcut, &QObject::destroyed, this, &ConfDefWidgetQKeySequence::forgetShortcut);
 }
 

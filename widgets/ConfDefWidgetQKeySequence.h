@@ -10,7 +10,8 @@ class QxtGlobalShortcut;
 
 namespace MtConf {
 
-/// Edits the hotkey of an item, beside a button that shows whether it is registered with the system.
+/// Edits the hotkey of an item, beside a button that shows whether it is registered with the
+/// system.
 ///
 /// The host makes the item's `QxtGlobalShortcut` and puts it into the item's `properties` as
 /// "Shortcut" (`QVariant::fromValue(shortcut)`); the editor gives it each new hotkey and stores

@@ -18,15 +18,15 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
     if (mMultiSelect) {
         auto *box = new MultiSelectComboBox(this);
         mComboBox = box;
-        connect(box, &MultiSelectComboBox::selectionChanged,
-                this, &ConfWidgetCombobox::onMultiSelectionChanged);
+        connect(box, &MultiSelectComboBox::selectionChanged, this,
+                &ConfWidgetCombobox::onMultiSelectionChanged);
         box->opensByKeyboard = sFullKeyboardAccess;
     } else {
         mComboBox = new ComboboxDisableWheel(this);
         // Style sheets reach the rows of this view only, not those of the native one.
         mComboBox->setView(new QListView(mComboBox));
-        connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
-                this, &ConfWidgetCombobox::setValueInt32);
+        connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+                &ConfWidgetCombobox::setValueInt32);
     }
     mComboBox->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     mComboBox->setAccessibleName(translatedText());

@@ -49,7 +49,7 @@ private:
     void loadSelection();
 
     QComboBox *mComboBox = nullptr;
-    QList<const char *> mItemTexts;  // by entry; null for a plain text
+    QList<const char *> mItemTexts; // by entry; null for a plain text
     bool mMultiSelect = false;
 };
 

@@ -54,8 +54,8 @@ ConfWidgetLanguage::ConfWidgetLanguage(ConfItem *item, QWidget *parent)
     mComboBox->setView(new QListView(mComboBox));
     mComboBox->addItems(displayNames());
     layout->addWidget(mComboBox);
-    connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
-            this, &ConfWidgetLanguage::onCurrentIndexChanged);
+    connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ConfWidgetLanguage::onCurrentIndexChanged);
     loadConf();
 }
 
@@ -122,7 +122,7 @@ void ConfWidgetLanguage::installTranslator(QString code)
     if (!installFile(&translator, folder + sLanguagePath + code + QLatin1String(".qm")))
         qWarning() << "Unable to load QTranslator";
     const QString qtFile = folder + sLanguageQtPath + QLatin1String("qt_") + code
-        + QLatin1String(".qm");
+                           + QLatin1String(".qm");
     if (!installFile(&qt_translator, qtFile))
         qWarning() << "Unable to load Qt office QTranslator : " << qtFile;
 }

@@ -93,10 +93,10 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
 
     // Connected after the first load, which so writes nothing back.
     loadConf();
-    connect(mActionBox, QOverload<int>::of(&QComboBox::currentIndexChanged),
-            this, &ConfWidgetMouseAction::onCurrentIndexChanged);
-    connect(mModifierBox, &MultiSelectComboBox::selectionChanged,
-            this, &ConfWidgetMouseAction::onCurrentIndexChanged);
+    connect(mActionBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &ConfWidgetMouseAction::onCurrentIndexChanged);
+    connect(mModifierBox, &MultiSelectComboBox::selectionChanged, this,
+            &ConfWidgetMouseAction::onCurrentIndexChanged);
     sConflictList.append(this);
     refreshConflictState();
 }

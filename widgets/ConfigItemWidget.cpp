@@ -34,8 +34,8 @@ void setDescriptionUnlessOwn(QWidget *widget, const QString &description)
 QList<QWidget *> controlsIn(const QWidget *widget)
 {
     QList<QWidget *> controls;
-    const QList<QWidget *> children =
-        widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const QList<QWidget *> children = widget->findChildren<QWidget *>(QString(),
+                                                                      Qt::FindDirectChildrenOnly);
     for (QWidget *child : children) {
         if (child->isWindow())
             continue;
@@ -147,7 +147,8 @@ void ConfigItemWidget::describeControls(const QString &group)
     }
     if (auto *caption = qobject_cast<QLabel *>(mLabel)) {
         // A caption with a buddy would take an ampersand for the mark of a shortcut key.
-        const bool canHaveBuddy = !controls.isEmpty() && !caption->text().contains(QLatin1Char('&'));
+        const bool canHaveBuddy = !controls.isEmpty()
+                                  && !caption->text().contains(QLatin1Char('&'));
         caption->setBuddy(canHaveBuddy ? controls.first() : nullptr);
     }
 }
@@ -156,8 +157,8 @@ void ConfigItemWidget::refreshLabelState()
 {
     if (!mLabel)
         return;
-    mLabel->setProperty("changed", mItem->isDefaultValue() ? QStringLiteral("0")
-                                                           : QStringLiteral("1"));
+    mLabel->setProperty("changed",
+                        mItem->isDefaultValue() ? QStringLiteral("0") : QStringLiteral("1"));
     mLabel->style()->unpolish(mLabel);
     mLabel->style()->polish(mLabel);
     mLabel->update();

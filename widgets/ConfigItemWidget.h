@@ -40,9 +40,9 @@ public:
     /// Copies the stored value into the control.
     virtual void loadConf() = 0;
 
-    /// Tells screen readers what the controls are for: each is named as the caption and described by
-    /// `group`, the caption of its group, unless the editor has named or described it itself. The
-    /// caption becomes the buddy of the first control. Called when the page is built and again
+    /// Tells screen readers what the controls are for: each is named as the caption and described
+    /// by `group`, the caption of its group, unless the editor has named or described it itself.
+    /// The caption becomes the buddy of the first control. Called when the page is built and again
     /// when the language changes.
     void describeControls(const QString &group);
 
@@ -50,9 +50,9 @@ public:
     /// meanwhile; whoever wants to delete the editor then does it later.
     bool isWriting() const { return mWriting; }
 
-    /// Whether editors that are made from now on can be used by the keyboard alone: boxes of several
-    /// choices open on Alt+Down, F4 and Space, and Backspace and Delete clear a hotkey instead of
-    /// being recorded. False by default.
+    /// Whether editors that are made from now on can be used by the keyboard alone: boxes of
+    /// several choices open on Alt+Down, F4 and Space, and Backspace and Delete clear a hotkey
+    /// instead of being recorded. False by default.
     static bool sFullKeyboardAccess;
 
 protected:
@@ -91,8 +91,8 @@ protected:
     /// The item's label in the current language.
     QString translatedText() const;
 
-    ConfItem *mItem;           ///< the edited item
-    QPointer<QWidget> mLabel;  ///< the caption; null until first asked for
+    ConfItem *mItem;          ///< the edited item
+    QPointer<QWidget> mLabel; ///< the caption; null until first asked for
 
 private:
     /// One value on its way through the store. The control that it comes from still handles its

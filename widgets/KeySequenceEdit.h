@@ -33,7 +33,8 @@ public:
     bool allowSimpleHotkey = true;
     /// When true, pressing and releasing one modifier key alone records that key.
     bool allowSingleModifier = false;
-    /// When true, Backspace and Delete without a modifier clear the hotkey instead of being recorded.
+    /// When true, Backspace and Delete without a modifier clear the hotkey instead of being
+    /// recorded.
     bool clearByDeleteKeys = false;
     /// Asked before a hotkey that was pressed is taken; false drops it. It may delete the editor.
     std::function<bool(KeySequenceEdit *, QKeySequence)> keySequenceFilter;

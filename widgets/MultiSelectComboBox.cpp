@@ -119,8 +119,8 @@ MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
     setView(mListWidget);
     mListWidget->setItemDelegate(new CheckBoxRowDelegate(mListWidget));
     setLineEdit(mLineEdit);
-    connect(this, QOverload<int>::of(&QComboBox::activated),
-            this, &MultiSelectComboBox::itemClicked);
+    connect(this, QOverload<int>::of(&QComboBox::activated), this,
+            &MultiSelectComboBox::itemClicked);
     // The combo box writes the text of its current row, which says nothing here.
     connect(mLineEdit, &QLineEdit::textChanged, this, &MultiSelectComboBox::showText);
     alignText();

@@ -43,8 +43,8 @@ public:
     /// Checks or unchecks entry `index`.
     void setItemChecked(int index, bool checked);
     /// Checks or unchecks each entry as `checked` says for its index; entries beyond it stay as
-    /// they are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if anything has
-    /// changed.
+    /// they are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if
+    /// anything has changed.
     void setItemsChecked(const QVector<bool> &checked);
     /// Gives entry `index` another text, also in the closed box. The selection is the same after
     /// it: `selectionChanged` is not emitted.
@@ -100,8 +100,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
     /// Does nothing with the wheel, and keeps it from the page.
     void wheelEvent(QWheelEvent *event) override;
-    /// Opens the list, where that is wanted. Does nothing else with keys: they would step through the
-    /// rows of the closed box.
+    /// Opens the list, where that is wanted. Does nothing else with keys: they would step through
+    /// the rows of the closed box.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -78,16 +78,17 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     initConfigClassList();
     initAppearance();
 
-    connect(mUi->btnRestoreAllDefault, &QAbstractButton::clicked,
-            this, &ConfigurationWindow::restoreAllDefault);
-    connect(mUi->btnRestoreDefault, &QAbstractButton::clicked,
-            this, &ConfigurationWindow::restorePageDefault);
+    connect(mUi->btnRestoreAllDefault, &QAbstractButton::clicked, this,
+            &ConfigurationWindow::restoreAllDefault);
+    connect(mUi->btnRestoreDefault, &QAbstractButton::clicked, this,
+            &ConfigurationWindow::restorePageDefault);
     if (mManager)
-        connect(mManager, &MtConfManage::sigLanguageChange, this, &ConfigurationWindow::retranslateUi);
+        connect(mManager, &MtConfManage::sigLanguageChange, this,
+                &ConfigurationWindow::retranslateUi);
     else
         qCritical() << "ConfigurationWindow without a manager";
-    connect(mUi->configList->selectionModel(), &QItemSelectionModel::currentChanged,
-            this, &ConfigurationWindow::onClassItemChange);
+    connect(mUi->configList->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &ConfigurationWindow::onClassItemChange);
 
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
     retranslateUi();

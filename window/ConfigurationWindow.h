@@ -52,9 +52,9 @@ class MALTO_EXPORT ConfigurationWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Builds the window of `manager`, which must outlive the window. Without one the window is empty,
-    /// and the critical message "ConfigurationWindow without a manager" says so. Hosts
-    /// call `MtConfManage::ShowWindow` instead.
+    /// Builds the window of `manager`, which must outlive the window. Without one the window is
+    /// empty, and the critical message "ConfigurationWindow without a manager" says so. Hosts call
+    /// `MtConfManage::ShowWindow` instead.
     explicit ConfigurationWindow(MtConfManage *manager);
     ~ConfigurationWindow() override;
 
@@ -64,7 +64,8 @@ public:
     /// The manager that the window shows, or null when it has gone: the window is about to go too.
     MtConfManage *manager() const { return mManager; }
 
-    /// Makes the class of that name current and shows its page; an unknown name shows an empty page.
+    /// Makes the class of that name current and shows its page; an unknown name shows an empty
+    /// page.
     void switchToView(QString className);
 
     /// The icon font's glyph of each class, by class name; a class without one has no icon.

@@ -73,8 +73,8 @@ void ConfigurationWindow::initAppearance()
     // unless the window is polished when it gets it.
     ensurePolished();
     loadQss();
-    connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged,
-            this, &ConfigurationWindow::loadQss);
+    connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this,
+            &ConfigurationWindow::loadQss);
 }
 
 void ConfigurationWindow::applyDefaultGeometry()
@@ -84,8 +84,8 @@ void ConfigurationWindow::applyDefaultGeometry()
     const auto centerY = static_cast<float>(center.y());
     const auto width = static_cast<float>(768 * mScale);
     const auto height = static_cast<float>(500 * mScale);
-    setGeometry(qRound(centerX - width / 2), qRound(centerY - height / 2),
-                qRound(width), qRound(height));
+    setGeometry(qRound(centerX - width / 2), qRound(centerY - height / 2), qRound(width),
+                qRound(height));
 }
 
 void ConfigurationWindow::saveGeometryToFile() const

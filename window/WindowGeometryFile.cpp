@@ -20,16 +20,10 @@ QString geometryKey()
 WindowGeometryFile::Saved WindowGeometryFile::read() const
 {
     switch (content()) {
-    case Content::Missing:
-        return {};
-    case Content::Foreign:
-        warn();
-        return {};
-    case Content::Dangerous:
-        warn();
-        return {true, QRect()};
-    case Content::Harmless:
-        break;
+    case Content::Missing: return {};
+    case Content::Foreign: warn(); return {};
+    case Content::Dangerous: warn(); return {true, QRect()};
+    case Content::Harmless: break;
     }
     const QSettings settings(mPath, QSettings::IniFormat);
     return {settings.contains(geometryKey()), settings.value(geometryKey()).toRect()};
@@ -50,15 +44,16 @@ void WindowGeometryFile::write(const QRect &geometry) const
 bool WindowGeometryFile::isHarmless(const QByteArray &text)
 {
     // QSettings turns every value of the file into what it stands for, whichever key is asked for,
-    // and for "@Variant(" and "@DateTime(" that means reading a stream of any type: eight bytes that
-    // announce a list of four thousand million entries end the process. It takes out quotes and
-    // decodes escapes before it looks: the sign and the letter may be written as either, with quotes,
-    // blanks, unknown escapes and the ends of continued lines between them.
+    // and for "@Variant(" and "@DateTime(" that means reading a stream of any type: eight bytes
+    // that announce a list of four thousand million entries end the process. It takes out quotes
+    // and decodes escapes before it looks: the sign and the letter may be written as either, with
+    // quotes, blanks, unknown escapes and the ends of continued lines between them.
     static const QRegularExpression danger(QStringLiteral(
         R"((?:@|\\x(?:[0-9a-fA-F]*00|0?)40(?![0-9a-fA-F])|\\[0-7]*100))"
         R"((?:["\t ]|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*+)"
         R"((?:[VD]|\\x(?:[0-9a-fA-F]*00|0?)(?:56|44)(?![0-9a-fA-F])|\\[0-7]*(?:126|104)))"));
-    // With the size: a zero byte is no end. A search that gave up has found nothing, and is no proof.
+    // With the size: a zero byte is no end. A search that gave up has found nothing, and is no
+    // proof.
     const auto found = danger.match(QString::fromLatin1(text.constData(), text.size()));
     return found.isValid() && !found.hasMatch();
 }

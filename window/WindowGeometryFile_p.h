@@ -12,8 +12,8 @@ public:
     /// What a file says about the place of the window.
     struct Saved
     {
-        bool found = false;  ///< a geometry was saved, be it usable or not
-        QRect geometry;      ///< invalid when what was saved is no rectangle
+        bool found = false; ///< a geometry was saved, be it usable or not
+        QRect geometry;     ///< invalid when what was saved is no rectangle
     };
 
     explicit WindowGeometryFile(const QString &path) : mPath(path) {}

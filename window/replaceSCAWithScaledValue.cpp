@@ -15,7 +15,7 @@ int rounded(float value)
 
 } // namespace
 
-QString replaceSCAWithScaledValue(QString const &text, float scale)
+QString replaceSCAWithScaledValue(const QString &text, float scale)
 {
     QString result = text;
     QRegExp macro(QStringLiteral("SCA\\((\\d+)\\)"));

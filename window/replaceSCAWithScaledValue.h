@@ -10,4 +10,4 @@
 /// begins inside the span that the macro before it filled before it was replaced is left as it
 /// stands. For hosts with texts of their own; the window's style sheets go through the theme
 /// controller.
-MALTO_EXPORT QString replaceSCAWithScaledValue(QString const &text, float scale);
+MALTO_EXPORT QString replaceSCAWithScaledValue(const QString &text, float scale);

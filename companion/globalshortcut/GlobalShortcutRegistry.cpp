@@ -145,7 +145,7 @@ void GlobalShortcutRegistry::announce(const Entry &entry, const User *except)
 {
     for (User *user : entry.users) {
         if (user != except)
-            QMetaObject::invokeMethod(user, [user] { user->registrationChanged(); },
-                                      Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                user, [user] { user->registrationChanged(); }, Qt::QueuedConnection);
     }
 }

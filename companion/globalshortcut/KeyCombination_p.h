@@ -6,9 +6,9 @@
 /// system's own numbers.
 struct KeyCombination
 {
-    quint32 key; ///< the system's code of the key
+    quint32 key;       ///< the system's code of the key
     quint32 modifiers; ///< the modifiers that must be held, the system's bits
-    quint32 ignored; ///< modifiers that may be on or off, such as Num Lock; none of `modifiers`
+    quint32 ignored;   ///< modifiers that may be on or off, such as Num Lock; none of `modifiers`
 
     /// Whether this key pressed with these modifiers is the combination.
     bool matches(quint32 pressedKey, quint32 pressedModifiers) const

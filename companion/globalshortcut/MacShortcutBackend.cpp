@@ -11,9 +11,8 @@ static UInt32 hotKeyNumber(const KeyCombination &combination)
     return combination.key << 16 | combination.modifiers;
 }
 
-MacShortcutBackend::MacShortcutBackend(Listener &listener) :
-    mListener(listener),
-    mHandlerFunction(NewEventHandlerUPP(&MacShortcutBackend::handleEvent))
+MacShortcutBackend::MacShortcutBackend(Listener &listener)
+    : mListener(listener), mHandlerFunction(NewEventHandlerUPP(&MacShortcutBackend::handleEvent))
 {
     const EventTypeSpec pressed{kEventClassKeyboard, kEventHotKeyPressed};
     if (InstallEventHandler(GetApplicationEventTarget(), mHandlerFunction, 1, &pressed, this,
@@ -48,8 +47,8 @@ bool MacShortcutBackend::grab(const KeyCombination &combination)
     const EventHotKeyID id{hotKeySignature, hotKeyNumber(combination)};
     EventHotKeyRef hotKey = nullptr;
     const OSStatus status = RegisterEventHotKey(combination.key, combination.modifiers, id,
-                                                GetApplicationEventTarget(),
-                                                kEventHotKeyExclusive, &hotKey);
+                                                GetApplicationEventTarget(), kEventHotKeyExclusive,
+                                                &hotKey);
     if (status != noErr || !hotKey)
         return false;
     mHotKeys[id.id] = hotKey;

@@ -9,5 +9,5 @@ public:
     bool isSupported() const override { return false; }
     QVector<KeyCombination> combinations(int) const override { return {}; }
     bool grab(const KeyCombination &) override { return false; }
-    void ungrab(const KeyCombination &) override { }
+    void ungrab(const KeyCombination &) override {}
 };

@@ -8,9 +8,9 @@
 
 #include <utility>
 
-// A text that names no key, as a file may hold, gives a sequence with an unknown key, and a key that
-// has no name of its own is lost by way of a file. Neither is for the system to see: on an X server
-// key 0 is the whole keyboard.
+// A text that names no key, as a file may hold, gives a sequence with an unknown key, and a key
+// that has no name of its own is lost by way of a file. Neither is for the system to see: on an X
+// server key 0 is the whole keyboard.
 static bool namesAKey(int chord)
 {
     const QString name = QKeySequence(keyOf(chord)).toString(QKeySequence::PortableText);
@@ -22,14 +22,11 @@ static bool namesAKey(int chord)
 class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User
 {
 public:
-    explicit Private(QxtGlobalShortcut *owner) : q(owner) { }
+    explicit Private(QxtGlobalShortcut *owner) : q(owner) {}
     ~Private() override { giveBack(); }
     Q_DISABLE_COPY(Private)
 
-    static bool isGuiThread()
-    {
-        return qApp && QThread::currentThread() == qApp->thread();
-    }
+    static bool isGuiThread() { return qApp && QThread::currentThread() == qApp->thread(); }
 
     bool isValid() const { return mRegistry && mRegistry->isRegistered(mChord); }
 
@@ -85,14 +82,13 @@ private:
     bool mAnnouncedValid = false;
 };
 
-QxtGlobalShortcut::QxtGlobalShortcut(QObject *parent) :
-    QObject(parent),
-    d(std::make_unique<Private>(this))
+QxtGlobalShortcut::QxtGlobalShortcut(QObject *parent)
+    : QObject(parent), d(std::make_unique<Private>(this))
 {
 }
 
-QxtGlobalShortcut::QxtGlobalShortcut(const QKeySequence &shortcut, QObject *parent) :
-    QxtGlobalShortcut(parent)
+QxtGlobalShortcut::QxtGlobalShortcut(const QKeySequence &shortcut, QObject *parent)
+    : QxtGlobalShortcut(parent)
 {
     setShortcut(shortcut);
 }

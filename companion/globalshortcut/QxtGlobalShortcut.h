@@ -38,10 +38,10 @@ public:
     QKeySequence shortcut() const;
     /// Gives the old key combination back and, when enabled, registers this one. The same
     /// combination again tries a failed registration once more. Returns `isValid()`: false for an
-    /// empty sequence, for one of several chords, for a modifier key alone, for a key without a name
-    /// (such as the unknown key that a wrong text gives), for one that this keyboard has not or that
-    /// someone else holds, and while disabled; nothing is logged. Emits `enabledChanged` when
-    /// `isValid()` changes.
+    /// empty sequence, for one of several chords, for a modifier key alone, for a key without a
+    /// name (such as the unknown key that a wrong text gives), for one that this keyboard has not
+    /// or that someone else holds, and while disabled; nothing is logged. Emits `enabledChanged`
+    /// when `isValid()` changes.
     bool setShortcut(const QKeySequence &shortcut);
 
     /// Whether the hotkey is to be registered; true for a new object.

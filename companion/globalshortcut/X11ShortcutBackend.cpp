@@ -22,9 +22,8 @@ static QVector<quint16> modifierStates(const KeyCombination &combination)
     }
 }
 
-X11ShortcutBackend::X11ShortcutBackend(Listener &listener) :
-    mListener(listener),
-    mConnection(xcb_connect(nullptr, nullptr))
+X11ShortcutBackend::X11ShortcutBackend(Listener &listener)
+    : mListener(listener), mConnection(xcb_connect(nullptr, nullptr))
 {
     if (!isSupported())
         return;
@@ -57,10 +56,10 @@ void X11ShortcutBackend::startXkb()
         return;
     mFirstXkbEvent = xcb_get_extension_data(mConnection, &xcb_xkb_id)->first_event;
     constexpr uint16_t events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY
-            | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+                                | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
     constexpr uint16_t mapParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS
-            | XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_VIRTUAL_MODS
-            | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+                                  | XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_VIRTUAL_MODS
+                                  | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
     xcb_xkb_select_events(mConnection, XCB_XKB_ID_USE_CORE_KBD, events, 0, events, mapParts,
                           mapParts, nullptr);
     constexpr uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
@@ -86,9 +85,9 @@ bool X11ShortcutBackend::grab(const KeyCombination &combination)
     QVector<xcb_void_cookie_t> requests;
     for (const xcb_window_t root : qAsConst(mRoots)) {
         for (const quint16 state : states)
-            requests.append(xcb_grab_key_checked(
-                mConnection, false, root, state, static_cast<xcb_keycode_t>(combination.key),
-                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+            requests.append(xcb_grab_key_checked(mConnection, false, root, state,
+                                                 static_cast<xcb_keycode_t>(combination.key),
+                                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
     bool granted = isSupported();
     for (const xcb_void_cookie_t request : qAsConst(requests)) {
@@ -109,15 +108,16 @@ void X11ShortcutBackend::ungrab(const KeyCombination &combination)
             xcb_ungrab_key(mConnection, static_cast<xcb_keycode_t>(combination.key), root, state);
     }
     // An answer to anything shows that the server has come this far.
-    const XcbPointer<xcb_get_input_focus_reply_t> answer(xcb_get_input_focus_reply(
-        mConnection, xcb_get_input_focus(mConnection), nullptr));
+    const XcbPointer<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(mConnection, xcb_get_input_focus(mConnection), nullptr));
     readEventsLater();
 }
 
 // Waiting for an answer also reads events, which the socket then no longer announces.
 void X11ShortcutBackend::readEventsLater()
 {
-    QMetaObject::invokeMethod(&mContext, [this] { readEvents(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &mContext, [this] { readEvents(); }, Qt::QueuedConnection);
 }
 
 void X11ShortcutBackend::readEvents()

@@ -64,7 +64,8 @@ QSize ColorSelectButton::sizeHint() const
     QStyleOptionButton option;
     initStyleOption(&option);
     const double em = QFontInfo(font()).pixelSize();
-    const QSize swatch(static_cast<int>(std::lround(em * 3.5)), static_cast<int>(std::lround(em * 1.1)));
+    const QSize swatch(static_cast<int>(std::lround(em * 3.5)),
+                       static_cast<int>(std::lround(em * 1.1)));
     return style()->sizeFromContents(QStyle::CT_PushButton, &option, swatch, this);
 }
 
@@ -97,7 +98,8 @@ void ColorSelectButton::paintEvent(QPaintEvent *)
     option.icon = QIcon();
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
 
-    // A sheet that draws the button says with its padding where the swatch begins, and has no margin.
+    // A sheet that draws the button says with its padding where the swatch begins, and has no
+    // margin.
     const int inset = style()->pixelMetric(QStyle::PM_ButtonMargin, &option, this) / 3;
     const QRect content = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     drawSwatch(&painter, content.adjusted(inset, inset, -inset, -inset));
@@ -137,7 +139,8 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
         painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), SwatchRadius, SwatchRadius);
         painter->setPen(QPen(palette().color(QPalette::Base), 1));
-        painter->drawRoundedRect(rect.adjusted(2.5, 2.5, -2.5, -2.5), SwatchRadius - 1, SwatchRadius - 1);
+        painter->drawRoundedRect(rect.adjusted(2.5, 2.5, -2.5, -2.5), SwatchRadius - 1,
+                                 SwatchRadius - 1);
     }
 }
 

@@ -9,8 +9,9 @@
 class QColorDialog;
 
 /// A button that shows a colour and, when clicked or on Space, Enter or Return, lets a person pick
-/// another in a colour dialog. A translucent colour stands on chequers, an invalid one is a red stroke
-/// through an empty ground. The tool tip and the accessible description say the colour in words:
+/// another in a colour dialog. A translucent colour stands on chequers, an invalid one is a red
+/// stroke through an empty ground. The tool tip and the accessible description say the colour in
+/// words:
 /// "#rrggbb", "#aarrggbb" for a translucent one, tr("None") for an invalid one.
 ///
 /// In a style sheet the swatch fills the content rectangle, inside border and padding.

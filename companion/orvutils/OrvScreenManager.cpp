@@ -66,7 +66,8 @@ void OrvScreenManager::followApplication()
         followScreen(screen);
         Q_EMIT sigScreensChanged();
     });
-    connect(application, &QGuiApplication::screenRemoved, this, &OrvScreenManager::sigScreensChanged);
+    connect(application, &QGuiApplication::screenRemoved, this,
+            &OrvScreenManager::sigScreensChanged);
     connect(application, &QGuiApplication::primaryScreenChanged, this,
             &OrvScreenManager::sigScreensChanged);
     const QList<QScreen *> all = QGuiApplication::screens();

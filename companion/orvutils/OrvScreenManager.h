@@ -37,7 +37,8 @@ public:
     QVector<OrvScreen> screens() const;
 
 Q_SIGNALS:
-    /// A screen came or went, another one is primary, or a rectangle or a dots-per-inch value changed.
+    /// A screen came or went, another one is primary, or a rectangle or a dots-per-inch value
+    /// changed.
     void sigScreensChanged();
 
 private:

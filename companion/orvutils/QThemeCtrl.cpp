@@ -19,7 +19,8 @@ QThemeCtrl *QThemeCtrl::instance()
 }
 
 QThemeCtrl::QThemeCtrl()
-    : mLightValues(lightThemeValues()), mDarkValues(darkThemeValues()), mWatcher(new SheetWatcher(this))
+    : mLightValues(lightThemeValues()), mDarkValues(darkThemeValues()),
+      mWatcher(new SheetWatcher(this))
 {
     connect(mWatcher, &SheetWatcher::sheetsChanged, this, &QThemeCtrl::sigThemeChanged);
 }
@@ -124,12 +125,13 @@ QPalette QThemeCtrl::palette() const
     const QColor text = color(QStringLiteral("ColorFg0"));
     const QColor accent = color(QStringLiteral("ColorMain"));
     const QColor faint = color(QStringLiteral("ColorDisable"));
-    // Links are text, not a ground for white text: on dark they need more light than the accent has.
+    // Links are text, not a ground for white text: on dark they need more light than the accent
+    // has.
     const QColor link = mDark ? accent.lighter(150) : accent;
 
     QPalette result(card, color(QStringLiteral("ColorBg0")));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                                           QPalette::ToolTipText}) {
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
         result.setColor(role, text);
         result.setColor(QPalette::Disabled, role, faint);
     }

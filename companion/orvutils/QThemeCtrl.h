@@ -23,10 +23,10 @@ class SheetWatcher;
 ///
 /// They nest (`sca(var(Radius))`) and allow blanks inside the parentheses. Comments are left alone.
 ///
-/// Names in both themes from the start: ColorBg0 (window), ColorBg1 and ColorBg1Border (card and its
-/// border), ColorBg2 (hovered), ColorBg3 and ColorBg3Border (input and its border), ColorFg0 (text),
-/// ColorMain (accent, carries white text), ColorSuccess, ColorWarning, ColorFailed, ColorDisable and
-/// FontMain (a list of font families).
+/// Names in both themes from the start: ColorBg0 (window), ColorBg1 and ColorBg1Border (card and
+/// its border), ColorBg2 (hovered), ColorBg3 and ColorBg3Border (input and its border), ColorFg0
+/// (text), ColorMain (accent, carries white text), ColorSuccess, ColorWarning, ColorFailed,
+/// ColorDisable and FontMain (a list of font families).
 class ORVUTILS_EXPORT QThemeCtrl : public QObject
 {
     Q_OBJECT
@@ -39,10 +39,11 @@ public:
     /// The one controller. May be asked for before the application exists and after it is gone.
     static QThemeCtrl *instance();
 
-    /// Gives `widget` the style sheet made of `files` (disk files or resources, UTF-8), one after the
-    /// other, with the macros expanded. `scale` is pixels per design unit; one that is not a positive
-    /// number counts as 1. A file that cannot be read is left out, with the warning
-    /// "QThemeCtrl::handleQssFile cannot read: " and its name. Nothing happens when `widget` is null.
+    /// Gives `widget` the style sheet made of `files` (disk files or resources, UTF-8), one after
+    /// the other, with the macros expanded. `scale` is pixels per design unit; one that is not a
+    /// positive number counts as 1. A file that cannot be read is left out, with the warning
+    /// "QThemeCtrl::handleQssFile cannot read: " and its name. Nothing happens when `widget` is
+    /// null.
     ///
     /// The sheet is not applied again on its own: call this from a slot of sigThemeChanged(). The
     /// disk files are watched while the widget lives, and a change to one emits that signal.
@@ -55,7 +56,8 @@ public:
     /// - "name refers to itself: ", "value too long or too deep: " (an expanded value of more than
     ///   4096 characters, or a chain of more than 64 names), "not a number: ": the macro stays.
     ///
-    /// A macro whose parenthesis is not closed before a quote, a brace or a semicolon stays silently.
+    /// A macro whose parenthesis is not closed before a quote, a brace or a semicolon stays
+    /// silently.
     QString expandMacros(const QString &sheet, double scale) const;
 
     /// Chooses the theme; System at first. Emits sigThemeChanged() when the look changes by it.
@@ -71,14 +73,14 @@ public:
     /// The value of `name` as a colour; invalid unless it is, macros expanded, a colour name or
     /// "#rgb", "#rrggbb" or "#aarrggbb".
     QColor color(const QString &name) const;
-    /// Adds or overrides a name in a theme, or in both for System. Emits nothing: sheets show it when
-    /// they are next handed to handleQssFile().
+    /// Adds or overrides a name in a theme, or in both for System. Emits nothing: sheets show it
+    /// when they are next handed to handleQssFile().
     void setValue(Theme theme, const QString &name, const QString &value);
 
     /// The shown theme's colours as a palette, so that a host's plain widgets and dialogs fit:
-    /// `qApp->setPalette(...)` with it at start-up and on sigThemeChanged(). Such a palette is never
-    /// mistaken for a change of the system's own. While the theme is System, set `QPalette()` instead:
-    /// an application with a palette of its own no longer hears of the system's changes.
+    /// `qApp->setPalette(...)` with it at start-up and on sigThemeChanged(). Such a palette is
+    /// never mistaken for a change of the system's own. While the theme is System, set `QPalette()`
+    /// instead: an application with a palette of its own no longer hears of the system's changes.
     QPalette palette() const;
 
 Q_SIGNALS:

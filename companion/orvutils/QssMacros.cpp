@@ -5,8 +5,8 @@
 
 namespace {
 
-// No name or number is longer; a limit keeps the nested arguments of a hostile sheet from being read
-// over and over.
+// No name or number is longer; a limit keeps the nested arguments of a hostile sheet from being
+// read over and over.
 constexpr int MaxArgumentLength = 256;
 constexpr int MaxValueLength = 4096;
 constexpr int MaxValueDepth = 64;
@@ -94,7 +94,8 @@ QString QssMacros::expand(const QString &text)
             const bool scales = prefix == QLatin1String("sca(");
             if (scales || prefix == QLatin1String("var(")) {
                 length = MacroPrefixLength;
-                open.append({scales ? Kind::Scale : Kind::Variable, out.size(), out.size() + length});
+                open.append(
+                    {scales ? Kind::Scale : Kind::Variable, out.size(), out.size() + length});
             }
         } else if (c == QLatin1Char('(') && !open.isEmpty()) {
             open.append({Kind::PlainParenthesis, out.size(), out.size() + 1});
@@ -112,8 +113,8 @@ QString QssMacros::expand(const QString &text)
     return out;
 }
 
-// Replaces the macro at the end of `out`, its closing parenthesis not yet written, by what it stands
-// for; leaves it as it is, and says so, when it stands for nothing.
+// Replaces the macro at the end of `out`, its closing parenthesis not yet written, by what it
+// stands for; leaves it as it is, and says so, when it stands for nothing.
 bool QssMacros::expandClosed(const Open &open, QString *out)
 {
     if (open.kind == Kind::PlainParenthesis || out->size() - open.argument > MaxArgumentLength)

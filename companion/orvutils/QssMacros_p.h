@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// Expands the macros of style sheets. One pass over the text with a stack of open macros, so that no
-/// nesting costs more than its length or runs deep in calls.
+/// Expands the macros of style sheets. One pass over the text with a stack of open macros, so that
+/// no nesting costs more than its length or runs deep in calls.
 class QssMacros
 {
 public:
@@ -27,7 +27,7 @@ private:
     struct Open
     {
         Kind kind;
-        int start; ///< where its text begins in the output
+        int start;    ///< where its text begins in the output
         int argument; ///< where its argument begins in the output
     };
 

@@ -16,6 +16,6 @@ enum OrvWindowType {
     OrvWindowTypeSettings = 4,
 };
 
-/// Keeps `window` above other windows, or no longer does. For a child widget its window is meant; null
-/// does nothing. Geometry, minimised or maximised state and visibility stay as they are.
+/// Keeps `window` above other windows, or no longer does. For a child widget its window is meant;
+/// null does nothing. Geometry, minimised or maximised state and visibility stay as they are.
 ORVUTILS_EXPORT void SetWindowTopmost(QWidget *window, bool on, OrvWindowType type);

@@ -57,7 +57,8 @@ void SheetWatcher::watchFiles()
     if (!mFiles) {
         if (paths.isEmpty())
             return;
-        // The application's child: its notifiers must not outlive the application's event dispatcher.
+        // The application's child: its notifiers must not outlive the application's event
+        // dispatcher.
         mFiles = new QFileSystemWatcher(QCoreApplication::instance());
         const auto restart = [this] { mStill.start(); };
         connect(mFiles, &QFileSystemWatcher::fileChanged, this, restart);

@@ -10,8 +10,8 @@
 class QFileSystemWatcher;
 class QWidget;
 
-/// The content of a style sheet, a regular file or a resource; null when it cannot be read. Pipes and
-/// devices are refused: reading one might never end.
+/// The content of a style sheet, a regular file or a resource; null when it cannot be read. Pipes
+/// and devices are refused: reading one might never end.
 QByteArray readSheet(const QString &file);
 
 /// Watches the sheets on disk that living widgets show.

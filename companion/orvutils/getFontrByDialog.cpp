@@ -6,8 +6,8 @@
 
 QFont getFontrByDialog(const QFont &initial, QWidget *parent, const QString &title)
 {
-    // Without a style's name the dialog looks for "Normal", and takes any style where a family calls
-    // its upright regular one "Book" or "Roman".
+    // Without a style's name the dialog looks for "Normal", and takes any style where a family
+    // calls its upright regular one "Book" or "Roman".
     QFont offered = initial;
     if (offered.styleName().isEmpty())
         offered.setStyleName(QFontInfo(initial).styleName());

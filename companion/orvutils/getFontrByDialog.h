@@ -13,6 +13,6 @@ class QWidget;
 /// Returns the chosen font, sized in points; `initial` untouched when the dialog is cancelled, when
 /// nothing in it was changed, and when the parent goes while the dialog is open.
 ///
-/// The dialog shows whole points. Who keeps fonts in pixels passes the pixels as points and takes the
-/// points of the result as pixels.
+/// The dialog shows whole points. Who keeps fonts in pixels passes the pixels as points and takes
+/// the points of the result as pixels.
 ORVUTILS_EXPORT QFont getFontrByDialog(const QFont &initial, QWidget *parent, const QString &title);

@@ -61,8 +61,9 @@ int main(int argc, char **argv)
     manager.addConfStrWithCombobox("Format", {"PNG", "JPEG", "WebP"}, &text, page, "text-choice");
     manager.addConfInt32WithCombobox("Magnification", {"2 ×", "4 ×", "8 ×"}, {2, 4, 8}, &choice,
                                      page, "int-choice");
-    manager.addConfInt32WithCombobox("Snap to", {"Windows", "Screen edges", "Guides"}, {1, 2, 4},
-                                     &several, page, "multi-choice")
+    manager
+        .addConfInt32WithCombobox("Snap to", {"Windows", "Screen edges", "Guides"}, {1, 2, 4},
+                                  &several, page, "multi-choice")
         ->properties.insert("MultiSelect", true);
     manager.addConfQKeySequence("Capture an area", &hotkey, page, "hotkey")
         ->properties.insert("Shortcut", QVariant::fromValue(&shortcut));

@@ -15,9 +15,10 @@ int main(int argc, char **argv)
     ConfStorage *store = ConfStorage::instance();
     store->reserveConf("Service.Starts", &starts);
     store->reserveConf("Service.Greeting", &greeting);
-    store->setConfChangedCallback("Service.Starts", [&out](const QString &key, const ConfValue *value) {
-        out << key << " is now " << value->get<int>() << '\n';
-    });
+    store->setConfChangedCallback("Service.Starts",
+                                  [&out](const QString &key, const ConfValue *value) {
+                                      out << key << " is now " << value->get<int>() << '\n';
+                                  });
 
     store->mLocalSaveFile = QCoreApplication::arguments().value(1, "service.json");
     store->loadLocalConfFile();

@@ -53,10 +53,11 @@ int main(int argc, char **argv)
     int volume = 40;
 
     MtConf::MtConfManage settings;
-    settings.addConfInt32("Volume", &volume, "Sound", "Volume", {},
-                          [](MtConf::ConfItem *item, QWidget *parent) -> MtConf::ConfigItemWidget * {
-                              return new SliderEditor(item, parent);
-                          });
+    settings.addConfInt32(
+        "Volume", &volume, "Sound", "Volume", {},
+        [](MtConf::ConfItem *item, QWidget *parent) -> MtConf::ConfigItemWidget * {
+            return new SliderEditor(item, parent);
+        });
     settings.ShowWindow();
     return app.exec();
 }

@@ -26,7 +26,8 @@ struct Machine
     /// As if a person had changed it at that second.
     void change(const QString &key, const QJsonValue &value, qint64 second)
     {
-        store.loadSingleConf(key, QJsonObject{{"t", second}, {"v", value}}, ConfStorage::LoadShared);
+        store.loadSingleConf(key, QJsonObject{{"t", second}, {"v", value}},
+                             ConfStorage::LoadShared);
     }
 
     void print() const

@@ -37,7 +37,7 @@ private:
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(DEMO_PROGRAM), arguments);
         const bool ended = process.waitForFinished(-1)
-            && process.exitStatus() == QProcess::NormalExit;
+                           && process.exitStatus() == QProcess::NormalExit;
         return {ended ? process.exitCode() : -1,
                 QString::fromLocal8Bit(process.readAllStandardOutput()),
                 QString::fromLocal8Bit(process.readAllStandardError())};
@@ -124,14 +124,14 @@ void tst_DemoArguments::picturesShowEveryPageInBothThemes()
     const QStringList paths = result.output.split('\n', Qt::SkipEmptyParts);
     QCOMPARE(paths.size(), 20);
     const QStringList files = QDir("pictures/new").entryList(QDir::Files, QDir::Name);
-    QCOMPARE(files, QStringList({"appearance-dark.png", "appearance-light.png",
-                                 "capture-dark.png", "capture-light.png",
-                                 "general-dark.png", "general-light.png", "hotkeys-dark.png",
-                                 "hotkeys-light.png", "main-dark.png", "main-light.png",
-                                 "mouse-dark.png", "mouse-light.png", "output-dark.png",
-                                 "output-light.png", "profiles-dark.png", "profiles-light.png",
-                                 "stored-data-dark.png", "stored-data-light.png",
-                                 "system-dark.png", "system-light.png"}));
+    QCOMPARE(files,
+             QStringList({"appearance-dark.png", "appearance-light.png", "capture-dark.png",
+                          "capture-light.png",   "general-dark.png",     "general-light.png",
+                          "hotkeys-dark.png",    "hotkeys-light.png",    "main-dark.png",
+                          "main-light.png",      "mouse-dark.png",       "mouse-light.png",
+                          "output-dark.png",     "output-light.png",     "profiles-dark.png",
+                          "profiles-light.png",  "stored-data-dark.png", "stored-data-light.png",
+                          "system-dark.png",     "system-light.png"}));
     for (const QString &path : paths) {
         const QImage picture(path);
         QVERIFY2(picture.width() > 400 && picture.height() > 400, qPrintable(path));
@@ -145,7 +145,9 @@ void tst_DemoArguments::picturesWriteNothingButPictures()
     QVERIFY(QDir().mkpath("mine"));
     QVERIFY(write("recent.json", R"({"General.Recent": 3})"));
     QCOMPARE(run({"--pictures", "other", "--local-file", "mine/settings.json", "--config",
-                  "recent.json"}).exitCode, 0);
+                  "recent.json"})
+                 .exitCode,
+             0);
     QCOMPARE(QDir("mine").entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
     QVERIFY(!QFile::exists("home/malto-demo/settings.json"));
     QVERIFY(!QFile::exists("ConfigurationWindowConfig.ini"));
@@ -183,5 +185,8 @@ void tst_DemoArguments::nothingCanBeOccupiedWithoutHotkeys()
     QCOMPARE(result.exitCode, 2);
 }
 
-int main(int argc, char **argv) { return runTest<tst_DemoArguments>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_DemoArguments>(argc, argv);
+}
 #include "tst_DemoArguments.moc"

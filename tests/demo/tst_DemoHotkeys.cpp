@@ -1,10 +1,10 @@
 #include "DemoFixture.h"
-#include "support/XClient.h"
 #include "demo/DemoArguments.h"
 #include "demo/KeyHolder.h"
 #include "demo/MainWindow.h"
 #include "demo/MessageLog.h"
 #include "support/TestMain.h"
+#include "support/XClient.h"
 
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
@@ -43,7 +43,8 @@ private:
     {
         return demo.session->manager()
             .getItemByName("Hotkeys", group, name)
-            ->properties.value("Shortcut").value<QxtGlobalShortcut *>();
+            ->properties.value("Shortcut")
+            .value<QxtGlobalShortcut *>();
     }
     static QPushButton *stateButton(const DemoFixture &demo, const char *group, const char *name)
     {
@@ -140,5 +141,8 @@ void tst_DemoHotkeys::holderEndsWithItsObject()
     QVERIFY(!missing.holds());
 }
 
-int main(int argc, char **argv) { return runTest<tst_DemoHotkeys>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_DemoHotkeys>(argc, argv);
+}
 #include "tst_DemoHotkeys.moc"

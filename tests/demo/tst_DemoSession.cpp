@@ -249,7 +249,8 @@ void tst_DemoSession::recordedHotkeyComesBackAndIsTheProgramsOwn()
     QCOMPARE(demo.settings().pickColor, pressed);
     const auto *shortcut = demo.session->manager()
                                .getItemByName("Hotkeys", "Tools", "PickColor")
-                               ->properties.value("Shortcut").value<QxtGlobalShortcut *>();
+                               ->properties.value("Shortcut")
+                               .value<QxtGlobalShortcut *>();
     QCOMPARE(shortcut->shortcut(), pressed);
     demo.session->restoreAll();
     QCOMPARE(shortcut->shortcut(), QKeySequence());
@@ -281,9 +282,8 @@ void tst_DemoSession::restoredPageStaysRestoredAfterARestart()
     QVERIFY(demo.close());
     demo.start();
     QVERIFY(demo.open(QStringLiteral("General")));
-    QTimer::singleShot(0, demo.window(), [] {
-        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
-    });
+    QTimer::singleShot(0, demo.window(),
+                       [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
     QTest::mouseClick(demo.child<QPushButton>("btnRestoreDefault"), Qt::LeftButton);
     QVERIFY(demo.checkBox("General", "Tips")->isChecked());
     QVERIFY(demo.close());
@@ -363,8 +363,8 @@ void tst_DemoSession::everyPageOpensByAClick()
     demo.start();
     QVERIFY(demo.open(QString()));
     const LogCapture log;
-    const QStringList pages{"General", "Appearance", "Capture", "Hotkeys", "Mouse",
-                            "Output", "Profiles", "System", "Stored data"};
+    const QStringList pages{"General", "Appearance", "Capture", "Hotkeys",    "Mouse",
+                            "Output",  "Profiles",   "System",  "Stored data"};
     auto *list = demo.child<QListView>("configList");
     QCOMPARE(list->model()->rowCount(), 9);
     for (const QString &page : pages) {
@@ -378,5 +378,8 @@ void tst_DemoSession::everyPageOpensByAClick()
     QCOMPARE(log.messages(), QList<LoggedMessage>());
 }
 
-int main(int argc, char **argv) { return runTest<tst_DemoSession>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_DemoSession>(argc, argv);
+}
 #include "tst_DemoSession.moc"

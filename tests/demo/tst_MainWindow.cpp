@@ -158,5 +158,8 @@ void tst_MainWindow::closingClosesTheSettingsAndSaves()
     QVERIFY(QFile::exists(demo.localFile()));
 }
 
-int main(int argc, char **argv) { return runTest<tst_MainWindow>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_MainWindow>(argc, argv);
+}
 #include "tst_MainWindow.moc"

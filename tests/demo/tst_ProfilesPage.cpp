@@ -100,9 +100,12 @@ void tst_ProfilesPage::nameErrorsAreShownAndRefused_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("error");
     QTest::newRow("nothing") << QString() << "A profile needs a name.";
-    QTest::newRow("blanks") << "   " << "A profile needs a name.";
-    QTest::newRow("that of another") << "Window" << "Another profile has this name.";
-    QTest::newRow("that of another in small letters") << " window " << "Another profile has this name.";
+    QTest::newRow("blanks") << "   "
+                            << "A profile needs a name.";
+    QTest::newRow("that of another") << "Window"
+                                     << "Another profile has this name.";
+    QTest::newRow("that of another in small letters") << " window "
+                                                      << "Another profile has this name.";
     QTest::newRow("41 letters") << QString(41, 'x') << "A name has 40 letters at most.";
 }
 
@@ -192,5 +195,8 @@ void tst_ProfilesPage::damagedProfileOfAFileCanBeNamedOrDeleted()
     QCOMPARE(names(), QStringList({"Mended", "Screen", "Thumbnail", "Window"}));
 }
 
-int main(int argc, char **argv) { return runTest<tst_ProfilesPage>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_ProfilesPage>(argc, argv);
+}
 #include "tst_ProfilesPage.moc"

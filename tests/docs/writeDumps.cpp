@@ -1,8 +1,8 @@
 // Writes what the store dumps, with every type and every kind of entry: writeDumps <folder>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include <QGuiApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QJsonDocument>
 
 namespace {

@@ -47,15 +47,9 @@ void DiskModel::note(const Faults::Call &call)
     const auto known = mNames.find(name);
     File *file = known != mNames.end() ? &mFiles[static_cast<size_t>(known->second)] : nullptr;
     switch (call.kind) {
-    case Kind::Open:
-        noteOpen(call, name);
-        break;
-    case Kind::Truncate:
-        file->pending.push_back({true, call.offset, {}});
-        break;
-    case Kind::Write:
-        write(*file, call);
-        break;
+    case Kind::Open: noteOpen(call, name); break;
+    case Kind::Truncate: file->pending.push_back({true, call.offset, {}}); break;
+    case Kind::Write: write(*file, call); break;
     case Kind::Sync:
         if (call.path == mPath) {
             mNamesOnDisk = mNames;
@@ -78,8 +72,7 @@ void DiskModel::note(const Faults::Call &call)
             change([name](Names &names) { names.erase(name); });
         break;
     case Kind::Read:
-    case Kind::Close:
-        break;
+    case Kind::Close: break;
     }
 }
 

@@ -71,8 +71,7 @@ struct Gate
     }
 
     /// Makes a call on a descriptor; `proceed` makes the real one, of that many bytes.
-    template<class Proceed>
-    static ssize_t onDescriptor(int descriptor, Call call, Proceed proceed)
+    template<class Proceed> static ssize_t onDescriptor(int descriptor, Call call, Proceed proceed)
     {
         if (!isOpen() || !tScope->mOpened.count(descriptor))
             return proceed(call.size);
@@ -83,18 +82,11 @@ struct Gate
             proceed(0);
         }
         switch (answer.action) {
-        case Answer::Fail:
-            errno = answer.error;
-            return -1;
-        case Answer::Partly:
-            return proceed(std::min(answer.size, call.size));
-        case Answer::PartlyThenDie:
-            proceed(std::min(answer.size, call.size));
-            ::_exit(sDeathCode);
-        case Answer::Skip:
-            return 0;
-        case Answer::Proceed:
-            break;
+        case Answer::Fail: errno = answer.error; return -1;
+        case Answer::Partly: return proceed(std::min(answer.size, call.size));
+        case Answer::PartlyThenDie: proceed(std::min(answer.size, call.size)); ::_exit(sDeathCode);
+        case Answer::Skip: return 0;
+        case Answer::Proceed: break;
         }
         return call.kind == Kind::Close ? 0 : proceed(call.size);
     }
@@ -207,9 +199,8 @@ ssize_t read(int descriptor, void *data, size_t size)
     using Function = ssize_t (*)(int, void *, size_t);
     static const Function sReal = Faults::next<Function>("read");
     Faults::Call call{Faults::Kind::Read, {}, {}, 0, 0, nullptr, qint64(size)};
-    return Faults::Gate::onDescriptor(descriptor, call, [&](qint64 count) {
-        return sReal(descriptor, data, size_t(count));
-    });
+    return Faults::Gate::onDescriptor(
+        descriptor, call, [&](qint64 count) { return sReal(descriptor, data, size_t(count)); });
 }
 
 ssize_t write(int descriptor, const void *data, size_t size)
@@ -220,9 +211,8 @@ ssize_t write(int descriptor, const void *data, size_t size)
                       qint64(size)};
     if (Faults::Gate::isOpen())
         call.offset = ::lseek(descriptor, 0, SEEK_CUR);
-    return Faults::Gate::onDescriptor(descriptor, call, [&](qint64 count) {
-        return sReal(descriptor, data, size_t(count));
-    });
+    return Faults::Gate::onDescriptor(
+        descriptor, call, [&](qint64 count) { return sReal(descriptor, data, size_t(count)); });
 }
 
 ssize_t pwrite(int descriptor, const void *data, size_t size, off_t offset)
@@ -271,8 +261,8 @@ int unlink(const char *path) noexcept
 {
     using Function = int (*)(const char *);
     static const Function sReal = Faults::next<Function>("unlink");
-    Faults::Call call{Faults::Kind::Unlink, Faults::Gate::isOpen() ? Faults::absolute(path)
-                                                                   : QByteArray(), {}};
+    Faults::Call call{
+        Faults::Kind::Unlink, Faults::Gate::isOpen() ? Faults::absolute(path) : QByteArray(), {}};
     return Faults::Gate::onPath(call, [&] { return sReal(path); });
 }
 
@@ -280,9 +270,9 @@ int close(int descriptor)
 {
     using Function = int (*)(int);
     static const Function sReal = Faults::next<Function>("close");
-    return static_cast<int>(Faults::Gate::onDescriptor(
-        descriptor, {Faults::Kind::Close, {}, {}},
-        [&](qint64) -> ssize_t { return sReal(descriptor); }));
+    return static_cast<int>(
+        Faults::Gate::onDescriptor(descriptor, {Faults::Kind::Close, {}, {}},
+                                   [&](qint64) -> ssize_t { return sReal(descriptor); }));
 }
 
 } // extern "C"

@@ -29,17 +29,32 @@ struct Answer
 {
     enum Action { Proceed, Fail, Partly, PartlyThenDie, Skip };
     Action action = Proceed;
-    int error = 0;    ///< of Fail: errno. A failing close closes all the same
-    qint64 size = 0;  ///< of Partly and PartlyThenDie: how many bytes are read or written
+    int error = 0;   ///< of Fail: errno. A failing close closes all the same
+    qint64 size = 0; ///< of Partly and PartlyThenDie: how many bytes are read or written
 };
 
-inline Answer proceed() { return {}; }
-inline Answer fail(int error) { return {Answer::Fail, error, 0}; }
-inline Answer partly(qint64 size) { return {Answer::Partly, 0, size}; }
+inline Answer proceed()
+{
+    return {};
+}
+inline Answer fail(int error)
+{
+    return {Answer::Fail, error, 0};
+}
+inline Answer partly(qint64 size)
+{
+    return {Answer::Partly, 0, size};
+}
 /// Writes `size` bytes and ends the process.
-inline Answer partlyThenDie(qint64 size) { return {Answer::PartlyThenDie, 0, size}; }
+inline Answer partlyThenDie(qint64 size)
+{
+    return {Answer::PartlyThenDie, 0, size};
+}
 /// Reports success and does nothing.
-inline Answer skip() { return {Answer::Skip, 0, 0}; }
+inline Answer skip()
+{
+    return {Answer::Skip, 0, 0};
+}
 
 /// What a process exits with that died by injection.
 constexpr int sDeathCode = 99;

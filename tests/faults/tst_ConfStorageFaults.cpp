@@ -44,10 +44,11 @@ void tst_ConfStorageFaults::callsOfASave_data()
     QTest::addColumn<QStringList>("calls");
     QTest::newRow("plain") << false << QStringList{"open json", "write json", "close json"};
     QTest::newRow("safe") << true
-                          << QStringList{"open json", "read json", "open new", "write new",
-                                         "sync new", "close new", "rename new", "open box",
-                                         "sync box", "close box", "truncate json", "sync json",
-                                         "write json", "sync json", "unlink save-journal",
+                          << QStringList{"open json",  "read json",     "open new",
+                                         "write new",  "sync new",      "close new",
+                                         "rename new", "open box",      "sync box",
+                                         "close box",  "truncate json", "sync json",
+                                         "write json", "sync json",     "unlink save-journal",
                                          "close json"};
 }
 
@@ -55,9 +56,9 @@ void tst_ConfStorageFaults::callsOfASave()
 {
     QFETCH(bool, safe);
     QFETCH(QStringList, calls);
-    const QMap<Kind, QString> names{{Kind::Open, "open"}, {Kind::Read, "read"},
-                                    {Kind::Write, "write"}, {Kind::Truncate, "truncate"},
-                                    {Kind::Sync, "sync"}, {Kind::Rename, "rename"},
+    const QMap<Kind, QString> names{{Kind::Open, "open"},     {Kind::Read, "read"},
+                                    {Kind::Write, "write"},   {Kind::Truncate, "truncate"},
+                                    {Kind::Sync, "sync"},     {Kind::Rename, "rename"},
                                     {Kind::Unlink, "unlink"}, {Kind::Close, "close"}};
     SavedSettings settings(safe);
     settings.change(2);
@@ -290,9 +291,8 @@ void tst_ConfStorageFaults::specialFiles()
 
     settings.change(2);
     settings.store.saveToLocalConfFile();
-    const LoggedMessage message = saved
-        ? LoggedMessage{QtDebugMsg, SavedSettings::saved()}
-        : LoggedMessage{QtCriticalMsg, SavedSettings::openFailed()};
+    const LoggedMessage message = saved ? LoggedMessage{QtDebugMsg, SavedSettings::saved()}
+                                        : LoggedMessage{QtCriticalMsg, SavedSettings::openFailed()};
     QCOMPARE(log.messages(), QList<LoggedMessage>{message});
     QCOMPARE(settings.store.mChanged, !saved);
     QCOMPARE(settings.number(), 2);

@@ -31,7 +31,7 @@ template<class Work> bool diesAtCall(int nth, bool halfway, Work work)
         ::_exit(0);
     }
     int status = 0;
-    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) { }
+    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) {}
     if (!WIFEXITED(status) || (WEXITSTATUS(status) != 0 && WEXITSTATUS(status) != sDeathCode))
         qFatal("the process died by itself: %d", status);
     return WEXITSTATUS(status) == sDeathCode;
@@ -104,8 +104,8 @@ void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall()
         died = diesAtCall(calls, halfway, [] { save(true, 2); });
         const int found = nextRun();
         QVERIFY2(found == 2 || (died && found == before), qPrintable(QString::number(found)));
-        QCOMPARE(SavedSettings::content(), found == 0 ? QByteArray()
-                                                      : SavedSettings::fileText(found));
+        QCOMPARE(SavedSettings::content(),
+                 found == 0 ? QByteArray() : SavedSettings::fileText(found));
         QCOMPARE(nextRun(), found);
         QVERIFY(!QFile::exists(SavedSettings::journalPath()));
 

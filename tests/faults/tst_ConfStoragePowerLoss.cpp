@@ -41,8 +41,9 @@ bool matters(const Call &call)
 /// Runs `work` on the folder of `disk`, which takes note of its calls. For the moment before each
 /// of them, and after the last, `pause` is called with `disk` as it was then. Calls that `ignored`
 /// skips have no effect on the disk.
-void watch(DiskModel &disk, const std::function<void()> &work, const std::function<void()> &pause,
-           Hook ignored = [](const Call &) { return proceed(); })
+void watch(
+    DiskModel &disk, const std::function<void()> &work, const std::function<void()> &pause,
+    Hook ignored = [](const Call &) { return proceed(); })
 {
     putOnDisk(disk.visible());
     std::vector<DiskModel> moments{disk};
@@ -135,8 +136,8 @@ void tst_ConfStoragePowerLoss::modelLosesWhatWasNotSynced()
     call(Kind::Truncate, "a", 0, {});
     call(Kind::Write, "a", 0, "ne");
     // Nothing arrived, the cut, the text, both.
-    QCOMPARE(look(), (std::vector<Folder>{{{"a", "old"}}, {{"a", ""}}, {{"a", "ned"}},
-                                          {{"a", "ne"}}}));
+    QCOMPARE(look(),
+             (std::vector<Folder>{{{"a", "old"}}, {{"a", ""}}, {{"a", "ned"}}, {{"a", "ne"}}}));
     QCOMPARE(disk.visible(), (Folder{{"a", "ne"}}));
     call(Kind::Sync, "a", 0, {});
     QCOMPARE(look(), (std::vector<Folder>{{{"a", "ne"}}}));
@@ -164,7 +165,8 @@ void tst_ConfStoragePowerLoss::saveSurvives()
         const int found = numberIn(folder);
         QVERIFY2(found == before || found == 2, qPrintable(QString::number(found)));
     };
-    watch(disk, [] { save(2); }, [&] { disk.eachLoss(check); });
+    watch(
+        disk, [] { save(2); }, [&] { disk.eachLoss(check); });
     // What was reported as saved stays saved.
     disk.eachLoss([&](const Folder &folder) {
         QCOMPARE(numberIn(folder), 2);
@@ -187,12 +189,14 @@ void tst_ConfStoragePowerLoss::secondSaveSurvives()
     QFETCH(int, second);
     const LogCapture log;
     DiskModel disk(SavedSettings::folder(), start(1));
-    watch(disk, [] { save(2); }, [] {});
+    watch(
+        disk, [] { save(2); }, [] {});
     const auto check = [&](const Folder &folder) {
         const int found = numberIn(folder);
         QVERIFY2(found == 2 || found == second, qPrintable(QString::number(found)));
     };
-    watch(disk, [=] { save(second); }, [&] { disk.eachLoss(check); });
+    watch(
+        disk, [=] { save(second); }, [&] { disk.eachLoss(check); });
     disk.eachLoss([&](const Folder &folder) { QCOMPARE(numberIn(folder), second); });
 }
 
@@ -224,12 +228,15 @@ void tst_ConfStoragePowerLoss::recoverySurvives()
         if (expected == 2)
             recovering.eachLoss([](const Folder &folder) { QCOMPARE(numberIn(folder), 2); });
     };
-    watch(disk, [] { save(2); }, [&] {
-        if (powerLost)
-            disk.eachLoss([&](const Folder &f) { recover(DiskModel(SavedSettings::folder(), f)); });
-        else
-            recover(disk);
-    });
+    watch(
+        disk, [] { save(2); },
+        [&] {
+            if (powerLost)
+                disk.eachLoss(
+                    [&](const Folder &f) { recover(DiskModel(SavedSettings::folder(), f)); });
+            else
+                recover(disk);
+        });
     log.reset();
     qInfo("%d recoveries, %d states after a loss of power", recoveries, losses);
     QVERIFY2(recoveries > 5, qPrintable(QString::number(recoveries)));
@@ -252,7 +259,8 @@ void tst_ConfStoragePowerLoss::everySyncOfASaveIsNeeded()
     const LogCapture log;
     int lost = 0;
     DiskModel disk(SavedSettings::folder(), start(1));
-    watch(disk, [] { save(2); }, [&] { lost += lossesOf(disk); }, ignoredSync(suffix, nth));
+    watch(
+        disk, [] { save(2); }, [&] { lost += lossesOf(disk); }, ignoredSync(suffix, nth));
     QVERIFY(lost > 0);
 }
 
@@ -272,10 +280,13 @@ void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded()
     const LogCapture log;
     int lost = 0;
     DiskModel disk(SavedSettings::folder(), start(1));
-    watch(disk, [] { save(2); }, [&] {
-        DiskModel recovering = disk;
-        watch(recovering, load, [&] { lost += lossesOf(recovering); }, ignoredSync(suffix, nth));
-    });
+    watch(
+        disk, [] { save(2); },
+        [&] {
+            DiskModel recovering = disk;
+            watch(
+                recovering, load, [&] { lost += lossesOf(recovering); }, ignoredSync(suffix, nth));
+        });
     QVERIFY(lost > 0);
 }
 

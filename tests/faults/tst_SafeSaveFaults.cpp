@@ -56,9 +56,7 @@ void tst_SafeSaveFaults::safeSaveReportsEveryFault_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<int>("loaded"); // what a run that follows the failure finds
     const auto row = [](const char *name, const OneFault &fault, const QString &message,
-                        int loaded) {
-        QTest::newRow(name) << fault << message << loaded;
-    };
+                        int loaded) { QTest::newRow(name) << fault << message << loaded; };
     row("no permission", failing(Kind::Open, ".json", 0, EACCES), sOpenFailed, 1);
     row("interrupted opening", interrupted(Kind::Open, ".json"), sSaved, 2);
     row("disk error at reading", failing(Kind::Read, ".json", 0, EIO), sSaved, 2);

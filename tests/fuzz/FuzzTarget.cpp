@@ -28,8 +28,8 @@ void expect(bool holds, const char *what, const QByteArray &found, const QByteAr
 {
     if (holds)
         return;
-    std::fprintf(stderr, "does not hold: %s\nfound:    %s\nexpected: %s\n", what,
-                 found.constData(), expected.constData());
+    std::fprintf(stderr, "does not hold: %s\nfound:    %s\nexpected: %s\n", what, found.constData(),
+                 expected.constData());
     std::abort();
 }
 

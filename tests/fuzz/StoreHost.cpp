@@ -31,7 +31,8 @@ StoreHost::StoreHost(const StoreDeclarations &declarations) : mDeclarations(decl
         ConfStorage::DynamicConfClass cls;
         cls.prefix = family.prefix;
         cls.flags = family.flags;
-        cls.creator = [this, reserves = family.reserves](const QString &key, const QJsonValue *value) {
+        cls.creator = [this, reserves = family.reserves](const QString &key,
+                                                         const QJsonValue *value) {
             if (!reserves)
                 return;
             QJsonObject &variable = mDynamic[key];

@@ -23,7 +23,7 @@ struct StoreDeclarations
     {
         QString prefix;
         quint32 flags;
-        bool reserves;  ///< the creator does its work
+        bool reserves; ///< the creator does its work
     };
     std::vector<Setting> settings;
     std::vector<Family> families;
@@ -50,8 +50,8 @@ public:
     bool isDeclared(const QString &key) const;
 
     ConfStorage store;
-    QMap<QString, int> calls;               ///< how often each key's callback was called
-    std::function<void(QString)> onChange;  ///< called by each of them
+    QMap<QString, int> calls;              ///< how often each key's callback was called
+    std::function<void(QString)> onChange; ///< called by each of them
 
 private:
     void install(const QString &key);

@@ -60,8 +60,8 @@ void expectNamedVariablesOnly(const std::map<QString, StoreHost::Variable> &befo
         expect(named.contains(key), "a variable changes under its key only", key.toUtf8());
         // Of dynamic keys the class says whether they are local, not the record.
         const bool local = host.store.mConfMetas.value(key).flags & ConfStorage::FlagLocalOnly;
-        expect(!local || host.store.findDynamicConfClass(key) || type == ConfStorage::LoadLocal, "a local setting stays local",
-               key.toUtf8());
+        expect(!local || host.store.findDynamicConfClass(key) || type == ConfStorage::LoadLocal,
+               "a local setting stays local", key.toUtf8());
     }
 }
 
@@ -124,7 +124,8 @@ QJsonObject portablePart(const StoreHost &host, const StoreHost &other)
         const quint32 declaredFlags = other.store.mConfMetas.value(it.key()).flags;
         const bool isReplaced = declared != other.store.mConfValues.constEnd()
                                 && (declared->mType != it->mType
-                                    || ((declaredFlags ^ meta.flags) & ~ConfStorage::FlagIsDefault));
+                                    || ((declaredFlags ^ meta.flags)
+                                        & ~ConfStorage::FlagIsDefault));
         if ((isDynamic && (isLost || isEmpty || isReplaced)) || !isReadBack(*it)) {
             dump.remove(it.key());
             dump.remove(addSysMark(it.key()));

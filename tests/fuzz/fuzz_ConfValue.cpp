@@ -70,7 +70,8 @@ template<class T> void check(const QJsonValue &json)
     bound.loadFromJsonValue(json);
     owned.loadFromJsonValue(json);
     if (json.isNull() || json.isUndefined()) {
-        expect(bound.mType == ConfValue::TyNone && variable == T(), "null unbinds and writes nothing");
+        expect(bound.mType == ConfValue::TyNone && variable == T(),
+               "null unbinds and writes nothing");
         return;
     }
     expect(bound.mIsPtr && bound.mType == ConfValue::typeOf<T>(), "a bound value stays bound");

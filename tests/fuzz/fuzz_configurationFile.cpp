@@ -116,11 +116,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     expect(ConfStorage::instance()->mConfMetas.size() == 6, "no unknown key has a record");
 
     // Loading again: each key is a change once more, to the value that it has.
-    const QByteArray dumped = QJsonDocument(ConfStorage::instance()->dumpConf(
-        ConfStorage::DumpChangedOnly)).toJson();
+    const QByteArray dumped =
+        QJsonDocument(ConfStorage::instance()->dumpConf(ConfStorage::DumpChangedOnly)).toJson();
     sHost->manager._loadFromFile(sPath);
-    const QByteArray again = QJsonDocument(ConfStorage::instance()->dumpConf(
-        ConfStorage::DumpChangedOnly)).toJson();
+    const QByteArray again =
+        QJsonDocument(ConfStorage::instance()->dumpConf(ConfStorage::DumpChangedOnly)).toJson();
     expect(again == dumped, "loading again changes no value", again, dumped);
     return 0;
 }

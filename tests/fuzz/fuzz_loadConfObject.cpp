@@ -7,8 +7,8 @@ namespace {
 
 QString randomKey(ByteReader &bytes)
 {
-    static const QStringList sKeys{"a",   "b",   "Group.c", "p",   "p.1", "p.2", "p.1.x",
-                                   "q.1", "q.2", "",        "p.#", "a#s.mac"};
+    static const QStringList sKeys{"a",     "b",   "Group.c", "p", "p.1", "p.2",
+                                   "p.1.x", "q.1", "q.2",     "",  "p.#", "a#s.mac"};
     return bytes.flag() ? bytes.oneOf(sKeys) : bytes.text(6);
 }
 

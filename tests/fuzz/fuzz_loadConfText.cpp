@@ -9,8 +9,8 @@ namespace {
 StoreDeclarations declarations()
 {
     StoreDeclarations all;
-    const QStringList keys{"None", "Color", "Int", "Real", "Bool", "Text", "Font", "Keys", "Object",
-                           "Array"};
+    const QStringList keys{"None", "Color", "Int",  "Real",   "Bool",
+                           "Text", "Font",  "Keys", "Object", "Array"};
     for (int type = 1; type <= 9; ++type)
         all.settings.push_back({keys.at(type), static_cast<ConfValue::ConfType>(type), 0});
     all.settings.push_back({"Marked", ConfValue::TyInt32, ConfStorage::FlagSystemIndependent});

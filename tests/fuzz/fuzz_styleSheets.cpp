@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr double sScales[] = {1, 1.5, 2, 0.75, 0, -3, 1e30, std::numeric_limits<double>::quiet_NaN()};
+constexpr double sScales[] = {1, 1.5, 2,    0.75,
+                              0, -3,  1e30, std::numeric_limits<double>::quiet_NaN()};
 
 /// How long the "SCA(n)" that begins at `start` is; 0 where there is none.
 int macroLength(const QString &text, int start)
@@ -67,9 +68,10 @@ void checkTheme(const QString &sheet, double scale)
     if (usable && scale < 10 && !sheet.contains("/*") && !sheet.contains('\\')) {
         const QString value = QString::number(static_cast<int>(std::floor(8 * scale + 0.5)));
         expect(theme->expandMacros(sheet + rule, scale)
-                   .endsWith("\n}b { width: " + value + "px; color: "
-                             + theme->value("ColorMain") + "; }"),
-               "a rule behind anything is expanded", theme->expandMacros(sheet + rule, scale).toUtf8());
+                   .endsWith("\n}b { width: " + value + "px; color: " + theme->value("ColorMain")
+                             + "; }"),
+               "a rule behind anything is expanded",
+               theme->expandMacros(sheet + rule, scale).toUtf8());
     }
 }
 

@@ -1,5 +1,5 @@
-// The content of the file in which the settings window keeps its place: the input as it is, or behind
-// a "~" the pieces that its bytes choose.
+// The content of the file in which the settings window keeps its place: the input as it is, or
+// behind a "~" the pieces that its bytes choose.
 #include "ByteReader.h"
 #include "FuzzTarget.h"
 
@@ -15,8 +15,8 @@ namespace {
 /// The rectangle of a file that holds nothing else, as the window writes it.
 bool readPlain(const QByteArray &content, QRect *geometry)
 {
-    static const QRegularExpression sPlain(
-        "\\A\\[General\\]\nGeometry=@Rect\\((-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5})\\)\n\\z");
+    static const QRegularExpression sPlain("\\A\\[General\\]\nGeometry=@Rect\\((-?\\d{1,5}) "
+                                           "(-?\\d{1,5}) (-?\\d{1,5}) (-?\\d{1,5})\\)\n\\z");
     const auto match = sPlain.match(QString::fromLatin1(content.constData(), content.size()));
     if (match.hasMatch())
         *geometry = QRect(match.captured(1).toInt(), match.captured(2).toInt(),
@@ -27,11 +27,46 @@ bool readPlain(const QByteArray &content, QRect *geometry)
 /// Text around the values that end the process, which plain mutation seldom hits.
 QByteArray composed(const QByteArray &choices)
 {
-    static const QByteArray sPieces[] = {
-        "x=", "@", "Variant", "DateTime", "(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)", "\"", " ", "\t", "\n",
-        "\r\n", "\\", "\\\n", "\\x40", "\\x56", "\\x0056", "\\x10040", "\\100", "\\126", "\\104",
-        "\\x44", "\\a", "\\8", "\\\"", ",", ";", "[S]\n", "ariant", "V", "D", "ateTime", "@@",
-        QByteArray(1, '\0'), "\xe9", "\\x144", "Geometry=@Rect(1 2 3 4)", "%40", "(", ")", "\v", "\xa0"};
+    static const QByteArray sPieces[] = {"x=",
+                                         "@",
+                                         "Variant",
+                                         "DateTime",
+                                         "(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)",
+                                         "\"",
+                                         " ",
+                                         "\t",
+                                         "\n",
+                                         "\r\n",
+                                         "\\",
+                                         "\\\n",
+                                         "\\x40",
+                                         "\\x56",
+                                         "\\x0056",
+                                         "\\x10040",
+                                         "\\100",
+                                         "\\126",
+                                         "\\104",
+                                         "\\x44",
+                                         "\\a",
+                                         "\\8",
+                                         "\\\"",
+                                         ",",
+                                         ";",
+                                         "[S]\n",
+                                         "ariant",
+                                         "V",
+                                         "D",
+                                         "ateTime",
+                                         "@@",
+                                         QByteArray(1, '\0'),
+                                         "\xe9",
+                                         "\\x144",
+                                         "Geometry=@Rect(1 2 3 4)",
+                                         "%40",
+                                         "(",
+                                         ")",
+                                         "\v",
+                                         "\xa0"};
     ByteReader bytes(choices);
     QByteArray text;
     while (!bytes.atEnd())

@@ -84,8 +84,9 @@ void tst_ConfItem::nullVariableReservesNothing()
 {
     const LogCapture log;
     const ConfItem made = item(nullptr, "Size");
-    QCOMPARE(log.texts(QtCriticalMsg),
-             QStringList{QStringLiteral("ConfStorage::reserveConf null pointer:  \"General.Size\"")});
+    QCOMPARE(
+        log.texts(QtCriticalMsg),
+        QStringList{QStringLiteral("ConfStorage::reserveConf null pointer:  \"General.Size\"")});
     QVERIFY(store()->mConfValues.isEmpty());
     QVERIFY(made.isDefaultValue());
     made.restoreDefault();
@@ -97,11 +98,21 @@ void tst_ConfItem::getFullName_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("subName");
     QTest::addColumn<QString>("fullName");
-    QTest::newRow("two parts") << "Hotkey" << "" << "General.Hotkey";
-    QTest::newRow("three parts") << "Hotkey" << "Left" << "General.Hotkey.Left";
-    QTest::newRow("empty name keeps its full stop") << "" << "" << "General.";
-    QTest::newRow("empty name with sub-name") << "" << "Left" << "General..Left";
-    QTest::newRow("full stops are not escaped") << "A.B" << "C" << "General.A.B.C";
+    QTest::newRow("two parts") << "Hotkey"
+                               << ""
+                               << "General.Hotkey";
+    QTest::newRow("three parts") << "Hotkey"
+                                 << "Left"
+                                 << "General.Hotkey.Left";
+    QTest::newRow("empty name keeps its full stop") << ""
+                                                    << ""
+                                                    << "General.";
+    QTest::newRow("empty name with sub-name") << ""
+                                              << "Left"
+                                              << "General..Left";
+    QTest::newRow("full stops are not escaped") << "A.B"
+                                                << "C"
+                                                << "General.A.B.C";
 }
 
 void tst_ConfItem::getFullName()
@@ -121,7 +132,10 @@ void tst_ConfItem::copyKeepsEveryField()
     original.properties.insert(QStringLiteral("MaxValue"), 5);
     original.subConfs.insert(QStringLiteral("sub"), item(&value, "Sub"));
     int calls = 0;
-    original.widgetCreator = [&](ConfItem *, QWidget *) { ++calls; return nullptr; };
+    original.widgetCreator = [&](ConfItem *, QWidget *) {
+        ++calls;
+        return nullptr;
+    };
     original.auxCallback = [&](QJsonValue, ConfItem *) { ++calls; };
 
     ConfItem copy = original;
@@ -139,7 +153,9 @@ void tst_ConfItem::copyKeepsEveryField()
 void tst_ConfItem::destructionKeepsTheKey()
 {
     int value = 3;
-    { item(&value, "Size"); }
+    {
+        item(&value, "Size");
+    }
     QCOMPARE(store()->get<int>(QStringLiteral("General.Size")), 3);
 }
 
@@ -223,7 +239,8 @@ void tst_ConfItem::restoreDefault_survivesACallbackThatTakesTheItemAway()
     items.first().subConfs.insert(QStringLiteral("sub"), item(&subValue, "Sub"));
     store()->set<int>(QStringLiteral("General.Size"), 5);
     store()->set<int>(QStringLiteral("General.Sub"), 5);
-    items.first().setConfChangedCallback([&](const QString &, const ConfValue *) { items.clear(); });
+    items.first().setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { items.clear(); });
     items.at(0).restoreDefault();
     QVERIFY(items.isEmpty());
     QCOMPARE(value, 1);

@@ -14,8 +14,8 @@
 #include <QComboBox>
 #include <QSignalSpy>
 
-using MtConf::ConfItem;
 using MtConf::ConfigItemWidget;
+using MtConf::ConfItem;
 using MtConf::MtConfManage;
 
 class tst_MtConfManage : public QObject
@@ -217,9 +217,10 @@ void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue()
     MtConfManage *manager = makeManager();
     const QList<const char *> labels{"low", "middle", "high"};
     ConfItem *item = values.isEmpty()
-        ? manager->addConfInt32WithCombobox("Quality", labels, &stored, "Output", "Quality")
-        : manager->addConfInt32WithCombobox("Quality", labels, values, &stored, "Output",
-                                            "Quality");
+                         ? manager->addConfInt32WithCombobox("Quality", labels, &stored, "Output",
+                                                             "Quality")
+                         : manager->addConfInt32WithCombobox("Quality", labels, values, &stored,
+                                                             "Output", "Quality");
     const std::unique_ptr<ConfigItemWidget> editor(item->widgetCreator(item, &mParent));
     auto *box = editor->findChild<QComboBox *>();
     QCOMPARE(box->currentText(), QString("middle"));
@@ -284,8 +285,8 @@ void tst_MtConfManage::getItemByName_data()
     QTest::newRow("empty name") << QStringList{"General", "", ""} << "General.";
     QTest::newRow("other case") << QStringList{"general", "Hotkey", ""} << QString();
     QTest::newRow("unknown sub-name") << QStringList{"General", "Hotkey", "Up"} << QString();
-    QTest::newRow("same key text, other names") << QStringList{"General", "Hotkey.Left", ""}
-                                                << QString();
+    QTest::newRow("same key text, other names")
+        << QStringList{"General", "Hotkey.Left", ""} << QString();
     QTest::newRow("nothing") << QStringList{"", "", ""} << QString();
 }
 
@@ -388,8 +389,14 @@ void tst_MtConfManage::setMajorWidget_replacesTheFactory()
 {
     MtConfManage *manager = makeManager();
     int called = 0;
-    manager->setMajorWidget("Page", [&](QWidget *) { called = 1; return nullptr; });
-    manager->setMajorWidget("Page", [&](QWidget *) { called = 2; return nullptr; });
+    manager->setMajorWidget("Page", [&](QWidget *) {
+        called = 1;
+        return nullptr;
+    });
+    manager->setMajorWidget("Page", [&](QWidget *) {
+        called = 2;
+        return nullptr;
+    });
     manager->getMajorConfItemByName("Page")->majorWidget(nullptr);
     QCOMPARE(called, 2);
     manager->setMajorWidget("Page", nullptr);

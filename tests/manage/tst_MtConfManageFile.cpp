@@ -77,18 +77,30 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("reached");
-    QTest::newRow("two parts") << "General.Hotkey" << "General.Hotkey";
-    QTest::newRow("three parts") << "General.Hotkey.Left" << "General.Hotkey.Left";
-    QTest::newRow("four parts are skipped") << "General.A.B.C" << "";
-    QTest::newRow("name with a full stop is out of reach") << "General.D.E" << "";
-    QTest::newRow("and so is one at its end") << "General.F." << "";
-    QTest::newRow("one part is skipped") << "General" << "";
-    QTest::newRow("full stop at the end is an empty name") << "General." << "General.";
-    QTest::newRow("empty third part is no sub-name") << "General.Hotkey." << "General.Hotkey";
-    QTest::newRow("unknown item") << "General.Nothing" << "";
-    QTest::newRow("other case") << "general.hotkey" << "";
-    QTest::newRow("no key at all") << "" << "";
-    QTest::newRow("only full stops") << ".." << "";
+    QTest::newRow("two parts") << "General.Hotkey"
+                               << "General.Hotkey";
+    QTest::newRow("three parts") << "General.Hotkey.Left"
+                                 << "General.Hotkey.Left";
+    QTest::newRow("four parts are skipped") << "General.A.B.C"
+                                            << "";
+    QTest::newRow("name with a full stop is out of reach") << "General.D.E"
+                                                           << "";
+    QTest::newRow("and so is one at its end") << "General.F."
+                                              << "";
+    QTest::newRow("one part is skipped") << "General"
+                                         << "";
+    QTest::newRow("full stop at the end is an empty name") << "General."
+                                                           << "General.";
+    QTest::newRow("empty third part is no sub-name") << "General.Hotkey."
+                                                     << "General.Hotkey";
+    QTest::newRow("unknown item") << "General.Nothing"
+                                  << "";
+    QTest::newRow("other case") << "general.hotkey"
+                                << "";
+    QTest::newRow("no key at all") << ""
+                                   << "";
+    QTest::newRow("only full stops") << ".."
+                                     << "";
 }
 
 void tst_MtConfManageFile::keysReachItemsByTheirParts()
@@ -106,7 +118,7 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts()
     mManager->_loadFromFile(path());
     const QMap<QString, int> values{{"General.Hotkey", two}, {"General.Hotkey.Left", three},
                                     {"General.A.B.C", four}, {"General.D.E", dotted},
-                                    {"General.F.", dots}, {"General.", empty}};
+                                    {"General.F.", dots},    {"General.", empty}};
     QTEST(values.key(7), "reached");
     QVERIFY(log.messages().isEmpty());
 }
@@ -217,7 +229,7 @@ void tst_MtConfManageFile::firstOfTwoItemsWithTheSameNamesIsLoaded()
     writeFile(QJsonObject{
         {"General.Twice", QJsonObject{{"value", 3}, {"subConf", QJsonObject{{"sub", 4}}}}}});
     mManager->_loadFromFile(path());
-    QCOMPARE(sub, 4); // only the first one has a sub-item
+    QCOMPARE(sub, 4);    // only the first one has a sub-item
     QCOMPARE(second, 3); // the key belongs to the variable that was declared last
 }
 
@@ -235,9 +247,8 @@ void tst_MtConfManageFile::itemDeclaredByACallbackIsFoundInTheSameFile()
 void tst_MtConfManageFile::itemsRemovedByACallbackAreNoLongerFound()
 {
     int a = 0, z = 0;
-    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager->items.clear();
-    });
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager->items.clear(); });
     declare(&z, "z");
     writeFile(QJsonObject{{"General.a", 1}, {"General.z", 2}});
     mManager->_loadFromFile(path());
@@ -273,9 +284,8 @@ void tst_MtConfManageFile::replacedItemIsFoundWithoutLookingForTheOldOneFirst()
 void tst_MtConfManageFile::itemsReorderedByACallbackAreFound()
 {
     int a = 0, y = 0, z = 0;
-    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager->items.swapItemsAt(1, 2);
-    });
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager->items.swapItemsAt(1, 2); });
     declare(&y, "y");
     declare(&z, "z");
     writeFile(QJsonObject{{"General.a", 1}, {"General.y", 2}, {"General.z", 3}});
@@ -316,9 +326,8 @@ void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
 {
     int a = 0, y = 0, z = 0;
     QList<ConfItem> others{ConfItem(&a, "General", "x", ""), ConfItem(&z, "General", "z", "")};
-    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager->items.swap(others);
-    });
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager->items.swap(others); });
     declare(&y, "y");
     writeFile(QJsonObject{{"General.a", 1}, {"General.y", 2}, {"General.z", 3}});
     mManager->_loadFromFile(path());
@@ -329,9 +338,8 @@ void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
 void tst_MtConfManageFile::managerMayBeDestroyedByACallbackOfALoad()
 {
     int a = 0, z = 0;
-    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager.reset();
-    });
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager.reset(); });
     declare(&z, "z");
     writeFile(QJsonObject{{"General.a", 1}, {"General.z", 2}});
     mManager->loadFromFile(path());
@@ -407,9 +415,8 @@ void tst_MtConfManageFile::restoreAllDefault_survivesAHookThatReplacesItself()
 void tst_MtConfManageFile::restoreAllDefault_survivesACallbackThatEmptiesTheList()
 {
     int a = 1, b = 2;
-    declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mManager->items.clear();
-    });
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager->items.clear(); });
     declare(&b, "b");
     ConfStorage::instance()->mConfMetas["General.a"].flags = 0;
     ConfStorage::instance()->set<int>("General.b", 20);

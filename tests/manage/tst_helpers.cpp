@@ -14,7 +14,7 @@ QString writeFile(const QString &name, const QByteArray &content)
 {
     QFile file(name);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? name
-                                                                                     : QString();
+                                                                                    : QString();
 }
 
 } // namespace
@@ -44,15 +44,38 @@ void tst_helpers::getIndexName_data()
     QTest::addColumn<QString>("b");
     QTest::addColumn<QString>("c");
     QTest::addColumn<QString>("name");
-    QTest::newRow("three components") << "General" << "Hotkey" << "Left" << "General.Hotkey.Left";
-    QTest::newRow("two components") << "General" << "Hotkey" << "" << "General.Hotkey";
-    QTest::newRow("one component has no full stop") << "General" << "" << "" << "General";
-    QTest::newRow("empty middle keeps its full stop") << "General" << "" << "Left"
+    QTest::newRow("three components") << "General"
+                                      << "Hotkey"
+                                      << "Left"
+                                      << "General.Hotkey.Left";
+    QTest::newRow("two components") << "General"
+                                    << "Hotkey"
+                                    << ""
+                                    << "General.Hotkey";
+    QTest::newRow("one component has no full stop") << "General"
+                                                    << ""
+                                                    << ""
+                                                    << "General";
+    QTest::newRow("empty middle keeps its full stop") << "General"
+                                                      << ""
+                                                      << "Left"
                                                       << "General..Left";
-    QTest::newRow("nothing") << "" << "" << "" << "";
-    QTest::newRow("only the last") << "" << "" << "c" << "..c";
-    QTest::newRow("only the middle") << "" << "b" << "" << ".b";
-    QTest::newRow("full stops are not escaped") << "a.b" << "c" << "" << "a.b.c";
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << ""
+                             << "";
+    QTest::newRow("only the last") << ""
+                                   << ""
+                                   << "c"
+                                   << "..c";
+    QTest::newRow("only the middle") << ""
+                                     << "b"
+                                     << ""
+                                     << ".b";
+    QTest::newRow("full stops are not escaped") << "a.b"
+                                                << "c"
+                                                << ""
+                                                << "a.b.c";
 }
 
 void tst_helpers::getIndexName()
@@ -87,8 +110,7 @@ void tst_helpers::unreadableFileIsLogged()
     QVERIFY(readJsonFromFile(QStringLiteral("folder")).isNull());
     QCOMPARE(log.messages().size(), 1);
     QCOMPARE(log.messages().first().level, QtCriticalMsg);
-    QCOMPARE(log.messages().first().text,
-             QStringLiteral("can't open config file \"folder\""));
+    QCOMPARE(log.messages().first().text, QStringLiteral("can't open config file \"folder\""));
 }
 
 void tst_helpers::whatReadingMightNeverEndIsUnreadable_data()
@@ -106,8 +128,9 @@ void tst_helpers::whatReadingMightNeverEndIsUnreadable()
     QFile::link("/dev/zero", "link");
     const LogCapture log;
     QVERIFY(readJsonFromFile(path).isNull());
-    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtCriticalMsg,
-        QString("can't open config file \"%1\"").arg(path)}}));
+    QCOMPARE(log.messages(),
+             QList<LoggedMessage>(
+                 {{QtCriticalMsg, QString("can't open config file \"%1\"").arg(path)}}));
 }
 
 void tst_helpers::fileBeyondAllMemoryIsUnreadable()
@@ -150,7 +173,8 @@ void tst_helpers::fileIsReadAsUtf8()
 
 void tst_helpers::lineEndsOfAnotherSystemAreRead()
 {
-    const QString path = writeFile(QStringLiteral("crlf.json"), "\xef\xbb\xbf{\r\n\"a\": 1\r\n}\r\n");
+    const QString path = writeFile(QStringLiteral("crlf.json"),
+                                   "\xef\xbb\xbf{\r\n\"a\": 1\r\n}\r\n");
     QCOMPARE(readJsonFromFile(path).object().value(QLatin1String("a")).toInt(), 1);
 }
 

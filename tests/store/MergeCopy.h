@@ -20,8 +20,8 @@ inline std::ostream &operator<<(std::ostream &out, MergeSystem system)
 }
 
 /// One copy of the configuration: a store of its own with the variables of a host, the keys of
-/// `mergeKeys`, and a clock that the test sets. Fake seconds must lie before the year 2020: what the
-/// store stamps with the real clock is recognised by being later.
+/// `mergeKeys`, and a clock that the test sets. Fake seconds must lie before the year 2020: what
+/// the store stamps with the real clock is recognised by being later.
 class MergeCopy
 {
 public:
@@ -89,8 +89,8 @@ public:
                 cell.value = mergeKeys[key].dynamic ? mEntries.at(name(key)).value("n").toInt()
                                                     : mNumbers[key];
             const QDateTime time = mStore->mConfMetas.contains(name(key))
-                ? mStore->mConfMetas[name(key)].lastChangeTime
-                : mStore->mRemovedDynamicConfs.value(name(key));
+                                       ? mStore->mConfMetas[name(key)].lastChangeTime
+                                       : mStore->mRemovedDynamicConfs.value(name(key));
             if (time.isValid())
                 cell.time = time.toSecsSinceEpoch();
         }

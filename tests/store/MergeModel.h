@@ -11,10 +11,10 @@
 struct MergeKey
 {
     const char *name;
-    bool dynamic;                     ///< comes and goes at run time
-    bool system;                      ///< each operating system keeps a value of its own
-    bool local;                       ///< never leaves its copy
-    std::optional<int> defaultValue;  ///< of an ordinary key; of a dynamic one its preset, if any
+    bool dynamic;                    ///< comes and goes at run time
+    bool system;                     ///< each operating system keeps a value of its own
+    bool local;                      ///< never leaves its copy
+    std::optional<int> defaultValue; ///< of an ordinary key; of a dynamic one its preset, if any
 };
 
 constexpr std::array<MergeKey, 10> mergeKeys{{
@@ -34,8 +34,8 @@ constexpr std::array<MergeKey, 10> mergeKeys{{
 struct MergeCell
 {
     bool present = false;
-    int value = 0;                ///< 0 when not present
-    std::optional<qint64> time;   ///< second of the last change or removal, if there was one
+    int value = 0;              ///< 0 when not present
+    std::optional<qint64> time; ///< second of the last change or removal, if there was one
 
     bool operator==(const MergeCell &other) const
     {
@@ -96,7 +96,7 @@ public:
             if (!info.dynamic)
                 continue;
             const bool inClass = info.system == mergeKeys[ofKey].system
-                && info.local == mergeKeys[ofKey].local;
+                                 && info.local == mergeKeys[ofKey].local;
             if (info.defaultValue && (inClass || !mState[key].present))
                 restore(key, now);
             else if (inClass)
@@ -154,6 +154,7 @@ private:
     }
 
     MergeState mState;
-    // A value set to exactly its default is a change; restoring what is known to be the default is not.
+    // A value set to exactly its default is a change; restoring what is known to be the default is
+    // not.
     std::array<bool, mergeKeys.size()> mKnownDefault{};
 };

@@ -12,16 +12,16 @@ struct MergeStep
     enum Kind { Set, Restore, Create, Remove, RestoreClass, Restart, Export, Import };
 
     Kind kind = Set;
-    int copy = 0;   ///< where it happens; counted modulo the number of copies
-    int key = 0;    ///< position in `mergeKeys`
-    int value = 0;  ///< to set; for an import, which of the dumps exported so far
-    int clock = 0;  ///< what the copy's clock shows; clocks may go wrong and back
+    int copy = 0;  ///< where it happens; counted modulo the number of copies
+    int key = 0;   ///< position in `mergeKeys`
+    int value = 0; ///< to set; for an import, which of the dumps exported so far
+    int clock = 0; ///< what the copy's clock shows; clocks may go wrong and back
 };
 
 inline std::ostream &operator<<(std::ostream &out, const MergeStep &step)
 {
-    static const char *const sNames[] = {"set", "restore", "create", "remove", "restore class",
-                                         "restart", "export", "import"};
+    static const char *const sNames[] = {"set",           "restore", "create", "remove",
+                                         "restore class", "restart", "export", "import"};
     return out << sNames[step.kind] << " copy " << step.copy << ' '
                << mergeKeys[size_t(step.key)].name << " value " << step.value << " clock "
                << step.clock;
@@ -29,8 +29,8 @@ inline std::ostream &operator<<(std::ostream &out, const MergeStep &step)
 
 /// How steps get their seconds from their clocks.
 enum class MergeTimes {
-    Unique,  ///< no two changes bear the same second
-    Tied     ///< three seconds for everything
+    Unique, ///< no two changes bear the same second
+    Tied    ///< three seconds for everything
 };
 
 inline std::ostream &operator<<(std::ostream &out, MergeTimes times)
@@ -42,8 +42,7 @@ inline std::ostream &operator<<(std::ostream &out, MergeTimes times)
 class MergeWorld
 {
 public:
-    explicit MergeWorld(const std::vector<MergeSystem> &systems, MergeTimes times)
-        : mTimes(times)
+    explicit MergeWorld(const std::vector<MergeSystem> &systems, MergeTimes times) : mTimes(times)
     {
         for (const MergeSystem system : systems)
             mCopies.push_back(std::make_unique<MergeCopy>(system));
@@ -86,12 +85,8 @@ public:
             if (dynamic)
                 both(copy, model, [&](auto &it) { it.restoreClass(key, now); });
             break;
-        case MergeStep::Restart:
-            both(copy, model, [](auto &it) { it.restart(); });
-            break;
-        case MergeStep::Export:
-            mExports.push_back({copy.dump(), model, copy.system()});
-            break;
+        case MergeStep::Restart: both(copy, model, [](auto &it) { it.restart(); }); break;
+        case MergeStep::Export: mExports.push_back({copy.dump(), model, copy.system()}); break;
         case MergeStep::Import:
             if (!mExports.empty())
                 load(index, mExports[size_t(step.value) % mExports.size()]);

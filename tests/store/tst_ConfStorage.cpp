@@ -49,9 +49,8 @@ private:
     void countCalls()
     {
         mCalls = 0;
-        mStore->setConfChangedCallback(key(), [this](const QString &, const ConfValue *) {
-            ++mCalls;
-        });
+        mStore->setConfChangedCallback(key(),
+                                       [this](const QString &, const ConfValue *) { ++mCalls; });
     }
 
     std::unique_ptr<ConfStorage> mStore;

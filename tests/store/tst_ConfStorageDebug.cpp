@@ -32,16 +32,18 @@ void tst_ConfStorageDebug::everyKeyHasItsRow()
     store.reserveConf("Sound", &sound);
     store.reserveConf("Delay", &delay);
     store.reserveConf("Format", &format);
-    store.mConfMetas["Delay"].flags |= ConfStorage::FlagSystemIndependent | ConfStorage::FlagLocalOnly;
+    store.mConfMetas["Delay"].flags |= ConfStorage::FlagSystemIndependent
+                                       | ConfStorage::FlagLocalOnly;
     store.loadConf(QJsonObject{{"Format", QJsonObject{{"v", "BMP"}, {"t", 1700000000}}}},
                    ConfStorage::LoadShared);
     store.mRemovedDynamicConfs["Tool.7"] = QDateTime::fromSecsSinceEpoch(1700000001, Qt::UTC);
-    QCOMPARE(store.debugTable(), QStringLiteral(
-        "KEY     VALUE  DEFAULT  STATE    CHANGED AT            FLAGS\n"
-        "Delay   3      3        -        -                     default,system,local\n"
-        "Format  \"BMP\"  \"PNG\"    changed  2023-11-14T22:13:20Z  -\n"
-        "Sound   true   true     -        -                     default\n"
-        "Tool.7  -      -        removed  2023-11-14T22:13:21Z  -\n"));
+    QCOMPARE(store.debugTable(),
+             QStringLiteral(
+                 "KEY     VALUE  DEFAULT  STATE    CHANGED AT            FLAGS\n"
+                 "Delay   3      3        -        -                     default,system,local\n"
+                 "Format  \"BMP\"  \"PNG\"    changed  2023-11-14T22:13:20Z  -\n"
+                 "Sound   true   true     -        -                     default\n"
+                 "Tool.7  -      -        removed  2023-11-14T22:13:21Z  -\n"));
 }
 
 void tst_ConfStorageDebug::keysWithoutValueOrRecordAreShown()
@@ -51,10 +53,10 @@ void tst_ConfStorageDebug::keysWithoutValueOrRecordAreShown()
     int number = 1;
     store.reserveConf("value", &number);
     store.mConfMetas.remove("value");
-    QCOMPARE(store.debugTable(), QStringLiteral(
-        "KEY     VALUE  DEFAULT  STATE  CHANGED AT  FLAGS\n"
-        "record  -      -        -      -           default\n"
-        "value   1      -        -      -           default\n"));
+    QCOMPARE(store.debugTable(),
+             QStringLiteral("KEY     VALUE  DEFAULT  STATE  CHANGED AT  FLAGS\n"
+                            "record  -      -        -      -           default\n"
+                            "value   1      -        -      -           default\n"));
 }
 
 void tst_ConfStorageDebug::hostileKeysAndLongValuesStayOnOneLine()
@@ -79,5 +81,8 @@ void tst_ConfStorageDebug::printingChangesNothing()
     QVERIFY(!store.mChanged);
 }
 
-int main(int argc, char **argv) { return runTest<tst_ConfStorageDebug>(argc, argv); }
+int main(int argc, char **argv)
+{
+    return runTest<tst_ConfStorageDebug>(argc, argv);
+}
 #include "tst_ConfStorageDebug.moc"

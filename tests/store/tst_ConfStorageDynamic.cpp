@@ -287,10 +287,10 @@ void tst_ConfStorageDynamic::merging_data()
     QTest::newRow("equal removal keeps the value") << true << removal(100) << 1 << qint64(100);
     QTest::newRow("older removal") << true << removal(99) << 1 << qint64(100);
     QTest::newRow("removed key, newer change") << false << change(101) << 2 << qint64(101);
-    QTest::newRow("removed key, equal change stays removed") << false << change(100) << 0
-                                                             << qint64(100);
-    QTest::newRow("removed key, older change stays removed") << false << change(99) << 0
-                                                             << qint64(100);
+    QTest::newRow("removed key, equal change stays removed")
+        << false << change(100) << 0 << qint64(100);
+    QTest::newRow("removed key, older change stays removed")
+        << false << change(99) << 0 << qint64(100);
     QTest::newRow("removed key, newer removal") << false << removal(101) << 0 << qint64(101);
     QTest::newRow("removed key, older removal") << false << removal(99) << 0 << qint64(100);
     QTest::newRow("removal goes before the other members")
@@ -379,7 +379,8 @@ void tst_ConfStorageDynamic::mergingIntoALocalOnlyClass()
     // Nor is a setting of the host among its keys taken from another copy.
     int size = 7;
     mCopy->store.reserveConf("P.size", &size);
-    mCopy->store.loadSingleConf("P.size", QJsonObject{{"t", 50}, {"v", 9}}, ConfStorage::LoadShared);
+    mCopy->store.loadSingleConf("P.size", QJsonObject{{"t", 50}, {"v", 9}},
+                                ConfStorage::LoadShared);
     QCOMPARE(size, 7);
 }
 

@@ -129,7 +129,8 @@ void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
     row("array", QJsonArray{1, "a", QJsonArray()}, R"([1,"a",[]])");
     row("object", QJsonObject{{"b", 1}, {"a", QJsonValue()}}, R"({"a":null,"b":1})");
     QTest::newRow("key with a quote") << "k\"" << QJsonValue(1) << QByteArray("1");
-    QTest::newRow("key of two bytes") << QString::fromUtf8("ключ") << QJsonValue(1) << QByteArray("1");
+    QTest::newRow("key of two bytes")
+        << QString::fromUtf8("ключ") << QJsonValue(1) << QByteArray("1");
 }
 
 void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump()
@@ -153,8 +154,9 @@ void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray written = file.readAll();
     QVERIFY2(written.endsWith(",\"v\":" + text + "}}"), written);
-    QCOMPARE(written, QJsonDocument(mStore->dumpConf(ConfStorage::DumpLocal))
-                          .toJson(QJsonDocument::Compact));
+    QCOMPARE(
+        written,
+        QJsonDocument(mStore->dumpConf(ConfStorage::DumpLocal)).toJson(QJsonDocument::Compact));
 }
 
 void tst_ConfStorageFile::unchangedStoreWritesNothing()
@@ -183,9 +185,10 @@ void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending()
     change(8, 100);
     const LogCapture log;
     mStore->saveToLocalConfFile();
-    QCOMPARE(log.texts(QtCriticalMsg),
-             QStringList(QString("ConfStorage::saveToLocalConfFile() open file failed:  \"%1\"")
-                             .arg(file)));
+    QCOMPARE(
+        log.texts(QtCriticalMsg),
+        QStringList(
+            QString("ConfStorage::saveToLocalConfFile() open file failed:  \"%1\"").arg(file)));
     QVERIFY(mStore->mChanged);
     mStore->mLocalSaveFile = path();
     mStore->saveToLocalConfFile();
@@ -276,9 +279,10 @@ void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
     mStore->loadLocalConfFile();
     QVERIFY(mStore->mLocalLoaded);
     QCOMPARE(mSize, 7);
-    QCOMPARE(log.messages(),
-             (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too large:  "
-                                                   "\"local.json\""}}));
+    QCOMPARE(
+        log.messages(),
+        (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too large:  "
+                                              "\"local.json\""}}));
     // A save makes it a usable file again, with and without the journal.
     for (const bool safely : {false, true}) {
         QVERIFY(QFile::resize(path(), qint64(1) << 36));

@@ -85,8 +85,8 @@ private:
 
 void tst_ConfStorageJson::untouchedStoreDumpsNothing()
 {
-    for (const auto type : {ConfStorage::DumpLocal, ConfStorage::DumpShared,
-                            ConfStorage::DumpChangedOnly})
+    for (const auto type :
+         {ConfStorage::DumpLocal, ConfStorage::DumpShared, ConfStorage::DumpChangedOnly})
         QCOMPARE(dumped(type), QJsonObject());
 }
 
@@ -97,12 +97,16 @@ void tst_ConfStorageJson::dump_data()
     const QJsonObject changed = entry(100, 10);
     const QJsonObject restored{{"t", 200}};
     QTest::newRow("local") << 0
-        << QJsonObject{{"a", changed}, {"b", restored}, {"local", entry(300, true)},
-                       {"sys#s.mac", entry(400, "x")}};
+                           << QJsonObject{{"a", changed},
+                                          {"b", restored},
+                                          {"local", entry(300, true)},
+                                          {"sys#s.mac", entry(400, "x")}};
     QTest::newRow("shared") << 1
-        << QJsonObject{{"a", changed}, {"b", restored}, {"sys#s.mac", entry(400, "x")}};
+                            << QJsonObject{
+                                   {"a", changed}, {"b", restored}, {"sys#s.mac", entry(400, "x")}};
     QTest::newRow("changed only") << 2
-        << QJsonObject{{"a", QJsonObject{{"v", 10}}}, {"sys#s.mac", QJsonObject{{"v", "x"}}}};
+                                  << QJsonObject{{"a", QJsonObject{{"v", 10}}},
+                                                 {"sys#s.mac", QJsonObject{{"v", "x"}}}};
 }
 
 void tst_ConfStorageJson::dump()
@@ -220,9 +224,12 @@ void tst_ConfStorageJson::membersLoadPastKeysThatOnlyOneSideKnows()
     mStore->reserveConf("c", &c);
     mStore->reserveConf("d", &d);
     mStore->mConfMetas.remove("c");
-    mStore->loadConf(QJsonObject{{"a", entry(100, 10)}, {"aa", entry(100, 11)},
-                                 {"c", entry(100, 30)}, {"d", entry(100, 40)},
-                                 {"e", entry(100, 50)}}, ConfStorage::LoadLocal);
+    mStore->loadConf(QJsonObject{{"a", entry(100, 10)},
+                                 {"aa", entry(100, 11)},
+                                 {"c", entry(100, 30)},
+                                 {"d", entry(100, 40)},
+                                 {"e", entry(100, 50)}},
+                     ConfStorage::LoadLocal);
     QCOMPARE((QList<int>{mA, mB, c, d}), (QList<int>{10, 2, 30, 40}));
     QCOMPARE(mStore->mConfMetas.keys(), (QStringList{"a", "b", "c", "d"}));
     QCOMPARE(mStore->mConfMetas["c"].lastChangeTime, at(100));
@@ -236,8 +243,8 @@ void tst_ConfStorageJson::loadedEntry_data()
     QTest::addColumn<int>("value");
     QTest::addColumn<qint64>("kept"); // seconds afterwards
     QTest::newRow("newer wins") << qint64(99) << QJsonValue(100) << 10 << qint64(100);
-    QTest::newRow("equal time keeps the store's value") << qint64(100) << QJsonValue(100) << 5
-                                                        << qint64(100);
+    QTest::newRow("equal time keeps the store's value")
+        << qint64(100) << QJsonValue(100) << 5 << qint64(100);
     QTest::newRow("older loses") << qint64(101) << QJsonValue(100) << 5 << qint64(101);
     QTest::newRow("never changed takes any time") << qint64(-1) << QJsonValue(1) << 10 << qint64(1);
     QTest::newRow("time of the epoch") << qint64(-1) << QJsonValue(0) << 10 << qint64(0);
@@ -327,14 +334,22 @@ void tst_ConfStorageJson::systemMark_data()
 {
     QTest::addColumn<QString>("member");
     QTest::addColumn<QString>("reached");
-    QTest::newRow("this system's mark") << "k#s.mac" << "k";
-    QTest::newRow("another system's mark") << "k#s.win" << "";
-    QTest::newRow("empty mark") << "k#" << "";
-    QTest::newRow("other case") << "k#S.mac" << "";
-    QTest::newRow("no mark") << "k" << "k";
-    QTest::newRow("split at the last one") << "k#x#s.mac" << "k#x";
-    QTest::newRow("last one is foreign") << "k#s.mac#x" << "";
-    QTest::newRow("only the mark") << "#s.mac" << "(empty)";
+    QTest::newRow("this system's mark") << "k#s.mac"
+                                        << "k";
+    QTest::newRow("another system's mark") << "k#s.win"
+                                           << "";
+    QTest::newRow("empty mark") << "k#"
+                                << "";
+    QTest::newRow("other case") << "k#S.mac"
+                                << "";
+    QTest::newRow("no mark") << "k"
+                             << "k";
+    QTest::newRow("split at the last one") << "k#x#s.mac"
+                                           << "k#x";
+    QTest::newRow("last one is foreign") << "k#s.mac#x"
+                                         << "";
+    QTest::newRow("only the mark") << "#s.mac"
+                                   << "(empty)";
 }
 
 void tst_ConfStorageJson::systemMark()
@@ -371,8 +386,9 @@ void tst_ConfStorageJson::localOnlyKeysAreSkippedUnlessTheLoadIsLocal()
 void tst_ConfStorageJson::loadConfCountsItsMembers()
 {
     QCOMPARE(mStore->loadConf(QJsonObject(), ConfStorage::LoadShared), 0);
-    QCOMPARE(mStore->loadConf(QJsonObject{{"a", entry(1, 5)}, {"unknown", 1}},
-                              ConfStorage::LoadShared), 2);
+    QCOMPARE(
+        mStore->loadConf(QJsonObject{{"a", entry(1, 5)}, {"unknown", 1}}, ConfStorage::LoadShared),
+        2);
     QCOMPARE(mA, 5);
     QVERIFY(!mStore->mConfMetas.contains("unknown"));
     QVERIFY(!mStore->mConfValues.contains("unknown"));
@@ -399,7 +415,8 @@ void tst_ConfStorageJson::text()
     const LogCapture log;
     QCOMPARE(mStore->loadConf(json, ConfStorage::LoadShared), loaded);
     const QStringList expected = loaded
-        ? QStringList() : QStringList("ConfStorage::importConf() parse json failed");
+                                     ? QStringList()
+                                     : QStringList("ConfStorage::importConf() parse json failed");
     QCOMPARE(log.texts(QtCriticalMsg), expected);
     if (!loaded)
         QCOMPARE(mA, 1);

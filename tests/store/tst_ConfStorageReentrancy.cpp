@@ -86,12 +86,10 @@ void tst_ConfStorageReentrancy::callbacksThatSetEachOtherWithoutEndAreStopped()
 {
     int other = 0;
     mStore->reserveConf("other", &other);
-    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
-        mStore->set<int>("other", 1);
-    });
-    mStore->setConfChangedCallback("other", [&](const QString &, const ConfValue *) {
-        mStore->set<int>(key(), 1);
-    });
+    mStore->setConfChangedCallback(
+        key(), [&](const QString &, const ConfValue *) { mStore->set<int>("other", 1); });
+    mStore->setConfChangedCallback(
+        "other", [&](const QString &, const ConfValue *) { mStore->set<int>(key(), 1); });
     const LogCapture log;
     mStore->set<int>(key(), 1);
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
@@ -184,9 +182,8 @@ void tst_ConfStorageReentrancy::callbackMayRemoveItsDynamicKey()
     ConfStorage::DynamicConfClass cls;
     cls.prefix = "General.";
     mStore->mDynamicConfClasses = {&cls};
-    mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *) {
-        mStore->removeDynamicConf(name);
-    });
+    mStore->setConfChangedCallback(
+        key(), [&](const QString &name, const ConfValue *) { mStore->removeDynamicConf(name); });
     mStore->loadConf(QJsonObject{{key(), QJsonObject{{"t", 10}, {"v", 9}}}},
                      ConfStorage::LoadLocal);
     QVERIFY(!mStore->mConfValues.contains(key()));
@@ -213,9 +210,8 @@ void tst_ConfStorageReentrancy::callbackMayChangeTheLoadedObject()
     mStore->reserveConf("Z", &last);
     QJsonObject conf{{key(), QJsonObject{{"t", 10}, {"v", 9}}},
                      {"Z", QJsonObject{{"t", 10}, {"v", 3}}}};
-    mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
-        conf = QJsonObject();
-    });
+    mStore->setConfChangedCallback(
+        key(), [&](const QString &, const ConfValue *) { conf = QJsonObject(); });
     QCOMPARE(mStore->loadConf(conf, ConfStorage::LoadLocal), 2);
     QCOMPARE(last, 3);
 }

@@ -15,13 +15,12 @@ const QByteArray sOld = "{\"size\":{\"t\":100,\"v\":8}}";
 const QByteArray sNew = "{\"size\":{\"t\":200,\"v\":9}}";
 
 /// The journal of a save from `sOld` to `sNew`; its hashes were calculated with sha256sum.
-const QByteArray sJournal =
-    "malto save journal 1\n"
-    "61c6cafd088dc3c8fecd114f6c37d65044daa8527241d1ecf14f87aadf30df42\n"
-    "24\n"
-    "d7cf89c8c25ec749882ab96c326c67ec032ca61b93007c4a7312cdaef248a7e6\n"
-    "62bfa2bd920b273ce71623cf41b9a8dc174aaf806065031e0af7cba76e854e41\n"
-    "{\"size\":{\"t\":200,\"v\":9}}";
+const QByteArray sJournal = "malto save journal 1\n"
+                            "61c6cafd088dc3c8fecd114f6c37d65044daa8527241d1ecf14f87aadf30df42\n"
+                            "24\n"
+                            "d7cf89c8c25ec749882ab96c326c67ec032ca61b93007c4a7312cdaef248a7e6\n"
+                            "62bfa2bd920b273ce71623cf41b9a8dc174aaf806065031e0af7cba76e854e41\n"
+                            "{\"size\":{\"t\":200,\"v\":9}}";
 
 QByteArray journalOf(const QByteArray &body)
 {
@@ -277,8 +276,9 @@ void tst_ConfStorageSafeSave::damagedJournalIsDropped()
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 8);
     QCOMPARE(log.messages(),
-             (QList<LoggedMessage>{{QtWarningMsg, sWarning + "damaged journal dropped:  "
-                                                             "\"box/local.json.save-journal\""}}));
+             (QList<LoggedMessage>{{QtWarningMsg, sWarning
+                                                      + "damaged journal dropped:  "
+                                                        "\"box/local.json.save-journal\""}}));
     QCOMPARE(filesIn("box"), QStringList("local.json"));
     QCOMPARE(content(path()), sOld);
 }
@@ -291,8 +291,9 @@ void tst_ConfStorageSafeSave::hugeJournalIsDropped()
     const LogCapture log;
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 8);
-    QCOMPARE(log.texts(QtWarningMsg), QStringList(sWarning + "damaged journal dropped:  "
-                                                             "\"box/local.json.save-journal\""));
+    QCOMPARE(log.texts(QtWarningMsg), QStringList(sWarning
+                                                  + "damaged journal dropped:  "
+                                                    "\"box/local.json.save-journal\""));
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 

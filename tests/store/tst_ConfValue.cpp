@@ -196,8 +196,8 @@ void tst_ConfValue::setOfUnknownTypeIsLogged()
     const LogCapture log;
     value.set(ConfValue());
     strange.set(ofUnknownType(42));
-    QCOMPARE(log.texts(QtCriticalMsg), (QStringList{"restoreDefault: unknow type:  0",
-                                                    "restoreDefault: unknow type:  42"}));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             (QStringList{"restoreDefault: unknow type:  0", "restoreDefault: unknow type:  42"}));
     QCOMPARE(strange.mValue, QVariant(1));
 }
 
@@ -217,8 +217,8 @@ void tst_ConfValue::equality_data()
     QTest::newRow("texts") << own(QString("a")) << own(QString("A")) << false;
     QTest::newRow("null and empty text") << own(QString()) << own(QString("")) << true;
     QTest::newRow("invalid colours") << own(QColor()) << own(QColor()) << true;
-    QTest::newRow("colours of other alpha") << own(QColor(1, 2, 3, 4)) << own(QColor(1, 2, 3))
-                                            << false;
+    QTest::newRow("colours of other alpha")
+        << own(QColor(1, 2, 3, 4)) << own(QColor(1, 2, 3)) << false;
     QTest::newRow("fonts") << own(QFont("Sans", 9)) << own(QFont("Sans", 9)) << true;
     QTest::newRow("keys") << own(keys(Qt::Key_A)) << own(keys(Qt::Key_A, Qt::Key_B)) << false;
     QTest::newRow("objects") << own(QJsonObject{{"a", 1}}) << own(QJsonObject{{"a", 1}}) << true;
@@ -242,8 +242,8 @@ void tst_ConfValue::unknownTypesAreNeverEqual()
     const LogCapture log;
     QVERIFY(!(ConfValue() == ConfValue()));
     QVERIFY(!(ofUnknownType(10) == ofUnknownType(10)));
-    QCOMPARE(log.texts(QtCriticalMsg), (QStringList{"restoreDefault: unknow type:  0",
-                                                    "restoreDefault: unknow type:  10"}));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             (QStringList{"restoreDefault: unknow type:  0", "restoreDefault: unknow type:  10"}));
 }
 
 void tst_ConfValue::toJson_data()
@@ -256,8 +256,8 @@ void tst_ConfValue::toJson_data()
     QTest::newRow("no leading zeros") << own(QColor(0, 0, 0xab, 0)) << QJsonValue("ab");
     QTest::newRow("invalid colour") << own(QColor()) << QJsonValue("None");
     QTest::newRow("number") << own(-42) << QJsonValue(-42);
-    QTest::newRow("smallest number") << own(std::numeric_limits<int>::min())
-                                     << QJsonValue(-2147483648.0);
+    QTest::newRow("smallest number")
+        << own(std::numeric_limits<int>::min()) << QJsonValue(-2147483648.0);
     QTest::newRow("real") << own(0.5) << QJsonValue(0.5);
     QTest::newRow("switch") << own(true) << QJsonValue(true);
     QTest::newRow("text") << own(QString::fromUtf8("é")) << QJsonValue(QString::fromUtf8("é"));
@@ -312,8 +312,8 @@ void tst_ConfValue::fromJson_data()
     QTest::newRow("no keys") << sequence << QJsonValue("") << own(QKeySequence());
     QTest::newRow("object") << own(QJsonObject()) << QJsonValue(QJsonObject{{"b", 2}})
                             << own(QJsonObject{{"b", 2}});
-    QTest::newRow("array from an object") << own(QJsonArray{1}) << QJsonValue(QJsonObject())
-                                          << own(QJsonArray());
+    QTest::newRow("array from an object")
+        << own(QJsonArray{1}) << QJsonValue(QJsonObject()) << own(QJsonArray());
 }
 
 void tst_ConfValue::fromJson()
@@ -357,8 +357,11 @@ void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont()
     const LogCapture log;
     value.loadFromJsonValue(text);
     QCOMPARE(value.get<QFont>(), QFont());
-    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtWarningMsg,
-        QString("ConfValue::loadFromJsonValue() font size out of range:  \"%1\"").arg(text)}}));
+    QCOMPARE(log.messages(),
+             QList<LoggedMessage>(
+                 {{QtWarningMsg,
+                   QString("ConfValue::loadFromJsonValue() font size out of range:  \"%1\"")
+                       .arg(text)}}));
 }
 
 void tst_ConfValue::fontSizeInRangeIsKept_data()
@@ -405,8 +408,8 @@ void tst_ConfValue::fromJsonOfUnknownTypeIsLogged()
     const LogCapture log;
     empty.loadFromJsonValue(5);
     strange.loadFromJsonValue(5);
-    QCOMPARE(log.texts(QtCriticalMsg), (QStringList{"restoreDefault: unknow type:  0",
-                                                    "restoreDefault: unknow type:  12"}));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             (QStringList{"restoreDefault: unknow type:  0", "restoreDefault: unknow type:  12"}));
     QCOMPARE(strange.mValue, QVariant(1));
 }
 

@@ -17,10 +17,14 @@ using Pairs = std::vector<std::pair<size_t, size_t>>;
 
 rc::Gen<MergeStep> anyStep()
 {
-    const auto kind = rc::gen::weightedElement<MergeStep::Kind>(
-        {{6, MergeStep::Set}, {3, MergeStep::Restore}, {4, MergeStep::Create},
-         {4, MergeStep::Remove}, {1, MergeStep::RestoreClass}, {1, MergeStep::Restart},
-         {5, MergeStep::Export}, {5, MergeStep::Import}});
+    const auto kind = rc::gen::weightedElement<MergeStep::Kind>({{6, MergeStep::Set},
+                                                                 {3, MergeStep::Restore},
+                                                                 {4, MergeStep::Create},
+                                                                 {4, MergeStep::Remove},
+                                                                 {1, MergeStep::RestoreClass},
+                                                                 {1, MergeStep::Restart},
+                                                                 {5, MergeStep::Export},
+                                                                 {5, MergeStep::Import}});
     return rc::gen::build<MergeStep>(
         rc::gen::set(&MergeStep::kind, kind),
         rc::gen::set(&MergeStep::copy, rc::gen::inRange(0, 5)),
@@ -246,8 +250,9 @@ void tst_Merging::orderOfTwoCopiesMattersOnlyWithTies()
             RC_ASSERT(mergeKeys[key].local || tied
                       || oneWay.copy(0).state()[key] == otherWay.copy(1).state()[key]);
             // With a tie each copy keeps what it has.
-            RC_ASSERT(!tied || (oneWay.copy(0).state()[key] == first[key]
-                                && otherWay.copy(1).state()[key] == second[key]));
+            RC_ASSERT(!tied
+                      || (oneWay.copy(0).state()[key] == first[key]
+                          && otherWay.copy(1).state()[key] == second[key]));
         }
     }));
 }

@@ -7,11 +7,12 @@
 
 namespace {
 
-constexpr size_t sNumber = 0;  // Plain.a, default 1
-constexpr size_t sEntry = 4;   // Entry.a, no preset
-constexpr size_t sPreset = 6;  // Entry.preset, 2 by default
+constexpr size_t sNumber = 0; // Plain.a, default 1
+constexpr size_t sEntry = 4;  // Entry.a, no preset
+constexpr size_t sPreset = 6; // Entry.preset, 2 by default
 
-/// What a copy does to a key, written as a number: a value to set or to create with, or one of these.
+/// What a copy does to a key, written as a number: a value to set or to create with, or one of
+/// these.
 enum Change { Untouched = -1, Restored = -2, Removed = -3 };
 
 void change(MergeCopy &copy, size_t key, int change, qint64 second)
@@ -50,7 +51,7 @@ bool agree(const std::array<qint64, 3> &seconds)
         exchange(copies[2], copies[0]);
     }
     return seen(copies[0], sNumber) == seen(copies[1], sNumber)
-        && seen(copies[1], sNumber) == seen(copies[2], sNumber);
+           && seen(copies[1], sNumber) == seen(copies[2], sNumber);
 }
 
 void changeAtRandom(MergeWorld &world, std::mt19937 &random)
@@ -250,7 +251,8 @@ void tst_MergingTies::randomStartsThatNeverAgree()
         never += !agreed;
     }
     qInfo("%d random starts of three copies, ten changes in three seconds: %d have a tie, "
-          "%d of these never agree (%.1f %%)", starts, tied, never, 100.0 * never / tied);
+          "%d of these never agree (%.1f %%)",
+          starts, tied, never, 100.0 * never / tied);
     QVERIFY(never > 0);
     QVERIFY(never < tied);
 }

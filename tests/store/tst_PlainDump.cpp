@@ -45,16 +45,48 @@ private Q_SLOTS:
 void tst_PlainDump::textOfTheLibraryIsRead_data()
 {
     QTest::addColumn<QByteArray>("text");
-    const QByteArrayList values{
-        "0", "7", "-7", "2147483647", "-2147483648", "9007199254740993",
-        "999999999999999999", "-999999999999999999", "1000000000000000000", "9223372036854775807",
-        "-9223372036854775808", "9223372036854775808", "99999999999999999999", "-0", "0.5", "-1.25e-7", "1e300",
-        "true", "false", "null",
-        R"("")", R"("plain")", R"(" !#[]^~{}:,")", R"("Ctrl+A")", R"("\"")", R"("\\")",
-        R"("\\\"}")", R"("\u00e9")", "\"\303\251\"", "\"\177\"", "\"\357\273\277\"",
-        "\"\357\277\275\"", "\"\357\277\277\"", "\"\360\237\230\200\"", "\"\303\251\\n\"",
-        "\"\n\"", R"("\x")", // no JSON, but Qt takes them
-        "[]", "{}", R"([1,"}",{"a":[]}])", R"({"t":1,"v":{"]":"["}})", nestedArrays(500)};
+    const QByteArrayList values{"0",
+                                "7",
+                                "-7",
+                                "2147483647",
+                                "-2147483648",
+                                "9007199254740993",
+                                "999999999999999999",
+                                "-999999999999999999",
+                                "1000000000000000000",
+                                "9223372036854775807",
+                                "-9223372036854775808",
+                                "9223372036854775808",
+                                "99999999999999999999",
+                                "-0",
+                                "0.5",
+                                "-1.25e-7",
+                                "1e300",
+                                "true",
+                                "false",
+                                "null",
+                                R"("")",
+                                R"("plain")",
+                                R"(" !#[]^~{}:,")",
+                                R"("Ctrl+A")",
+                                R"("\"")",
+                                R"("\\")",
+                                R"("\\\"}")",
+                                R"("\u00e9")",
+                                "\"\303\251\"",
+                                "\"\177\"",
+                                "\"\357\273\277\"",
+                                "\"\357\277\275\"",
+                                "\"\357\277\277\"",
+                                "\"\360\237\230\200\"",
+                                "\"\303\251\\n\"",
+                                "\"\n\"",
+                                R"("\x")", // no JSON, but Qt takes them
+                                "[]",
+                                "{}",
+                                R"([1,"}",{"a":[]}])",
+                                R"({"t":1,"v":{"]":"["}})",
+                                nestedArrays(500)};
     for (const QByteArray &value : values)
         QTest::addRow("value %s", nameOf(value).constData()) << withValue(value);
     const QByteArrayList times{"0", "1", "-1", "1763731200", "2147483647", "-2147483648"};
@@ -122,7 +154,11 @@ void tst_PlainDump::everyOtherTextIsRefused_data()
                                "true", "2147483648", "-2147483649", "99999999999999999999"};
     for (const QByteArray &time : times)
         QTest::addRow("time %s", time.constData()) << withTime(time);
-    const QByteArrayList values{"01", "-", "+1", "1 2", "truex", "nul", R"("a"b)", "\"\303\"", "\"\355\240\200\"", "\"\300\200\"", "[", "]", "{]", "[}", nestedArrays(501)};
+    const QByteArrayList values{"01",           "-",        "+1",
+                                "1 2",          "truex",    "nul",
+                                R"("a"b)",      "\"\303\"", "\"\355\240\200\"",
+                                "\"\300\200\"", "[",        "]",
+                                "{]",           "[}",       nestedArrays(501)};
     for (const QByteArray &value : values)
         QTest::addRow("value %s", nameOf(value).constData()) << withValue(value);
 }

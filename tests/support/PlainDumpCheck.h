@@ -5,8 +5,8 @@
 #include <QJsonDocument>
 #include <QStringList>
 
-/// Whether `readPlainDump` takes the text for something else than QJsonDocument does. Refusing it is
-/// no mistake.
+/// Whether `readPlainDump` takes the text for something else than QJsonDocument does. Refusing it
+/// is no mistake.
 inline bool isMistaken(const QByteArray &text)
 {
     const auto members = readPlainDump(text);

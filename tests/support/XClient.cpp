@@ -57,8 +57,8 @@ void XClient::type(const QVector<xcb_keysym_t> &symbols)
 
 void XClient::send(xcb_keycode_t key, bool press)
 {
-    xcb_test_fake_input(mConnection, press ? XCB_KEY_PRESS : XCB_KEY_RELEASE, key,
-                        XCB_CURRENT_TIME, mRoot, 0, 0, 0);
+    xcb_test_fake_input(mConnection, press ? XCB_KEY_PRESS : XCB_KEY_RELEASE, key, XCB_CURRENT_TIME,
+                        mRoot, 0, 0, 0);
     sync();
 }
 
@@ -70,17 +70,16 @@ void XClient::setLock(xcb_keysym_t symbol, quint16 mask, bool on)
 
 quint16 XClient::modifiers() const
 {
-    const XcbPointer<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-        mConnection, xcb_query_pointer(mConnection, mRoot), nullptr));
+    const XcbPointer<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(mConnection, xcb_query_pointer(mConnection, mRoot), nullptr));
     return reply ? reply->mask & 0xff : 0;
 }
 
 bool XClient::grab(xcb_keycode_t key, quint16 modifiers)
 {
     const XcbPointer<xcb_generic_error_t> error(xcb_request_check(
-        mConnection,
-        xcb_grab_key_checked(mConnection, false, mRoot, modifiers, key, XCB_GRAB_MODE_ASYNC,
-                             XCB_GRAB_MODE_ASYNC)));
+        mConnection, xcb_grab_key_checked(mConnection, false, mRoot, modifiers, key,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
     return !error;
 }
 

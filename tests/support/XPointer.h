@@ -44,8 +44,8 @@ private:
     {
         xcb_test_fake_input(mConnection, type, detail, XCB_CURRENT_TIME, mRoot,
                             static_cast<int16_t>(global.x()), static_cast<int16_t>(global.y()), 0);
-        std::free(xcb_get_input_focus_reply(mConnection, xcb_get_input_focus(mConnection),
-                                            nullptr));
+        std::free(
+            xcb_get_input_focus_reply(mConnection, xcb_get_input_focus(mConnection), nullptr));
     }
 
     xcb_connection_t *const mConnection;

@@ -40,7 +40,7 @@ QString translate(const char *context, const char *text)
 bool isLeftOf(const QWidget *left, const QWidget *right)
 {
     return left->mapToGlobal(left->rect().center()).x()
-        < right->mapToGlobal(right->rect().center()).x();
+           < right->mapToGlobal(right->rect().center()).x();
 }
 
 } // namespace
@@ -54,9 +54,10 @@ void tst_TranslatedHost::cleanup()
 
 void tst_TranslatedHost::everyMergedLanguageIsOffered()
 {
-    QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), QStringList({
-        "auto", "en-us", "ar-eg", "de-de", "en-gb", "es-es", "fr-fr", "hi-in", "it-it", "ja-jp",
-        "ko-kr", "nl-nl", "pl-pl", "pt-br", "ru-ru", "sv-se", "tr-tr", "zh-cht", "zh-cn"}));
+    QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(),
+             QStringList({"auto", "en-us", "ar-eg", "de-de", "en-gb", "es-es", "fr-fr", "hi-in",
+                          "it-it", "ja-jp", "ko-kr", "nl-nl", "pl-pl", "pt-br", "ru-ru", "sv-se",
+                          "tr-tr", "zh-cht", "zh-cn"}));
 }
 
 void tst_TranslatedHost::libraryAndQtSpeakTheLanguage_data()

@@ -55,9 +55,10 @@ QStringList fixedParts(const QString &text)
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
-        "%1, %2 px", "&File", "&HTML:", "Cache (MB)", "Capture", "Distance (px)", "Font",
-        "Format", "General", "Image", "Mouse", "Name", "OK", "Output", "Quorvi Capture",
-        "System", "Updates", "Zoom", "page",
+        "%1, %2 px",     "&File",   "&HTML:", "Cache (MB)", "Capture",
+        "Distance (px)", "Font",    "Format", "General",    "Image",
+        "Mouse",         "Name",    "OK",     "Output",     "Quorvi Capture",
+        "System",        "Updates", "Zoom",   "page",
     };
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
@@ -157,15 +158,16 @@ void tst_Translations::initTestCase()
 
 void tst_Translations::everyOfferedLanguageHasAFile()
 {
-    QCOMPARE(mFolder.entryList({"malto_*.ts"}, QDir::Files, QDir::Name), QStringList({
-        "malto_ar-eg.ts", "malto_de-de.ts", "malto_en-gb.ts", "malto_es-es.ts", "malto_fr-fr.ts",
-        "malto_hi-in.ts", "malto_it-it.ts", "malto_ja-jp.ts", "malto_ko-kr.ts", "malto_nl-nl.ts",
-        "malto_pl-pl.ts", "malto_pt-br.ts", "malto_ru-ru.ts", "malto_sv-se.ts", "malto_tr-tr.ts",
-        "malto_zh-cht.ts", "malto_zh-cn.ts"}));
-    QCOMPARE(mDemoFolder.entryList({"*.ts"}, QDir::Files, QDir::Name), QStringList({
-        "ar-eg.ts", "de-de.ts", "en-gb.ts", "es-es.ts", "fr-fr.ts", "hi-in.ts", "it-it.ts",
-        "ja-jp.ts", "ko-kr.ts", "nl-nl.ts", "pl-pl.ts", "pt-br.ts", "ru-ru.ts", "sv-se.ts",
-        "tr-tr.ts", "zh-cht.ts", "zh-cn.ts"}));
+    QCOMPARE(mFolder.entryList({"malto_*.ts"}, QDir::Files, QDir::Name),
+             QStringList({"malto_ar-eg.ts", "malto_de-de.ts", "malto_en-gb.ts", "malto_es-es.ts",
+                          "malto_fr-fr.ts", "malto_hi-in.ts", "malto_it-it.ts", "malto_ja-jp.ts",
+                          "malto_ko-kr.ts", "malto_nl-nl.ts", "malto_pl-pl.ts", "malto_pt-br.ts",
+                          "malto_ru-ru.ts", "malto_sv-se.ts", "malto_tr-tr.ts", "malto_zh-cht.ts",
+                          "malto_zh-cn.ts"}));
+    QCOMPARE(mDemoFolder.entryList({"*.ts"}, QDir::Files, QDir::Name),
+             QStringList({"ar-eg.ts", "de-de.ts", "en-gb.ts", "es-es.ts", "fr-fr.ts", "hi-in.ts",
+                          "it-it.ts", "ja-jp.ts", "ko-kr.ts", "nl-nl.ts", "pl-pl.ts", "pt-br.ts",
+                          "ru-ru.ts", "sv-se.ts", "tr-tr.ts", "zh-cht.ts", "zh-cn.ts"}));
 }
 
 void tst_Translations::everyTextOfTheSourcesIsTranslated()

@@ -47,8 +47,7 @@ protected:
 
     QCheckBox *checkBox(int index) const
     {
-        return qobject_cast<QCheckBox *>(
-            mBox->view()->indexWidget(mBox->model()->index(index, 0)));
+        return qobject_cast<QCheckBox *>(mBox->view()->indexWidget(mBox->model()->index(index, 0)));
     }
     QList<int> checkedRows() const
     {

@@ -11,8 +11,9 @@ public:
     LanguageFolder()
     {
         using MtConf::ConfWidgetLanguage;
-        const QString base = '/' + QDir(QCoreApplication::applicationDirPath())
-                                       .relativeFilePath(QDir(mFolder.path()).canonicalPath());
+        const QString base = '/'
+                             + QDir(QCoreApplication::applicationDirPath())
+                                   .relativeFilePath(QDir(mFolder.path()).canonicalPath());
         ConfWidgetLanguage::sLanguagePath = base + "/language/";
         ConfWidgetLanguage::sLanguageQtPath = base + "/language_qt/";
         ConfWidgetLanguage::mSupportLangCodes.clear();

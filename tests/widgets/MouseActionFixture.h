@@ -58,8 +58,8 @@ protected:
         gesture->editor = mFixture->edit<MtConf::ConfWidgetMouseAction>(gesture->item.get());
         gesture->actions = gesture->editor->findChild<ComboboxDisableWheel *>();
         gesture->modifiers = gesture->editor->findChild<MultiSelectComboBox *>();
-        const auto labels =
-            gesture->editor->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+        const auto labels = gesture->editor->findChildren<QLabel *>(QString(),
+                                                                    Qt::FindDirectChildrenOnly);
         for (QLabel *label : labels) {
             if (label->property("class").isValid())
                 gesture->state = label;

@@ -227,8 +227,8 @@ void tst_ComboBoxAppearance::placeholderIsFainterThanAText()
     auto *keys = new KeySequenceEdit(QKeySequence(), mWindow.get());
     mWindow->setEnabled(enabled);
     // One after the other: each takes the place of the one before.
-    for (const auto theme : {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark,
-                             QThemeCtrl::Theme::Light}) {
+    for (const auto theme :
+         {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark, QThemeCtrl::Theme::Light}) {
         applySheets(mWindow.get(), theme, 1);
         mWindow->show();
         const QThemeCtrl *controller = QThemeCtrl::instance();

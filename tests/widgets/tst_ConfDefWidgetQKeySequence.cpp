@@ -22,7 +22,7 @@ public:
     QString translate(const char *context, const char *text, const char *, int) const override
     {
         const bool known = qstrcmp(context, "MtConf::ConfDefWidgetQKeySequence") == 0
-            || qstrcmp(context, "QObject") == 0;
+                           || qstrcmp(context, "QObject") == 0;
         return known ? QString("de ") + text : QString();
     }
     bool isEmpty() const override { return false; }
@@ -187,9 +187,8 @@ void tst_ConfDefWidgetQKeySequence::shortcutHasTheHotkeyBeforeTheStore()
 {
     makeItem(true);
     QKeySequence held;
-    mItem->setConfChangedCallback([this, &held](const QString &, const ConfValue *) {
-        held = mShortcut->shortcut();
-    });
+    mItem->setConfChangedCallback(
+        [this, &held](const QString &, const ConfValue *) { held = mShortcut->shortcut(); });
     makeEditor();
     press(Qt::Key_K);
     QCOMPARE(held, QKeySequence("Ctrl+Alt+K"));
@@ -290,8 +289,8 @@ void tst_ConfDefWidgetQKeySequence::toolTipAndNameFollowTheLanguage()
     makeEditor();
     Prefixer translator;
     QCoreApplication::installTranslator(&translator);
-    const auto remove =
-        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    const auto remove = qScopeGuard(
+        [&translator] { QCoreApplication::removeTranslator(&translator); });
     QTRY_COMPARE(mButton->toolTip(), QString("de Not set"));
     QCOMPARE(mField->accessibleName(), QString("de Capture area"));
     mShortcut->setEnabled(false);

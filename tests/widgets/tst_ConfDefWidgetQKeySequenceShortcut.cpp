@@ -51,7 +51,8 @@ void tst_ConfDefWidgetQKeySequenceShortcut::missingEntryIsMade()
     QVERIFY(!mItem->properties.value("Shortcut").isValid());
     QCOMPARE(mButton->text(), QString(QChar(0xe71b)));
     QCOMPARE(mButton->toolTip(), QString("Not set"));
-    QCOMPARE(mButton->styleSheet(), QString("QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt QuorviIconfont;\n"
+    QCOMPARE(mButton->styleSheet(),
+             QString("QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt QuorviIconfont;\n"
                      "color: rgb(245, 108, 108);  \n}"));
     QVERIFY(!mButton->isEnabled());
 }
@@ -296,7 +297,8 @@ void tst_ConfDefWidgetQKeySequenceShortcut::callbackMayDeleteTheShortcut()
 {
     makeItem(true);
     makeEditor();
-    mItem->setConfChangedCallback([this](const QString &, const ConfValue *) { mShortcut.reset(); });
+    mItem->setConfChangedCallback(
+        [this](const QString &, const ConfValue *) { mShortcut.reset(); });
     press(Qt::Key_K);
     QCOMPARE(mValue, QKeySequence("Ctrl+Alt+K"));
     QCOMPARE(changedMark(mEditor), QString("1"));

@@ -140,8 +140,7 @@ void tst_ConfWidgetComboboxMisuse::keyMayBeRemovedWhileItIsShown()
     mFixture->store()->mConfValues.remove("Capture.Mode");
     const LogCapture log;
     clickRow(1);
-    QVERIFY(log.texts(QtWarningMsg)
-                .contains("ConfStorage::set key not found:  \"Capture.Mode\""));
+    QVERIFY(log.texts(QtWarningMsg).contains("ConfStorage::set key not found:  \"Capture.Mode\""));
     QCOMPARE(mInt, 1);
     editor->loadConf();
     editor->retranslateUi();

@@ -43,8 +43,8 @@ void tst_ConfWidgetComboboxMulti::flagsAreChecked_data()
     QTest::newRow("all bits") << bits << -1 << QList<int>{0, 1, 2};
     QTest::newRow("the sign bit") << QList<int>{INT_MIN, INT_MAX, -1} << INT_MIN << QList<int>{0};
     QTest::newRow("a label of two bits needs both") << QList<int>{3, 6, 1} << 3 << QList<int>{0, 2};
-    QTest::newRow("a label of no bit is always checked") << QList<int>{0, 1, 2} << 2
-                                                         << QList<int>{0, 2};
+    QTest::newRow("a label of no bit is always checked")
+        << QList<int>{0, 1, 2} << 2 << QList<int>{0, 2};
     QTest::newRow("without values the index is the flag") << QList<int>() << 2 << QList<int>{0, 2};
 }
 

@@ -107,12 +107,13 @@ void tst_ConfWidgetLanguage::rowsAreNamesInTheirOwnLanguage()
                        "ja-jp.qm", "ko-kr.qm", "ru-ru.qm", "pt-br.qm", "it-it.qm", "ar-eg.qm",
                        "hi-in.qm", "nl-nl.qm", "tr-tr.qm", "pl-pl.qm", "sv-se.qm"});
     makeEditor("auto");
-    QCOMPARE(rows(), QStringList({
-        "Follow the system", "English (United States)", "العربية (مصر)", "Deutsch (Deutschland)",
-        "English (United Kingdom)", "Español (España)", "Français (France)", "हिन्दी (भारत)",
-        "Italiano (Italia)", "日本語", "한국어", "Nederlands (Nederland)", "Polski (Polska)",
-        "Português (Brasil)", "Русский (Россия)", "Svenska (Sverige)", "Türkçe (Türkiye)",
-        "繁體中文", "简体中文"}));
+    QCOMPARE(rows(),
+             QStringList({"Follow the system", "English (United States)", "العربية (مصر)",
+                          "Deutsch (Deutschland)", "English (United Kingdom)", "Español (España)",
+                          "Français (France)", "हिन्दी (भारत)", "Italiano (Italia)", "日本語",
+                          "한국어", "Nederlands (Nederland)", "Polski (Polska)",
+                          "Português (Brasil)", "Русский (Россия)", "Svenska (Sverige)",
+                          "Türkçe (Türkiye)", "繁體中文", "简体中文"}));
     QVERIFY(qobject_cast<QListView *>(mCombo->view()));
 }
 
@@ -131,9 +132,9 @@ void tst_ConfWidgetLanguage::unnamedLanguageMovesTheRowsAfterIt()
 {
     mFolder->addFiles({"de-de.qm", "ee-ee.qm", "fr-fr.qm", "sv-se.qm"});
     makeEditor("auto");
-    QCOMPARE(rows(), QStringList({"Follow the system", "English (United States)",
-                                  "Deutsch (Deutschland)", "Français (France)",
-                                  "Svenska (Sverige)"}));
+    QCOMPARE(rows(),
+             QStringList({"Follow the system", "English (United States)", "Deutsch (Deutschland)",
+                          "Français (France)", "Svenska (Sverige)"}));
     mCombo->setCurrentIndex(2);
     QCOMPARE(mValue, QString("de-de"));
     mCombo->setCurrentIndex(3);

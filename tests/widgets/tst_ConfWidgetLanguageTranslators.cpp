@@ -194,7 +194,8 @@ void tst_ConfWidgetLanguageTranslators::usableCode_data()
                                     {"en-gb.qm", "fr-fr.qm"},
                                     {"de-de.qm", "fr-fr.qm", "zh-cn.qm", "zh-cht.qm"}};
     // One column for each set of files.
-    const struct {
+    const struct
+    {
         QStringList preferred;
         const char *codes[4];
     } table[] = {
@@ -259,8 +260,7 @@ void tst_ConfWidgetLanguageTranslators::bothTranslatorsAreInstalled()
     ConfWidgetLanguage::installTranslator("fr-fr");
     QCOMPARE(label(), QString("Langue"));
     QCOMPARE(cancel(), QString("Annuler"));
-    QCOMPARE(log.messages(),
-             QList<LoggedMessage>({{QtDebugMsg, "installTranslator:  \"fr-fr\""}}));
+    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtDebugMsg, "installTranslator:  \"fr-fr\""}}));
 }
 
 void tst_ConfWidgetLanguageTranslators::autoInstallsThePreferredLanguage()
@@ -317,7 +317,7 @@ void tst_ConfWidgetLanguageTranslators::missingQtFileLeavesTheApplicationTransla
     ConfWidgetLanguage::installTranslator("de-de");
     QCOMPARE(label(), QString("Sprache"));
     const QString path = QCoreApplication::applicationDirPath()
-        + ConfWidgetLanguage::sLanguageQtPath + "qt_de-de.qm";
+                         + ConfWidgetLanguage::sLanguageQtPath + "qt_de-de.qm";
     QCOMPARE(log.texts(QtWarningMsg),
              QStringList("Unable to load Qt office QTranslator :  \"" + path + '"'));
 }

@@ -69,11 +69,14 @@ void tst_ConfWidgetMouseAction::actionsFollowTheKind_data()
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<Values>("values");
     QTest::newRow("wheel") << 0 << QStringList{"None", "Wheel"} << Values{0, 64};
-    QTest::newRow("clicks")
-        << 1
-        << QStringList{"None", "Left Click", "Left Double Click", "Right Click",
-                       "Right Double Click", "Middle Click", "Middle Double Click"}
-        << Values{0, 1, 2, 4, 8, 16, 32};
+    QTest::newRow("clicks") << 1 << QStringList{"None",
+                                                "Left Click",
+                                                "Left Double Click",
+                                                "Right Click",
+                                                "Right Double Click",
+                                                "Middle Click",
+                                                "Middle Double Click"}
+                            << Values{0, 1, 2, 4, 8, 16, 32};
     QTest::newRow("drags") << 2 << QStringList{"None", "Left Drag", "Right Drag", "Middle Drag"}
                            << Values{0, 128, 256, 512};
     QTest::newRow("none") << 3 << QStringList{"None"} << Values{0};
@@ -183,7 +186,8 @@ void tst_ConfWidgetMouseAction::makingTheEditorStoresNothing()
     Gesture *gesture = add("Zoom", 0x0e000004, 1);
     delete gesture->editor;
     int calls = 0;
-    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->item->setConfChangedCallback(
+        [&calls](const QString &, const ConfValue *) { ++calls; });
     gesture->editor = mFixture->edit<ConfWidgetMouseAction>(gesture->item.get());
     QCOMPARE(calls, 0);
 }
@@ -255,7 +259,8 @@ void tst_ConfWidgetMouseAction::sameValueIsStoredAgain()
 {
     Gesture *gesture = add("Zoom", 64, 0);
     int calls = 0;
-    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->item->setConfChangedCallback(
+        [&calls](const QString &, const ConfValue *) { ++calls; });
     gesture->editor->onCurrentIndexChanged();
     QCOMPARE(calls, 1);
     QCOMPARE(gesture->value, 64);
@@ -265,7 +270,8 @@ void tst_ConfWidgetMouseAction::leftClickAloneIsNotStored()
 {
     Gesture *gesture = add("Zoom", 4, 1);
     int calls = 0;
-    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->item->setConfChangedCallback(
+        [&calls](const QString &, const ConfValue *) { ++calls; });
     gesture->actions->setCurrentText("Left Click");
     QCOMPARE(calls, 0);
     QCOMPARE(gesture->value, 4);
@@ -296,8 +302,8 @@ void tst_ConfWidgetMouseAction::wheelIsRefused()
     Gesture *gesture = add("Zoom", 4, 1);
     QVERIFY(mFixture->show());
     gesture->actions->setFocus();
-    for (QWidget *box : {static_cast<QWidget *>(gesture->actions),
-                         static_cast<QWidget *>(gesture->modifiers)}) {
+    for (QWidget *box :
+         {static_cast<QWidget *>(gesture->actions), static_cast<QWidget *>(gesture->modifiers)}) {
         QWheelEvent wheel(QPointF(5, 5), box->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(box, &wheel);
@@ -340,7 +346,8 @@ void tst_ConfWidgetMouseAction::loadingWhatIsShownStoresNothing()
     Gesture *gesture = add("Zoom", 0x02000004, 1);
     const Gesture *other = add("Pan", 8, 1);
     int calls = 0;
-    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->item->setConfChangedCallback(
+        [&calls](const QString &, const ConfValue *) { ++calls; });
     store(other, 0x02000004);
     gesture->editor->loadConf();
     QCOMPARE(calls, 0);
@@ -373,8 +380,8 @@ void tst_ConfWidgetMouseAction::textsHaveTheirContexts()
 {
     Prefixer translator;
     QCoreApplication::installTranslator(&translator);
-    const auto remove =
-        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    const auto remove = qScopeGuard(
+        [&translator] { QCoreApplication::removeTranslator(&translator); });
     Gesture *gesture = add("Zoom", 0, 1);
     QCOMPARE(action(gesture), QString("MtConf::ConfWidgetMouseAction: None"));
     QCOMPARE(gesture->actions->itemText(1), QString("MtConf::ConfWidgetMouseAction: Left Click"));
@@ -391,11 +398,12 @@ void tst_ConfWidgetMouseAction::actionsFollowTheLanguage()
     Gesture *gesture = add("Zoom", 64, 0);
     QVERIFY(mFixture->show());
     int calls = 0;
-    gesture->item->setConfChangedCallback([&calls](const QString &, const ConfValue *) { ++calls; });
+    gesture->item->setConfChangedCallback(
+        [&calls](const QString &, const ConfValue *) { ++calls; });
     Prefixer translator;
     QCoreApplication::installTranslator(&translator);
-    const auto remove =
-        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    const auto remove = qScopeGuard(
+        [&translator] { QCoreApplication::removeTranslator(&translator); });
     QTRY_COMPARE(action(gesture), QString("MtConf::ConfWidgetMouseAction: Wheel"));
     QCOMPARE(gesture->actions->itemText(0), QString("MtConf::ConfWidgetMouseAction: None"));
     QCOMPARE(calls, 0);

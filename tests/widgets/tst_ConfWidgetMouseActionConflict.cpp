@@ -72,7 +72,8 @@ void tst_ConfWidgetMouseActionConflict::gesturesConflict_data()
     QTest::addColumn<int>("second");
     QTest::addColumn<bool>("conflict");
     QTest::newRow("the same") << 4 << 4 << true;
-    QTest::newRow("the same with modifiers") << (sShift | sAlt | 64) << (sShift | sAlt | 64) << true;
+    QTest::newRow("the same with modifiers")
+        << (sShift | sAlt | 64) << (sShift | sAlt | 64) << true;
     QTest::newRow("left pair") << (sControl | 1) << (sControl | 2) << true;
     QTest::newRow("right pair") << 4 << 8 << true;
     QTest::newRow("middle pair") << (sMeta | 16) << (sMeta | 32) << true;
@@ -112,9 +113,16 @@ void tst_ConfWidgetMouseActionConflict::gesturesConflict()
 void tst_ConfWidgetMouseActionConflict::everyPairIsJudged()
 {
     // Which button and movement a gesture takes, by name; a click and a double click are one.
-    const QMap<int, QString> takes = {{0, ""}, {1, "left"}, {2, "left"}, {4, "right"},
-                                      {8, "right"}, {16, "middle"}, {32, "middle"}, {64, "wheel"},
-                                      {128, "drag left"}, {256, "drag right"},
+    const QMap<int, QString> takes = {{0, ""},
+                                      {1, "left"},
+                                      {2, "left"},
+                                      {4, "right"},
+                                      {8, "right"},
+                                      {16, "middle"},
+                                      {32, "middle"},
+                                      {64, "wheel"},
+                                      {128, "drag left"},
+                                      {256, "drag right"},
                                       {512, "drag middle"}};
     Gesture *other = add("Other", 0, 1);
     int pairs = 0;

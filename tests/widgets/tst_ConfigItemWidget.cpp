@@ -15,8 +15,8 @@
 #include <QPushButton>
 #include <QTranslator>
 
-using MtConf::ConfItem;
 using MtConf::ConfigItemWidget;
+using MtConf::ConfItem;
 
 using Factory = ConfigItemWidget *(*)(ConfItem *, QWidget *);
 Q_DECLARE_METATYPE(Factory)
@@ -253,9 +253,8 @@ void tst_ConfigItemWidget::editorIsWritingWhileCallbacksRun()
 {
     PlainEditor *made = editor();
     bool during = false;
-    mItem->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        during = made->isWriting();
-    });
+    mItem->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { during = made->isWriting(); });
     QVERIFY(!made->isWriting());
     made->write(2);
     QVERIFY(during);
@@ -278,7 +277,8 @@ void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing_data()
     QTest::newRow("ConfDefWidgetInt32") << Factory(&MtConf::ConfDefWidgetInt32::CreatConfWidget);
     QTest::newRow("ConfDefWidgetQColor") << Factory(&MtConf::ConfDefWidgetQColor::CreatConfWidget);
     QTest::newRow("ConfDefWidgetQFont") << Factory(&MtConf::ConfDefWidgetQFont::CreatConfWidget);
-    QTest::newRow("ConfDefWidgetQKeySequence") << Factory(&MtConf::ConfDefWidgetQKeySequence::CreatConfWidget);
+    QTest::newRow("ConfDefWidgetQKeySequence")
+        << Factory(&MtConf::ConfDefWidgetQKeySequence::CreatConfWidget);
     QTest::newRow("ConfWidgetCombobox") << Factory(&MtConf::ConfWidgetCombobox::CreatConfWidget);
     QTest::newRow("ConfWidgetLanguage") << Factory(&MtConf::ConfWidgetLanguage::CreatConfWidget);
 }

@@ -159,8 +159,9 @@ void tst_HotkeyAndMousePages::longestActionCanBeRead()
     const auto widthOfText = [actions] {
         QStyleOptionComboBox option;
         option.initFrom(actions);
-        return actions->style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                QStyle::SC_ComboBoxEditField, actions).width();
+        return actions->style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, actions)
+            .width();
     };
     QTRY_VERIFY2(actions->fontMetrics().horizontalAdvance(longest) <= widthOfText(),
                  qPrintable(QString::number(widthOfText())));

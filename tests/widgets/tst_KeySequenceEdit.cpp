@@ -119,9 +119,9 @@ void tst_KeySequenceEdit::sequenceIsRendered_data()
         << QKeySequence(Qt::KeypadModifier | Qt::Key_1, Qt::KeypadModifier | Qt::Key_Plus)
         << "Num 1, Num +";
     QTest::newRow("the key NumLock") << QKeySequence(Qt::Key_NumLock) << "NumLock";
-    QTest::newRow("four chords")
-        << QKeySequence(Qt::Key_A, Qt::Key_Space, Qt::CTRL | Qt::Key_B, Qt::Key_Home)
-        << "A, Space, Ctrl+B, Home";
+    QTest::newRow("four chords") << QKeySequence(Qt::Key_A, Qt::Key_Space, Qt::CTRL | Qt::Key_B,
+                                                 Qt::Key_Home)
+                                 << "A, Space, Ctrl+B, Home";
 }
 
 void tst_KeySequenceEdit::sequenceIsRendered()
@@ -198,8 +198,8 @@ void tst_KeySequenceEdit::textsFollowTheLanguage()
     field();
     Prefixer translator;
     QCoreApplication::installTranslator(&translator);
-    const auto remove =
-        qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    const auto remove = qScopeGuard(
+        [&translator] { QCoreApplication::removeTranslator(&translator); });
     QTRY_COMPARE(mField->placeholderText(), QString("de Press shortcut key"));
     QCOMPARE(clearAction()->toolTip(), QString("de Clear shortcut key"));
 

@@ -211,8 +211,7 @@ void tst_KeySequenceEditRecording::loneModifierIsRecorded_data()
                            << QString::fromUtf8("\u21e7");
     QTest::newRow("Control") << int(Qt::Key_Control) << int(Qt::ControlModifier)
                              << QString::fromUtf8("\u2318");
-    QTest::newRow("Alt") << int(Qt::Key_Alt) << int(Qt::AltModifier)
-                         << QString::fromUtf8("\u2325");
+    QTest::newRow("Alt") << int(Qt::Key_Alt) << int(Qt::AltModifier) << QString::fromUtf8("\u2325");
     QTest::newRow("Meta") << int(Qt::Key_Meta) << int(Qt::MetaModifier)
                           << QString::fromUtf8("\u2303");
     QTest::newRow("Super") << int(Qt::Key_Super_L) << int(Qt::MetaModifier)

@@ -147,8 +147,8 @@ void tst_KeySequenceEditShortcuts::editingKeysOfTheSystemAreRecorded()
 {
     field();
     for (int standard = QKeySequence::Open; standard <= QKeySequence::Cancel; ++standard) {
-        const auto bindings =
-            QKeySequence::keyBindings(static_cast<QKeySequence::StandardKey>(standard));
+        const auto bindings = QKeySequence::keyBindings(
+            static_cast<QKeySequence::StandardKey>(standard));
         for (const QKeySequence &keys : bindings) {
             const int chord = keys[0];
             const int key = chord & 0x01ffffff;

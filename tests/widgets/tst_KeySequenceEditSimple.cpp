@@ -47,10 +47,10 @@ void tst_KeySequenceEditSimple::simpleKeysAreRefused()
     QSet<int> simple;
     if (canBeSimple) {
         simple = {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Backspace, Qt::Key_Return,
-                  Qt::Key_Enter, Qt::Key_Insert, Qt::Key_Delete,
-                  Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_PageUp,
-                  Qt::Key_PageDown, Qt::Key_Shift, Qt::Key_Control, Qt::Key_Meta, Qt::Key_Alt,
-                  Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock,
+                  Qt::Key_Enter, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Left, Qt::Key_Up,
+                  Qt::Key_Right, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Shift,
+                  Qt::Key_Control, Qt::Key_Meta, Qt::Key_Alt, Qt::Key_CapsLock, Qt::Key_NumLock,
+                  Qt::Key_ScrollLock,
                   // Numbers without a name between Page Down and Shift.
                   0x01000018, 0x01000019, 0x0100001a, 0x0100001b, 0x0100001c, 0x0100001d,
                   0x0100001e, 0x0100001f};
@@ -166,13 +166,14 @@ void tst_KeySequenceEditSimple::refusalIsToldInABox()
     mField->allowSimpleHotkey = false;
     QTest::keyPress(mField, Qt::Key_5, Qt::KeypadModifier);
     QCOMPARE(boxes.count, 1);
-    QCOMPARE(text, QString(
-        "Shortkey [Num 5] is too simple.\n"
-        "To avoid conflicts with other functions and prevent accidental activations, please set a "
-        "more complex hotkey combination.\n"
-        "\n"
-        "If you need to set simple shortcuts, go to the [System] Settings page and check [Allow "
-        "simple global hotkeys]."));
+    QCOMPARE(text, QString("Shortkey [Num 5] is too simple.\n"
+                           "To avoid conflicts with other functions and prevent accidental "
+                           "activations, please set a "
+                           "more complex hotkey combination.\n"
+                           "\n"
+                           "If you need to set simple shortcuts, go to the [System] Settings page "
+                           "and check [Allow "
+                           "simple global hotkeys]."));
     QCOMPARE(icon, QMessageBox::Warning);
     QVERIFY(isModal);
     QVERIFY(isChild);

@@ -262,9 +262,8 @@ void tst_MultiSelectComboBoxPopup::goneOrDisabledBoxClosesItsList()
     QFETCH(bool, hide);
     mBox->addItems({"A", "B"});
     openByClick();
-    connect(mBox, &MultiSelectComboBox::selectionChanged, mBox, [this, hide] {
-        hide ? mBox->hide() : mBox->setEnabled(false);
-    });
+    connect(mBox, &MultiSelectComboBox::selectionChanged, mBox,
+            [this, hide] { hide ? mBox->hide() : mBox->setEnabled(false); });
     click(indicatorPoint(0));
     QVERIFY(!isOpen());
     QVERIFY(!QApplication::activePopupWidget());

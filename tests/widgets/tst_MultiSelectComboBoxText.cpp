@@ -45,30 +45,37 @@ void tst_MultiSelectComboBoxText::shownText_data()
     QTest::addColumn<QStringList>("currentText");
 
     const QStringList abc{"A", "B", "C"};
-    QTest::newRow("nothing checked") << abc << QList<int>() << "" << "" << QStringList();
-    QTest::newRow("one") << abc << QList<int>{1} << "B" << "B" << QStringList{"B"};
-    QTest::newRow("all") << abc << QList<int>{0, 1, 2} << "A;B;C" << "A;B;C" << abc;
-    QTest::newRow("same text twice")
-        << QStringList{"A", "A"} << QList<int>{0, 1} << "A;A" << "A;A" << QStringList{"A", "A"};
+    QTest::newRow("nothing checked") << abc << QList<int>() << ""
+                                     << "" << QStringList();
+    QTest::newRow("one") << abc << QList<int>{1} << "B"
+                         << "B" << QStringList{"B"};
+    QTest::newRow("all") << abc << QList<int>{0, 1, 2} << "A;B;C"
+                         << "A;B;C" << abc;
+    QTest::newRow("same text twice") << QStringList{"A", "A"} << QList<int>{0, 1} << "A;A"
+                                     << "A;A" << QStringList{"A", "A"};
     QTest::newRow("separator inside a text")
-        << QStringList{"A;B", "C"} << QList<int>{0, 1} << "A;B;C" << "A;B;C" << abc;
-    QTest::newRow("separator at the end of a text")
-        << QStringList{"A;"} << QList<int>{0} << "A;" << "A;" << QStringList{"A", ""};
-    QTest::newRow("an empty text alone")
-        << QStringList{""} << QList<int>{0} << "" << "" << QStringList();
+        << QStringList{"A;B", "C"} << QList<int>{0, 1} << "A;B;C"
+        << "A;B;C" << abc;
+    QTest::newRow("separator at the end of a text") << QStringList{"A;"} << QList<int>{0} << "A;"
+                                                    << "A;" << QStringList{"A", ""};
+    QTest::newRow("an empty text alone") << QStringList{""} << QList<int>{0} << ""
+                                         << "" << QStringList();
     QTest::newRow("an empty text before another")
-        << QStringList{"", "B"} << QList<int>{0, 1} << ";B" << ";B" << QStringList{"", "B"};
+        << QStringList{"", "B"} << QList<int>{0, 1} << ";B"
+        << ";B" << QStringList{"", "B"};
     QTest::newRow("32 characters stay whole")
         << QStringList{"0123456789abcdef", "0123456789abcde"} << QList<int>{0, 1}
-        << "0123456789abcdef;0123456789abcde" << "0123456789abcdef;0123456789abcde"
-        << QStringList{"0123456789abcdef", "0123456789abcde"};
+        << "0123456789abcdef;0123456789abcde"
+        << "0123456789abcdef;0123456789abcde" << QStringList{"0123456789abcdef", "0123456789abcde"};
     QTest::newRow("33 characters are cut after 32")
         << QStringList{"0123456789abcdef", "0123456789abcdef"} << QList<int>{0, 1}
-        << "0123456789abcdef;0123456789abcde..." << "0123456789abcdef;0123456789abcdef"
+        << "0123456789abcdef;0123456789abcde..."
+        << "0123456789abcdef;0123456789abcdef"
         << QStringList{"0123456789abcdef", "0123456789abcde..."};
     QTest::newRow("texts behind the cut are missing")
         << QStringList{"0123456789012345678901234567890", "B", "C"} << QList<int>{0, 1, 2}
-        << "0123456789012345678901234567890;..." << "0123456789012345678901234567890;B;C"
+        << "0123456789012345678901234567890;..."
+        << "0123456789012345678901234567890;B;C"
         << QStringList{"0123456789012345678901234567890", "..."};
 }
 
@@ -230,10 +237,10 @@ void tst_MultiSelectComboBoxText::hintOfAllTexts_data()
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<QString>("measured");
     QTest::newRow("short") << QStringList{"Alpha", "Beta"} << "Alpha;Beta;";
-    QTest::newRow("32 characters") << QStringList{"0123456789abcdef0123456789abcde"}
-                                   << "0123456789abcdef0123456789abcde;";
-    QTest::newRow("33 characters") << QStringList{"0123456789abcdef0123456789abcdef"}
-                                   << "0123456789abcdef0123456789abcdef...";
+    QTest::newRow("32 characters")
+        << QStringList{"0123456789abcdef0123456789abcde"} << "0123456789abcdef0123456789abcde;";
+    QTest::newRow("33 characters")
+        << QStringList{"0123456789abcdef0123456789abcdef"} << "0123456789abcdef0123456789abcdef...";
 }
 
 void tst_MultiSelectComboBoxText::hintOfAllTexts()

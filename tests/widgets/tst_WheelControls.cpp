@@ -20,7 +20,8 @@ private Q_SLOTS:
         auto *layout = new QVBoxLayout(page);
         mSpinBox = new QSpinBoxDisableWheel(page);
         mSpinBox->setValue(50);
-        // As the editor sets it: by the policy of a plain spin box the wheel itself gives the focus.
+        // As the editor sets it: by the policy of a plain spin box the wheel itself gives the
+        // focus.
         mSpinBox->setFocusPolicy(Qt::StrongFocus);
         mComboBox = new ComboboxDisableWheel(page);
         mComboBox->addItems({"one", "two", "three"});

@@ -92,15 +92,18 @@ public:
             ->properties["MultiSelect"] = true;
         manager->addConfQColor("Colour", &colour, "Edit", "Colour");
         manager->addConfQFont("Font", &font, "Edit", "Font");
-        manager->addConfQKeySequence("Key", &key, "Edit", "Key")->properties["Shortcut"] =
-            QVariant::fromValue(&shortcut);
+        manager->addConfQKeySequence("Key", &key, "Edit", "Key")
+            ->properties["Shortcut"] = QVariant::fromValue(&shortcut);
         manager->addConfMouseAction("Mouse", &mouse, 1, "Edit", "Mouse");
         manager->addConfLanguage("Language", &language, "Edit", "Language");
-        manager->addConfBool("Host", &host, "Edit", "Host", "", [this](ConfItem *item, QWidget *parent) {
-            if (onCreate)
-                onCreate();
-            return new HostEditor(item, parent, onRetranslate, onLanguage);
-        })->flags = MtConf::ItemIsFiltered;
+        manager
+            ->addConfBool("Host", &host, "Edit", "Host", "",
+                          [this](ConfItem *item, QWidget *parent) {
+                              if (onCreate)
+                                  onCreate();
+                              return new HostEditor(item, parent, onRetranslate, onLanguage);
+                          })
+            ->flags = MtConf::ItemIsFiltered;
         manager->itemFilter = [this](ConfItem &) {
             if (onFilter)
                 onFilter();
@@ -116,8 +119,9 @@ public:
     /// A file that changes every setting of the page "Edit".
     static QString configuration()
     {
-        const QJsonObject members{{"Edit.Flag", false}, {"Edit.Number", 11}, {"Edit.Text", "three"},
-                                  {"Edit.Bits", 6}, {"Edit.Host", false}, {"Edit.Mouse", 4}};
+        const QJsonObject members{{"Edit.Flag", false},   {"Edit.Number", 11},
+                                  {"Edit.Text", "three"}, {"Edit.Bits", 6},
+                                  {"Edit.Host", false},   {"Edit.Mouse", 4}};
         QFile file("lifetimes.json");
         if (file.open(QIODevice::WriteOnly))
             file.write(QJsonDocument(members).toJson());

@@ -88,14 +88,22 @@ void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
-    QTest::newRow("check box, which is its own caption") << "Flag" << "Flag";
-    QTest::newRow("spin box") << "Number" << "Number";
-    QTest::newRow("combo box") << "Text" << "Text";
-    QTest::newRow("multi-select box") << "Bits" << "Bits";
-    QTest::newRow("hotkey") << "Key" << "Key";
-    QTest::newRow("mouse action") << "Mouse" << "Mouse";
-    QTest::newRow("language") << "Language" << "Language";
-    QTest::newRow("editor of the host") << "Host" << "Host";
+    QTest::newRow("check box, which is its own caption") << "Flag"
+                                                         << "Flag";
+    QTest::newRow("spin box") << "Number"
+                              << "Number";
+    QTest::newRow("combo box") << "Text"
+                               << "Text";
+    QTest::newRow("multi-select box") << "Bits"
+                                      << "Bits";
+    QTest::newRow("hotkey") << "Key"
+                            << "Key";
+    QTest::newRow("mouse action") << "Mouse"
+                                  << "Mouse";
+    QTest::newRow("language") << "Language"
+                              << "Language";
+    QTest::newRow("editor of the host") << "Host"
+                                        << "Host";
 }
 
 void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup()
@@ -152,8 +160,8 @@ void tst_Accessibility::namesFollowTheLanguage()
     Shouting translator;
     QCoreApplication::installTranslator(&translator);
     Q_EMIT mFixture->manager->sigLanguageChange();
-    for (const char *name : {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Mouse",
-                             "Language", "Host"})
+    for (const char *name :
+         {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Mouse", "Language", "Host"})
         QCOMPARE(nameOf(firstControl(name)), QString(name) + '!');
     QCOMPARE(firstControl("Text")->accessibleName(), QString("Text!"));
     // The hotkey's own name follows with the event that the application sends.
@@ -183,14 +191,17 @@ void tst_Accessibility::tabGoesThroughThePageThenToWhatRestores()
                                                       : focus->accessibleName());
     }
     // The scroll area is where the arrow keys scroll. The mouse action has two boxes.
-    QCOMPARE(visited, (QStringList{"Edit", "Flag", "Number", "Text", "Bits", "Colour", "Font", "Key",
-                                   "Setup failed, the hotkey may be occupied. Click to try setup "
-                                   "again.", "Mouse", "Mouse", "Language", "Host",
-                                   "Restore Default", "Restore All Default"}));
+    QCOMPARE(visited,
+             (QStringList{"Edit", "Flag", "Number", "Text", "Bits", "Colour", "Font", "Key",
+                          "Setup failed, the hotkey may be occupied. Click to try setup "
+                          "again.",
+                          "Mouse", "Mouse", "Language", "Host", "Restore Default",
+                          "Restore All Default"}));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(WindowFixture::classList()));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(WindowFixture::restoreAllButton()));
+    QCOMPARE(QApplication::focusWidget(),
+             static_cast<QWidget *>(WindowFixture::restoreAllButton()));
 }
 
 void tst_Accessibility::everySimpleEditorWorksByKeyboard()
@@ -218,13 +229,15 @@ void tst_Accessibility::everyEditorWorksByKeyboardOnceTheHostWantsIt()
     MtConf::ConfigItemWidget::sFullKeyboardAccess = false;
     QCursor::setPos(0, 0); // a list stays open under the cursor
 
-    const auto stored = [this](const QString &name) { return mFixture->store()->get<int>("Edit." + name); };
+    const auto stored = [this](const QString &name) {
+        return mFixture->store()->get<int>("Edit." + name);
+    };
     for (const char *name : {"Bits", "Mouse"}) {
         auto *box = qobject_cast<QComboBox *>(firstControl(name));
         const int before = stored(name);
-        for (const auto &[key, modifier] : {std::pair(Qt::Key_Space, Qt::NoModifier),
-                                            std::pair(Qt::Key_F4, Qt::NoModifier),
-                                            std::pair(Qt::Key_Down, Qt::AltModifier)}) {
+        for (const auto &[key, modifier] :
+             {std::pair(Qt::Key_Space, Qt::NoModifier), std::pair(Qt::Key_F4, Qt::NoModifier),
+              std::pair(Qt::Key_Down, Qt::AltModifier)}) {
             box->setFocus();
             QTest::keyClick(box, key, modifier);
             QVERIFY(box->view()->isVisible());
@@ -262,8 +275,8 @@ void tst_Accessibility::focusIsSeen()
     QThemeCtrl::instance()->setTheme(static_cast<QThemeCtrl::Theme>(theme));
     QList<QWidget *> controls{WindowFixture::classList(), WindowFixture::restorePageButton(),
                               WindowFixture::restoreAllButton()};
-    for (const char *name : {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse",
-                             "Language", "Host"})
+    for (const char *name :
+         {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse", "Language", "Host"})
         controls << firstControl(name);
     // The reference has the focus where nothing of it is drawn.
     auto *area = WindowFixture::child<QScrollArea>("scrollArea");

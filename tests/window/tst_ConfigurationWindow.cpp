@@ -86,11 +86,12 @@ void tst_ConfigurationWindow::formIsBuiltAsTheStyleSheetExpectsIt()
     QCOMPARE(area->styleSheet(), QString("#scrollArea{\nborder: 0px solid #ededed; \n}"));
     QCOMPARE(area->widget()->styleSheet(),
              QString("#gboxConfigBoard{\nbackground-color:transparent;\n}"));
-    QCOMPARE(mFixture->restoreAllButton()->styleSheet(),
-             QString("\nQPushButton{\n  border: 0px solid #f56c6c;\n  background-color: #f56c6c;\n"
-                     "  color:white;\n}\nQPushButton:hover{\n  border: 0px solid #f78989;\n"
-                     "  background-color:#f78989;\n  color:white;\n}\nQPushButton:pressed{\n"
-                     "  border: 0px solid #dd6161;\n  background-color:#dd6161;\n  color:white;\n}"));
+    QCOMPARE(
+        mFixture->restoreAllButton()->styleSheet(),
+        QString("\nQPushButton{\n  border: 0px solid #f56c6c;\n  background-color: #f56c6c;\n"
+                "  color:white;\n}\nQPushButton:hover{\n  border: 0px solid #f78989;\n"
+                "  background-color:#f78989;\n  color:white;\n}\nQPushButton:pressed{\n"
+                "  border: 0px solid #dd6161;\n  background-color:#dd6161;\n  color:white;\n}"));
     QCOMPARE(mFixture->restorePageButton()->styleSheet(),
              QString("\nQPushButton{\n  border: 0px solid #f56c6c;\n  background-color: #e6a23c;\n"
                      "  color: white;\n}\nQPushButton:hover{\n  border: 0px solid #f56c6c;\n"
@@ -259,15 +260,14 @@ void tst_ConfigurationWindow::questionsAreAsked()
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons;
     bool yesIsDefault = false;
-    QVERIFY(mFixture->clickAndAnswer(all ? mFixture->restoreAllButton()
-                                         : mFixture->restorePageButton(),
-                                     [&](QMessageBox *box) {
-        text = box->text();
-        icon = box->icon();
-        buttons = box->standardButtons();
-        yesIsDefault = box->defaultButton() == box->button(QMessageBox::Yes);
-        box->reject();
-    }));
+    QVERIFY(mFixture->clickAndAnswer(
+        all ? mFixture->restoreAllButton() : mFixture->restorePageButton(), [&](QMessageBox *box) {
+            text = box->text();
+            icon = box->icon();
+            buttons = box->standardButtons();
+            yesIsDefault = box->defaultButton() == box->button(QMessageBox::Yes);
+            box->reject();
+        }));
     QTEST(text, "question");
     QCOMPARE(icon, QMessageBox::Question);
     QCOMPARE(buttons, QMessageBox::Yes | QMessageBox::No);
@@ -308,9 +308,8 @@ void tst_ConfigurationWindow::pageRebuiltUnderTheQuestionIsRestored()
 void tst_ConfigurationWindow::callbackMayOpenAnotherPageWhileThePageIsRestored()
 {
     change();
-    mFirstItem->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->ShowWindow("Other");
-    });
+    mFirstItem->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mFixture->manager->ShowWindow("Other"); });
     mFixture->open();
     QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(), QMessageBox::Yes));
     QVERIFY(mFirst);

@@ -89,8 +89,8 @@ private:
     /// A colour that the row's icon really paints.
     static QColor inkOf(const QIcon &icon, QIcon::Mode mode)
     {
-        const QImage image = icon.pixmap(QSize(32, 32), mode).toImage()
-                                 .convertToFormat(QImage::Format_ARGB32);
+        const QImage image =
+            icon.pixmap(QSize(32, 32), mode).toImage().convertToFormat(QImage::Format_ARGB32);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 if (image.pixelColor(x, y).alpha() == 255)
@@ -136,10 +136,8 @@ void tst_ConfigurationWindowAppearance::savedGeometry_data()
     QTest::newRow("touches the left edge") << QRect(0, 10, 640, 480) << false;
     QTest::newRow("touches the top edge") << QRect(10, 0, 640, 480) << false;
     QTest::newRow("one pixel from the edges") << QRect(1, 1, 640, 480) << true;
-    QTest::newRow("touches the right edge")
-        << QRect(screen.right() - 639, 10, 640, 480) << false;
-    QTest::newRow("touches the bottom edge")
-        << QRect(10, screen.bottom() - 479, 640, 480) << false;
+    QTest::newRow("touches the right edge") << QRect(screen.right() - 639, 10, 640, 480) << false;
+    QTest::newRow("touches the bottom edge") << QRect(10, screen.bottom() - 479, 640, 480) << false;
     QTest::newRow("outside of every screen") << QRect(100000, 100000, 640, 480) << false;
     QTest::newRow("as far as integers go")
         << QRect(QPoint(1, 1), QPoint(2147483647, 2147483647)) << false;
@@ -165,12 +163,12 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QSize>("size");
     const QSize formSize(1089, 598);
-    QTest::newRow("no lines")
-        << QByteArray("\x00[[[=\xff\n", 7) << QSize(1024, 667);
+    QTest::newRow("no lines") << QByteArray("\x00[[[=\xff\n", 7) << QSize(1024, 667);
     QTest::newRow("broken lines around the key")
         << QByteArray("\x00[[[=\xff\nGeometry=@Rect(x)\n", 25) << formSize;
     QTest::newRow("a word") << QByteArray("[General]\nGeometry=wide\n") << formSize;
-    QTest::newRow("three numbers") << QByteArray("[General]\nGeometry=@Rect(9 9 500)\n") << formSize;
+    QTest::newRow("three numbers")
+        << QByteArray("[General]\nGeometry=@Rect(9 9 500)\n") << formSize;
     QTest::newRow("zeros") << QByteArray("[General]\nGeometry=@Rect(0 0 0 0)\n") << formSize;
     QTest::newRow("the largest numbers")
         << QByteArray("[General]\nGeometry=@Rect(2147483647 2147483647 2147483647 2147483647)\n")
@@ -181,7 +179,8 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
     QTest::newRow("numbers beyond integers")
         << QByteArray("[General]\nGeometry=@Rect(10 10 99999999999999999999 500)\n") << formSize;
     QTest::newRow("a list that no memory holds")
-        << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n") << formSize;
+        << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n")
+        << formSize;
     QTest::newRow("such a list under another key")
         << QByteArray("[Other]\nx=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n") << formSize;
 }
@@ -257,14 +256,29 @@ void tst_ConfigurationWindowAppearance::sheetNamesEverySelectorThatTheCodeSets()
     QFile file(":/qss/ConfigurationWindow");
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString sheet = QString::fromUtf8(file.readAll());
-    for (const char *selector :
-         {"#configList", "#configList::item", "#configList::item:selected",
-          "#configList::item::hover:!selected", "QLabel[ClassLabel=\"normal\"]",
-          "QCheckBox[ClassLabel=\"normal\"]", "#ConfigGroupBox", "#ConfigGroupBox[NoGroupBox=\"1\"]",
-          "QLabel[ConfigItemWidgetLabel=\"1\"]", "QLabel[changed=\"1\"]", "QCheckBox[changed=\"1\"]",
-          "QRadioButton[changed=\"1\"]", ".ColorSelectButton", ".KeySequenceEdit",
-          "QLineEdit:focus[class=\"KeySequenceEdit\"]", "QMainWindow", "QDialog", "QScrollArea",
-          "QGroupBox", "QTextEdit", "QTabBar", "QTabWidget::pane", "QMessageBox"}) {
+    for (const char *selector : {"#configList",
+                                 "#configList::item",
+                                 "#configList::item:selected",
+                                 "#configList::item::hover:!selected",
+                                 "QLabel[ClassLabel=\"normal\"]",
+                                 "QCheckBox[ClassLabel=\"normal\"]",
+                                 "#ConfigGroupBox",
+                                 "#ConfigGroupBox[NoGroupBox=\"1\"]",
+                                 "QLabel[ConfigItemWidgetLabel=\"1\"]",
+                                 "QLabel[changed=\"1\"]",
+                                 "QCheckBox[changed=\"1\"]",
+                                 "QRadioButton[changed=\"1\"]",
+                                 ".ColorSelectButton",
+                                 ".KeySequenceEdit",
+                                 "QLineEdit:focus[class=\"KeySequenceEdit\"]",
+                                 "QMainWindow",
+                                 "QDialog",
+                                 "QScrollArea",
+                                 "QGroupBox",
+                                 "QTextEdit",
+                                 "QTabBar",
+                                 "QTabWidget::pane",
+                                 "QMessageBox"}) {
         QVERIFY2(sheet.contains(QLatin1String(selector)), selector);
     }
 }
@@ -304,10 +318,12 @@ void tst_ConfigurationWindowAppearance::themeChangeReachesTheIcons()
     mFixture->manager->setIconMap(icons);
     QCOMPARE(ConfigurationWindow::mIconMap, icons);
     mFixture->open();
-    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal), QColor(QThemeCtrl::instance()->value("ColorFg0")));
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal),
+             QColor(QThemeCtrl::instance()->value("ColorFg0")));
     QCOMPARE(inkOf(row(0)->icon(), QIcon::Selected), QColor(Qt::white));
     QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Dark);
-    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal), QColor(QThemeCtrl::instance()->value("ColorFg0")));
+    QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal),
+             QColor(QThemeCtrl::instance()->value("ColorFg0")));
     QCOMPARE(inkOf(row(0)->icon(), QIcon::Selected), QColor(Qt::white));
 }
 

@@ -337,9 +337,8 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromACheckBox()
 {
     const ConfItem *item = addBool("a");
     const ConfItem *other = addBool("b", "", "Other");
-    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->ShowWindow("Other");
-    });
+    item->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mFixture->manager->ShowWindow("Other"); });
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(item));
     QVERIFY(!*mFlags.at(0));
@@ -369,9 +368,8 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
 void tst_ConfigurationWindowPage::callbackMayCloseTheWindow()
 {
     const ConfItem *item = addBool("a");
-    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->closeConfigWindow();
-    });
+    item->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mFixture->manager->closeConfigWindow(); });
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(item));
     QTRY_VERIFY(!mFixture->window());

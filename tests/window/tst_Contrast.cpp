@@ -22,9 +22,8 @@ double drawnContrast(QWidget *widget)
         for (int x = 0; x < image.width(); ++x)
             ++counts[image.pixel(x, y)];
     }
-    const auto ground = std::max_element(counts.cbegin(), counts.cend(), [](auto &a, auto &b) {
-        return a.second < b.second;
-    });
+    const auto ground = std::max_element(counts.cbegin(), counts.cend(),
+                                         [](auto &a, auto &b) { return a.second < b.second; });
     double best = 1;
     for (const auto &color : counts)
         best = qMax(best, contrast(QColor(color.first), QColor(ground->first)));
@@ -73,8 +72,8 @@ void tst_Contrast::coloursOfTheThemesContrast_data()
         add("ColorFg0", grounds, 4.5);
         add("white", {"ColorMain"}, 4.5);
         // The signs of states, and the frame of what has the focus.
-        for (const char *sign : {"ColorSuccess", "ColorWarning", "ColorFailed", "ColorDisable",
-                                 "ColorMain"})
+        for (const char *sign :
+             {"ColorSuccess", "ColorWarning", "ColorFailed", "ColorDisable", "ColorMain"})
             add(sign, {"ColorBg1"}, 3);
     }
 }
@@ -108,8 +107,8 @@ void tst_Contrast::drawnTextsContrast()
     QVERIFY(host.manager->ShowWindow("Edit"));
     host.window()->resize(900, 900);
     QVERIFY(QTest::qWaitForWindowExposed(host.window()));
-    for (const char *name : {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse",
-                             "Language", "Host"}) {
+    for (const char *name :
+         {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse", "Language", "Host"}) {
         MtConf::ConfigItemWidget *editor = host.manager->getItemByName("Edit", name, "")->editor;
         QVERIFY2(drawnContrast(editor->label()) >= 4.5, name);
     }

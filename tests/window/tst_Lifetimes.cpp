@@ -16,7 +16,8 @@
 
 using MtConf::ConfigurationWindow;
 
-/// Whatever a host does, wherever its code can run: nothing crashes, and the window works afterwards.
+/// Whatever a host does, wherever its code can run: nothing crashes, and the window works
+/// afterwards.
 class tst_Lifetimes : public QObject
 {
     Q_OBJECT
@@ -166,7 +167,8 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::actions()
         {"theme changed",
          [] {
              QThemeCtrl *themes = QThemeCtrl::instance();
-             themes->setTheme(themes->isDark() ? QThemeCtrl::Theme::Light : QThemeCtrl::Theme::Dark);
+             themes->setTheme(themes->isDark() ? QThemeCtrl::Theme::Light
+                                               : QThemeCtrl::Theme::Dark);
          }},
         {"window closed", [host] { host->manager->closeConfigWindow(); }},
         {"window closed and reopened",
@@ -177,8 +179,8 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::actions()
         {"keys removed",
          [host] {
              const LogCapture log;
-             for (const char *name : {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key",
-                                      "Mouse", "Host"})
+             for (const char *name :
+                  {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse", "Host"})
                  host->store()->removeDynamicConf(QLatin1String("Edit.") + name);
          }},
         {"manager destroyed", [host] { host->manager.reset(); }},
@@ -191,45 +193,58 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::callbackPlaces()
 {
     LifetimeFixture *host = mFixture.get();
     return {
-        {"callback of a check box", fromCallback("Flag", [host] {
-             WindowFixture::clickBox(WindowFixture::checkBox(
-                 host->manager->getItemByName("Edit", "Flag", "")));
-         })},
-        {"callback inside a callback of the same check box", [this, host] {
+        {"callback of a check box",
+         fromCallback("Flag",
+                      [host] {
+                          WindowFixture::clickBox(WindowFixture::checkBox(
+                              host->manager->getItemByName("Edit", "Flag", "")));
+                      })},
+        {"callback inside a callback of the same check box",
+         [this, host] {
              QCheckBox *box = WindowFixture::checkBox(
                  host->manager->getItemByName("Edit", "Flag", ""));
              const auto isInner = std::make_shared<bool>(false);
-             host->store()->setConfChangedCallback("Edit.Flag", [=](const QString &, const ConfValue *) {
-                 if (std::exchange(*isInner, true))
-                     act();
-                 else
-                     box->click();
-             });
+             host->store()->setConfChangedCallback("Edit.Flag",
+                                                   [=](const QString &, const ConfValue *) {
+                                                       if (std::exchange(*isInner, true))
+                                                           act();
+                                                       else
+                                                           box->click();
+                                                   });
              WindowFixture::clickBox(box);
          }},
         {"callback of a spin box",
          fromCallback("Number", [host] { typeInto(host->control<QSpinBox>("Number")); })},
         {"callback of a combo box",
          fromCallback("Text", [host] { chooseNext(host->control<QComboBox>("Text")); })},
-        {"callback of a multi-select box", fromCallback("Bits", [host] {
-             auto *box = host->control<QComboBox>("Bits");
-             box->showPopup();
-             WindowFixture::clickBox(box->view()->findChildren<QCheckBox *>().at(1));
-         })},
-        {"callback of a colour", fromCallback("Colour", [host] {
-             QTest::mouseClick(host->control<QPushButton>("Colour"), Qt::LeftButton);
-             auto *dialog = host->control<QColorDialog>("Colour");
-             dialog->setCurrentColor(Qt::blue);
-             accept(dialog);
-         })},
-        {"callback of a hotkey", fromCallback("Key", [host] {
-             QTest::keyPress(host->control<QLineEdit>("Key"), Qt::Key_F5, Qt::ControlModifier);
-         })},
-        {"callback of a mouse action", fromCallback("Mouse", [host] {
-             const QList<QComboBox *> boxes = host->manager->getItemByName("Edit", "Mouse", "")
-                                                  ->editor->findChildren<QComboBox *>();
-             chooseNext(boxes.last());
-         })},
+        {"callback of a multi-select box",
+         fromCallback("Bits",
+                      [host] {
+                          auto *box = host->control<QComboBox>("Bits");
+                          box->showPopup();
+                          WindowFixture::clickBox(box->view()->findChildren<QCheckBox *>().at(1));
+                      })},
+        {"callback of a colour",
+         fromCallback("Colour",
+                      [host] {
+                          QTest::mouseClick(host->control<QPushButton>("Colour"), Qt::LeftButton);
+                          auto *dialog = host->control<QColorDialog>("Colour");
+                          dialog->setCurrentColor(Qt::blue);
+                          accept(dialog);
+                      })},
+        {"callback of a hotkey", fromCallback("Key",
+                                              [host] {
+                                                  QTest::keyPress(host->control<QLineEdit>("Key"),
+                                                                  Qt::Key_F5, Qt::ControlModifier);
+                                              })},
+        {"callback of a mouse action",
+         fromCallback(
+             "Mouse",
+             [host] {
+                 const QList<QComboBox *> boxes = host->manager->getItemByName("Edit", "Mouse", "")
+                                                      ->editor->findChildren<QComboBox *>();
+                 chooseNext(boxes.last());
+             })},
     };
 }
 
@@ -237,29 +252,31 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::dialogPlaces()
 {
     LifetimeFixture *host = mFixture.get();
     return {
-        {"question of the page", [this] {
-             actUnder<QMessageBox>([] {
-                 QTest::mouseClick(WindowFixture::restorePageButton(), Qt::LeftButton);
-             });
+        {"question of the page",
+         [this] {
+             actUnder<QMessageBox>(
+                 [] { QTest::mouseClick(WindowFixture::restorePageButton(), Qt::LeftButton); });
          }},
-        {"question of all", [this] {
-             actUnder<QMessageBox>([] {
-                 QTest::mouseClick(WindowFixture::restoreAllButton(), Qt::LeftButton);
-             });
+        {"question of all",
+         [this] {
+             actUnder<QMessageBox>(
+                 [] { QTest::mouseClick(WindowFixture::restoreAllButton(), Qt::LeftButton); });
          }},
-        {"box of a too simple hotkey", [this, host] {
+        {"box of a too simple hotkey",
+         [this, host] {
              actUnder<QMessageBox>([host] {
                  auto *edit = host->control<KeySequenceEdit>("Key");
                  edit->allowSimpleHotkey = false;
                  QTest::keyPress(edit, Qt::Key_A);
              });
          }},
-        {"font dialog", [this, host] {
-             actUnder<QFontDialog>([host] {
-                 QTest::mouseClick(host->control<QPushButton>("Font"), Qt::LeftButton);
-             });
+        {"font dialog",
+         [this, host] {
+             actUnder<QFontDialog>(
+                 [host] { QTest::mouseClick(host->control<QPushButton>("Font"), Qt::LeftButton); });
          }},
-        {"colour dialog", [this, host] {
+        {"colour dialog",
+         [this, host] {
              QTest::mouseClick(host->control<QPushButton>("Colour"), Qt::LeftButton);
              const QPointer<QColorDialog> dialog = host->control<QColorDialog>("Colour");
              actSoon();
@@ -278,15 +295,18 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::hostPlaces()
         LifetimeFixture::pressClass(name);
     };
     return {
-        {"open list of a combo box", [this, host] {
+        {"open list of a combo box",
+         [this, host] {
              host->control<QComboBox>("Text")->showPopup();
              actSoon();
          }},
-        {"open list of a multi-select box", [this, host] {
+        {"open list of a multi-select box",
+         [this, host] {
              host->control<QComboBox>("Bits")->showPopup();
              actSoon();
          }},
-        {"timer while a number is typed", [this, host] {
+        {"timer while a number is typed",
+         [this, host] {
              auto *box = host->control<QSpinBox>("Number");
              box->setFocus();
              QTest::keyClick(box, Qt::Key_1);
@@ -294,27 +314,32 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::hostPlaces()
              if (QWidget *focus = QApplication::focusWidget())
                  QTest::keyClick(focus, Qt::Key_2);
          }},
-        {"retranslateUi of an editor", [this, host] {
+        {"retranslateUi of an editor",
+         [this, host] {
              host->onRetranslate = actor();
              host->window()->switchToView("Edit");
              Q_EMIT host->manager->sigLanguageChange();
          }},
-        {"language change event of an editor", [this, host] {
+        {"language change event of an editor",
+         [this, host] {
              host->onLanguage = actor();
              host->window()->switchToView("Edit");
              QEvent change(QEvent::LanguageChange);
              QApplication::sendEvent(host->window(), &change);
          }},
-        {"filter of items", [this, host, press] {
+        {"filter of items",
+         [this, host, press] {
              host->window()->switchToView("Other");
              host->onFilter = actor();
              press("Edit");
          }},
-        {"factory of a page", [this, host, press] {
+        {"factory of a page",
+         [this, host, press] {
              host->onPage = actor();
              press("Custom");
          }},
-        {"factory of an editor", [this, host, press] {
+        {"factory of an editor",
+         [this, host, press] {
              host->window()->switchToView("Other");
              host->onCreate = actor();
              press("Edit");
@@ -381,8 +406,8 @@ void tst_Lifetimes::dialogOfTheHostInsideACallbackOutlivesThePage_data()
     QTest::addColumn<QString>("place");
     QTest::addColumn<QString>("action");
     for (const auto &place : callbackPlaces()) {
-        for (const char *action : {"page switched", "window closed", "window closed and reopened",
-                                   "manager destroyed"})
+        for (const char *action :
+             {"page switched", "window closed", "window closed and reopened", "manager destroyed"})
             QTest::addRow("%s: %s", qPrintable(place.first), action) << place.first << action;
     }
 }

@@ -168,7 +168,9 @@ void tst_MtConfManageWindow::managerTakesItsWindowAlong()
 void tst_MtConfManageWindow::managerLeavesTheWindowOfAnotherAlone()
 {
     ConfigurationWindow *window = mFixture->open();
-    { MtConfManage another; }
+    {
+        MtConfManage another;
+    }
     QCOMPARE(ConfigurationWindow::instance(), window);
 }
 

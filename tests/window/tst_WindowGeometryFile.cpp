@@ -132,8 +132,10 @@ void tst_WindowGeometryFile::dangerousFileIsUnusableAndReplaced()
     const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
     QVERIFY(saved.found);
     QVERIFY(!saved.geometry.isValid());
-    QCOMPARE(log.messages(), QList<LoggedMessage>({{QtWarningMsg,
-        "ConfigurationWindow geometry file is not usable:  \"geometry.ini\""}}));
+    QCOMPARE(log.messages(),
+             QList<LoggedMessage>(
+                 {{QtWarningMsg,
+                   "ConfigurationWindow geometry file is not usable:  \"geometry.ini\""}}));
     WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
     QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
 }
@@ -164,8 +166,8 @@ void tst_WindowGeometryFile::pipesAndDevicesAreLeftAlone()
     QVERIFY(!WindowGeometryFile(path).read().found);
     WindowGeometryFile(path).write(QRect(5, 6, 7, 8));
     QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
-    const QString warning
-        = QString("ConfigurationWindow geometry file is not usable:  \"%1\"").arg(path);
+    const QString warning = QString("ConfigurationWindow geometry file is not usable:  \"%1\"")
+                                .arg(path);
     QCOMPARE(log.texts(QtWarningMsg), QStringList({warning, warning}));
 }
 

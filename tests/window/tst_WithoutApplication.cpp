@@ -58,8 +58,8 @@ void tst_WithoutApplication::hotkeysAreNotRegistered()
     int count = 1;
     char name[] = "tst_WithoutApplication";
     char *arguments[] = {name, nullptr};
-    const auto application = hasApplication
-        ? std::make_unique<QCoreApplication>(count, arguments) : nullptr;
+    const auto application = hasApplication ? std::make_unique<QCoreApplication>(count, arguments)
+                                            : nullptr;
     QVERIFY(!QxtGlobalShortcut::isSupported());
     QxtGlobalShortcut shortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
     QVERIFY(shortcut.isEnabled());

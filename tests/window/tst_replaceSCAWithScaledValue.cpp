@@ -16,13 +16,12 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
     QTest::addColumn<float>("scale");
     QTest::addColumn<QString>("replaced");
     QTest::newRow("one macro") << "width: SCA(10)px" << 1.5f << "width: 15px";
-    QTest::newRow("second macro inside the replaced span stays") << "SCA(4) SCA(8)" << 2.0f
-                                                                 << "8 SCA(8)";
+    QTest::newRow("second macro inside the replaced span stays")
+        << "SCA(4) SCA(8)" << 2.0f << "8 SCA(8)";
     // "SCA(4)" fills six characters; after its replacement by one the search goes on at the sixth.
-    QTest::newRow("second macro behind the replaced span is replaced") << "SCA(4)-----SCA(8)"
-                                                                       << 2.0f << "8-----16";
-    QTest::newRow("one character less is inside") << "SCA(4)----SCA(8)" << 2.0f
-                                                  << "8----SCA(8)";
+    QTest::newRow("second macro behind the replaced span is replaced")
+        << "SCA(4)-----SCA(8)" << 2.0f << "8-----16";
+    QTest::newRow("one character less is inside") << "SCA(4)----SCA(8)" << 2.0f << "8----SCA(8)";
     QTest::newRow("half is rounded up") << "SCA(1)" << 2.5f << "3";
     QTest::newRow("less than half is rounded down") << "SCA(1)" << 1.4f << "1";
     QTest::newRow("zero") << "SCA(0)" << 3.0f << "0";

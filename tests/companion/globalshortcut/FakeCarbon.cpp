@@ -74,7 +74,7 @@ OSStatus RegisterEventHotKey(UInt32 code, UInt32 modifiers, EventHotKeyID id, Ev
     };
     const auto isOurs = [&isSame](const auto &hotKey) { return isSame(*hotKey); };
     const bool taken = std::any_of(carbon.hotKeys.begin(), carbon.hotKeys.end(), isOurs)
-            || std::any_of(carbon.occupied.begin(), carbon.occupied.end(), isSame);
+                       || std::any_of(carbon.occupied.begin(), carbon.occupied.end(), isSame);
     if (taken && options == kEventHotKeyExclusive)
         return eventHotKeyExistsErr;
     carbon.hotKeys.push_back(

@@ -25,8 +25,8 @@ public:
     OSStatus press(UInt32 code, UInt32 modifiers) const;
 
     std::vector<std::unique_ptr<HotKey>> hotKeys; ///< registered now
-    int handlerFunctions = 0; ///< made and not disposed of
-    EventHandlerUPP handler = nullptr; ///< installed now
+    int handlerFunctions = 0;                     ///< made and not disposed of
+    EventHandlerUPP handler = nullptr;            ///< installed now
     void *handlerData = nullptr;
     bool refusesHandlers = false;
     std::vector<HotKey> occupied; ///< registered by other programs; ids are of no account

@@ -29,8 +29,8 @@ void tst_MacKeys::chordBecomesKeyCodeAndModifiers_data()
     row("shift", int(Qt::SHIFT) + Qt::Key_Z, 0x06, 0x200);
     row("altIsOption", int(Qt::ALT) + Qt::Key_M, 0x2e, 0x800);
     row("metaIsControl", int(Qt::META) + Qt::Key_Q, 0x0c, 0x1000);
-    row("allModifiers",
-        int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::ALT) + int(Qt::META) + Qt::Key_0, 0x1d, 0x1b00);
+    row("allModifiers", int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::ALT) + int(Qt::META) + Qt::Key_0,
+        0x1d, 0x1b00);
     row("symbolNeedsShift", int(Qt::CTRL) + Qt::Key_Exclam, 0x12, 0x300);
     row("symbolWithShiftIsTheSame", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Exclam, 0x12, 0x300);
     row("braceIsAShiftedBracket", Qt::Key_BraceRight, 0x1e, 0x200);

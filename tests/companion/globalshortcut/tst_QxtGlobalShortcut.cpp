@@ -82,8 +82,8 @@ void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid_data()
     QTest::addColumn<QKeySequence>("keys");
     QTest::newRow("empty") << QKeySequence();
     QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
-    QTest::newRow("twoChords")
-        << QKeySequence(int(Qt::CTRL) + Qt::Key_K, int(Qt::CTRL) + Qt::Key_L);
+    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_K,
+                                               int(Qt::CTRL) + Qt::Key_L);
     QTest::newRow("fourChords") << QKeySequence(1, 2, 3, 4);
     QTest::newRow("allBits") << QKeySequence(-1);
 }

@@ -1,7 +1,7 @@
 #include <QxtGlobalShortcut>
 
-#include "support/XClient.h"
 #include "support/TestMain.h"
+#include "support/XClient.h"
 
 #include <QElapsedTimer>
 
@@ -90,8 +90,8 @@ void tst_QxtGlobalShortcutX11::typeSentinel()
 bool tst_QxtGlobalShortcutX11::canGrabF9()
 {
     const xcb_keycode_t key = mClient->keyOf(f9);
-    return mClient->canGrab(key, 0x00) && mClient->canGrab(key, 0x02)
-            && mClient->canGrab(key, 0x10) && mClient->canGrab(key, 0x12);
+    return mClient->canGrab(key, 0x00) && mClient->canGrab(key, 0x02) && mClient->canGrab(key, 0x10)
+           && mClient->canGrab(key, 0x12);
 }
 
 void tst_QxtGlobalShortcutX11::aPressActivates_data()
@@ -353,8 +353,8 @@ void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
     QTest::newRow("empty") << QKeySequence();
     QTest::newRow("zeroKey") << QKeySequence(int(Qt::CTRL));
     QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
-    QTest::newRow("twoChords")
-        << QKeySequence(int(Qt::CTRL) + Qt::Key_F9, int(Qt::CTRL) + Qt::Key_F7);
+    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_F9,
+                                               int(Qt::CTRL) + Qt::Key_F7);
     QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
     QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
     QTest::newRow("keyThatThisKeyboardLacks") << QKeySequence(0x0424);

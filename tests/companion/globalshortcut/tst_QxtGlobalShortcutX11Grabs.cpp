@@ -80,11 +80,8 @@ void tst_QxtGlobalShortcutX11Grabs::aThousandCyclesLeaveNothing()
             lasting.setEnabled();
             QVERIFY(lasting.isValid());
             break;
-        case 2:
-            QVERIFY(lasting.setShortcut(chosen));
-            break;
-        default:
-            QVERIFY(!lasting.setShortcut(QKeySequence()));
+        case 2: QVERIFY(lasting.setShortcut(chosen)); break;
+        default: QVERIFY(!lasting.setShortcut(QKeySequence()));
         }
     }
     for (int key = 8; key <= 255; ++key)
@@ -117,8 +114,8 @@ void tst_QxtGlobalShortcutX11Grabs::everyOneOfManyActivatesItself()
     std::vector<std::unique_ptr<QxtGlobalShortcut>> shortcuts;
     QVector<int> order;
     for (int i = 0; i < count; ++i) {
-        shortcuts.push_back(std::make_unique<QxtGlobalShortcut>(
-            QKeySequence(int(Qt::CTRL) + Qt::Key_F1 + i)));
+        shortcuts.push_back(
+            std::make_unique<QxtGlobalShortcut>(QKeySequence(int(Qt::CTRL) + Qt::Key_F1 + i)));
         QVERIFY(shortcuts.back()->isValid());
         connect(shortcuts.back().get(), &QxtGlobalShortcut::activated, this,
                 [&order, i] { order.append(i); });

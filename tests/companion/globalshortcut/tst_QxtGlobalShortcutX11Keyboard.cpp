@@ -1,7 +1,7 @@
 #include <QxtGlobalShortcut>
 
-#include "support/XClient.h"
 #include "support/TestMain.h"
+#include "support/XClient.h"
 
 #include <QProcess>
 

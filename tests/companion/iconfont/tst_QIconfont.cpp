@@ -141,8 +141,8 @@ void tst_QIconfont::glyphsAreDrawn()
 void tst_QIconfont::noTwoGlyphsLookAlike()
 {
     QList<QImage> images;
-    for (const int code : {0xe63a, 0xe70d, 0xe71b, 0xe725, 0xe800, 0xe801, 0xe802, 0xe803,
-                           0xe804, 0xe805, 0xe806, 0xe807}) {
+    for (const int code : {0xe63a, 0xe70d, 0xe71b, 0xe725, 0xe800, 0xe801, 0xe802, 0xe803, 0xe804,
+                           0xe805, 0xe806, 0xe807}) {
         const QImage image = QIconfont::Pixmap(QChar(code), Qt::black, 16).toImage();
         QVERIFY2(!images.contains(image), QByteArray::number(code, 16));
         images.append(image);
@@ -158,8 +158,8 @@ void tst_QIconfont::paintsWithATranslucentColour()
 
 void tst_QIconfont::marginsStayEmpty()
 {
-    const QImage image = QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 40,
-                                           QMargins(4, 6, 4, 2)).toImage();
+    const QImage image =
+        QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 40, QMargins(4, 6, 4, 2)).toImage();
     QCOMPARE(ink(image), QRect(4, 6, 32, 32));
 }
 
@@ -184,8 +184,8 @@ void tst_QIconfont::glyphStandsOnWholePixels()
 {
     // 23 pixels in the width and 24 in the height cannot be halved: the circle must not stand
     // between two rows.
-    const QImage image = QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24,
-                                           QMargins(1, 0, 0, 0)).toImage();
+    const QImage image =
+        QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24, QMargins(1, 0, 0, 0)).toImage();
     QCOMPARE(ink(image), QRect(1, 0, 23, 23));
 }
 
@@ -253,8 +253,7 @@ void tst_QIconfont::unknownGlyphDrawsNothing()
 void tst_QIconfont::largestSizeIsDrawn()
 {
     const QIcon icon = QIconfont::Icon(QuorviGlyphs::Correct, Qt::black, 1024);
-    QCOMPARE(icon.availableSizes(),
-             (QList<QSize>{{1024, 1024}, {2048, 2048}, {3072, 3072}}));
+    QCOMPARE(icon.availableSizes(), (QList<QSize>{{1024, 1024}, {2048, 2048}, {3072, 3072}}));
     QVERIFY(!QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 1024).isNull());
 }
 

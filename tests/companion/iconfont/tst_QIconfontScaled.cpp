@@ -35,8 +35,8 @@ void tst_QIconfontScaled::pixmapHasTwiceThePixels()
 
 void tst_QIconfontScaled::marginsAreLogicalPixels()
 {
-    const QImage image = QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24,
-                                           QMargins(4, 4, 4, 4)).toImage();
+    const QImage image =
+        QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24, QMargins(4, 4, 4, 4)).toImage();
     QCOMPARE(image.pixelColor(7, 24).alpha(), 0);
     QVERIFY(image.pixelColor(8, 24).alpha() > 0);
     QVERIFY(image.pixelColor(39, 24).alpha() > 0);
@@ -49,8 +49,7 @@ void tst_QIconfontScaled::iconAnswersWithThePixelsOfTheScreen()
     const QPixmap pixmap = icon.pixmap(QSize(24, 24));
     QCOMPARE(pixmap.devicePixelRatio(), 2.0);
     QCOMPARE(pixmap.size(), QSize(48, 48));
-    QCOMPARE(pixmap.toImage(),
-             QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24).toImage());
+    QCOMPARE(pixmap.toImage(), QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24).toImage());
 }
 
 void tst_QIconfontScaled::iconForTheSelectedModeIsSharp()

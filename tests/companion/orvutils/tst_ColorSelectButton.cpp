@@ -230,7 +230,8 @@ void tst_ColorSelectButton::buttonMayGoWhileItsDialogIsOpen()
 
 void tst_ColorSelectButton::slotMayDeleteTheButton()
 {
-    connect(mButton, &ColorSelectButton::sigColorChanged, mWindow.get(), [this] { mButton->deleteLater(); });
+    connect(mButton, &ColorSelectButton::sigColorChanged, mWindow.get(),
+            [this] { mButton->deleteLater(); });
     QTest::mouseClick(mButton, Qt::LeftButton);
     dialogOf(*mButton)->setCurrentColor(Qt::green);
     finish(dialogOf(*mButton), QDialogButtonBox::Ok);
@@ -274,7 +275,8 @@ void tst_ColorSelectButton::sizeFollowsTheFont()
         font.setPixelSize(pixels);
         mButton->setFont(font);
         const QSize size = mButton->sizeHint();
-        QVERIFY2(qAbs(size.width() - 4 * pixels) <= pixels, qPrintable(QString::number(size.width())));
+        QVERIFY2(qAbs(size.width() - 4 * pixels) <= pixels,
+                 qPrintable(QString::number(size.width())));
         QVERIFY2(qAbs(size.height() * 10 - 16 * pixels) <= 5 * pixels,
                  qPrintable(QString::number(size.height())));
     }
@@ -347,7 +349,8 @@ void tst_ColorSelectButton::focusAndDisabledLookDiffer()
 
 void tst_ColorSelectButton::everySizeCanBeDrawn()
 {
-    for (const QSize &size : {QSize(0, 0), QSize(1, 1), QSize(3, 30), QSize(5, 5), QSize(4000, 4000)}) {
+    for (const QSize &size :
+         {QSize(0, 0), QSize(1, 1), QSize(3, 30), QSize(5, 5), QSize(4000, 4000)}) {
         mButton->setFixedSize(size);
         for (const QColor &color : {QColor(), QColor(1, 2, 3, 4), QColor(Qt::red)}) {
             mButton->setColor(color);

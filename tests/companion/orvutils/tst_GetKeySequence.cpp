@@ -48,7 +48,8 @@ void tst_GetKeySequence::eventBecomesOneChord_data()
                                  << 0x1f000034;
     QTest::newRow("keypadKeepsItsMark") << int(Qt::Key_5) << int(Qt::KeypadModifier) << 0x20000035;
     QTest::newRow("groupSwitchIsDropped") << int(Qt::Key_A) << int(Qt::GroupSwitchModifier) << 0x41;
-    QTest::newRow("symbolStaysAsReported") << int(Qt::Key_Exclam) << int(Qt::ShiftModifier) << 0x02000021;
+    QTest::newRow("symbolStaysAsReported")
+        << int(Qt::Key_Exclam) << int(Qt::ShiftModifier) << 0x02000021;
     QTest::newRow("shiftWithBacktabIsShiftWithTab")
         << int(Qt::Key_Backtab) << int(Qt::ShiftModifier | Qt::ControlModifier) << 0x07000001;
     QTest::newRow("backtabAloneStays") << int(Qt::Key_Backtab) << 0 << 0x01000002;
@@ -56,7 +57,8 @@ void tst_GetKeySequence::eventBecomesOneChord_data()
     QTest::newRow("controlKeyAlone") << int(Qt::Key_Control) << 0 << 0x01000021;
     QTest::newRow("metaKeyAlone") << int(Qt::Key_Meta) << 0 << 0x01000022;
     QTest::newRow("altKeyAlone") << int(Qt::Key_Alt) << 0 << 0x01000023;
-    QTest::newRow("altKeyWithControl") << int(Qt::Key_Alt) << int(Qt::ControlModifier) << 0x05000023;
+    QTest::newRow("altKeyWithControl")
+        << int(Qt::Key_Alt) << int(Qt::ControlModifier) << 0x05000023;
     QTest::newRow("letterBeyondLatin") << 0x416 << int(Qt::ControlModifier) << 0x04000416;
 }
 

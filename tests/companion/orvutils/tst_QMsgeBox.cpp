@@ -59,7 +59,8 @@ void tst_QMsgeBox::closesOnOk()
     auto *const box = new QMsgeBox(hasParent ? &window : nullptr);
     box->setText(QStringLiteral("Too simple"));
     box->setIcon(QMessageBox::Warning);
-    QTimer::singleShot(0, box, [box] { QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton); });
+    QTimer::singleShot(0, box,
+                       [box] { QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton); });
     QCOMPARE(box->exec(), int(QMessageBox::Ok));
     delete box;
 }

@@ -59,11 +59,12 @@ void tst_QThemeCtrl::init()
 
 void tst_QThemeCtrl::everyNameIsInBothThemes()
 {
-    const QStringList colors{
-        QStringLiteral("ColorBg0"), QStringLiteral("ColorBg1"), QStringLiteral("ColorBg1Border"),
-        QStringLiteral("ColorBg2"), QStringLiteral("ColorBg3"), QStringLiteral("ColorBg3Border"),
-        QStringLiteral("ColorFg0"), QStringLiteral("ColorMain"), QStringLiteral("ColorSuccess"),
-        QStringLiteral("ColorWarning"), QStringLiteral("ColorFailed"), QStringLiteral("ColorDisable")};
+    const QStringList colors{QStringLiteral("ColorBg0"),       QStringLiteral("ColorBg1"),
+                             QStringLiteral("ColorBg1Border"), QStringLiteral("ColorBg2"),
+                             QStringLiteral("ColorBg3"),       QStringLiteral("ColorBg3Border"),
+                             QStringLiteral("ColorFg0"),       QStringLiteral("ColorMain"),
+                             QStringLiteral("ColorSuccess"),   QStringLiteral("ColorWarning"),
+                             QStringLiteral("ColorFailed"),    QStringLiteral("ColorDisable")};
     for (const Theme theme : {Theme::Light, Theme::Dark}) {
         mTheme->setTheme(theme);
         for (const QString &name : colors)
@@ -214,7 +215,8 @@ void tst_QThemeCtrl::slotMaySetThePaletteWhileTheSystemIsFollowed()
 void tst_QThemeCtrl::slotMayChooseAnotherTheme()
 {
     QObject host;
-    connect(mTheme, &QThemeCtrl::sigThemeChanged, &host, [this] { mTheme->setTheme(Theme::Light); });
+    connect(mTheme, &QThemeCtrl::sigThemeChanged, &host,
+            [this] { mTheme->setTheme(Theme::Light); });
     QSignalSpy spy(mTheme, &QThemeCtrl::sigThemeChanged);
     mTheme->setTheme(Theme::Dark);
     QVERIFY(!mTheme->isDark());
@@ -238,7 +240,8 @@ void tst_QThemeCtrl::paletteIsMadeOfTheNames()
         QCOMPARE(palette.color(QPalette::Disabled, QPalette::Text),
                  mTheme->color(QStringLiteral("ColorDisable")));
         QVERIFY(contrast(palette.color(QPalette::Link), palette.color(QPalette::Window)) >= 4.5);
-        QVERIFY(contrast(palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase)) >= 7);
+        QVERIFY(contrast(palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase))
+                >= 7);
     }
 }
 

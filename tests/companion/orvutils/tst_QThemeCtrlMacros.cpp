@@ -39,7 +39,8 @@ void tst_QThemeCtrlMacros::initTestCase()
     QThemeCtrl *const theme = QThemeCtrl::instance();
     theme->setTheme(QThemeCtrl::Theme::Light);
     const auto set = [theme](const char *name, const char *value) {
-        theme->setValue(QThemeCtrl::Theme::System, QString::fromUtf8(name), QString::fromUtf8(value));
+        theme->setValue(QThemeCtrl::Theme::System, QString::fromUtf8(name),
+                        QString::fromUtf8(value));
     };
     set("Radius", "6");
     set("Name", "Radius");
@@ -60,7 +61,8 @@ void tst_QThemeCtrlMacros::expands_data()
         QTest::newRow(name) << QString::fromUtf8(sheet) << scale << QString::fromUtf8(expected);
     };
     row("nothingStaysNothing", "", 2, "");
-    row("textWithoutMacrosStays", "QLabel { color: rgb(1, 2, 3); }", 2, "QLabel { color: rgb(1, 2, 3); }");
+    row("textWithoutMacrosStays", "QLabel { color: rgb(1, 2, 3); }", 2,
+        "QLabel { color: rgb(1, 2, 3); }");
     row("numberIsScaled", "width: sca(10)px;", 1.5, "width: 15px;");
     row("neighboursAreBothScaled", "sca(4) sca(8)sca(9)", 2, "8 1618");
     row("halfIsRoundedUp", "sca(5)", 1.5, "8");
@@ -83,9 +85,11 @@ void tst_QThemeCtrlMacros::expands_data()
     row("valueWithQuotesHarmsNothing", "font: var(Quoted) /* var(X) */ sca(2)", 2,
         "font: \"Some Font\" /* var(X) */ 4");
     row("macroInsideAFunctionIsExpanded", "url(a/var(Radius)/sca(2))", 2, "url(a/6/4)");
-    row("macroInAStringIsExpanded", "url(\":/icons/var(Radius).svg\")", 2, "url(\":/icons/6.svg\")");
+    row("macroInAStringIsExpanded", "url(\":/icons/var(Radius).svg\")", 2,
+        "url(\":/icons/6.svg\")");
     row("minusBeforeAMacroIsASign", "margin: -sca(4)px (-sca(4))", 2, "margin: -8px (-8)");
-    row("macroOnlyCountsAsAWholeWord", "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)", 2,
+    row("macroOnlyCountsAsAWholeWord",
+        "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)", 2,
         "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)");
     row("capitalsAreNoMacro", "SCA(2) Sca(2) VAR(Edge)", 2, "SCA(2) Sca(2) VAR(Edge)");
     row("blankBeforeTheParenthesisIsNoMacro", "sca (2)", 2, "sca (2)");
@@ -94,7 +98,8 @@ void tst_QThemeCtrlMacros::expands_data()
     row("commentWithoutEndStays", "sca(2) /* sca(2)", 2, "4 /* sca(2)");
     row("slashStarInAStringIsNoComment", "url(\"a/*b\") sca(2) url('/*') sca(2)", 2,
         "url(\"a/*b\") 4 url('/*') 4");
-    row("stringEndsWithItsLine", "url(\"broken\n/* sca(2) */ sca(2)", 2, "url(\"broken\n/* sca(2) */ 4");
+    row("stringEndsWithItsLine", "url(\"broken\n/* sca(2) */ sca(2)", 2,
+        "url(\"broken\n/* sca(2) */ 4");
     row("escapedQuoteEndsNoString", "\"a\\\"/*\" sca(2)", 2, "\"a\\\"/*\" 4");
     row("otherQuoteEndsNoString", "\"it's /*\" sca(2)", 2, "\"it's /*\" 4");
     row("lastBackslashStays", "sca(2)\\", 2, "4\\");
@@ -106,7 +111,8 @@ void tst_QThemeCtrlMacros::expands_data()
     row("openNameSwallowsNoString", "url(var(Radius, \"a\"))", 2, "url(var(Radius, \"a\"))");
     row("strayParenthesesStay", ")) sca(2) ((", 2, ")) 4 ((");
     row("functionInsideANumberStays", "sca(f(2)) sca(2)", 2, "sca(f(2)) 4");
-    row("numbersOfOtherFormsStay", "sca() sca(1e3) sca(0x10) sca(1 2) sca(1.2.3) sca(--1) sca(.) sca(inf)", 2,
+    row("numbersOfOtherFormsStay",
+        "sca() sca(1e3) sca(0x10) sca(1 2) sca(1.2.3) sca(--1) sca(.) sca(inf)", 2,
         "sca() sca(1e3) sca(0x10) sca(1 2) sca(1.2.3) sca(--1) sca(.) sca(inf)");
 }
 
@@ -136,7 +142,8 @@ void tst_QThemeCtrlMacros::unusableScaleCountsAsOne()
 void tst_QThemeCtrlMacros::unknownNameIsLeftOutAndReportedOnce()
 {
     LogCapture log;
-    QCOMPARE(expand(QStringLiteral("a var(Nobody) b var(Nobody) var(Else)"), 1), QStringLiteral("a  b  "));
+    QCOMPARE(expand(QStringLiteral("a var(Nobody) b var(Nobody) var(Else)"), 1),
+             QStringLiteral("a  b  "));
     QCOMPARE(expand(QStringLiteral("[var(Nobody)]"), 1), QStringLiteral("[]"));
     const QStringList expected{QStringLiteral("QThemeCtrl::handleQssFile unknown name: Nobody"),
                                QStringLiteral("QThemeCtrl::handleQssFile unknown name: Else")};
@@ -146,22 +153,26 @@ void tst_QThemeCtrlMacros::unknownNameIsLeftOutAndReportedOnce()
 void tst_QThemeCtrlMacros::nameThatRefersToItselfStaysAndIsReportedOnce()
 {
     QThemeCtrl *const theme = QThemeCtrl::instance();
-    theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Loop"), QStringLiteral("a var(Loop)"));
+    theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Loop"),
+                    QStringLiteral("a var(Loop)"));
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Egg"), QStringLiteral("var(Hen)"));
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Hen"), QStringLiteral("var(Egg)"));
     LogCapture log;
-    QCOMPARE(expand(QStringLiteral("var(Loop) var(Loop)"), 1), QStringLiteral("a var(Loop) a var(Loop)"));
+    QCOMPARE(expand(QStringLiteral("var(Loop) var(Loop)"), 1),
+             QStringLiteral("a var(Loop) a var(Loop)"));
     QCOMPARE(expand(QStringLiteral("var(Egg)"), 1), QStringLiteral("var(Egg)"));
     QCOMPARE(expand(QStringLiteral("var(Egg)"), 1), QStringLiteral("var(Egg)"));
-    const QStringList expected{QStringLiteral("QThemeCtrl::handleQssFile name refers to itself: Loop"),
-                               QStringLiteral("QThemeCtrl::handleQssFile name refers to itself: Egg")};
+    const QStringList expected{
+        QStringLiteral("QThemeCtrl::handleQssFile name refers to itself: Loop"),
+        QStringLiteral("QThemeCtrl::handleQssFile name refers to itself: Egg")};
     QCOMPARE(LogCapture::texts(QtWarningMsg), expected);
 }
 
 void tst_QThemeCtrlMacros::textThatIsNoNumberStaysAndIsReportedOnce()
 {
     LogCapture log;
-    QCOMPARE(expand(QStringLiteral("sca(four) sca(four)"), 1), QStringLiteral("sca(four) sca(four)"));
+    QCOMPARE(expand(QStringLiteral("sca(four) sca(four)"), 1),
+             QStringLiteral("sca(four) sca(four)"));
     QCOMPARE(LogCapture::texts(QtWarningMsg),
              QStringList{QStringLiteral("QThemeCtrl::handleQssFile not a number: four")});
 }
@@ -173,14 +184,16 @@ void tst_QThemeCtrlMacros::valueThatMultipliesItselfStays()
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Ten0"), QStringLiteral("x"));
     for (int i = 1; i <= 30; ++i) {
         const QString one = QStringLiteral("var(Ten%1)").arg(i - 1);
-        theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Ten%1").arg(i), one.repeated(10));
+        theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Ten%1").arg(i),
+                        one.repeated(10));
     }
     LogCapture log;
     QCOMPARE(expand(QStringLiteral("var(Ten3)"), 1), QString(1000, QLatin1Char('x')));
     QCOMPARE(expand(QStringLiteral("var(Ten4)"), 1), QStringLiteral("var(Ten4)"));
     QVERIFY(expand(QStringLiteral("var(Ten30)"), 1).size() < 10000);
     QVERIFY(LogCapture::texts(QtWarningMsg)
-                .contains(QStringLiteral("QThemeCtrl::handleQssFile value too long or too deep: Ten4")));
+                .contains(
+                    QStringLiteral("QThemeCtrl::handleQssFile value too long or too deep: Ten4")));
 }
 
 void tst_QThemeCtrlMacros::longChainOfNamesStays()
@@ -217,11 +230,13 @@ void tst_QThemeCtrlMacros::nestingOfAnyDepthIsRead_data()
     const QString scale = QStringLiteral("sca(");
     const QString close = QStringLiteral(")");
     QTest::newRow("numbers") << scale << QStringLiteral("7") << close << QStringLiteral("7");
-    QTest::newRow("names") << QStringLiteral("var(") << QStringLiteral("DeepDown") << close << QString();
+    QTest::newRow("names") << QStringLiteral("var(") << QStringLiteral("DeepDown") << close
+                           << QString();
     QTest::newRow("notClosed") << scale << QStringLiteral("7") << QString()
                                << scale.repeated(100000) + QStringLiteral("7");
     QTest::newRow("noNumber") << scale << QStringLiteral("!") << close
-                              << scale.repeated(100000) + QStringLiteral("!") + close.repeated(100000);
+                              << scale.repeated(100000) + QStringLiteral("!")
+                                     + close.repeated(100000);
     QTest::newRow("blankApart") << QStringLiteral("sca(      ") << QStringLiteral("7") << close
                                 << QStringLiteral("7");
     QTest::newRow("plain") << QStringLiteral("(") << QStringLiteral("sca(7)") << close
@@ -253,7 +268,8 @@ void tst_QThemeCtrlMacros::largeSheetIsRead_data()
     QTest::newRow("quotes") << QStringLiteral("\"'sca(") << QStringLiteral("\"'sca(");
     QTest::newRow("comments") << QStringLiteral("/*/") << QStringLiteral("/*/");
     QTest::newRow("backslashes") << QStringLiteral("\\\\") << QStringLiteral("\\\\");
-    QTest::newRow("binary") << QString(QChar(0)) + QChar(0xd800) << QString(QChar(0)) + QChar(0xd800);
+    QTest::newRow("binary") << QString(QChar(0)) + QChar(0xd800)
+                            << QString(QChar(0)) + QChar(0xd800);
 }
 
 void tst_QThemeCtrlMacros::largeSheetIsRead()

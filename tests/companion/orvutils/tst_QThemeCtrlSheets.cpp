@@ -85,7 +85,8 @@ void tst_QThemeCtrlSheets::sheetsAreJoinedInTheirOrderAndExpanded()
 {
     writeSheet("two.qss", "QLabel { margin: sca(2)px }");
     apply(mLabel.get(), {QStringLiteral("two.qss"), QStringLiteral("./one.qss")});
-    QCOMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 4px }\nQLabel { margin: 2px }\n"));
+    QCOMPARE(mLabel->styleSheet(),
+             QStringLiteral("QLabel { margin: 4px }\nQLabel { margin: 2px }\n"));
     QCOMPARE(mChanges->count(), 0);
 }
 
@@ -131,7 +132,8 @@ void tst_QThemeCtrlSheets::encodingIsUtf8WithOrWithoutMark()
 void tst_QThemeCtrlSheets::resourceIsReadAndNotWatched()
 {
     // Qt's own resources are always there.
-    const QString resource = QStringLiteral(":/qt-project.org/styles/commonstyle/images/left-32.png");
+    const QString resource = QStringLiteral(
+        ":/qt-project.org/styles/commonstyle/images/left-32.png");
     QVERIFY(QFile::exists(resource));
     LogCapture log;
     apply(mLabel.get(), {resource});

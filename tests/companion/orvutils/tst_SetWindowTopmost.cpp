@@ -171,10 +171,12 @@ void tst_SetWindowTopmost::windowManagerKeepsItAbove()
     if (QGuiApplication::platformName() != QLatin1String("xcb") || manager.isEmpty()
         || QStandardPaths::findExecutable(QStringLiteral("xprop")).isEmpty())
         QSKIP("needs an X server, openbox and xprop");
-    // Windows shown while the manager starts, after it has already named itself, may never be mapped.
+    // Windows shown while the manager starts, after it has already named itself, may never be
+    // mapped.
     QProcess process;
-    process.start(manager, {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
-                            QStringLiteral("xprop -root -f MANAGER_READY 8s -set MANAGER_READY yes")});
+    process.start(manager,
+                  {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
+                   QStringLiteral("xprop -root -f MANAGER_READY 8s -set MANAGER_READY yes")});
     QVERIFY(process.waitForStarted());
     const QStringList askReady{QStringLiteral("-root"), QStringLiteral("MANAGER_READY")};
     QTRY_VERIFY(output(QStringLiteral("xprop"), askReady).contains(QStringLiteral("yes")));
@@ -191,12 +193,15 @@ void tst_SetWindowTopmost::windowManagerKeepsItAbove()
     SetWindowTopmost(&window, true, OrvWindowTypeSettings);
     QTRY_VERIFY(stackingOrder().endsWith(windowNumber(window)));
     other.raise();
-    const QStringList askState{QStringLiteral("-id"), windowNumber(window), QStringLiteral("_NET_WM_STATE")};
-    QTRY_VERIFY(output(QStringLiteral("xprop"), askState).contains(QStringLiteral("_NET_WM_STATE_ABOVE")));
+    const QStringList askState{QStringLiteral("-id"), windowNumber(window),
+                               QStringLiteral("_NET_WM_STATE")};
+    QTRY_VERIFY(
+        output(QStringLiteral("xprop"), askState).contains(QStringLiteral("_NET_WM_STATE_ABOVE")));
     QVERIFY(stackingOrder().endsWith(windowNumber(window)));
 
     SetWindowTopmost(&window, false, OrvWindowTypeSettings);
-    QTRY_VERIFY(!output(QStringLiteral("xprop"), askState).contains(QStringLiteral("_NET_WM_STATE_ABOVE")));
+    QTRY_VERIFY(
+        !output(QStringLiteral("xprop"), askState).contains(QStringLiteral("_NET_WM_STATE_ABOVE")));
     other.raise();
     QTRY_VERIFY(stackingOrder().endsWith(windowNumber(other)));
     process.terminate();

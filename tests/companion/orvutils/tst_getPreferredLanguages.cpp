@@ -23,7 +23,8 @@ QStringList languagesWith(const QString &language, const QString &locale)
     program.setProcessEnvironment(environment);
     program.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintSwitch)});
     program.waitForFinished();
-    return QString::fromUtf8(program.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(program.readAllStandardOutput())
+        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -41,7 +42,8 @@ private Q_SLOTS:
 
 void tst_getPreferredLanguages::mostPreferredComesFirst()
 {
-    const QStringList languages = languagesWith(QStringLiteral("fr:de"), QStringLiteral("en_US.UTF-8"));
+    const QStringList languages = languagesWith(QStringLiteral("fr:de"),
+                                                QStringLiteral("en_US.UTF-8"));
     // Each may come in several forms: "fr", "fr-FR", "fr-Latn-FR".
     const int firstGerman = languages.indexOf(QRegularExpression(QStringLiteral("^de.*")));
     QVERIFY(firstGerman > 0);
@@ -58,7 +60,8 @@ void tst_getPreferredLanguages::languageOfTheLocaleIsKnown()
 
 void tst_getPreferredLanguages::noneComesTwice()
 {
-    QStringList languages = languagesWith(QStringLiteral("de:de:en:de"), QStringLiteral("de_DE.UTF-8"));
+    QStringList languages = languagesWith(QStringLiteral("de:de:en:de"),
+                                          QStringLiteral("de_DE.UTF-8"));
     QVERIFY(!languages.isEmpty());
     QCOMPARE(languages.removeDuplicates(), 0);
 }

@@ -29,7 +29,8 @@ int main(int argc, char **argv)
     MtConf::ConfigurationWindow *window = settings.ShowWindow();
     window->findChild<QCheckBox *>()->click();
     const bool works = !playSound && !window->grab().isNull()
-        && !QIconfont::Icon(QuorviGlyphs::General, Qt::white, 16, QMargins()).isNull();
+                       && !QIconfont::Icon(QuorviGlyphs::General, Qt::white, 16, QMargins())
+                               .isNull();
     QTextStream(stdout) << (works ? "It works.\n" : "It does not work.\n");
     return works ? 0 : 1;
 }
