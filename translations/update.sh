@@ -40,9 +40,9 @@ if [ "${1-}" = --host ]; then
             files+=("$file")
         done
     fi
-    update "$sources" -ts "${files[@]}"
+    update "$sources" -ts ${files[@]+"${files[@]}"}
 else
     files=("$@")
     [ $# -gt 0 ] || files=("$root"/translations/malto_*.ts)
-    update "$root"/{store,manage,widgets,window,companion} -ts "${files[@]}"
+    update "$root"/{store,manage,widgets,window,companion} -ts ${files[@]+"${files[@]}"}
 fi

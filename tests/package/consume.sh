@@ -44,7 +44,8 @@ pkgconfig)
     # shellcheck disable=SC2046,SC2086
     $compiler $flags -std=c++17 -fPIC "$consumer/main.cpp" -o "$work/consumer" \
         $(pkg-config --cflags --libs "${names[@]}")
-    LD_LIBRARY_PATH=$(dirname "$modules") "$work/consumer"
+    libraries=$(dirname "$modules")
+    LD_LIBRARY_PATH=$libraries DYLD_LIBRARY_PATH=$libraries "$work/consumer"
     ;;
 tree)
     mkdir "$work/host"

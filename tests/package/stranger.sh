@@ -2,7 +2,7 @@
 # The way of a stranger, on a Debian 12 with nothing on it: install the packages, copy the README's
 # program and its CMake file, build, run, and look at the picture of its window.
 #   stranger.sh [<folder for the packages and the picture>]
-# Needs root, debootstrap and the network; takes some minutes.
+# Linux only: needs root, debootstrap and the network; takes some minutes.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 out=$(realpath -m "${1:-build-package}")
