@@ -2,17 +2,10 @@
 
 #include <MaltoConfiguration/MaltoConfiguration.h>
 
-#include <OrvUtils/OrvScreenManager.h>
-#include <OrvUtils/QThemeCtrl.h>
-
-#include <QIconfont/QIconfont.h>
-#include <QIconfont/QuorviGlyphs.h>
-
-#include <QxtGlobalShortcut>
-
 #include <QtWidgets>
 
-// What the blocks of the pages take for granted: a program that has these.
+// What every block may use; docs/README.md tells the reader. A block that uses a companion library shows
+// its include.
 
 extern MtConf::MtConfManage &settings; ///< the program's manager
 extern QMainWindow *mainWindow;        ///< the program's window

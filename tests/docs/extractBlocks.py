@@ -3,11 +3,12 @@
 
     extractBlocks.py <page.md> <out.cpp>
 
-A block of statements becomes the body of a function. A block that holds an #include, or stands right
-after the line <!-- file scope -->, becomes a namespace, which the later blocks of the page use; its
-#include lines go to the head of the file. A block after <!-- needs KConfig --> is compiled only where
-MALTO_DOCS_HAVE_KCONFIG is defined. Blocks that are not to be compiled are not tagged cpp. Messages of the
-compiler name the page and its line.
+A block of statements becomes the body of a function. A block after the line <!-- file scope --> or
+after the name of a file becomes a namespace, which the later blocks of the page use. #include lines of a
+block are moved in front of it, so a block may use its own includes and those of earlier blocks. A block
+after <!-- needs KConfig --> is at file scope, too, and compiled only if MALTO_DOCS_HAVE_KCONFIG is
+defined. Blocks that must not be compiled are not tagged cpp. Compiler messages name the page and its
+line.
 """
 import pathlib
 import re
@@ -32,25 +33,20 @@ def blocks(page):
 
 
 def compiled(page):
-    includes, body = [], []
+    parts = ['#include "docs/Prelude.h"']
     for start, mark, lines in blocks(page):
         place = f'#line {start} "{page}"'
-        own = [line for line in lines if line.startswith("#include")]
-        guard = mark == "needs KConfig"
-        if guard:
-            includes.append("#ifdef MALTO_DOCS_HAVE_KCONFIG")
-            body.append("#ifdef MALTO_DOCS_HAVE_KCONFIG")
-        includes += own
-        rest = ["" if line.startswith("#include") else line for line in lines]
-        if own or mark == "file scope":
-            body += [f"namespace block_{start} {{", place, *rest, "}",
+        includes = [line for line in lines if line.startswith("#include")]
+        rest = ["" if line in includes else line for line in lines]
+        if mark in ("file scope", "needs KConfig") or "/" in mark:
+            block = [*includes, f"namespace block_{start} {{", place, *rest, "}",
                      f"using namespace block_{start};"]
         else:
-            body += [f"void block_{start}()", "{", place, *rest, "}"]
-        if guard:
-            includes.append("#endif")
-            body.append("#endif")
-    return "\n".join(['#include "docs/Prelude.h"', *includes, *body, ""])
+            block = [*includes, f"void block_{start}()", "{", place, *rest, "}"]
+        if mark == "needs KConfig":
+            block = ["#ifdef MALTO_DOCS_HAVE_KCONFIG", *block, "#endif"]
+        parts += block
+    return "\n".join([*parts, ""])
 
 
 if __name__ == "__main__":
