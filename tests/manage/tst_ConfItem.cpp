@@ -27,12 +27,12 @@ private Q_SLOTS:
     void changeCallbackIsCalledWithKeyAndValue();
     void isDefaultValue_asksSubItemsToo();
     void restoreDefault_restoresSubItemsToo();
-    void restoreDefault_survivesACallbackThatTakesTheItemAway();
+    void restoreDefault_survivesACallbackThatRemovesTheItem();
     void toJsonValue_isNull();
     void loadFromJsonValue_data();
     void loadFromJsonValue();
     void loadFromJsonValue_reachesSubItemsByName();
-    void loadFromJsonValue_wholeObjectGoesToTheStoreWithoutValue();
+    void loadFromJsonValue_passesAnObjectWithoutValueToTheStore();
     void loadFromJsonValue_nullUnbindsTheVariable();
 
 private:
@@ -232,7 +232,7 @@ void tst_ConfItem::restoreDefault_restoresSubItemsToo()
     QVERIFY(!store()->mConfMetas.value(QStringLiteral("General.Size")).lastChangeTime.isNull());
 }
 
-void tst_ConfItem::restoreDefault_survivesACallbackThatTakesTheItemAway()
+void tst_ConfItem::restoreDefault_survivesACallbackThatRemovesTheItem()
 {
     int value = 1, subValue = 2;
     QList<ConfItem> items{item(&value, "Size")};
@@ -259,12 +259,12 @@ void tst_ConfItem::loadFromJsonValue_data()
     QTest::addColumn<int>("loaded");
     QTest::newRow("plain value") << QJsonValue(5) << 5;
     QTest::newRow("object with value") << QJsonValue(QJsonObject{{"value", 6}}) << 6;
-    QTest::newRow("object without value is itself the value")
+    QTest::newRow("object without \"value\" is the value")
         << QJsonValue(QJsonObject{{"other", 6}}) << 0;
     QTest::newRow("wrong type is converted leniently") << QJsonValue(QStringLiteral("7")) << 0;
-    QTest::newRow("sub-items of an item that has none")
+    QTest::newRow("sub-items for an item that has none")
         << QJsonValue(QJsonObject{{"subConf", QJsonObject{{"x", 1}}}, {"value", 8}}) << 8;
-    QTest::newRow("subConf that is no object")
+    QTest::newRow("subConf that is not an object")
         << QJsonValue(QJsonObject{{"subConf", 3}, {"value", 9}}) << 9;
 }
 
@@ -295,7 +295,7 @@ void tst_ConfItem::loadFromJsonValue_reachesSubItemsByName()
     QVERIFY(store()->mConfMetas.value(QStringLiteral("General.Absent")).lastChangeTime.isNull());
 }
 
-void tst_ConfItem::loadFromJsonValue_wholeObjectGoesToTheStoreWithoutValue()
+void tst_ConfItem::loadFromJsonValue_passesAnObjectWithoutValueToTheStore()
 {
     QString text = QStringLiteral("before");
     const ConfItem made(&text, QStringLiteral("General"), QStringLiteral("Text"), QString());

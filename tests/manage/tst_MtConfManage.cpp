@@ -28,17 +28,17 @@ private Q_SLOTS:
     void declaringFillsTheItem();
     void eachTypeHasItsOwnEditor();
     void textHasNoEditorOfItsOwn();
-    void givenFactoryGoesBeforeTheDefaultOne();
-    void startAtLoginIsASwitchWhoseChangesAreApplied();
-    void mouseActionIsKeptForEachSystem();
+    void givenFactoryReplacesTheDefaultOne();
+    void startAtLoginHasASwitchAndAppliesItsChanges();
+    void mouseActionIsStoredPerOperatingSystem();
     void hotkeyHasItsOwnEditor();
-    void languageIsRememberedAndItsChangesAreAnnounced();
-    void languageOfADestroyedManagerIsOnlyStored();
-    void choicesOfATextAreShownAsTheyAre();
-    void choicesOfANumberStandForTheirIndexOrTheirValue_data();
-    void choicesOfANumberStandForTheirIndexOrTheirValue();
+    void languageIsStoredAndItsChangesAreAnnounced();
+    void afterTheManagerIsDestroyedTheLanguageIsOnlyStored();
+    void choicesOfATextAreShownUnchanged();
+    void choicesOfANumberStoreTheirIndexOrTheirValue_data();
+    void choicesOfANumberStoreTheirIndexOrTheirValue();
     void itemAddressesStayValidAsTheListGrows();
-    void itemAddressesStayValidWhileAHostHoldsACopyOfTheList();
+    void itemAddressesStayValidWhileTheHostHasACopyOfTheList();
     void classAddressesStayValidAsTheListGrows();
     void addConfItem_addsACopyAndItsClass();
     void getItemByName_data();
@@ -46,13 +46,13 @@ private Q_SLOTS:
     void getItemByName_findsTheFirstOfTwo();
     void getItemByName_seesListsThatTheHostChanged();
     void getConfItemList_keepsTheOrderOfDeclaration();
-    void getConfItemList_warnsOfAnUnknownClass();
+    void getConfItemList_warnsAboutAnUnknownClass();
     void getConfItemList_isEmptyForAClassWithoutItems();
     void classesAppearInTheOrderOfFirstMention();
     void setConfigClassFlag_assignsAndCreates();
     void setMajorWidget_replacesTheFactory();
     void getMajorConfItemByName_neverCreates();
-    void lookupsDoNotMoveTheItemsOfASharedList();
+    void lookupsDoNotDetachASharedList();
 
 private:
     MtConfManage *makeManager()
@@ -109,7 +109,7 @@ void tst_MtConfManage::textHasNoEditorOfItsOwn()
     QVERIFY(!makeManager()->addConfQString("t", &text, "M", "t")->widgetCreator);
 }
 
-void tst_MtConfManage::givenFactoryGoesBeforeTheDefaultOne()
+void tst_MtConfManage::givenFactoryReplacesTheDefaultOne()
 {
     MtConfManage *manager = makeManager();
     int number = 0, calls = 0;
@@ -131,7 +131,7 @@ void tst_MtConfManage::givenFactoryGoesBeforeTheDefaultOne()
     QCOMPARE(calls, 5);
 }
 
-void tst_MtConfManage::startAtLoginIsASwitchWhoseChangesAreApplied()
+void tst_MtConfManage::startAtLoginHasASwitchAndAppliesItsChanges()
 {
     MtConfManage *manager = makeManager();
     bool autoRun = false;
@@ -144,7 +144,7 @@ void tst_MtConfManage::startAtLoginIsASwitchWhoseChangesAreApplied()
     QVERIFY(autoRun);
 }
 
-void tst_MtConfManage::mouseActionIsKeptForEachSystem()
+void tst_MtConfManage::mouseActionIsStoredPerOperatingSystem()
 {
     int gesture = 64;
     makeManager()->addConfMouseAction("Zoom", &gesture, 0, "Mouse", "Zoom");
@@ -168,7 +168,7 @@ void tst_MtConfManage::hotkeyHasItsOwnEditor()
     QVERIFY(qobject_cast<MtConf::ConfDefWidgetQKeySequence *>(editor.get()));
 }
 
-void tst_MtConfManage::languageIsRememberedAndItsChangesAreAnnounced()
+void tst_MtConfManage::languageIsStoredAndItsChangesAreAnnounced()
 {
     MtConfManage *manager = makeManager();
     QString code("auto");
@@ -182,7 +182,7 @@ void tst_MtConfManage::languageIsRememberedAndItsChangesAreAnnounced()
     QVERIFY(qobject_cast<MtConf::ConfWidgetLanguage *>(editor.get()));
 }
 
-void tst_MtConfManage::languageOfADestroyedManagerIsOnlyStored()
+void tst_MtConfManage::afterTheManagerIsDestroyedTheLanguageIsOnlyStored()
 {
     QString code("auto");
     makeManager()->addConfLanguage("Language", &code, "General", "Language");
@@ -191,7 +191,7 @@ void tst_MtConfManage::languageOfADestroyedManagerIsOnlyStored()
     QCOMPARE(code, QString("en-us"));
 }
 
-void tst_MtConfManage::choicesOfATextAreShownAsTheyAre()
+void tst_MtConfManage::choicesOfATextAreShownUnchanged()
 {
     QString format("jpg");
     ConfItem *item = makeManager()->addConfStrWithCombobox("Format", {"png", "jpg", "webp"},
@@ -202,7 +202,7 @@ void tst_MtConfManage::choicesOfATextAreShownAsTheyAre()
     QCOMPARE(box->currentText(), QString("jpg"));
 }
 
-void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue_data()
+void tst_MtConfManage::choicesOfANumberStoreTheirIndexOrTheirValue_data()
 {
     QTest::addColumn<QList<int>>("values");
     QTest::addColumn<int>("stored");
@@ -210,7 +210,7 @@ void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue_data()
     QTest::newRow("value") << QList<int>{10, 20, 30} << 20;
 }
 
-void tst_MtConfManage::choicesOfANumberStandForTheirIndexOrTheirValue()
+void tst_MtConfManage::choicesOfANumberStoreTheirIndexOrTheirValue()
 {
     QFETCH(QList<int>, values);
     QFETCH(int, stored);
@@ -239,7 +239,7 @@ void tst_MtConfManage::itemAddressesStayValidAsTheListGrows()
     QCOMPARE(first->displayText, "0");
 }
 
-void tst_MtConfManage::itemAddressesStayValidWhileAHostHoldsACopyOfTheList()
+void tst_MtConfManage::itemAddressesStayValidWhileTheHostHasACopyOfTheList()
 {
     MtConfManage *manager = makeManager();
     int a = 0, b = 0;
@@ -313,7 +313,7 @@ void tst_MtConfManage::getItemByName_findsTheFirstOfTwo()
     manager->addConfInt32("b", &b, "M", "n");
     QCOMPARE(manager->items.size(), 2);
     QCOMPARE(manager->getItemByName("M", "n", ""), first);
-    // The key belongs to the variable that was declared last.
+    // The key is bound to the variable that was declared last.
     QCOMPARE(ConfStorage::instance()->get<int>("M.n"), 2);
 }
 
@@ -344,7 +344,7 @@ void tst_MtConfManage::getConfItemList_keepsTheOrderOfDeclaration()
     QCOMPARE(list.at(1), first);
 }
 
-void tst_MtConfManage::getConfItemList_warnsOfAnUnknownClass()
+void tst_MtConfManage::getConfItemList_warnsAboutAnUnknownClass()
 {
     MtConfManage *manager = makeManager();
     const LogCapture log;
@@ -410,7 +410,7 @@ void tst_MtConfManage::getMajorConfItemByName_neverCreates()
     QVERIFY(manager->majorItems.isEmpty());
 }
 
-void tst_MtConfManage::lookupsDoNotMoveTheItemsOfASharedList()
+void tst_MtConfManage::lookupsDoNotDetachASharedList()
 {
     MtConfManage *manager = makeManager();
     int a = 0;

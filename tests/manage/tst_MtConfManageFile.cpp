@@ -29,26 +29,26 @@ private Q_SLOTS:
         QFile::remove(path());
     }
 
-    void keysReachItemsByTheirParts_data();
-    void keysReachItemsByTheirParts();
-    void fileWithoutAnObjectLoadsNothing_data();
-    void fileWithoutAnObjectLoadsNothing();
+    void keysFindItemsByTheirParts_data();
+    void keysFindItemsByTheirParts();
+    void fileWithoutAJsonObjectLoadsNothing_data();
+    void fileWithoutAJsonObjectLoadsNothing();
     void missingFileLoadsNothingAndIsRemembered();
     void languageIsInstalledAfterEveryLoad();
     void unreadableFileIsLogged();
     void loadedKeyCountsAsAChange();
-    void itemsThatTheFileLeavesOutKeepTheirValues();
+    void itemsMissingFromTheFileKeepTheirValues();
     void keysAreLoadedInSortedOrder();
     void firstOfTwoItemsWithTheSameNamesIsLoaded();
     void itemDeclaredByACallbackIsFoundInTheSameFile();
     void itemsRemovedByACallbackAreNoLongerFound();
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
-    void replacedItemIsFoundWithoutLookingForTheOldOneFirst();
+    void replacedItemIsFoundWithoutAnEarlierLookup();
     void itemsReorderedByACallbackAreFound();
     void itemsRenamedByACallbackAreFoundByTheirNewNames();
-    void itemThatACallbackGivesAFullStopIsOutOfReach();
-    void listGivenAwayByACallbackIsReadAgain();
-    void managerMayBeDestroyedByACallbackOfALoad();
+    void itemRenamedByACallbackToContainAFullStopIsNotFound();
+    void listSwappedByACallbackIsReadAgain();
+    void managerMayBeDestroyedByACallbackDuringALoad();
     void managerMayBeDestroyedByTheRestoreHook();
     void saveToFile_writesTheStoresLocalFile();
     void restoreAllDefault_callsTheHookFirstThenEveryItemInOrder();
@@ -73,7 +73,7 @@ private:
     std::unique_ptr<MtConfManage> mManager;
 };
 
-void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
+void tst_MtConfManageFile::keysFindItemsByTheirParts_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("reached");
@@ -83,10 +83,10 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
                                  << "General.Hotkey.Left";
     QTest::newRow("four parts are skipped") << "General.A.B.C"
                                             << "";
-    QTest::newRow("name with a full stop is out of reach") << "General.D.E"
-                                                           << "";
-    QTest::newRow("and so is one at its end") << "General.F."
-                                              << "";
+    QTest::newRow("name with a full stop is not found") << "General.D.E"
+                                                        << "";
+    QTest::newRow("name ending with a full stop is not found") << "General.F."
+                                                               << "";
     QTest::newRow("one part is skipped") << "General"
                                          << "";
     QTest::newRow("full stop at the end is an empty name") << "General."
@@ -103,7 +103,7 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts_data()
                                      << "";
 }
 
-void tst_MtConfManageFile::keysReachItemsByTheirParts()
+void tst_MtConfManageFile::keysFindItemsByTheirParts()
 {
     int two = 0, three = 0, four = 0, dotted = 0, dots = 0, empty = 0;
     declare(&two, "Hotkey");
@@ -123,17 +123,17 @@ void tst_MtConfManageFile::keysReachItemsByTheirParts()
     QVERIFY(log.messages().isEmpty());
 }
 
-void tst_MtConfManageFile::fileWithoutAnObjectLoadsNothing_data()
+void tst_MtConfManageFile::fileWithoutAJsonObjectLoadsNothing_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("array") << QByteArray("[{\"General.Size\": 1}]");
     QTest::newRow("empty object") << QByteArray("{}");
     QTest::newRow("empty file") << QByteArray();
     QTest::newRow("cut off") << QByteArray("{\"General.Size\": 1");
-    QTest::newRow("no text") << QByteArray("\x00\xff\xfe", 3);
+    QTest::newRow("binary data") << QByteArray("\x00\xff\xfe", 3);
 }
 
-void tst_MtConfManageFile::fileWithoutAnObjectLoadsNothing()
+void tst_MtConfManageFile::fileWithoutAJsonObjectLoadsNothing()
 {
     QFETCH(QByteArray, content);
     int value = 5;
@@ -163,7 +163,7 @@ void tst_MtConfManageFile::languageIsInstalledAfterEveryLoad()
     QSignalSpy languageChanges(mManager.get(), &MtConfManage::sigLanguageChange);
     const LogCapture log;
     mManager->loadFromFile("missing.json");
-    // Without translations every code stands for the built-in English.
+    // No translations are installed, so every language code selects the built-in English.
     QCOMPARE(log.texts(QtDebugMsg), QStringList("installTranslator:  \"en-us\""));
     QCOMPARE(languageChanges.count(), 0);
     mManager->loadFromFile("missing.json"); // the same language again
@@ -195,7 +195,7 @@ void tst_MtConfManageFile::loadedKeyCountsAsAChange()
     QVERIFY(!ConfStorage::instance()->mConfMetas.value("General.Size").lastChangeTime.isNull());
 }
 
-void tst_MtConfManageFile::itemsThatTheFileLeavesOutKeepTheirValues()
+void tst_MtConfManageFile::itemsMissingFromTheFileKeepTheirValues()
 {
     int named = 1, left = 2;
     declare(&named, "Named");
@@ -230,7 +230,7 @@ void tst_MtConfManageFile::firstOfTwoItemsWithTheSameNamesIsLoaded()
         {"General.Twice", QJsonObject{{"value", 3}, {"subConf", QJsonObject{{"sub", 4}}}}}});
     mManager->_loadFromFile(path());
     QCOMPARE(sub, 4);    // only the first one has a sub-item
-    QCOMPARE(second, 3); // the key belongs to the variable that was declared last
+    QCOMPARE(second, 3); // the key is bound to the variable that was declared last
 }
 
 void tst_MtConfManageFile::itemDeclaredByACallbackIsFoundInTheSameFile()
@@ -269,7 +269,7 @@ void tst_MtConfManageFile::itemsReplacedByACallbackAreFoundByTheirNewNames()
     QCOMPARE(z, 3);
 }
 
-void tst_MtConfManageFile::replacedItemIsFoundWithoutLookingForTheOldOneFirst()
+void tst_MtConfManageFile::replacedItemIsFoundWithoutAnEarlierLookup()
 {
     int a = 0, y = 0, z = 0;
     declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
@@ -308,7 +308,7 @@ void tst_MtConfManageFile::itemsRenamedByACallbackAreFoundByTheirNewNames()
     QCOMPARE(z, 3);
 }
 
-void tst_MtConfManageFile::itemThatACallbackGivesAFullStopIsOutOfReach()
+void tst_MtConfManageFile::itemRenamedByACallbackToContainAFullStopIsNotFound()
 {
     int a = 0, z = 0;
     declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
@@ -322,7 +322,7 @@ void tst_MtConfManageFile::itemThatACallbackGivesAFullStopIsOutOfReach()
     QCOMPARE(z, 0);
 }
 
-void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
+void tst_MtConfManageFile::listSwappedByACallbackIsReadAgain()
 {
     int a = 0, y = 0, z = 0;
     QList<ConfItem> others{ConfItem(&a, "General", "x", ""), ConfItem(&z, "General", "z", "")};
@@ -335,7 +335,7 @@ void tst_MtConfManageFile::listGivenAwayByACallbackIsReadAgain()
     QCOMPARE(z, 3);
 }
 
-void tst_MtConfManageFile::managerMayBeDestroyedByACallbackOfALoad()
+void tst_MtConfManageFile::managerMayBeDestroyedByACallbackDuringALoad()
 {
     int a = 0, z = 0;
     declare(&a, "a")->setConfChangedCallback(

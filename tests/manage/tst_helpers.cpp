@@ -26,16 +26,16 @@ private Q_SLOTS:
     void getIndexName_data();
     void getIndexName();
     void setAppAutoRun_doesNothing();
-    void missingFileGivesANullDocumentSilently();
+    void missingFileReturnsANullDocumentSilently();
     void unreadableFileIsLogged();
-    void whatReadingMightNeverEndIsUnreadable_data();
-    void whatReadingMightNeverEndIsUnreadable();
-    void fileBeyondAllMemoryIsUnreadable();
-    void brokenFileIsDroppedSilently_data();
-    void brokenFileIsDroppedSilently();
+    void fileThatMightNeverEndIsUnreadable_data();
+    void fileThatMightNeverEndIsUnreadable();
+    void fileTooLargeForMemoryIsUnreadable();
+    void invalidFileIsIgnoredSilently_data();
+    void invalidFileIsIgnoredSilently();
     void fileIsReadAsUtf8();
-    void lineEndsOfAnotherSystemAreRead();
-    void arrayIsReturnedAsItIs();
+    void lineEndingsOfAnotherSystemAreRead();
+    void arrayIsReturnedUnchanged();
 };
 
 void tst_helpers::getIndexName_data()
@@ -95,7 +95,7 @@ void tst_helpers::setAppAutoRun_doesNothing()
     QVERIFY(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
 }
 
-void tst_helpers::missingFileGivesANullDocumentSilently()
+void tst_helpers::missingFileReturnsANullDocumentSilently()
 {
     const LogCapture log;
     QVERIFY(readJsonFromFile(QStringLiteral("missing.json")).isNull());
@@ -113,7 +113,7 @@ void tst_helpers::unreadableFileIsLogged()
     QCOMPARE(log.messages().first().text, QStringLiteral("can't open config file \"folder\""));
 }
 
-void tst_helpers::whatReadingMightNeverEndIsUnreadable_data()
+void tst_helpers::fileThatMightNeverEndIsUnreadable_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("pipe without a writer") << "pipe";
@@ -121,7 +121,7 @@ void tst_helpers::whatReadingMightNeverEndIsUnreadable_data()
     QTest::newRow("link to a device") << "link";
 }
 
-void tst_helpers::whatReadingMightNeverEndIsUnreadable()
+void tst_helpers::fileThatMightNeverEndIsUnreadable()
 {
     QFETCH(QString, path);
     ::mkfifo("pipe", 0600);
@@ -133,7 +133,7 @@ void tst_helpers::whatReadingMightNeverEndIsUnreadable()
                  {{QtCriticalMsg, QString("can't open config file \"%1\"").arg(path)}}));
 }
 
-void tst_helpers::fileBeyondAllMemoryIsUnreadable()
+void tst_helpers::fileTooLargeForMemoryIsUnreadable()
 {
     QFile file("huge.json");
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));
@@ -142,19 +142,19 @@ void tst_helpers::fileBeyondAllMemoryIsUnreadable()
     QCOMPARE(log.texts(QtCriticalMsg), QStringList("can't open config file \"huge.json\""));
 }
 
-void tst_helpers::brokenFileIsDroppedSilently_data()
+void tst_helpers::invalidFileIsIgnoredSilently_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no JSON") << QByteArray("hello");
+    QTest::newRow("not JSON") << QByteArray("hello");
     QTest::newRow("cut off") << QByteArray("{\"a\": 1");
-    QTest::newRow("something behind it") << QByteArray("{\"a\": 1} x");
+    QTest::newRow("text after the object") << QByteArray("{\"a\": 1} x");
     QTest::newRow("bare value") << QByteArray("42");
     QTest::newRow("zero bytes") << QByteArray(1000, '\0');
     QTest::newRow("nested too deeply") << QByteArray(100000, '[');
 }
 
-void tst_helpers::brokenFileIsDroppedSilently()
+void tst_helpers::invalidFileIsIgnoredSilently()
 {
     QFETCH(QByteArray, content);
     const LogCapture log;
@@ -171,14 +171,14 @@ void tst_helpers::fileIsReadAsUtf8()
              QString::fromUtf8("\xc3\xa9\xf0\x9f\x98\x80"));
 }
 
-void tst_helpers::lineEndsOfAnotherSystemAreRead()
+void tst_helpers::lineEndingsOfAnotherSystemAreRead()
 {
     const QString path = writeFile(QStringLiteral("crlf.json"),
                                    "\xef\xbb\xbf{\r\n\"a\": 1\r\n}\r\n");
     QCOMPARE(readJsonFromFile(path).object().value(QLatin1String("a")).toInt(), 1);
 }
 
-void tst_helpers::arrayIsReturnedAsItIs()
+void tst_helpers::arrayIsReturnedUnchanged()
 {
     const QString path = writeFile(QStringLiteral("array.json"), "[1, 2]");
     QCOMPARE(readJsonFromFile(path).array().size(), 2);

@@ -19,9 +19,9 @@ inline std::ostream &operator<<(std::ostream &out, MergeSystem system)
     return out << (system == MergeSystem::Own ? "own system" : "foreign system");
 }
 
-/// One copy of the configuration: a store of its own with the variables of a host, the keys of
-/// `mergeKeys`, and a clock that the test sets. Fake seconds must lie before the year 2020: what
-/// the store stamps with the real clock is recognised by being later.
+/// One copy of the configuration: a store of its own with the variables of a host for the keys of
+/// `sMergeKeys`, and a clock that the test sets. The seconds that the test sets must be before the
+/// year 2020: later timestamps are recognised as those that the store took from the real clock.
 class MergeCopy
 {
 public:
@@ -37,7 +37,7 @@ public:
 
     void set(size_t key, int value, qint64 now)
     {
-        if (mergeKeys[key].dynamic)
+        if (sMergeKeys[key].dynamic)
             mStore->set<QJsonObject>(name(key), QJsonObject{{"n", value}});
         else
             mStore->set<int>(name(key), value);
@@ -63,7 +63,7 @@ public:
         mStore->restoreDynamicConf(name(ofKey).section('.', 0, 0) + '.');
         stamp(now);
     }
-    /// What the local file holds, read by a program that starts anew.
+    /// Restarts the program: a new store loads the local file that the old one wrote.
     void restart()
     {
         const QJsonObject file = mStore->dumpConf(ConfStorage::DumpLocal);
@@ -71,23 +71,23 @@ public:
         mStore->loadConf(file, ConfStorage::LoadLocal);
         mStore->loadPresetDynamicConf();
     }
-    /// What this copy hands to others.
+    /// Returns the configuration that this copy sends to others.
     QJsonObject dump() const { return translated(mStore->dumpConf(ConfStorage::DumpShared)); }
     void load(const QJsonObject &dump)
     {
         mStore->loadConf(translated(dump), ConfStorage::LoadShared);
     }
 
-    /// What the host sees: its own variables, and the times.
+    /// Returns what the host sees: the values of its variables, and the timestamps.
     MergeState state() const
     {
         MergeState state;
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
             MergeCell &cell = state[key];
             cell.present = mStore->mConfValues.contains(name(key));
             if (cell.present)
-                cell.value = mergeKeys[key].dynamic ? mEntries.at(name(key)).value("n").toInt()
-                                                    : mNumbers[key];
+                cell.value = sMergeKeys[key].dynamic ? mEntries.at(name(key)).value("n").toInt()
+                                                     : mNumbers[key];
             const QDateTime time = mStore->mConfMetas.contains(name(key))
                                        ? mStore->mConfMetas[name(key)].lastChangeTime
                                        : mStore->mRemovedDynamicConfs.value(name(key));
@@ -97,7 +97,7 @@ public:
         return state;
     }
 
-    static QString name(size_t key) { return QLatin1String(mergeKeys[key].name); }
+    static QString name(size_t key) { return QLatin1String(sMergeKeys[key].name); }
 
 private:
     void start()
@@ -107,8 +107,8 @@ private:
         addClass(mClasses[0], "Entry.", 0);
         addClass(mClasses[1], "SystemEntry.", ConfStorage::FlagSystemIndependent);
         addClass(mClasses[2], "LocalEntry.", ConfStorage::FlagLocalOnly);
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            const MergeKey &info = mergeKeys[key];
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            const MergeKey &info = sMergeKeys[key];
             if (!info.dynamic) {
                 mNumbers[key] = *info.defaultValue;
                 mStore->reserveConf(name(key), &mNumbers[key]);
@@ -132,8 +132,8 @@ private:
         cls.remover = [this](QString key) { mEntries.erase(key); };
         mStore->mDynamicConfClasses << &cls;
     }
-    /// Puts the test's clock where the store has just read the real one. The fraction of a second
-    /// must not matter: every other change has none, the rest almost a whole one.
+    /// Replaces timestamps that the store has just taken from the real clock by `now`, in seconds.
+    /// The fraction of a second must not matter, so it alternates between 0 and 999 ms.
     void stamp(qint64 now)
     {
         static const QDateTime sReal(QDate(2020, 1, 1), QTime(), Qt::UTC);
@@ -148,7 +148,8 @@ private:
                 removed = time;
         }
     }
-    /// Another system writes its own mark where this one writes "#s.mac".
+    /// Returns `dump` with the system marks that the operating system of this copy uses: a foreign
+    /// system writes "#s.win" where this one writes "#s.mac".
     QJsonObject translated(const QJsonObject &dump) const
     {
         if (mSystem == MergeSystem::Own)
@@ -168,7 +169,7 @@ private:
     const MergeSystem mSystem;
     qint64 mFraction = 999;
     std::array<ConfStorage::DynamicConfClass, 3> mClasses;
-    std::array<int, mergeKeys.size()> mNumbers{};
+    std::array<int, sMergeKeys.size()> mNumbers{};
     std::map<QString, QJsonObject> mEntries;
     std::unique_ptr<ConfStorage> mStore;
 };

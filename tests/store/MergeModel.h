@@ -11,13 +11,13 @@
 struct MergeKey
 {
     const char *name;
-    bool dynamic;                    ///< comes and goes at run time
-    bool system;                     ///< each operating system keeps a value of its own
-    bool local;                      ///< never leaves its copy
-    std::optional<int> defaultValue; ///< of an ordinary key; of a dynamic one its preset, if any
+    bool dynamic;                    ///< created and removed at run time
+    bool system;                     ///< stored per operating system, with a system mark
+    bool local;                      ///< local-only: never shared with other copies
+    std::optional<int> defaultValue; ///< default value; for a dynamic key its preset, if any
 };
 
-constexpr std::array<MergeKey, 10> mergeKeys{{
+constexpr std::array<MergeKey, 10> sMergeKeys{{
     {"Plain.a", false, false, false, 1},
     {"Plain.b", false, false, false, 1},
     {"System.a", false, true, false, 1},
@@ -30,12 +30,12 @@ constexpr std::array<MergeKey, 10> mergeKeys{{
     {"LocalEntry.a", true, false, true, {}},
 }};
 
-/// What anybody can see of one key in one copy.
+/// The visible state of one key in one copy.
 struct MergeCell
 {
     bool present = false;
     int value = 0;              ///< 0 when not present
-    std::optional<qint64> time; ///< second of the last change or removal, if there was one
+    std::optional<qint64> time; ///< timestamp of the last change or removal in seconds, if any
 
     bool operator==(const MergeCell &other) const
     {
@@ -51,18 +51,18 @@ inline std::ostream &operator<<(std::ostream &out, const MergeCell &cell)
     return out;
 }
 
-using MergeState = std::array<MergeCell, mergeKeys.size()>;
+using MergeState = std::array<MergeCell, sMergeKeys.size()>;
 
-/// The rules of merging written down once more, over plain cells instead of maps, flags and JSON.
-/// Keys are numbers: positions in `mergeKeys`.
+/// A second implementation of the merge rules, on plain cells instead of maps, flags and JSON.
+/// Keys are indexes into `sMergeKeys`.
 class MergeModel
 {
 public:
     MergeModel()
     {
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            if (mergeKeys[key].defaultValue)
-                put(key, *mergeKeys[key].defaultValue, {}, true);
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            if (sMergeKeys[key].defaultValue)
+                put(key, *sMergeKeys[key].defaultValue, {}, true);
         }
     }
 
@@ -76,7 +76,7 @@ public:
     void restore(size_t key, qint64 now)
     {
         if (!(mState[key].present && mKnownDefault[key]))
-            put(key, mergeKeys[key].defaultValue.value(), now, true);
+            put(key, sMergeKeys[key].defaultValue.value(), now, true);
     }
     void create(size_t key, int value, qint64 now)
     {
@@ -88,34 +88,35 @@ public:
         if (mState[key].present)
             drop(key, now);
     }
-    /// Back to the presets for the class of `key`; removed presets of all classes come back.
+    /// Restores the presets of the class of `ofKey`; removed presets of all classes are created
+    /// again.
     void restoreClass(size_t ofKey, qint64 now)
     {
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            const MergeKey &info = mergeKeys[key];
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            const MergeKey &info = sMergeKeys[key];
             if (!info.dynamic)
                 continue;
-            const bool inClass = info.system == mergeKeys[ofKey].system
-                                 && info.local == mergeKeys[ofKey].local;
+            const bool inClass = info.system == sMergeKeys[ofKey].system
+                                 && info.local == sMergeKeys[ofKey].local;
             if (info.defaultValue && (inClass || !mState[key].present))
                 restore(key, now);
             else if (inClass)
                 remove(key, now);
         }
     }
-    /// Written to the local file and read again: nothing that can be seen changes.
+    /// Writes the local file and loads it again: the visible state does not change.
     void restart()
     {
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            if (mergeKeys[key].dynamic && isDefault(key, mState[key].value))
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            if (sMergeKeys[key].dynamic && isDefault(key, mState[key].value))
                 mKnownDefault[key] = mState[key].present;
         }
     }
-    /// Takes what is newer in `other`. Equal seconds keep what is here.
+    /// Takes every newer change from `other`. At equal timestamps this copy keeps its value.
     void merge(const MergeModel &other, bool sameSystem)
     {
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            const MergeKey &info = mergeKeys[key];
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            const MergeKey &info = sMergeKeys[key];
             const MergeCell &theirs = other.mState[key];
             if (!theirs.time || info.local || (info.system && !sameSystem))
                 continue;
@@ -129,19 +130,20 @@ public:
                     other.mKnownDefault[key] || (created && isDefault(key, theirs.value)));
         }
     }
-    /// The newest change that other copies may know of, local-only removals included.
+    /// Returns the timestamp of the newest change that other copies may know, including removals
+    /// of local-only keys.
     std::optional<qint64> newest() const
     {
         std::optional<qint64> time;
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
-            if (mState[key].time && !(mergeKeys[key].local && mState[key].present))
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+            if (mState[key].time && !(sMergeKeys[key].local && mState[key].present))
                 time = std::max(time, mState[key].time);
         }
         return time;
     }
 
 private:
-    static bool isDefault(size_t key, int value) { return mergeKeys[key].defaultValue == value; }
+    static bool isDefault(size_t key, int value) { return sMergeKeys[key].defaultValue == value; }
     void put(size_t key, int value, std::optional<qint64> time, bool knownDefault)
     {
         mState[key] = {true, value, time};
@@ -154,7 +156,7 @@ private:
     }
 
     MergeState mState;
-    // A value set to exactly its default is a change; restoring what is known to be the default is
-    // not.
-    std::array<bool, mergeKeys.size()> mKnownDefault{};
+    // Setting a value that equals the default is a change; restoring a value that is flagged as
+    // default is not.
+    std::array<bool, sMergeKeys.size()> mKnownDefault{};
 };

@@ -6,16 +6,16 @@
 #include <ostream>
 #include <vector>
 
-/// One thing that happens in a history.
+/// One step of a history.
 struct MergeStep
 {
     enum Kind { Set, Restore, Create, Remove, RestoreClass, Restart, Export, Import };
 
     Kind kind = Set;
-    int copy = 0;  ///< where it happens; counted modulo the number of copies
-    int key = 0;   ///< position in `mergeKeys`
-    int value = 0; ///< to set; for an import, which of the dumps exported so far
-    int clock = 0; ///< what the copy's clock shows; clocks may go wrong and back
+    int copy = 0;  ///< index of the copy, modulo the number of copies
+    int key = 0;   ///< index into `sMergeKeys`
+    int value = 0; ///< value to set; for an import, the index of an earlier export
+    int clock = 0; ///< the copy's clock; it may jump forwards and backwards
 };
 
 inline std::ostream &operator<<(std::ostream &out, const MergeStep &step)
@@ -23,14 +23,14 @@ inline std::ostream &operator<<(std::ostream &out, const MergeStep &step)
     static const char *const sNames[] = {"set",           "restore", "create", "remove",
                                          "restore class", "restart", "export", "import"};
     return out << sNames[step.kind] << " copy " << step.copy << ' '
-               << mergeKeys[size_t(step.key)].name << " value " << step.value << " clock "
+               << sMergeKeys[size_t(step.key)].name << " value " << step.value << " clock "
                << step.clock;
 }
 
-/// How steps get their seconds from their clocks.
+/// How the clock of a step becomes a timestamp.
 enum class MergeTimes {
-    Unique, ///< no two changes bear the same second
-    Tied    ///< three seconds for everything
+    Unique, ///< no two changes have the same timestamp
+    Tied    ///< all changes share three timestamps
 };
 
 inline std::ostream &operator<<(std::ostream &out, MergeTimes times)
@@ -38,7 +38,7 @@ inline std::ostream &operator<<(std::ostream &out, MergeTimes times)
     return out << (times == MergeTimes::Unique ? "unique times" : "tied times");
 }
 
-/// Some copies and what happens to them; each with the model that it has to follow.
+/// Several copies that are changed and merged, each with the model whose state it must match.
 class MergeWorld
 {
 public:
@@ -53,7 +53,7 @@ public:
     MergeCopy &copy(size_t index) { return *mCopies[index]; }
     const MergeModel &model(size_t index) const { return mModels[index]; }
 
-    /// Lets `step` happen, unless it makes no sense at this moment.
+    /// Applies `step`, unless it is not possible in the current state.
     void apply(const MergeStep &step)
     {
         const qint64 now = mTimes == MergeTimes::Unique ? 10000 * (step.clock + 1) + ++mSteps
@@ -63,14 +63,14 @@ public:
         MergeCopy &copy = *mCopies[index];
         MergeModel &model = mModels[index];
         const bool present = model.state()[key].present;
-        const bool dynamic = mergeKeys[key].dynamic;
+        const bool dynamic = sMergeKeys[key].dynamic;
         switch (step.kind) {
         case MergeStep::Set:
             if (present)
                 both(copy, model, [&](auto &it) { it.set(key, step.value, now); });
             break;
         case MergeStep::Restore:
-            if (mergeKeys[key].defaultValue)
+            if (sMergeKeys[key].defaultValue)
                 both(copy, model, [&](auto &it) { it.restore(key, now); });
             break;
         case MergeStep::Create:
@@ -99,12 +99,12 @@ public:
             apply(step);
     }
 
-    /// Copy `to` loads what copy `from` holds now.
+    /// Merges the current state of copy `from` into copy `to`.
     void exchange(size_t from, size_t to)
     {
         load(to, {mCopies[from]->dump(), mModels[from], mCopies[from]->system()});
     }
-    /// Every copy loads every other one once.
+    /// Merges every copy into every other one once.
     void exchangeAll()
     {
         for (size_t from = 0; from < count(); ++from) {

@@ -12,20 +12,20 @@ class tst_ConfStorage : public QObject
 private Q_SLOTS:
     void init() { mStore = std::make_unique<ConfStorage>(); }
 
-    void instanceIsOneAndEmpty();
+    void instanceIsASingletonThatStartsEmpty();
     void recordStartsAtItsDefault();
     void reservingBindsTheVariable();
-    void reservingNeverCallsOrMarksAnything();
-    void reservingAgainBindsAnewAndForgetsTheRecord();
+    void reservingCallsNoCallbackAndDoesNotMarkTheStore();
+    void reservingAgainRebindsTheKeyAndResetsItsRecord();
     void reservingNullIsLogged();
     void eachTypeIsReserved();
     void getOfAnUnknownKeyIsLogged();
     void getOfAnotherTypeIsLogged();
-    void setStampsMarksAndCalls();
-    void setOfTheSameValueIsAChange();
-    void setOfAnUnknownKeyLeavesARecord();
-    void setOfAnotherTypeStillCountsAsAChange();
-    void flagIsAShortcutNotTheTruth();
+    void setStampsTheTimeCallsBackAndMarksTheStore();
+    void settingTheSameValueIsAChange();
+    void settingAnUnknownKeyLeavesARecord();
+    void settingAnotherTypeStillCountsAsAChange();
+    void isEqualToDefaultTrustsTheFlagAndComparesWithoutIt();
     void setToDefaultRestoresOnce();
     void setToDefaultMayKeepTheTime();
     void setToDefaultOfAnUnknownKeyIsLogged();
@@ -36,10 +36,10 @@ private Q_SLOTS:
     void dynamicKeyWithoutPresetIsNeverAtDefault();
     void callbackIsReplacedNotCalled();
     void callbackOfAnUnknownKeyIsLogged();
-    void loadValueFromJsonActsLikeAPerson();
+    void loadValueFromJsonActsLikeAUser();
     void loadValueFromJsonOfNullUnbinds();
-    void keysOfAnyText_data();
-    void keysOfAnyText();
+    void anyTextIsAValidKey_data();
+    void anyTextIsAValidKey();
     void thousandsOfKeys();
 
 private:
@@ -57,7 +57,7 @@ private:
     int mCalls = 0;
 };
 
-void tst_ConfStorage::instanceIsOneAndEmpty()
+void tst_ConfStorage::instanceIsASingletonThatStartsEmpty()
 {
     const ConfStorage *store = ConfStorage::instance();
     QCOMPARE(ConfStorage::instance(), store);
@@ -91,7 +91,7 @@ void tst_ConfStorage::reservingBindsTheVariable()
     QVERIFY(!record().defaultValue.mIsPtr);
 }
 
-void tst_ConfStorage::reservingNeverCallsOrMarksAnything()
+void tst_ConfStorage::reservingCallsNoCallbackAndDoesNotMarkTheStore()
 {
     int size = 7, other = 8;
     mStore->reserveConf(key(), &size);
@@ -101,7 +101,7 @@ void tst_ConfStorage::reservingNeverCallsOrMarksAnything()
     QVERIFY(!mStore->mChanged);
 }
 
-void tst_ConfStorage::reservingAgainBindsAnewAndForgetsTheRecord()
+void tst_ConfStorage::reservingAgainRebindsTheKeyAndResetsItsRecord()
 {
     int first = 1, second = 2;
     mStore->reserveConf(key(), &first);
@@ -184,7 +184,7 @@ void tst_ConfStorage::getOfAnotherTypeIsLogged()
     QCOMPARE(log.texts(QtWarningMsg), QStringList("ConfValue::get() type mismatch"));
 }
 
-void tst_ConfStorage::setStampsMarksAndCalls()
+void tst_ConfStorage::setStampsTheTimeCallsBackAndMarksTheStore()
 {
     int size = 7;
     mStore->reserveConf(key(), &size);
@@ -207,11 +207,11 @@ void tst_ConfStorage::setStampsMarksAndCalls()
     QCOMPARE(seen, 8);
     QVERIFY(timeSeen >= before);
     QCOMPARE(flagsSeen, 0u);
-    QVERIFY(!changedSeen); // marked only after the callback
+    QVERIFY(!changedSeen); // the store is marked after the callback
     QVERIFY(mStore->mChanged);
 }
 
-void tst_ConfStorage::setOfTheSameValueIsAChange()
+void tst_ConfStorage::settingTheSameValueIsAChange()
 {
     int size = 7;
     mStore->reserveConf(key(), &size);
@@ -223,7 +223,7 @@ void tst_ConfStorage::setOfTheSameValueIsAChange()
     QVERIFY(mStore->isEqualToDefault(key()));
 }
 
-void tst_ConfStorage::setOfAnUnknownKeyLeavesARecord()
+void tst_ConfStorage::settingAnUnknownKeyLeavesARecord()
 {
     const LogCapture log;
     mStore->set<int>("nowhere", 3);
@@ -235,7 +235,7 @@ void tst_ConfStorage::setOfAnUnknownKeyLeavesARecord()
     QVERIFY(!mStore->calcLastConfTime().isNull());
 }
 
-void tst_ConfStorage::setOfAnotherTypeStillCountsAsAChange()
+void tst_ConfStorage::settingAnotherTypeStillCountsAsAChange()
 {
     int size = 7;
     mStore->reserveConf(key(), &size);
@@ -248,7 +248,7 @@ void tst_ConfStorage::setOfAnotherTypeStillCountsAsAChange()
     QVERIFY(mStore->mChanged);
 }
 
-void tst_ConfStorage::flagIsAShortcutNotTheTruth()
+void tst_ConfStorage::isEqualToDefaultTrustsTheFlagAndComparesWithoutIt()
 {
     int size = 7;
     mStore->reserveConf(key(), &size);
@@ -337,7 +337,7 @@ void tst_ConfStorage::presetIsTheDefaultOfItsKey()
     const ConfStorage::ConfMeta meta = mStore->mConfMetas.value("P.a");
     QCOMPARE(meta.defaultValue.mType, ConfValue::TyQJsonObject);
     QCOMPARE(meta.defaultValue.get<QJsonObject>(), (QJsonObject{{"x", 1}}));
-    QCOMPARE(meta.flags, 0u); // another type than the variable's
+    QCOMPARE(meta.flags, 0u); // the preset's type differs from the variable's
     const LogCapture log;
     mStore->setToDefault("P.a", true);
     QCOMPARE(log.texts(QtWarningMsg), QStringList("ConfValue::set() type mismatch"));
@@ -392,7 +392,7 @@ void tst_ConfStorage::callbackOfAnUnknownKeyIsLogged()
     QVERIFY(mStore->mConfMetas.isEmpty());
 }
 
-void tst_ConfStorage::loadValueFromJsonActsLikeAPerson()
+void tst_ConfStorage::loadValueFromJsonActsLikeAUser()
 {
     int size = 7;
     mStore->reserveConf(key(), &size);
@@ -424,7 +424,7 @@ void tst_ConfStorage::loadValueFromJsonOfNullUnbinds()
     QCOMPARE(log.texts(QtWarningMsg), QStringList("ConfValue::get() type mismatch"));
 }
 
-void tst_ConfStorage::keysOfAnyText_data()
+void tst_ConfStorage::anyTextIsAValidKey_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("empty") << QString();
@@ -438,7 +438,7 @@ void tst_ConfStorage::keysOfAnyText_data()
     QTest::newRow("very long") << QString(1000000, 'k');
 }
 
-void tst_ConfStorage::keysOfAnyText()
+void tst_ConfStorage::anyTextIsAValidKey()
 {
     QFETCH(QString, name);
     int size = 7;

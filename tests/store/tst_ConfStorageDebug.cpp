@@ -3,27 +3,27 @@
 
 #include <QJsonObject>
 
-/// The table that a host prints while it looks for a fault.
+/// The table of all keys that a host prints for debugging.
 class tst_ConfStorageDebug : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void init() { clearStore(); }
     void cleanup() { clearStore(); }
-    void emptyStoreIsAHeading();
-    void everyKeyHasItsRow();
+    void emptyStorePrintsOnlyTheHeading();
+    void everyKeyHasARow();
     void keysWithoutValueOrRecordAreShown();
     void hostileKeysAndLongValuesStayOnOneLine();
     void printingChangesNothing();
 };
 
-void tst_ConfStorageDebug::emptyStoreIsAHeading()
+void tst_ConfStorageDebug::emptyStorePrintsOnlyTheHeading()
 {
     QCOMPARE(ConfStorage::instance()->debugTable(),
              QStringLiteral("KEY  VALUE  DEFAULT  STATE  CHANGED AT  FLAGS\n"));
 }
 
-void tst_ConfStorageDebug::everyKeyHasItsRow()
+void tst_ConfStorageDebug::everyKeyHasARow()
 {
     ConfStorage store;
     bool sound = true;

@@ -14,7 +14,7 @@ QDateTime at(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
 
-/// A store with one class of numbers, "P.", and the host's side of it.
+/// A store with one class of dynamic keys, "P.", and the host's variables for it.
 class Copy
 {
 public:
@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-/// Keys that come and go at run time.
+/// Keys that are created and removed at run time.
 class tst_ConfStorageDynamic : public QObject
 {
     Q_OBJECT
@@ -58,30 +58,30 @@ private Q_SLOTS:
     void init() { mCopy = std::make_unique<Copy>(); }
 
     void firstMatchingClassIsFound();
-    void creatingStampsAndMarks();
+    void creatingStampsTheTimeAndMarksTheStore();
     void creatingWithoutAClassIsLogged();
     void creatingAnExistingKeyIsLogged();
     void creatorThatReservesNothingLeavesARecord();
-    void missingFunctionsAreLeftOut();
-    void removingRemembersWhen();
+    void missingCreatorAndRemoverAreSkipped();
+    void removingLeavesATombstone();
     void removingWithoutAClassIsLogged();
     void removingAnUnknownKeyIsLogged();
-    void creatingAgainForgetsTheRemoval();
-    void presetsAreCreatedUntouched();
-    void presetIsTheDefaultWhateverItsCreatorMakesOfIt();
+    void creatingAgainDropsTheTombstone();
+    void presetsAreCreatedWithoutATimestamp();
+    void presetIsTheDefaultEvenIfItsCreatorChangesIt();
     void removedPresetStaysRemoved();
-    void restoreBringsPresetsBackAndRemovesOthers();
-    void restoreOfOneClassBringsTheOthersPresetsBack();
+    void restoreRecreatesPresetsAndRemovesOtherKeys();
+    void restoringOneClassRecreatesThePresetsOfAllClasses();
     void merging_data();
     void merging();
-    void removalOfAnAbsentKeyIsRemembered_data();
-    void removalOfAnAbsentKeyIsRemembered();
+    void removalOfAnAbsentKeyLeavesATombstone_data();
+    void removalOfAnAbsentKeyLeavesATombstone();
     void mergingANewKeyCreatesIt();
-    void mergingWithoutTimeIsNew();
+    void entryWithoutATimestampCountsAsNew();
     void mergingARestoredPreset();
     void mergingIntoALocalOnlyClass();
-    void entryThatIsNoObjectIsAnOrdinaryOne();
-    void deletionTravelsAndLosesToANewerChange();
+    void entryThatIsNotAnObjectCreatesNoDynamicKey();
+    void removalIsMergedAndLosesToANewerChange();
 
 private:
     std::unique_ptr<Copy> mCopy;
@@ -102,7 +102,7 @@ void tst_ConfStorageDynamic::firstMatchingClassIsFound()
     QVERIFY(!store.findDynamicConfClass(""));
 }
 
-void tst_ConfStorageDynamic::creatingStampsAndMarks()
+void tst_ConfStorageDynamic::creatingStampsTheTimeAndMarksTheStore()
 {
     mCopy->cls.flags = ConfStorage::FlagSystemIndependent | ConfStorage::FlagLocalOnly;
     mCopy->store.createDynamicConf("P.a", QJsonObject{{"x", 5}}, nullptr);
@@ -121,7 +121,7 @@ void tst_ConfStorageDynamic::creatingWithoutAClassIsLogged()
     QCOMPARE(log.texts(QtCriticalMsg),
              QStringList("ConfStorage::createDynamicConf() dynamicConfClass not found:  \"Q.a\""));
     QVERIFY(!mCopy->store.mChanged);
-    // A class that is given is taken, whatever the key.
+    // A class passed by the caller is used even if its prefix does not match the key.
     mCopy->store.createDynamicConf("Q.a", 1, &mCopy->cls);
     QCOMPARE(mCopy->created, 1);
 }
@@ -146,7 +146,7 @@ void tst_ConfStorageDynamic::creatorThatReservesNothingLeavesARecord()
     QVERIFY(mCopy->dump().isEmpty());
 }
 
-void tst_ConfStorageDynamic::missingFunctionsAreLeftOut()
+void tst_ConfStorageDynamic::missingCreatorAndRemoverAreSkipped()
 {
     mCopy->create("P.a", 1, 100);
     mCopy->cls.creator = nullptr;
@@ -157,7 +157,7 @@ void tst_ConfStorageDynamic::missingFunctionsAreLeftOut()
     QVERIFY(!mCopy->has("P.b"));
 }
 
-void tst_ConfStorageDynamic::removingRemembersWhen()
+void tst_ConfStorageDynamic::removingLeavesATombstone()
 {
     mCopy->create("P.p1", 1, 100);
     mCopy->store.mChanged = false;
@@ -194,7 +194,7 @@ void tst_ConfStorageDynamic::removingAnUnknownKeyIsLogged()
     QVERIFY(mCopy->store.mRemovedDynamicConfs.isEmpty());
 }
 
-void tst_ConfStorageDynamic::creatingAgainForgetsTheRemoval()
+void tst_ConfStorageDynamic::creatingAgainDropsTheTombstone()
 {
     mCopy->create("P.a", 1, 100);
     mCopy->store.removeDynamicConf("P.a");
@@ -202,7 +202,7 @@ void tst_ConfStorageDynamic::creatingAgainForgetsTheRemoval()
     QVERIFY(mCopy->store.mRemovedDynamicConfs.isEmpty());
 }
 
-void tst_ConfStorageDynamic::presetsAreCreatedUntouched()
+void tst_ConfStorageDynamic::presetsAreCreatedWithoutATimestamp()
 {
     mCopy->store.mPresetDynamicConfs["P.a"] = QJsonObject{{"x", 1}};
     mCopy->create("P.b", 7, 100);
@@ -217,11 +217,11 @@ void tst_ConfStorageDynamic::presetsAreCreatedUntouched()
     QCOMPARE(mCopy->store.calcLastConfTime(), at(100));
 }
 
-void tst_ConfStorageDynamic::presetIsTheDefaultWhateverItsCreatorMakesOfIt()
+void tst_ConfStorageDynamic::presetIsTheDefaultEvenIfItsCreatorChangesIt()
 {
     mCopy->cls.creator = [this](QString key, const QJsonValue *value) {
         mCopy->variables[key] = value->toObject();
-        mCopy->variables[key]["id"] = 7; // as a host numbers its entries
+        mCopy->variables[key]["id"] = 7; // like a host that numbers its entries
         mCopy->store.reserveConf(key, &mCopy->variables[key]);
     };
     mCopy->store.mPresetDynamicConfs["P.a"] = QJsonObject{{"x", 1}};
@@ -241,7 +241,7 @@ void tst_ConfStorageDynamic::removedPresetStaysRemoved()
     QVERIFY(mCopy->has("P.a"));
 }
 
-void tst_ConfStorageDynamic::restoreBringsPresetsBackAndRemovesOthers()
+void tst_ConfStorageDynamic::restoreRecreatesPresetsAndRemovesOtherKeys()
 {
     mCopy->store.mPresetDynamicConfs["P.a"] = QJsonObject{{"x", 1}};
     mCopy->store.loadPresetDynamicConf();
@@ -257,7 +257,7 @@ void tst_ConfStorageDynamic::restoreBringsPresetsBackAndRemovesOthers()
     QVERIFY(mCopy->store.mChanged);
 }
 
-void tst_ConfStorageDynamic::restoreOfOneClassBringsTheOthersPresetsBack()
+void tst_ConfStorageDynamic::restoringOneClassRecreatesThePresetsOfAllClasses()
 {
     ConfStorage::DynamicConfClass other = mCopy->cls;
     other.prefix = "Q.";
@@ -272,9 +272,9 @@ void tst_ConfStorageDynamic::restoreOfOneClassBringsTheOthersPresetsBack()
 
 void tst_ConfStorageDynamic::merging_data()
 {
-    QTest::addColumn<bool>("present"); // the key exists, changed at second 100; else removed then
+    QTest::addColumn<bool>("present"); // changed at second 100; otherwise removed at second 100
     QTest::addColumn<QJsonObject>("entry");
-    QTest::addColumn<int>("value"); // afterwards; 0: removed
+    QTest::addColumn<int>("value"); // after merging; 0: removed
     QTest::addColumn<qint64>("time");
     const auto change = [](int time) {
         return QJsonObject{{"t", time}, {"v", QJsonObject{{"x", 2}}}};
@@ -293,7 +293,7 @@ void tst_ConfStorageDynamic::merging_data()
         << false << change(99) << 0 << qint64(100);
     QTest::newRow("removed key, newer removal") << false << removal(101) << 0 << qint64(101);
     QTest::newRow("removed key, older removal") << false << removal(99) << 0 << qint64(100);
-    QTest::newRow("removal goes before the other members")
+    QTest::newRow("removal takes precedence over the other members")
         << true << QJsonObject{{"d", 101}, {"t", 1}, {"v", 5}} << 0 << qint64(101);
 }
 
@@ -319,7 +319,7 @@ void tst_ConfStorageDynamic::merging()
     }
 }
 
-void tst_ConfStorageDynamic::removalOfAnAbsentKeyIsRemembered_data()
+void tst_ConfStorageDynamic::removalOfAnAbsentKeyLeavesATombstone_data()
 {
     QTest::addColumn<QJsonValue>("removed");
     QTest::addColumn<qint64>("time");
@@ -329,7 +329,7 @@ void tst_ConfStorageDynamic::removalOfAnAbsentKeyIsRemembered_data()
     QTest::newRow("beyond 32 bits") << QJsonValue(2147483648.0) << qint64(0);
 }
 
-void tst_ConfStorageDynamic::removalOfAnAbsentKeyIsRemembered()
+void tst_ConfStorageDynamic::removalOfAnAbsentKeyLeavesATombstone()
 {
     QFETCH(QJsonValue, removed);
     QFETCH(qint64, time);
@@ -346,7 +346,7 @@ void tst_ConfStorageDynamic::mergingANewKeyCreatesIt()
     QCOMPARE(mCopy->store.mConfMetas["P.new"].lastChangeTime, at(50));
 }
 
-void tst_ConfStorageDynamic::mergingWithoutTimeIsNew()
+void tst_ConfStorageDynamic::entryWithoutATimestampCountsAsNew()
 {
     mCopy->create("P.a", 1, 100);
     mCopy->store.loadSingleConf("P.a", QJsonObject{{"v", QJsonObject{{"x", 3}}}},
@@ -376,7 +376,7 @@ void tst_ConfStorageDynamic::mergingIntoALocalOnlyClass()
     QVERIFY(!mCopy->has("P.a"));
     mCopy->store.loadSingleConf("P.a", entry, ConfStorage::LoadLocal);
     QVERIFY(mCopy->has("P.a"));
-    // Nor is a setting of the host among its keys taken from another copy.
+    // An ordinary key of the host with the prefix of the class is not merged either.
     int size = 7;
     mCopy->store.reserveConf("P.size", &size);
     mCopy->store.loadSingleConf("P.size", QJsonObject{{"t", 50}, {"v", 9}},
@@ -384,14 +384,14 @@ void tst_ConfStorageDynamic::mergingIntoALocalOnlyClass()
     QCOMPARE(size, 7);
 }
 
-void tst_ConfStorageDynamic::entryThatIsNoObjectIsAnOrdinaryOne()
+void tst_ConfStorageDynamic::entryThatIsNotAnObjectCreatesNoDynamicKey()
 {
     mCopy->store.loadSingleConf("P.new", 5, ConfStorage::LoadShared);
     QVERIFY(!mCopy->has("P.new"));
     QCOMPARE(mCopy->created, 0);
 }
 
-void tst_ConfStorageDynamic::deletionTravelsAndLosesToANewerChange()
+void tst_ConfStorageDynamic::removalIsMergedAndLosesToANewerChange()
 {
     Copy other;
     mCopy->create("P.a", 1, 100);

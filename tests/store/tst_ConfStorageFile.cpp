@@ -27,20 +27,20 @@ private Q_SLOTS:
 
     void emptyPathIsLogged();
     void savedFileIsCompactAndSorted();
-    void fileHoldsTheBytesOfTheDump_data();
-    void fileHoldsTheBytesOfTheDump();
+    void fileContainsTheBytesOfTheDump_data();
+    void fileContainsTheBytesOfTheDump();
     void unchangedStoreWritesNothing();
-    void fileThatCannotBeOpenedStaysPending_data();
-    void fileThatCannotBeOpenedStaysPending();
+    void saveStaysPendingIfTheFileCannotBeOpened_data();
+    void saveStaysPendingIfTheFileCannotBeOpened();
     void fileIsRewrittenInPlace();
-    void shorterContentLeavesNoTail();
+    void shorterContentTruncatesTheFile();
     void loadedFileRestoresEverything();
-    void fileThatHoldsNoObjectCountsAsEmpty_data();
-    void fileThatHoldsNoObjectCountsAsEmpty();
+    void fileWithoutAJsonObjectCountsAsEmpty_data();
+    void fileWithoutAJsonObjectCountsAsEmpty();
     void hugeFileCountsAsEmptyAndIsLogged();
-    void firstStartCreatesPresetsUnsaved();
+    void firstStartCreatesPresetsWithoutSaving();
     void loadingWithoutAPathCreatesNoPresets();
-    void newerChangesOfTheStoreStay();
+    void newerChangesOfTheStoreAreKept();
 
 private:
     static QString path() { return "local.json"; }
@@ -101,7 +101,7 @@ void tst_ConfStorageFile::savedFileIsCompactAndSorted()
     QVERIFY(!mStore->mChanged);
 }
 
-void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
+void tst_ConfStorageFile::fileContainsTheBytesOfTheDump_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QJsonValue>("value");
@@ -116,7 +116,7 @@ void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
     row("line break", "a\nb", R"("a\nb")");
     row("control character", QString(QChar(0x1f)), R"("\u001f")");
     row("delete character", QString(QChar(0x7f)), "\"\x7f\"");
-    row("two bytes", QString::fromUtf8("ß"), "\"ß\"");
+    row("two-byte character", QString::fromUtf8("ß"), "\"ß\"");
     row("surrogate pair", QString::fromUtf8("😀"), "\"😀\"");
     row("half a surrogate pair", QString(QChar(0xd83d)), R"("\ud83d")");
     row("zero", 0, "0");
@@ -129,11 +129,11 @@ void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump_data()
     row("array", QJsonArray{1, "a", QJsonArray()}, R"([1,"a",[]])");
     row("object", QJsonObject{{"b", 1}, {"a", QJsonValue()}}, R"({"a":null,"b":1})");
     QTest::newRow("key with a quote") << "k\"" << QJsonValue(1) << QByteArray("1");
-    QTest::newRow("key of two bytes")
+    QTest::newRow("key with a two-byte character")
         << QString::fromUtf8("ключ") << QJsonValue(1) << QByteArray("1");
 }
 
-void tst_ConfStorageFile::fileHoldsTheBytesOfTheDump()
+void tst_ConfStorageFile::fileContainsTheBytesOfTheDump()
 {
     QFETCH(QString, key);
     QFETCH(QJsonValue, value);
@@ -170,7 +170,7 @@ void tst_ConfStorageFile::unchangedStoreWritesNothing()
     QVERIFY(!QFile::exists(path()));
 }
 
-void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending_data()
+void tst_ConfStorageFile::saveStaysPendingIfTheFileCannotBeOpened_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("folder") << ".";
@@ -178,7 +178,7 @@ void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending_data()
     QTest::newRow("file as folder") << "/dev/null/local.json";
 }
 
-void tst_ConfStorageFile::fileThatCannotBeOpenedStaysPending()
+void tst_ConfStorageFile::saveStaysPendingIfTheFileCannotBeOpened()
 {
     QFETCH(QString, file);
     mStore->mLocalSaveFile = file;
@@ -210,7 +210,7 @@ void tst_ConfStorageFile::fileIsRewrittenInPlace()
              QFile::Permissions());
 }
 
-void tst_ConfStorageFile::shorterContentLeavesNoTail()
+void tst_ConfStorageFile::shorterContentTruncatesTheFile()
 {
     write(QByteArray(100000, ' '));
     change(8, 100);
@@ -248,7 +248,7 @@ void tst_ConfStorageFile::loadedFileRestoresEverything()
     QVERIFY(mStore->mLocalLoaded);
 }
 
-void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty_data()
+void tst_ConfStorageFile::fileWithoutAJsonObjectCountsAsEmpty_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("empty") << QByteArray();
@@ -259,7 +259,7 @@ void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty_data()
     QTest::newRow("trailing zeros") << QByteArray("{\"size\":{\"t\":1,\"v\":3}}\0\0", 25);
 }
 
-void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty()
+void tst_ConfStorageFile::fileWithoutAJsonObjectCountsAsEmpty()
 {
     QFETCH(QByteArray, text);
     write(text);
@@ -268,13 +268,13 @@ void tst_ConfStorageFile::fileThatHoldsNoObjectCountsAsEmpty()
     QCOMPARE(mSize, 7);
     QVERIFY(mStore->mLocalLoaded);
     QVERIFY(log.messages().isEmpty());
-    QCOMPARE(content(), text); // untouched until something changes
+    QCOMPARE(content(), text); // not written until something changes
 }
 
 void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
 {
     write("{\"size\":{\"t\":100,\"v\":9}}");
-    QVERIFY(QFile::resize(path(), qint64(1) << 36)); // takes no room on the disk
+    QVERIFY(QFile::resize(path(), qint64(1) << 36)); // a sparse file takes no disk space
     const LogCapture log;
     mStore->loadLocalConfFile();
     QVERIFY(mStore->mLocalLoaded);
@@ -283,7 +283,7 @@ void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
         log.messages(),
         (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too large:  "
                                               "\"local.json\""}}));
-    // A save makes it a usable file again, with and without the journal.
+    // Saving replaces it with a valid file, with and without the journal.
     for (const bool safely : {false, true}) {
         QVERIFY(QFile::resize(path(), qint64(1) << 36));
         mStore->mSafeSave = safely;
@@ -293,7 +293,7 @@ void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
     }
 }
 
-void tst_ConfStorageFile::firstStartCreatesPresetsUnsaved()
+void tst_ConfStorageFile::firstStartCreatesPresetsWithoutSaving()
 {
     QJsonObject variable;
     ConfStorage::DynamicConfClass cls;
@@ -323,7 +323,7 @@ void tst_ConfStorageFile::loadingWithoutAPathCreatesNoPresets()
     QVERIFY(!mStore->mConfMetas.contains("P.a"));
 }
 
-void tst_ConfStorageFile::newerChangesOfTheStoreStay()
+void tst_ConfStorageFile::newerChangesOfTheStoreAreKept()
 {
     write("{\"size\":{\"t\":100,\"v\":3}}");
     change(9, 200);

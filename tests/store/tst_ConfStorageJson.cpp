@@ -38,22 +38,22 @@ private Q_SLOTS:
     void untouchedStoreDumpsNothing();
     void dump_data();
     void dump();
-    void timeOfTheEpochIsNotDumped();
-    void fractionsOfSecondsAreCutOff();
+    void timestampZeroIsNotDumped();
+    void fractionsOfSecondsAreTruncated();
     void keyWithoutRecordIsNotDumped();
     void removalsAreDumped();
-    void removalOfNoClassIsLogged();
+    void removalWithoutAClassIsLogged();
     void removalsIgnoreTheLocalOnlyFlag();
     void dumpIsSortedByKey();
-    void laterMemberOfTheSameNameCounts();
-    void membersLoadPastKeysThatOnlyOneSideKnows();
+    void lastMemberOfTheSameNameWins();
+    void keysThatOnlyOneSideHasDoNotStopTheLoad();
     void loadedEntry_data();
     void loadedEntry();
-    void entryWithoutTimeIsNew();
+    void entryWithoutATimestampIsNew();
     void bareValueRestoresTheDefault();
     void entryWithoutValueRestoresTheDefaultAndItsTime();
     void loadedValueDoesNotMarkTheStore();
-    void loadedValueCallsBackBeforeTheFlagFalls();
+    void callbackOfALoadedValueRunsBeforeTheDefaultFlagIsCleared();
     void skippedEntryDoesNotCallBack();
     void systemMark_data();
     void systemMark();
@@ -62,8 +62,8 @@ private Q_SLOTS:
     void loadConfCountsItsMembers();
     void text_data();
     void text();
-    void restoredKeyTravelsToAnotherStore();
-    void changedOnlyWritesWhatEqualsItsDefaultToo();
+    void restoredDefaultIsMergedIntoAnotherStore();
+    void changedOnlyIncludesAChangedValueEqualToItsDefault();
     void newestTime();
     void largeStoreSurvivesTheRoundTrip();
 
@@ -129,7 +129,7 @@ void tst_ConfStorageJson::dump()
     QTEST(dumped(static_cast<ConfStorage::DumpConfType>(type)), "expected");
 }
 
-void tst_ConfStorageJson::timeOfTheEpochIsNotDumped()
+void tst_ConfStorageJson::timestampZeroIsNotDumped()
 {
     change("a", 10, 0);
     QVERIFY(dumped().isEmpty());
@@ -138,7 +138,7 @@ void tst_ConfStorageJson::timeOfTheEpochIsNotDumped()
     QCOMPARE(dumped(), (QJsonObject{{"a", entry(-5, 10)}}));
 }
 
-void tst_ConfStorageJson::fractionsOfSecondsAreCutOff()
+void tst_ConfStorageJson::fractionsOfSecondsAreTruncated()
 {
     mStore->set<int>("a", 10);
     mStore->mConfMetas["a"].lastChangeTime = QDateTime::fromMSecsSinceEpoch(100999, Qt::UTC);
@@ -167,7 +167,7 @@ void tst_ConfStorageJson::removalsAreDumped()
     QVERIFY(dumped(ConfStorage::DumpChangedOnly).isEmpty());
 }
 
-void tst_ConfStorageJson::removalOfNoClassIsLogged()
+void tst_ConfStorageJson::removalWithoutAClassIsLogged()
 {
     mStore->mRemovedDynamicConfs = {{"P.x", at(500)}};
     const LogCapture log;
@@ -197,9 +197,9 @@ void tst_ConfStorageJson::dumpIsSortedByKey()
     QCOMPARE(dumped().keys(), (QStringList{"a", "b!", "b#s.mac", "b."}));
 }
 
-void tst_ConfStorageJson::laterMemberOfTheSameNameCounts()
+void tst_ConfStorageJson::lastMemberOfTheSameNameWins()
 {
-    // "a#s.mac" is the marked name of the first and the bare name of the second key.
+    // "a#s.mac" is the name of key "a" with its system mark, and also a key of its own.
     int bare = 3;
     mStore->reserveConf("a#s.mac", &bare);
     mStore->reserveConf("a!", &mB);
@@ -218,7 +218,7 @@ void tst_ConfStorageJson::laterMemberOfTheSameNameCounts()
     QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal), written);
 }
 
-void tst_ConfStorageJson::membersLoadPastKeysThatOnlyOneSideKnows()
+void tst_ConfStorageJson::keysThatOnlyOneSideHasDoNotStopTheLoad()
 {
     int c = 3, d = 4;
     mStore->reserveConf("c", &c);
@@ -238,17 +238,17 @@ void tst_ConfStorageJson::membersLoadPastKeysThatOnlyOneSideKnows()
 
 void tst_ConfStorageJson::loadedEntry_data()
 {
-    QTest::addColumn<qint64>("stored"); // seconds of the store's last change; -1: none
+    QTest::addColumn<qint64>("stored"); // timestamp of the store's last change; -1: none
     QTest::addColumn<QJsonValue>("time");
     QTest::addColumn<int>("value");
-    QTest::addColumn<qint64>("kept"); // seconds afterwards
+    QTest::addColumn<qint64>("kept"); // timestamp after loading
     QTest::newRow("newer wins") << qint64(99) << QJsonValue(100) << 10 << qint64(100);
     QTest::newRow("equal time keeps the store's value")
         << qint64(100) << QJsonValue(100) << 5 << qint64(100);
     QTest::newRow("older loses") << qint64(101) << QJsonValue(100) << 5 << qint64(101);
-    QTest::newRow("never changed takes any time") << qint64(-1) << QJsonValue(1) << 10 << qint64(1);
-    QTest::newRow("time of the epoch") << qint64(-1) << QJsonValue(0) << 10 << qint64(0);
-    QTest::newRow("time that is no number counts as the epoch")
+    QTest::newRow("never changed loses to any") << qint64(-1) << QJsonValue(1) << 10 << qint64(1);
+    QTest::newRow("time at the epoch") << qint64(-1) << QJsonValue(0) << 10 << qint64(0);
+    QTest::newRow("time that is not a number counts as the epoch")
         << qint64(-1) << QJsonValue("100") << 10 << qint64(0);
     QTest::newRow("time beyond 32 bits counts as the epoch")
         << qint64(50) << QJsonValue(5e9) << 5 << qint64(50);
@@ -271,7 +271,7 @@ void tst_ConfStorageJson::loadedEntry()
     QCOMPARE(mStore->mConfMetas["a"].lastChangeTime.toSecsSinceEpoch(), kept);
 }
 
-void tst_ConfStorageJson::entryWithoutTimeIsNew()
+void tst_ConfStorageJson::entryWithoutATimestampIsNew()
 {
     change("a", 5, 4000000000);
     const QDateTime before = QDateTime::currentDateTimeUtc();
@@ -307,7 +307,7 @@ void tst_ConfStorageJson::loadedValueDoesNotMarkTheStore()
     QCOMPARE(mStore->mConfMetas["a"].flags, 0u);
 }
 
-void tst_ConfStorageJson::loadedValueCallsBackBeforeTheFlagFalls()
+void tst_ConfStorageJson::callbackOfALoadedValueRunsBeforeTheDefaultFlagIsCleared()
 {
     quint32 flags = 0;
     int value = 0;
@@ -344,10 +344,10 @@ void tst_ConfStorageJson::systemMark_data()
                                 << "";
     QTest::newRow("no mark") << "k"
                              << "k";
-    QTest::newRow("split at the last one") << "k#x#s.mac"
-                                           << "k#x";
-    QTest::newRow("last one is foreign") << "k#s.mac#x"
-                                         << "";
+    QTest::newRow("mark starts at the last #") << "k#x#s.mac"
+                                               << "k#x";
+    QTest::newRow("last mark is foreign") << "k#s.mac#x"
+                                          << "";
     QTest::newRow("only the mark") << "#s.mac"
                                    << "(empty)";
 }
@@ -403,7 +403,7 @@ void tst_ConfStorageJson::text_data()
     QTest::newRow("array") << "[1]" << false;
     QTest::newRow("empty") << "" << false;
     QTest::newRow("rubbish") << "{\"a\"" << false;
-    QTest::newRow("something behind it") << "{} x" << false;
+    QTest::newRow("text after the object") << "{} x" << false;
     QTest::newRow("bare value") << "5" << false;
     QTest::newRow("nested too deeply") << QString(200000, '[') << false;
 }
@@ -422,7 +422,7 @@ void tst_ConfStorageJson::text()
         QCOMPARE(mA, 1);
 }
 
-void tst_ConfStorageJson::restoredKeyTravelsToAnotherStore()
+void tst_ConfStorageJson::restoredDefaultIsMergedIntoAnotherStore()
 {
     change("a", 10, 100);
     mStore->setToDefault("a", true);
@@ -438,7 +438,7 @@ void tst_ConfStorageJson::restoredKeyTravelsToAnotherStore()
     QCOMPARE(other.dumpConf(ConfStorage::DumpLocal), dumped());
 }
 
-void tst_ConfStorageJson::changedOnlyWritesWhatEqualsItsDefaultToo()
+void tst_ConfStorageJson::changedOnlyIncludesAChangedValueEqualToItsDefault()
 {
     mStore->set<int>("a", 1);
     QCOMPARE(dumped(ConfStorage::DumpChangedOnly), (QJsonObject{{"a", QJsonObject{{"v", 1}}}}));

@@ -6,7 +6,7 @@
 #include <QFont>
 #include <QJsonObject>
 
-/// Callbacks that work on the store, on their own key above all.
+/// Re-entrant callbacks: they change the store while it calls them, most often their own key.
 class tst_ConfStorageReentrancy : public QObject
 {
     Q_OBJECT
@@ -19,9 +19,9 @@ private Q_SLOTS:
     }
 
     void callbackMaySetItsOwnKey();
-    void callbackThatSetsItsKeyWithoutEndIsStopped();
-    void callbacksThatSetEachOtherWithoutEndAreStopped();
-    void callbacksThatMultiplyAreStoppedInTime();
+    void callbackThatSetsItsKeyEndlesslyIsStopped();
+    void callbacksThatSetEachOtherEndlesslyAreStopped();
+    void exponentiallyNestedCallbacksAreStopped();
     void callbackMayThrow();
     void callbackMayReplaceItself();
     void callbackMayReserveItsKeyAgain();
@@ -30,17 +30,17 @@ private Q_SLOTS:
     void callbackMayRemoveItsDynamicKey();
     void callbackMayLoadTheSameObjectAgain();
     void callbackMayChangeTheLoadedObject();
-    void callbackMayReplaceTheKeysThatLoadNext();
+    void callbackMayReplaceTheNextKeyToLoad();
     void callbackMayReloadTheLocalFile();
     void callbackMaySaveWhileTheFileIsLoaded();
-    void logHandlerMayRemoveTheFontThatLoads_data();
-    void logHandlerMayRemoveTheFontThatLoads();
+    void logHandlerMayRemoveTheFontBeingLoaded_data();
+    void logHandlerMayRemoveTheFontBeingLoaded();
     void creatorMayRemoveItsClass();
     void removerMayRemoveTheClass();
     void removerMayRemoveItsKeyAgain();
     void creatorMayCreateItsKeyAgain();
     void creatorMayLoadItsKey();
-    void keyMayStandInTheMapThatChanges();
+    void keyArgumentMayReferToTheMapBeingChanged();
     void callbackMayRemoveOtherKeysWhileAClassIsRestored();
 
 private:
@@ -63,7 +63,7 @@ void tst_ConfStorageReentrancy::callbackMaySetItsOwnKey()
     QCOMPARE(seen, (QList<int>{5000, 100}));
 }
 
-void tst_ConfStorageReentrancy::callbackThatSetsItsKeyWithoutEndIsStopped()
+void tst_ConfStorageReentrancy::callbackThatSetsItsKeyEndlesslyIsStopped()
 {
     mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *value) {
         mStore->set<int>(name, value->get<int>() + 1);
@@ -76,13 +76,13 @@ void tst_ConfStorageReentrancy::callbackThatSetsItsKeyWithoutEndIsStopped()
                              "  \"General.Size\""));
     }
     QCOMPARE(mSize, 200);
-    // Not for ever: the next change is announced again.
+    // Callbacks resume with the next change.
     mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) { mSize = -1; });
     mStore->set<int>(key(), 0);
     QCOMPARE(mSize, -1);
 }
 
-void tst_ConfStorageReentrancy::callbacksThatSetEachOtherWithoutEndAreStopped()
+void tst_ConfStorageReentrancy::callbacksThatSetEachOtherEndlesslyAreStopped()
 {
     int other = 0;
     mStore->reserveConf("other", &other);
@@ -95,11 +95,11 @@ void tst_ConfStorageReentrancy::callbacksThatSetEachOtherWithoutEndAreStopped()
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
 }
 
-void tst_ConfStorageReentrancy::callbacksThatMultiplyAreStoppedInTime()
+void tst_ConfStorageReentrancy::exponentiallyNestedCallbacksAreStopped()
 {
     mStore->setConfChangedCallback(key(), [&](const QString &name, const ConfValue *) {
         mStore->set<int>(name, 1);
-        mStore->set<int>(name, 2); // without the stop, two to the power of two hundred calls
+        mStore->set<int>(name, 2); // without the limit this makes 2^200 calls
     });
     const LogCapture log;
     mStore->set<int>(key(), 0);
@@ -200,7 +200,7 @@ void tst_ConfStorageReentrancy::callbackMayLoadTheSameObjectAgain()
         mStore->loadConf(conf, ConfStorage::LoadLocal);
     });
     mStore->loadConf(conf, ConfStorage::LoadLocal);
-    QCOMPARE(calls, 1); // the same time once more is not newer
+    QCOMPARE(calls, 1); // an equal timestamp is not newer
     QCOMPARE(mSize, 9);
 }
 
@@ -216,7 +216,7 @@ void tst_ConfStorageReentrancy::callbackMayChangeTheLoadedObject()
     QCOMPARE(last, 3);
 }
 
-void tst_ConfStorageReentrancy::callbackMayReplaceTheKeysThatLoadNext()
+void tst_ConfStorageReentrancy::callbackMayReplaceTheNextKeyToLoad()
 {
     int first = 0, next = 0, last = 0;
     mStore->reserveConf("a", &first);
@@ -282,16 +282,16 @@ void emptyTheStore(QtMsgType, const QMessageLogContext &, const QString &)
 
 } // namespace
 
-void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontThatLoads_data()
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontBeingLoaded_data()
 {
     QTest::addColumn<QString>("font");
     QTest::addColumn<bool>("hasCallback");
     QTest::newRow("message of Qt") << "Sans,9,-1" << false;
-    QTest::newRow("message of ours") << "Sans,inf,-1,5,50,0,0,0,0,0" << false;
-    QTest::newRow("of Qt, with a callback") << "Sans,9,-1" << true;
+    QTest::newRow("message of the library") << "Sans,inf,-1,5,50,0,0,0,0,0" << false;
+    QTest::newRow("message of Qt, with a callback") << "Sans,9,-1" << true;
 }
 
-void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontThatLoads()
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontBeingLoaded()
 {
     QFETCH(QString, font);
     QFETCH(bool, hasCallback);
@@ -301,7 +301,7 @@ void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontThatLoads()
         mStore->reserveConf("General.Next", &mSize);
         if (hasCallback)
             mStore->setConfChangedCallback("General.Font", [](const QString &, const ConfValue *) {
-                QFAIL("called for a key that is gone");
+                QFAIL("called for a removed key");
             });
     };
     const QJsonObject entry{{"t", 5}, {"v", font}};
@@ -401,7 +401,7 @@ void tst_ConfStorageReentrancy::creatorMayLoadItsKey()
     QCOMPARE(mStore->mConfMetas["Dyn.a"].lastChangeTime.toSecsSinceEpoch(), 100);
 }
 
-void tst_ConfStorageReentrancy::keyMayStandInTheMapThatChanges()
+void tst_ConfStorageReentrancy::keyArgumentMayReferToTheMapBeingChanged()
 {
     ConfStorage::DynamicConfClass cls;
     cls.prefix = "General.";

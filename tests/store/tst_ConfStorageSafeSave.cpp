@@ -14,7 +14,7 @@ namespace {
 const QByteArray sOld = "{\"size\":{\"t\":100,\"v\":8}}";
 const QByteArray sNew = "{\"size\":{\"t\":200,\"v\":9}}";
 
-/// The journal of a save from `sOld` to `sNew`; its hashes were calculated with sha256sum.
+/// The journal of a save from `sOld` to `sNew`; the hashes were computed with sha256sum.
 const QByteArray sJournal = "malto save journal 1\n"
                             "61c6cafd088dc3c8fecd114f6c37d65044daa8527241d1ecf14f87aadf30df42\n"
                             "24\n"
@@ -32,8 +32,8 @@ const QString sWarning = "ConfStorage::loadLocalConfFile() ";
 
 } // namespace
 
-/// The local file with `mSafeSave`, and the journal beside it. What it survives is tested in
-/// tests/faults.
+/// The local file with `mSafeSave`, and the journal beside it. Crashes and write errors are tested
+/// in tests/faults.
 class tst_ConfStorageSafeSave : public QObject
 {
     Q_OBJECT
@@ -47,20 +47,20 @@ private Q_SLOTS:
     void cleanup() { QVERIFY(QDir("box").removeRecursively()); }
 
     void switchIsOffByDefault();
-    void savedFileIsThatOfAPlainSave();
-    void shorterContentLeavesNoTail();
-    void linksAndPermissionsStay();
+    void safeSaveWritesTheSameBytesAsAPlainSave();
+    void shorterContentTruncatesTheFile();
+    void linksAndPermissionsArePreserved();
     void unreadableContentIsNotSaved();
-    void journalThatCannotBePutInPlaceFailsTheSave();
-    void loadDecidesByWhatTheFileHolds_data();
-    void loadDecidesByWhatTheFileHolds();
-    void journalLiesBesideTheTargetOfALink();
+    void saveFailsIfTheJournalCannotBeWritten();
+    void recoveryDependsOnTheContentOfTheFile_data();
+    void recoveryDependsOnTheContentOfTheFile();
+    void journalIsBesideTheTargetOfALink();
     void damagedJournalIsDropped_data();
     void damagedJournalIsDropped();
     void hugeJournalIsDropped();
-    void filesThatAreNoJournalAreLeftAlone_data();
-    void filesThatAreNoJournalAreLeftAlone();
-    void strangersJournalIsLeftAlone();
+    void filesThatAreNotJournalsAreLeftAlone_data();
+    void filesThatAreNotJournalsAreLeftAlone();
+    void journalOfAnotherUserIsLeftAlone();
     void plainSaveLeavesAJournalAlone();
 
 private:
@@ -104,7 +104,7 @@ void tst_ConfStorageSafeSave::switchIsOffByDefault()
     QVERIFY(!ConfStorage().mSafeSave);
 }
 
-void tst_ConfStorageSafeSave::savedFileIsThatOfAPlainSave()
+void tst_ConfStorageSafeSave::safeSaveWritesTheSameBytesAsAPlainSave()
 {
     change(8, 100);
     const LogCapture log;
@@ -119,7 +119,7 @@ void tst_ConfStorageSafeSave::savedFileIsThatOfAPlainSave()
     QVERIFY(!mStore->mChanged);
 }
 
-void tst_ConfStorageSafeSave::shorterContentLeavesNoTail()
+void tst_ConfStorageSafeSave::shorterContentTruncatesTheFile()
 {
     write(path(), QByteArray(100000, ' '));
     change(8, 100);
@@ -127,7 +127,7 @@ void tst_ConfStorageSafeSave::shorterContentLeavesNoTail()
     QCOMPARE(content(path()), sOld);
 }
 
-void tst_ConfStorageSafeSave::linksAndPermissionsStay()
+void tst_ConfStorageSafeSave::linksAndPermissionsArePreserved()
 {
     QVERIFY(QDir("box").mkdir("far"));
     write("box/far/target.json", sOld);
@@ -165,7 +165,7 @@ void tst_ConfStorageSafeSave::unreadableContentIsNotSaved()
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
-void tst_ConfStorageSafeSave::journalThatCannotBePutInPlaceFailsTheSave()
+void tst_ConfStorageSafeSave::saveFailsIfTheJournalCannotBeWritten()
 {
     write(path(), sOld);
     QVERIFY(QDir().mkdir(journalPath()));
@@ -181,7 +181,7 @@ void tst_ConfStorageSafeSave::journalThatCannotBePutInPlaceFailsTheSave()
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
-void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds_data()
+void tst_ConfStorageSafeSave::recoveryDependsOnTheContentOfTheFile_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QByteArray>("after");
@@ -194,7 +194,7 @@ void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds_data()
     QTest::newRow("cut content is replaced") << sNew.left(10) << sNew << 9 << recovered << alone;
     QTest::newRow("empty file is filled") << QByteArray() << sNew << 9 << recovered << alone;
     QTest::newRow("zeros are replaced") << QByteArray(24, '\0') << sNew << 9 << recovered << alone;
-    QTest::newRow("an array is replaced") << QByteArray("[]") << sNew << 9 << recovered << alone;
+    QTest::newRow("array is replaced") << QByteArray("[]") << sNew << 9 << recovered << alone;
     QTest::newRow("new content stays") << sNew << sNew << 9 << QString() << alone;
     const QByteArray other = "{\"size\":{\"t\":300,\"v\":5}}";
     QTest::newRow("other content wins")
@@ -203,7 +203,7 @@ void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds_data()
         << QStringList{"local.json", "local.json.save-journal.kept"};
 }
 
-void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds()
+void tst_ConfStorageSafeSave::recoveryDependsOnTheContentOfTheFile()
 {
     QFETCH(QByteArray, file);
     QFETCH(QString, warning);
@@ -228,7 +228,7 @@ void tst_ConfStorageSafeSave::loadDecidesByWhatTheFileHolds()
         QCOMPARE(content(journalPath() + ".kept"), sJournal);
 }
 
-void tst_ConfStorageSafeSave::journalLiesBesideTheTargetOfALink()
+void tst_ConfStorageSafeSave::journalIsBesideTheTargetOfALink()
 {
     QVERIFY(QDir("box").mkdir("far"));
     QCOMPARE(::symlink("far/target.json", qPrintable(path())), 0);
@@ -260,7 +260,7 @@ void tst_ConfStorageSafeSave::damagedJournalIsDropped_data()
     QTest::newRow("changed checksum") << changed;
     QTest::newRow("zeros after the magic") << "malto save journal 1\n" + QByteArray(200, '\0');
     QTest::newRow("line breaks") << "malto save journal 1\n" + QByteArray(200, '\n');
-    // Their checksums are right.
+    // Journals with a valid checksum but invalid content.
     const QByteArray hashes = sJournal.mid(sJournal.indexOf("\n24\n") + 3, 2 * 65 + 1);
     QTest::newRow("no hashes") << journalOf("24\n");
     QTest::newRow("another length") << journalOf("23" + hashes + sNew);
@@ -287,7 +287,7 @@ void tst_ConfStorageSafeSave::hugeJournalIsDropped()
 {
     write(path(), sOld);
     write(journalPath(), sJournal);
-    QVERIFY(QFile::resize(journalPath(), qint64(1) << 36)); // takes no room on the disk
+    QVERIFY(QFile::resize(journalPath(), qint64(1) << 36)); // a sparse file takes no disk space
     const LogCapture log;
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 8);
@@ -297,7 +297,7 @@ void tst_ConfStorageSafeSave::hugeJournalIsDropped()
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
-void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone_data()
+void tst_ConfStorageSafeSave::filesThatAreNotJournalsAreLeftAlone_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("empty") << QByteArray();
@@ -305,7 +305,7 @@ void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone_data()
     QTest::newRow("another version") << QByteArray("malto save journal 2\nabc");
 }
 
-void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone()
+void tst_ConfStorageSafeSave::filesThatAreNotJournalsAreLeftAlone()
 {
     QFETCH(QByteArray, text);
     write(path(), sOld);
@@ -317,17 +317,17 @@ void tst_ConfStorageSafeSave::filesThatAreNoJournalAreLeftAlone()
     QCOMPARE(content(journalPath()), text);
 }
 
-void tst_ConfStorageSafeSave::strangersJournalIsLeftAlone()
+void tst_ConfStorageSafeSave::journalOfAnotherUserIsLeftAlone()
 {
     if (::geteuid() != 0)
-        QSKIP("only root can make files of other people");
+        QSKIP("only root can create files owned by another user");
     write(path(), sOld);
     write(journalPath(), sJournal);
     QCOMPARE(::chown(qPrintable(journalPath()), 65534, 65534), 0);
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 8);
     QCOMPARE(content(journalPath()), sJournal);
-    // A file that is that person's too has a journal that is.
+    // The journal is used when the file belongs to the same user.
     QCOMPARE(::chown(qPrintable(path()), 65534, 65534), 0);
     const LogCapture log;
     mStore->loadLocalConfFile();
@@ -343,7 +343,7 @@ void tst_ConfStorageSafeSave::plainSaveLeavesAJournalAlone()
     const LogCapture log;
     mStore->saveToLocalConfFile();
     QCOMPARE(content(journalPath()), sJournal);
-    // What was saved since wins over the journal.
+    // Content saved after the journal was written wins over it.
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 5);
     QCOMPARE(content(path()), QByteArray("{\"size\":{\"t\":300,\"v\":5}}"));

@@ -31,16 +31,16 @@ class tst_ConfValue : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void defaultConstructedIsEmpty();
-    void pointerTypesAreKnownByTheirNames();
+    void pointerTypesAreRegisteredByName();
     void typeNumbersAreFixed();
     void boundValueReadsAndWritesTheVariable();
-    void ownedValueHoldsItsOwn();
+    void ownedValueHasItsOwnCopy();
     void nullPointerReadsDefaultsAndWritesNothing();
     void mismatchIsLoggedAndChangesNothing();
-    void mismatchGivesADefault();
+    void mismatchReturnsADefaultValue();
     void setFromAnotherValueCopiesIntoTheVariable();
     void setFromAnotherTypeIsLogged();
-    void setOfUnknownTypeIsLogged();
+    void settingAValueOfUnknownTypeIsLogged();
     void equality_data();
     void equality();
     void unknownTypesAreNeverEqual();
@@ -49,7 +49,7 @@ private Q_SLOTS:
     void toJsonOfUnknownTypeIsLogged();
     void fromJson_data();
     void fromJson();
-    void textThatIsNoFontGivesTheDefaultFont();
+    void textThatIsNotAFontGivesTheDefaultFont();
     void fontSizeOutOfRangeGivesTheDefaultFont_data();
     void fontSizeOutOfRangeGivesTheDefaultFont();
     void fontSizeInRangeIsKept_data();
@@ -69,7 +69,7 @@ void tst_ConfValue::defaultConstructedIsEmpty()
     QVERIFY(value.toJsonValue().isNull());
 }
 
-void tst_ConfValue::pointerTypesAreKnownByTheirNames()
+void tst_ConfValue::pointerTypesAreRegisteredByName()
 {
     QCOMPARE(QMetaType::typeName(qMetaTypeId<QColor *>()), "TyQColorPtr");
     QCOMPARE(QMetaType::typeName(qMetaTypeId<int *>()), "TyInt32Ptr");
@@ -111,7 +111,7 @@ void tst_ConfValue::boundValueReadsAndWritesTheVariable()
     QCOMPARE(value.mValue.value<int *>(), &number);
 }
 
-void tst_ConfValue::ownedValueHoldsItsOwn()
+void tst_ConfValue::ownedValueHasItsOwnCopy()
 {
     QString text("before");
     ConfValue value = ConfValue::owned(text);
@@ -146,7 +146,7 @@ void tst_ConfValue::mismatchIsLoggedAndChangesNothing()
     QVERIFY(value.get<bool>());
 }
 
-void tst_ConfValue::mismatchGivesADefault()
+void tst_ConfValue::mismatchReturnsADefaultValue()
 {
     const LogCapture log;
     const ConfValue value;
@@ -189,7 +189,7 @@ void tst_ConfValue::setFromAnotherTypeIsLogged()
     QCOMPARE(number, 3);
 }
 
-void tst_ConfValue::setOfUnknownTypeIsLogged()
+void tst_ConfValue::settingAValueOfUnknownTypeIsLogged()
 {
     ConfValue value;
     ConfValue strange = ofUnknownType(42);
@@ -213,11 +213,11 @@ void tst_ConfValue::equality_data()
     QTest::newRow("number and real") << own(5) << own(5.0) << false;
     QTest::newRow("not a number") << own(qQNaN()) << own(qQNaN()) << false;
     QTest::newRow("reals that differ in the last bit") << own(0.1 + 0.2) << own(0.3) << false;
-    QTest::newRow("switches") << own(true) << own(true) << true;
+    QTest::newRow("booleans") << own(true) << own(true) << true;
     QTest::newRow("texts") << own(QString("a")) << own(QString("A")) << false;
     QTest::newRow("null and empty text") << own(QString()) << own(QString("")) << true;
     QTest::newRow("invalid colours") << own(QColor()) << own(QColor()) << true;
-    QTest::newRow("colours of other alpha")
+    QTest::newRow("colours with different alpha")
         << own(QColor(1, 2, 3, 4)) << own(QColor(1, 2, 3)) << false;
     QTest::newRow("fonts") << own(QFont("Sans", 9)) << own(QFont("Sans", 9)) << true;
     QTest::newRow("keys") << own(keys(Qt::Key_A)) << own(keys(Qt::Key_A, Qt::Key_B)) << false;
@@ -259,7 +259,7 @@ void tst_ConfValue::toJson_data()
     QTest::newRow("smallest number")
         << own(std::numeric_limits<int>::min()) << QJsonValue(-2147483648.0);
     QTest::newRow("real") << own(0.5) << QJsonValue(0.5);
-    QTest::newRow("switch") << own(true) << QJsonValue(true);
+    QTest::newRow("boolean") << own(true) << QJsonValue(true);
     QTest::newRow("text") << own(QString::fromUtf8("é")) << QJsonValue(QString::fromUtf8("é"));
     QTest::newRow("keys") << own(keys(Qt::CTRL + Qt::Key_A, Qt::Key_F5))
                           << QJsonValue("Ctrl+A, F5");
@@ -295,16 +295,16 @@ void tst_ConfValue::fromJson_data()
     QTest::newRow("colour") << color << QJsonValue("80110000") << own(QColor(0x11, 0, 0, 0x80));
     QTest::newRow("short colour") << color << QJsonValue("ff") << own(QColor(0, 0, 255, 0));
     QTest::newRow("invalid colour") << color << QJsonValue("None") << own(QColor());
-    QTest::newRow("no hexadecimal") << color << QJsonValue("red") << own(QColor(0, 0, 0, 0));
+    QTest::newRow("not hexadecimal") << color << QJsonValue("red") << own(QColor(0, 0, 0, 0));
     QTest::newRow("colour from a number") << color << QJsonValue(7) << own(QColor(0, 0, 0, 0));
     QTest::newRow("number") << number << QJsonValue(-3) << own(-3);
     QTest::newRow("number from a text") << number << QJsonValue("7") << own(0);
     QTest::newRow("number from a fraction") << number << QJsonValue(1.5) << own(0);
     QTest::newRow("number beyond 32 bits") << number << QJsonValue(1e10) << own(0);
     QTest::newRow("real") << own(1.0) << QJsonValue(2.5) << own(2.5);
-    QTest::newRow("real from a switch") << own(1.0) << QJsonValue(true) << own(0.0);
-    QTest::newRow("switch") << flag << QJsonValue(false) << own(false);
-    QTest::newRow("switch from a number") << flag << QJsonValue(1) << own(false);
+    QTest::newRow("real from a boolean") << own(1.0) << QJsonValue(true) << own(0.0);
+    QTest::newRow("boolean") << flag << QJsonValue(false) << own(false);
+    QTest::newRow("boolean from a number") << flag << QJsonValue(1) << own(false);
     QTest::newRow("text") << text << QJsonValue("new") << own(QString("new"));
     QTest::newRow("text from an object") << text << QJsonValue(QJsonObject()) << own(QString());
     QTest::newRow("keys") << sequence << QJsonValue("Ctrl+A, F5")
@@ -330,7 +330,7 @@ void tst_ConfValue::fromJson()
     QCOMPARE(fontValue.get<QFont>().pixelSize(), 21);
 }
 
-void tst_ConfValue::textThatIsNoFontGivesTheDefaultFont()
+void tst_ConfValue::textThatIsNotAFontGivesTheDefaultFont()
 {
     ConfValue value = ConfValue::owned(QFont("Serif", 33));
     QTest::ignoreMessage(QtWarningMsg, "QFont::fromString: Invalid description 'Sans,9,-1'");
@@ -342,12 +342,12 @@ void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("infinite") << "Sans,inf,-1,5,50,0,0,0,0,0";
-    QTest::newRow("beyond what a double holds") << "Sans,1e400,-1,5,50,0,0,0,0,0";
+    QTest::newRow("beyond the range of double") << "Sans,1e400,-1,5,50,0,0,0,0,0";
     QTest::newRow("a thousand million points") << "Sans,1e9";
     QTest::newRow("a little too large") << "Sans,4096.5,-1,5,50,0,0,0,0,0";
-    QTest::newRow("as many pixels as integers go") << "Sans,-1,2147483647,5,50,0,0,0,0,0";
+    QTest::newRow("largest integer in pixels") << "Sans,-1,2147483647,5,50,0,0,0,0,0";
     QTest::newRow("a little too many pixels") << "Sans,-1,4097,5,50,0,0,0,0,0";
-    QTest::newRow("next to nothing") << "Sans,1e-300,-1,5,50,0,0,0,0,0";
+    QTest::newRow("almost zero") << "Sans,1e-300,-1,5,50,0,0,0,0,0";
 }
 
 void tst_ConfValue::fontSizeOutOfRangeGivesTheDefaultFont()

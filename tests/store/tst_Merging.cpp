@@ -8,8 +8,8 @@
 #include <random>
 #include <utility>
 
-// A thousand random histories for each test. After a failure the shortest history found and an
-// RC_PARAMS to set in the environment are printed, which repeats it.
+// Each test runs a thousand random histories. A failure prints the shortest failing history found
+// and a value of the environment variable RC_PARAMS that reproduces it.
 
 namespace {
 
@@ -28,7 +28,7 @@ rc::Gen<MergeStep> anyStep()
     return rc::gen::build<MergeStep>(
         rc::gen::set(&MergeStep::kind, kind),
         rc::gen::set(&MergeStep::copy, rc::gen::inRange(0, 5)),
-        rc::gen::set(&MergeStep::key, rc::gen::inRange(0, int(mergeKeys.size()))),
+        rc::gen::set(&MergeStep::key, rc::gen::inRange(0, int(sMergeKeys.size()))),
         rc::gen::set(&MergeStep::value, rc::gen::inRange(0, 6)),
         rc::gen::set(&MergeStep::clock, rc::gen::inRange(0, 30)));
 }
@@ -49,7 +49,7 @@ std::vector<MergeSystem> twoToFiveSystems()
     return anySystems(*rc::gen::inRange<size_t>(2, 6));
 }
 
-/// All copies load each other once, in a random order.
+/// Merges every copy into every other one once, in random order.
 void exchangeInAnyOrder(MergeWorld &world)
 {
     Pairs pairs;
@@ -64,19 +64,19 @@ void exchangeInAnyOrder(MergeWorld &world)
         world.exchange(pair.first, pair.second);
 }
 
-/// Whether two copies are meant to agree about a key.
+/// Returns whether two copies share `key`, so that merging must make them agree.
 bool isShared(const MergeKey &key, MergeCopy &first, MergeCopy &second)
 {
     return !key.local && (!key.system || first.system() == second.system());
 }
 
-/// The cell of `key` that is newest among the copies that share it with copy `index`.
+/// Returns the newest cell of `key` among the copies that share it with copy `index`.
 MergeCell newestCell(MergeWorld &world, size_t index, size_t key)
 {
     MergeCell newest = world.copy(index).state()[key];
     for (size_t other = 0; other < world.count(); ++other) {
         const MergeCell cell = world.copy(other).state()[key];
-        if (isShared(mergeKeys[key], world.copy(index), world.copy(other))
+        if (isShared(sMergeKeys[key], world.copy(index), world.copy(other))
             && cell.time.value_or(0) > newest.time.value_or(0))
             newest = cell;
     }
@@ -85,23 +85,23 @@ MergeCell newestCell(MergeWorld &world, size_t index, size_t key)
 
 } // namespace
 
-/// Copies of a configuration that are changed and exchanged at random.
+/// Copies of a configuration that are changed and merged at random.
 class tst_Merging : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void storeFollowsTheModel();
-    void copiesAgreeWhenNoTwoChangesShareASecond();
+    void storeMatchesTheModel();
+    void copiesAgreeIfNoTwoChangesShareATimestamp();
     void newestChangeWinsWhetherItSetsOrRemoves();
-    void timesAgreeEvenWithTies();
+    void timestampsAgreeEvenWithTies();
     void keysOfAnotherSystemAreNeverTouched();
-    void localOnlyValuesNeverLeave();
-    void loadingTwiceIsLoadingOnce();
+    void localOnlyValuesAreNeverShared();
+    void loadingTwiceEqualsLoadingOnce();
     void mergingIsAssociative();
     void orderOfTwoCopiesMattersOnlyWithTies();
 };
 
-void tst_Merging::storeFollowsTheModel()
+void tst_Merging::storeMatchesTheModel()
 {
     QVERIFY(rc::check([] {
         const auto times = *rc::gen::element(MergeTimes::Unique, MergeTimes::Tied);
@@ -118,7 +118,7 @@ void tst_Merging::storeFollowsTheModel()
     }));
 }
 
-void tst_Merging::copiesAgreeWhenNoTwoChangesShareASecond()
+void tst_Merging::copiesAgreeIfNoTwoChangesShareATimestamp()
 {
     QVERIFY(rc::check([] {
         MergeWorld world(twoToFiveSystems(), MergeTimes::Unique);
@@ -127,9 +127,9 @@ void tst_Merging::copiesAgreeWhenNoTwoChangesShareASecond()
         const MergeState first = world.copy(0).state();
         for (size_t index = 1; index < world.count(); ++index) {
             const MergeState state = world.copy(index).state();
-            for (size_t key = 0; key < mergeKeys.size(); ++key)
+            for (size_t key = 0; key < sMergeKeys.size(); ++key)
                 RC_ASSERT(state[key] == first[key]
-                          || !isShared(mergeKeys[key], world.copy(0), world.copy(index)));
+                          || !isShared(sMergeKeys[key], world.copy(0), world.copy(index)));
         }
     }));
 }
@@ -141,7 +141,7 @@ void tst_Merging::newestChangeWinsWhetherItSetsOrRemoves()
         world.apply(*anySteps());
         std::vector<MergeState> expected(world.count());
         for (size_t index = 0; index < world.count(); ++index) {
-            for (size_t key = 0; key < mergeKeys.size(); ++key)
+            for (size_t key = 0; key < sMergeKeys.size(); ++key)
                 expected[index][key] = newestCell(world, index, key);
         }
         exchangeInAnyOrder(world);
@@ -150,14 +150,14 @@ void tst_Merging::newestChangeWinsWhetherItSetsOrRemoves()
     }));
 }
 
-void tst_Merging::timesAgreeEvenWithTies()
+void tst_Merging::timestampsAgreeEvenWithTies()
 {
     QVERIFY(rc::check([] {
         MergeWorld world(twoToFiveSystems(), MergeTimes::Tied);
         world.apply(*anySteps());
         exchangeInAnyOrder(world);
         for (size_t index = 0; index < world.count(); ++index) {
-            for (size_t key = 0; key < mergeKeys.size(); ++key)
+            for (size_t key = 0; key < sMergeKeys.size(); ++key)
                 RC_ASSERT(world.copy(index).state()[key].time
                           == newestCell(world, index, key).time);
         }
@@ -171,32 +171,32 @@ void tst_Merging::keysOfAnotherSystemAreNeverTouched()
         world.apply(*anySteps());
         const MergeState before = world.copy(0).state();
         world.exchange(1, 0);
-        for (size_t key = 0; key < mergeKeys.size(); ++key)
-            RC_ASSERT(!mergeKeys[key].system || world.copy(0).state()[key] == before[key]);
-        // Nor handed on: what a copy does not understand it does not keep.
+        for (size_t key = 0; key < sMergeKeys.size(); ++key)
+            RC_ASSERT(!sMergeKeys[key].system || world.copy(0).state()[key] == before[key]);
+        // Entries of another system are not passed on either: a copy does not keep them.
         const QStringList members = world.copy(0).dump().keys();
         RC_ASSERT(members.filter("#s.win").isEmpty());
     }));
 }
 
-void tst_Merging::localOnlyValuesNeverLeave()
+void tst_Merging::localOnlyValuesAreNeverShared()
 {
     QVERIFY(rc::check([] {
         MergeWorld world({MergeSystem::Own, MergeSystem::Own}, MergeTimes::Unique);
         world.apply(*anySteps());
         const QJsonObject dump = world.copy(0).dump();
         RC_ASSERT(!dump.contains("Local.a"));
-        // That an entry was removed is told, what it held is not.
+        // The tombstone of a local-only entry is shared; its value is not.
         const QJsonObject local = dump.value("LocalEntry.a").toObject();
         RC_ASSERT(local.isEmpty() || local.keys() == QStringList("d"));
         const MergeState before = world.copy(1).state();
         world.exchange(0, 1);
-        for (size_t key = 0; key < mergeKeys.size(); ++key)
-            RC_ASSERT(!mergeKeys[key].local || world.copy(1).state()[key] == before[key]);
+        for (size_t key = 0; key < sMergeKeys.size(); ++key)
+            RC_ASSERT(!sMergeKeys[key].local || world.copy(1).state()[key] == before[key]);
     }));
 }
 
-void tst_Merging::loadingTwiceIsLoadingOnce()
+void tst_Merging::loadingTwiceEqualsLoadingOnce()
 {
     QVERIFY(rc::check([] {
         const auto times = *rc::gen::element(MergeTimes::Unique, MergeTimes::Tied);
@@ -218,7 +218,7 @@ void tst_Merging::mergingIsAssociative()
 {
     QVERIFY(rc::check([] {
         const auto times = *rc::gen::element(MergeTimes::Unique, MergeTimes::Tied);
-        // A copy of another system hands on what all share and drops what its own kind alone knows.
+        // Copies of different systems would not do: each drops the entries of the others.
         const std::vector<MergeSystem> systems(3, MergeSystem::Own);
         const std::vector<MergeStep> steps = *anySteps();
         MergeWorld firstTwo(systems, times), lastTwo(systems, times);
@@ -245,11 +245,11 @@ void tst_Merging::orderOfTwoCopiesMattersOnlyWithTies()
         const MergeState second = oneWay.copy(1).state();
         oneWay.exchange(1, 0);
         otherWay.exchange(0, 1);
-        for (size_t key = 0; key < mergeKeys.size(); ++key) {
+        for (size_t key = 0; key < sMergeKeys.size(); ++key) {
             const bool tied = first[key].time && first[key].time == second[key].time;
-            RC_ASSERT(mergeKeys[key].local || tied
+            RC_ASSERT(sMergeKeys[key].local || tied
                       || oneWay.copy(0).state()[key] == otherWay.copy(1).state()[key]);
-            // With a tie each copy keeps what it has.
+            // At a tie each copy keeps its own value.
             RC_ASSERT(!tied
                       || (oneWay.copy(0).state()[key] == first[key]
                           && otherWay.copy(1).state()[key] == second[key]));

@@ -18,7 +18,7 @@ QDateTime at(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
 
-/// A copy with any number of settings "Number.<i>", 0 by default, and any entries "Entry.<i>".
+/// A copy with `count` settings "Number.<i>", 0 by default, and any dynamic entries "Entry.<i>".
 class Copy
 {
 public:
@@ -59,7 +59,7 @@ public:
     }
     QJsonObject dump() const { return store.dumpConf(ConfStorage::DumpShared); }
     void load(const QJsonObject &conf) { store.loadConf(conf, ConfStorage::LoadShared); }
-    /// The other copy's configuration by way of text, as a file or a network carries it.
+    /// Merges the other copy through JSON text, as a file or a network would.
     void loadText(const Copy &other)
     {
         const QByteArray text = QJsonDocument(other.dump()).toJson(QJsonDocument::Compact);
@@ -74,25 +74,25 @@ public:
 
 } // namespace
 
-/// Clocks that are far off, times that are none, and very many keys.
+/// Merging with wrong clocks, invalid timestamps and very many keys.
 class tst_MergingExtremes : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void clockOfTheYear9999KeepsItsOwnValue();
-    void clockOfTheYear9999LosesElsewhere();
-    void rightClockEndsTheYear9999();
-    void lastSecondOf32BitsTravels();
-    void changeOfTheEpochStaysAtHomeAndARemovalTravels();
+    void clockSetTo9999KeepsItsOwnValue();
+    void clockSetTo9999LosesInOtherCopies();
+    void changeWithACorrectClockReplacesOneFrom9999();
+    void lastSecondOf32BitsIsMerged();
+    void changeAtTheEpochIsNotSharedButARemovalIs();
     void changesBeforeTheEpochAreOrderedLikeOthers();
-    void hostileTime_data();
-    void hostileTime();
+    void invalidTimestampCountsAsZero_data();
+    void invalidTimestampCountsAsZero();
     void hostileEntriesOfDynamicKeysDoNotBreakTheCopies_data();
     void hostileEntriesOfDynamicKeysDoNotBreakTheCopies();
-    void hundredThousandKeysAgree();
+    void copiesWithAHundredThousandKeysAgree();
 };
 
-void tst_MergingExtremes::clockOfTheYear9999KeepsItsOwnValue()
+void tst_MergingExtremes::clockSetTo9999KeepsItsOwnValue()
 {
     Copy future, present;
     future.set(0, 10, sYear9999);
@@ -102,9 +102,9 @@ void tst_MergingExtremes::clockOfTheYear9999KeepsItsOwnValue()
     QCOMPARE(future.time("Number.0"), sYear9999);
 }
 
-void tst_MergingExtremes::clockOfTheYear9999LosesElsewhere()
+void tst_MergingExtremes::clockSetTo9999LosesInOtherCopies()
 {
-    // Times are read as 32-bit numbers: a later one counts as second 0.
+    // Timestamps are read as 32-bit integers; later ones count as second 0.
     Copy future, changed, untouched;
     future.set(0, 10, sYear9999);
     future.create(0, 10, sYear9999);
@@ -117,13 +117,13 @@ void tst_MergingExtremes::clockOfTheYear9999LosesElsewhere()
     QCOMPARE(untouched.numbers[0], 10);
     QCOMPARE(untouched.entries["Entry.0"], (QJsonObject{{"n", 10}}));
     QCOMPARE(untouched.time("Number.0"), 0);
-    // Any change replaces it there, and it is not handed on.
+    // There any change replaces it, and it is not passed on.
     QVERIFY(untouched.dump().isEmpty());
     untouched.loadText(changed);
     QCOMPARE(untouched.numbers[0], 20);
 }
 
-void tst_MergingExtremes::rightClockEndsTheYear9999()
+void tst_MergingExtremes::changeWithACorrectClockReplacesOneFrom9999()
 {
     Copy future, present;
     future.set(0, 10, sYear9999);
@@ -134,7 +134,7 @@ void tst_MergingExtremes::rightClockEndsTheYear9999()
     QCOMPARE(present.dump(), future.dump());
 }
 
-void tst_MergingExtremes::lastSecondOf32BitsTravels()
+void tst_MergingExtremes::lastSecondOf32BitsIsMerged()
 {
     Copy last, beyond, other;
     last.set(0, 10, 2147483647);
@@ -147,7 +147,7 @@ void tst_MergingExtremes::lastSecondOf32BitsTravels()
     QCOMPARE(other.time("Number.0"), 2147483647);
 }
 
-void tst_MergingExtremes::changeOfTheEpochStaysAtHomeAndARemovalTravels()
+void tst_MergingExtremes::changeAtTheEpochIsNotSharedButARemovalIs()
 {
     Copy epoch, other;
     epoch.set(0, 10, 0);
@@ -182,10 +182,10 @@ void tst_MergingExtremes::changesBeforeTheEpochAreOrderedLikeOthers()
     QCOMPARE(earlier.dump(), later.dump());
 }
 
-void tst_MergingExtremes::hostileTime_data()
+void tst_MergingExtremes::invalidTimestampCountsAsZero_data()
 {
     QTest::addColumn<QJsonValue>("time");
-    QTest::addColumn<qint64>("taken"); // the second that a key which never changed has afterwards
+    QTest::addColumn<qint64>("taken"); // resulting timestamp of a key that was never changed
     QTest::newRow("whole double") << QJsonValue(100.0) << qint64(100);
     QTest::newRow("fraction") << QJsonValue(100.5) << qint64(0);
     QTest::newRow("huge") << QJsonValue(1e300) << qint64(0);
@@ -203,7 +203,7 @@ void tst_MergingExtremes::hostileTime_data()
     QTest::newRow("object") << QJsonValue(QJsonObject{{"t", 2000000000}}) << qint64(0);
 }
 
-void tst_MergingExtremes::hostileTime()
+void tst_MergingExtremes::invalidTimestampCountsAsZero()
 {
     QFETCH(QJsonValue, time);
     QFETCH(qint64, taken);
@@ -231,18 +231,19 @@ void tst_MergingExtremes::hostileTime()
 void tst_MergingExtremes::hostileEntriesOfDynamicKeysDoNotBreakTheCopies_data()
 {
     QTest::addColumn<QJsonValue>("hostile");
-    QTest::addColumn<bool>("present"); // afterwards, in a copy that had the entry since second 50
+    QTest::addColumn<bool>("present"); // after loading; the copy created the entry in second 50
     const auto row = [](const char *name, const QJsonObject &entry, bool present) {
         QTest::newRow(name) << QJsonValue(entry) << present;
     };
-    row("removed and changed: removed", {{"d", 100}, {"t", 200}, {"v", QJsonObject()}}, false);
-    row("changed later than removed: removed when it says so",
+    row("removal and change: the removal counts", {{"d", 100}, {"t", 200}, {"v", QJsonObject()}},
+        false);
+    row("removal and later change: the time of the removal counts",
         {{"d", 10}, {"t", 200}, {"v", QJsonObject()}}, true);
     row("value of another type", {{"t", 100}, {"v", 5}}, true);
-    row("null for a value", {{"t", 100}, {"v", QJsonValue()}}, true);
+    row("null value", {{"t", 100}, {"v", QJsonValue()}}, true);
     row("no members", {}, true);
     row("unknown members", {{"x", 1}, {"t", 100}, {"v", QJsonObject{{"n", 1}}}}, true);
-    QTest::newRow("no object") << QJsonValue(5) << true;
+    QTest::newRow("not an object") << QJsonValue(5) << true;
     QTest::newRow("null") << QJsonValue() << true;
 }
 
@@ -256,7 +257,7 @@ void tst_MergingExtremes::hostileEntriesOfDynamicKeysDoNotBreakTheCopies()
     QTEST(a.store.mConfValues.contains("Entry.0"), "present");
     QCOMPARE(a.store.mRemovedDynamicConfs.contains("Entry.0"),
              !a.store.mConfValues.contains("Entry.0"));
-    // A removal that comes later heals whatever it was, in both copies.
+    // Whatever the entry did, a later removal makes both copies agree again.
     b.loadText(a);
     if (a.store.mConfValues.contains("Entry.0"))
         a.remove(0, 2000000000);
@@ -265,9 +266,9 @@ void tst_MergingExtremes::hostileEntriesOfDynamicKeysDoNotBreakTheCopies()
     QCOMPARE(b.dump(), a.dump());
 }
 
-void tst_MergingExtremes::hundredThousandKeysAgree()
+void tst_MergingExtremes::copiesWithAHundredThousandKeysAgree()
 {
-    constexpr int count = 50000; // settings, and as many entries
+    constexpr int count = 50000; // settings, and as many dynamic entries
     Copy a(count), b(count), c(count);
     for (int i = 0; i < count; ++i) {
         a.set(i, 1, 1000 + i % 3);

@@ -11,7 +11,7 @@ constexpr size_t sNumber = 0; // Plain.a, default 1
 constexpr size_t sEntry = 4;  // Entry.a, no preset
 constexpr size_t sPreset = 6; // Entry.preset, 2 by default
 
-/// What a copy does to a key, written as a number: a value to set or to create with, or one of
+/// A change of one key as a number: either the value to set or to create the key with, or one of
 /// these.
 enum Change { Untouched = -1, Restored = -2, Removed = -3 };
 
@@ -39,7 +39,8 @@ void exchange(MergeCopy &first, MergeCopy &second)
     first.load(second.dump());
 }
 
-/// Whether three copies that changed a setting to values of their own in these seconds ever agree.
+/// Returns whether three copies that set the same setting to different values in these seconds
+/// agree after merging.
 bool agree(const std::array<qint64, 3> &seconds)
 {
     std::array<MergeCopy, 3> copies;
@@ -63,18 +64,18 @@ void changeAtRandom(MergeWorld &world, std::mt19937 &random)
         MergeStep step;
         step.kind = sKinds[below(4)];
         step.copy = below(3);
-        step.key = below(int(mergeKeys.size()));
+        step.key = below(int(sMergeKeys.size()));
         step.value = below(6);
         step.clock = below(3);
         world.apply(step);
     }
 }
 
-/// Whether two of three copies changed a key that they share in the same second.
+/// Returns whether two of the three copies changed a shared key in the same second.
 bool hasTie(MergeWorld &world)
 {
-    for (size_t key = 0; key < mergeKeys.size(); ++key) {
-        for (size_t i = 0; i < 3 && !mergeKeys[key].local; ++i) {
+    for (size_t key = 0; key < sMergeKeys.size(); ++key) {
+        for (size_t i = 0; i < 3 && !sMergeKeys[key].local; ++i) {
             const auto mine = world.copy(i).state()[key].time;
             if (mine && mine == world.copy((i + 1) % 3).state()[key].time)
                 return true;
@@ -83,12 +84,13 @@ bool hasTie(MergeWorld &world)
     return false;
 }
 
-/// Whether three copies agree about all keys that they share, or at least about their times.
+/// Returns whether the three copies agree on all shared keys, or with `timesOnly` on their
+/// timestamps.
 bool agree(MergeWorld &world, bool timesOnly)
 {
-    for (size_t key = 0; key < mergeKeys.size(); ++key) {
+    for (size_t key = 0; key < sMergeKeys.size(); ++key) {
         const MergeCell first = world.copy(0).state()[key];
-        for (size_t i = 1; i < 3 && !mergeKeys[key].local; ++i) {
+        for (size_t i = 1; i < 3 && !sMergeKeys[key].local; ++i) {
             const MergeCell other = world.copy(i).state()[key];
             if (timesOnly ? other.time != first.time : other != first)
                 return false;
@@ -99,30 +101,31 @@ bool agree(MergeWorld &world, bool timesOnly)
 
 } // namespace
 
-/// Changes of one key in the same second: who keeps what, and how often it matters.
+/// Changes of one key with equal timestamps: which copy keeps which value, and how often copies
+/// disagree.
 class tst_MergingTies : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void whoKeepsWhat_data();
-    void whoKeepsWhat();
-    void thirdCopyTakesWhatReachesItFirst();
-    void secondChangeWithinASecondStaysAtHome();
-    void nextChangeEndsTheDisagreement();
+    void newerChangeWinsAndAtATieEachCopyKeepsItsOwn_data();
+    void newerChangeWinsAndAtATieEachCopyKeepsItsOwn();
+    void thirdCopyKeepsTheValueThatItLoadsFirst();
+    void secondChangeWithinOneSecondIsNotMerged();
+    void laterChangeEndsTheDisagreement();
     void threeCopiesThatNeverAgree_data();
     void threeCopiesThatNeverAgree();
-    void randomStartsThatNeverAgree();
-    void twoMachinesAgreeAndTheNewerChangeUndoesARemoval();
-    void restoredEntryWithoutPresetTakesEachCopysFirstValue();
+    void randomHistoriesThatNeverAgree();
+    void twoComputersAgreeAndTheNewerChangeUndoesARemoval();
+    void restoredEntryWithoutPresetGetsTheFirstValueOfEachCopy();
     void settingARemovedEntryBlocksOlderChanges();
 };
 
-void tst_MergingTies::whoKeepsWhat_data()
+void tst_MergingTies::newerChangeWinsAndAtATieEachCopyKeepsItsOwn_data()
 {
     QTest::addColumn<int>("key");
-    QTest::addColumn<int>("first");   // what the first copy does in second 100
-    QTest::addColumn<int>("second");  // what the second copy does
-    QTest::addColumn<qint64>("when"); // and in which second
+    QTest::addColumn<int>("first");   // change of the first copy in second 100
+    QTest::addColumn<int>("second");  // change of the second copy
+    QTest::addColumn<qint64>("when"); // timestamp of the second copy's change
     QTest::addColumn<int>("firstKeeps");
     QTest::addColumn<int>("secondKeeps");
 
@@ -130,23 +133,24 @@ void tst_MergingTies::whoKeepsWhat_data()
                         int firstKeeps, int secondKeeps) {
         QTest::newRow(name) << int(key) << first << second << when << firstKeeps << secondKeeps;
     };
-    row("two values: each its own", sNumber, 10, 20, 100, 10, 20);
-    row("the same value: no harm", sNumber, 10, 10, 100, 10, 10);
-    row("value and default: each its own", sNumber, 10, Restored, 100, 10, 1);
-    row("both restored: no harm", sNumber, Restored, Restored, 100, 1, 1);
+    row("two values: each copy keeps its own", sNumber, 10, 20, 100, 10, 20);
+    row("the same value: copies agree", sNumber, 10, 10, 100, 10, 10);
+    row("set and restored: each copy keeps its own", sNumber, 10, Restored, 100, 10, 1);
+    row("both restored: copies agree", sNumber, Restored, Restored, 100, 1, 1);
     row("one second later wins", sNumber, 10, 20, 101, 20, 20);
     row("one second earlier loses", sNumber, 10, 20, 99, 10, 10);
-    row("created twice: each its own", sEntry, 10, 20, 100, 10, 20);
-    row("set and removed: each its own", sPreset, 10, Removed, 100, 10, Removed);
-    row("both removed: no harm", sPreset, Removed, Removed, 100, Removed, Removed);
-    row("removed one second later is removed", sPreset, 10, Removed, 101, Removed, Removed);
-    row("removed one second earlier stays", sPreset, 10, Removed, 99, 10, 10);
-    row("restored and removed: each its own", sPreset, Restored, Removed, 100, 2, Removed);
-    row("set and untouched: set", sNumber, 10, Untouched, 100, 10, 10);
-    row("removed and untouched: removed", sPreset, Removed, Untouched, 100, Removed, Removed);
+    row("created twice: each copy keeps its own", sEntry, 10, 20, 100, 10, 20);
+    row("set and removed: each copy keeps its own", sPreset, 10, Removed, 100, 10, Removed);
+    row("both removed: copies agree", sPreset, Removed, Removed, 100, Removed, Removed);
+    row("removal one second later wins", sPreset, 10, Removed, 101, Removed, Removed);
+    row("removal one second earlier loses", sPreset, 10, Removed, 99, 10, 10);
+    row("restored and removed: each copy keeps its own", sPreset, Restored, Removed, 100, 2,
+        Removed);
+    row("set and unchanged: set", sNumber, 10, Untouched, 100, 10, 10);
+    row("removed and unchanged: removed", sPreset, Removed, Untouched, 100, Removed, Removed);
 }
 
-void tst_MergingTies::whoKeepsWhat()
+void tst_MergingTies::newerChangeWinsAndAtATieEachCopyKeepsItsOwn()
 {
     QFETCH(int, key);
     QFETCH(int, first);
@@ -154,8 +158,8 @@ void tst_MergingTies::whoKeepsWhat()
     QFETCH(qint64, when);
     for (const bool firstGivesFirst : {true, false}) {
         MergeCopy a, b;
-        for (MergeCopy *copy : {&a, &b}) { // so that there is something to restore
-            if (mergeKeys[size_t(key)].defaultValue)
+        for (MergeCopy *copy : {&a, &b}) { // restoring needs a value that is not the default
+            if (sMergeKeys[size_t(key)].defaultValue)
                 copy->set(size_t(key), 5, 50);
         }
         change(a, size_t(key), first, 100);
@@ -168,7 +172,7 @@ void tst_MergingTies::whoKeepsWhat()
     }
 }
 
-void tst_MergingTies::thirdCopyTakesWhatReachesItFirst()
+void tst_MergingTies::thirdCopyKeepsTheValueThatItLoadsFirst()
 {
     MergeCopy a, b, fromA, fromB;
     a.set(sNumber, 10, 100);
@@ -181,7 +185,7 @@ void tst_MergingTies::thirdCopyTakesWhatReachesItFirst()
     QCOMPARE(seen(fromB, sNumber), 20);
 }
 
-void tst_MergingTies::secondChangeWithinASecondStaysAtHome()
+void tst_MergingTies::secondChangeWithinOneSecondIsNotMerged()
 {
     MergeCopy a, b;
     a.set(sNumber, 10, 100);
@@ -192,14 +196,14 @@ void tst_MergingTies::secondChangeWithinASecondStaysAtHome()
     QCOMPARE(seen(b, sNumber), 10);
 }
 
-void tst_MergingTies::nextChangeEndsTheDisagreement()
+void tst_MergingTies::laterChangeEndsTheDisagreement()
 {
     MergeCopy a, b;
     a.set(sPreset, 10, 100);
     b.remove(sPreset, 100);
     exchange(a, b);
     QVERIFY(seen(a, sPreset) != seen(b, sPreset));
-    a.set(sPreset, 10, 101); // to what it is already
+    a.set(sPreset, 10, 101); // the same value, but a newer timestamp
     exchange(a, b);
     QCOMPARE(seen(a, sPreset), 10);
     QCOMPARE(seen(b, sPreset), 10);
@@ -207,7 +211,8 @@ void tst_MergingTies::nextChangeEndsTheDisagreement()
 
 void tst_MergingTies::threeCopiesThatNeverAgree_data()
 {
-    // The newest second is borne once in 3 * (0² + 1² + ... + (n-1)²) of n³ cases: then all agree.
+    // Exactly one copy has the newest timestamp in 3 * (0² + 1² + ... + (n-1)²) of n³ cases. In
+    // these all copies agree.
     QTest::addColumn<int>("seconds");
     QTest::addColumn<int>("never");
     QTest::addColumn<int>("cases");
@@ -233,7 +238,7 @@ void tst_MergingTies::threeCopiesThatNeverAgree()
     QTEST(cases, "cases");
 }
 
-void tst_MergingTies::randomStartsThatNeverAgree()
+void tst_MergingTies::randomHistoriesThatNeverAgree()
 {
     constexpr int starts = 2000;
     std::mt19937 random(1);
@@ -257,7 +262,7 @@ void tst_MergingTies::randomStartsThatNeverAgree()
     QVERIFY(never < tied);
 }
 
-void tst_MergingTies::twoMachinesAgreeAndTheNewerChangeUndoesARemoval()
+void tst_MergingTies::twoComputersAgreeAndTheNewerChangeUndoesARemoval()
 {
     MergeCopy desktop, laptop;
     desktop.set(sNumber, 5, 100);
@@ -276,10 +281,10 @@ void tst_MergingTies::twoMachinesAgreeAndTheNewerChangeUndoesARemoval()
     QCOMPARE(laptop.dump(), expected);
 }
 
-void tst_MergingTies::restoredEntryWithoutPresetTakesEachCopysFirstValue()
+void tst_MergingTies::restoredEntryWithoutPresetGetsTheFirstValueOfEachCopy()
 {
-    // An entry that no preset describes has no default to go back to but what it was created with,
-    // and a copy that met it later met another value.
+    // The default of an entry without a preset is the value that it was created with, and a copy
+    // that loads the entry later creates it with a later value.
     MergeCopy a, early, late;
     a.create(sEntry, 10, 100);
     early.load(a.dump());

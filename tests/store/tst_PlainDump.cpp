@@ -8,7 +8,7 @@ QByteArray nestedArrays(int levels)
     return QByteArray(levels, '[') + QByteArray(levels, ']');
 }
 
-/// One line for the log.
+/// Returns a row name of one line.
 QByteArray nameOf(const QByteArray &value)
 {
     return value.left(40).toPercentEncoding(" \"\\[]{}:,+");
@@ -26,67 +26,68 @@ QByteArray withTime(const QByteArray &time)
 
 } // namespace
 
-/// Each text must mean what QJsonDocument says that it means, or be refused.
+/// Every text is either parsed with the result of QJsonDocument, or rejected.
 class tst_PlainDump : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void textOfTheLibraryIsRead_data();
-    void textOfTheLibraryIsRead();
-    void membersTellWhatTheyHold();
-    void everyOtherTextIsRefused_data();
-    void everyOtherTextIsRefused();
-    void noBeginningIsRead();
-    void noChangedByteChangesTheMeaning();
-    void noInsertedByteChangesTheMeaning();
-    void noCutChangesTheMeaning();
+    void plainDumpIsParsed_data();
+    void plainDumpIsParsed();
+    void membersReturnTheirTimeAndValue();
+    void otherTextIsRejected_data();
+    void otherTextIsRejected();
+    void truncatedTextIsRejected();
+    void textWithAChangedByteIsNotMisread();
+    void textWithAnInsertedByteIsNotMisread();
+    void textWithRemovedBytesIsNotMisread();
 };
 
-void tst_PlainDump::textOfTheLibraryIsRead_data()
+void tst_PlainDump::plainDumpIsParsed_data()
 {
     QTest::addColumn<QByteArray>("text");
-    const QByteArrayList values{"0",
-                                "7",
-                                "-7",
-                                "2147483647",
-                                "-2147483648",
-                                "9007199254740993",
-                                "999999999999999999",
-                                "-999999999999999999",
-                                "1000000000000000000",
-                                "9223372036854775807",
-                                "-9223372036854775808",
-                                "9223372036854775808",
-                                "99999999999999999999",
-                                "-0",
-                                "0.5",
-                                "-1.25e-7",
-                                "1e300",
-                                "true",
-                                "false",
-                                "null",
-                                R"("")",
-                                R"("plain")",
-                                R"(" !#[]^~{}:,")",
-                                R"("Ctrl+A")",
-                                R"("\"")",
-                                R"("\\")",
-                                R"("\\\"}")",
-                                R"("\u00e9")",
-                                "\"\303\251\"",
-                                "\"\177\"",
-                                "\"\357\273\277\"",
-                                "\"\357\277\275\"",
-                                "\"\357\277\277\"",
-                                "\"\360\237\230\200\"",
-                                "\"\303\251\\n\"",
-                                "\"\n\"",
-                                R"("\x")", // no JSON, but Qt takes them
-                                "[]",
-                                "{}",
-                                R"([1,"}",{"a":[]}])",
-                                R"({"t":1,"v":{"]":"["}})",
-                                nestedArrays(500)};
+    const QByteArrayList values{
+        "0",
+        "7",
+        "-7",
+        "2147483647",
+        "-2147483648",
+        "9007199254740993",
+        "999999999999999999",
+        "-999999999999999999",
+        "1000000000000000000",
+        "9223372036854775807",
+        "-9223372036854775808",
+        "9223372036854775808",
+        "99999999999999999999",
+        "-0",
+        "0.5",
+        "-1.25e-7",
+        "1e300",
+        "true",
+        "false",
+        "null",
+        R"("")",
+        R"("plain")",
+        R"(" !#[]^~{}:,")",
+        R"("Ctrl+A")",
+        R"("\"")",
+        R"("\\")",
+        R"("\\\"}")",
+        R"("\u00e9")",
+        "\"\303\251\"",
+        "\"\177\"",
+        "\"\357\273\277\"",
+        "\"\357\277\275\"",
+        "\"\357\277\277\"",
+        "\"\360\237\230\200\"",
+        "\"\303\251\\n\"",
+        "\"\n\"",
+        R"("\x")", // this and the line break: not valid, but Qt accepts them
+        "[]",
+        "{}",
+        R"([1,"}",{"a":[]}])",
+        R"({"t":1,"v":{"]":"["}})",
+        nestedArrays(500)};
     for (const QByteArray &value : values)
         QTest::addRow("value %s", nameOf(value).constData()) << withValue(value);
     const QByteArrayList times{"0", "1", "-1", "1763731200", "2147483647", "-2147483648"};
@@ -100,14 +101,14 @@ void tst_PlainDump::textOfTheLibraryIsRead_data()
         R"({"A":{"t":1,"v":1},"A.":{"t":2},"AA":{"d":3},"B":{"t":4,"v":"x"},"a":{"t":5,"v":[2]}})");
 }
 
-void tst_PlainDump::textOfTheLibraryIsRead()
+void tst_PlainDump::plainDumpIsParsed()
 {
     QFETCH(QByteArray, text);
     QVERIFY(readPlainDump(text));
     QVERIFY(!isMistaken(text));
 }
 
-void tst_PlainDump::membersTellWhatTheyHold()
+void tst_PlainDump::membersReturnTheirTimeAndValue()
 {
     const QByteArray text(R"({"a":{"t":1,"v":"x"},"b":{"t":2,"v":null},"c":{"t":3},"d":{"d":4}})");
     const auto members = readPlainDump(text);
@@ -123,24 +124,24 @@ void tst_PlainDump::membersTellWhatTheyHold()
     QVERIFY(members->at(3).value().isUndefined());
 }
 
-void tst_PlainDump::everyOtherTextIsRefused_data()
+void tst_PlainDump::otherTextIsRejected_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("empty text") << QByteArray();
     QTest::newRow("empty object") << QByteArray("{}");
     QTest::newRow("array") << QByteArray("[]");
-    QTest::newRow("other names inside") << QByteArray(R"({"a":{"x":1}})");
-    QTest::newRow("more names inside") << QByteArray(R"({"a":{"t":1,"v":2,"x":3}})");
+    QTest::newRow("entry with an unknown member") << QByteArray(R"({"a":{"x":1}})");
+    QTest::newRow("entry with an additional member") << QByteArray(R"({"a":{"t":1,"v":2,"x":3}})");
     QTest::newRow("value without a time") << QByteArray(R"({"a":{"v":2}})");
-    QTest::newRow("value in front of its time") << QByteArray(R"({"a":{"v":2,"t":1}})");
+    QTest::newRow("value before its time") << QByteArray(R"({"a":{"v":2,"t":1}})");
     QTest::newRow("removal with a value") << QByteArray(R"({"a":{"d":1,"v":2}})");
     QTest::newRow("removal with a time") << QByteArray(R"({"a":{"d":1,"t":2}})");
     QTest::newRow("two values") << QByteArray(R"({"a":{"t":1,"v":2,"v":3}})");
     QTest::newRow("no value") << QByteArray(R"({"a":{"t":1,"v":}})");
     QTest::newRow("two values without a name") << QByteArray(R"({"a":{"t":1,"v":1,2}})");
-    QTest::newRow("no object inside") << QByteArray(R"({"a":1})");
-    QTest::newRow("empty object inside") << QByteArray(R"({"a":{}})");
-    QTest::newRow("one name twice") << QByteArray(R"({"a":{"t":1},"a":{"t":2}})");
+    QTest::newRow("entry that is not an object") << QByteArray(R"({"a":1})");
+    QTest::newRow("empty entry") << QByteArray(R"({"a":{}})");
+    QTest::newRow("same name twice") << QByteArray(R"({"a":{"t":1},"a":{"t":2}})");
     QTest::newRow("names out of order") << QByteArray(R"({"b":{"t":1},"a":{"t":2}})");
     QTest::newRow("escaped name") << QByteArray(R"({"\u0061":{"t":1}})");
     QTest::newRow("name beyond ASCII") << QByteArray("{\"\303\251\":{\"t\":1}}");
@@ -163,7 +164,7 @@ void tst_PlainDump::everyOtherTextIsRefused_data()
         QTest::addRow("value %s", nameOf(value).constData()) << withValue(value);
 }
 
-void tst_PlainDump::everyOtherTextIsRefused()
+void tst_PlainDump::otherTextIsRejected()
 {
     QFETCH(QByteArray, text);
     QVERIFY(!readPlainDump(text));
@@ -177,14 +178,14 @@ const QByteArray sText(R"({"A.b1":{"t":17,"v":-20},"A.b2":{"t":3,"v":"x\"y"},"B"
 
 } // namespace
 
-void tst_PlainDump::noBeginningIsRead()
+void tst_PlainDump::truncatedTextIsRejected()
 {
     QVERIFY(readPlainDump(sText));
     for (int size = 0; size < sText.size(); ++size)
         QVERIFY2(!readPlainDump(sText.left(size)), sText.left(size).constData());
 }
 
-void tst_PlainDump::noChangedByteChangesTheMeaning()
+void tst_PlainDump::textWithAChangedByteIsNotMisread()
 {
     for (int place = 0; place < sText.size(); ++place) {
         for (int byte = 0; byte < 256; ++byte) {
@@ -195,7 +196,7 @@ void tst_PlainDump::noChangedByteChangesTheMeaning()
     }
 }
 
-void tst_PlainDump::noInsertedByteChangesTheMeaning()
+void tst_PlainDump::textWithAnInsertedByteIsNotMisread()
 {
     for (int place = 0; place <= sText.size(); ++place) {
         for (int byte = 0; byte < 256; ++byte) {
@@ -206,7 +207,7 @@ void tst_PlainDump::noInsertedByteChangesTheMeaning()
     }
 }
 
-void tst_PlainDump::noCutChangesTheMeaning()
+void tst_PlainDump::textWithRemovedBytesIsNotMisread()
 {
     for (int place = 0; place < sText.size(); ++place) {
         for (int size = 1; size <= sText.size() - place; ++size) {

@@ -2,7 +2,7 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-/// Empties the store of the process: every test starts from a clean one and leaves one.
+/// Resets the store of the process. Every test calls this before it starts and when it ends.
 inline void clearStore()
 {
     ConfStorage *store = ConfStorage::instance();

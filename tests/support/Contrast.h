@@ -3,8 +3,8 @@
 #include <QColor>
 #include <QtMath>
 
-/// The relative luminance of a colour, 0 for black to 1 for white, as the guidelines for accessible
-/// web content define it.
+/// Returns the relative luminance of a colour, from 0 for black to 1 for white, as defined by the
+/// Web Content Accessibility Guidelines (WCAG).
 inline double luminance(const QColor &color)
 {
     const auto linear = [](double part) {
@@ -14,7 +14,7 @@ inline double luminance(const QColor &color)
            + 0.0722 * linear(color.blueF());
 }
 
-/// The contrast of two colours, 1 for the same to 21 for black on white.
+/// Returns the contrast ratio of two colours, from 1 for equal colours to 21 for black on white.
 inline double contrast(const QColor &one, const QColor &other)
 {
     const double light = qMax(luminance(one), luminance(other));

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// A manager over an empty store and a shown parent, as the page of the window is, to try editors.
+/// A manager with an empty store, and a parent widget for editors in place of the window's page.
 class EditorFixture
 {
 public:
@@ -19,7 +19,8 @@ public:
     ~EditorFixture() { clearStore(); }
     Q_DISABLE_COPY(EditorFixture)
 
-    /// Makes the editor of `item` by its factory, with its caption, as the window does.
+    /// Creates the editor of `item` with its factory and adds it with its caption, as the window
+    /// does.
     template<class Editor> Editor *edit(MtConf::ConfItem *item)
     {
         auto *editor = dynamic_cast<Editor *>(item->widgetCreator(item, &parent));
@@ -28,7 +29,7 @@ public:
         return editor;
     }
 
-    /// Shows the parent; false if it does not become the active window.
+    /// Shows the parent widget; returns false if it does not become the active window.
     bool show()
     {
         parent.show();
@@ -43,7 +44,7 @@ public:
     QVBoxLayout *layout;
 };
 
-/// How the caption of an editor is marked: "1" while the value differs from its default.
+/// Returns the caption's "changed" property: "1" while the value differs from its default.
 inline QString changedMark(MtConf::ConfigItemWidget *editor)
 {
     return editor->label()->property("changed").toString();

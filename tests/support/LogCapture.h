@@ -16,7 +16,7 @@ struct LoggedMessage
     }
 };
 
-/// Collects every message of Qt's log while it lives, instead of printing it.
+/// Collects all messages of Qt's log during its lifetime instead of printing them.
 class LogCapture
 {
 public:
@@ -24,14 +24,14 @@ public:
     ~LogCapture() { qInstallMessageHandler(mPrevious); }
     Q_DISABLE_COPY(LogCapture)
 
-    /// Everything logged since construction, oldest first.
+    /// Returns all messages logged since construction, oldest first.
     static QList<LoggedMessage> &messages()
     {
         static QList<LoggedMessage> sMessages;
         return sMessages;
     }
 
-    /// The texts of the messages of one level.
+    /// Returns the texts of the messages of one level.
     static QStringList texts(QtMsgType level)
     {
         QStringList result;

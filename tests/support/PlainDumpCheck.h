@@ -1,12 +1,12 @@
 #pragma once
 
-#include <MaltoConfiguration/store/PlainDump_p.h>
+#include "MaltoConfiguration/store/PlainDump_p.h"
 
 #include <QJsonDocument>
 #include <QStringList>
 
-/// Whether `readPlainDump` takes the text for something else than QJsonDocument does. Refusing it
-/// is no mistake.
+/// Returns whether `readPlainDump` parses `text` differently from QJsonDocument. Rejecting it is
+/// not a mistake.
 inline bool isMistaken(const QByteArray &text)
 {
     const auto members = readPlainDump(text);

@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Runs the test class `Test` as a program: on the offscreen platform unless another one is asked
-/// for, at 96 dots per inch, in the C locale, and in an empty folder of its own, so that programs
-/// can run side by side and nothing that one of them writes is seen by another.
+/// Runs the test class `Test` as a program: on the offscreen platform unless QT_QPA_PLATFORM is
+/// set, at 96 dots per inch, in the C locale, and in an empty temporary folder of its own, so that
+/// test programs can run in parallel without seeing each other's files.
 template<class Test> int runTest(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

@@ -19,7 +19,7 @@
 
 #include <memory>
 
-/// A manager over an empty store, and the settings window that a test opens with it.
+/// A manager with an empty store, and the settings window that a test opens with it.
 class WindowFixture
 {
 public:
@@ -33,7 +33,7 @@ public:
     }
     ~WindowFixture()
     {
-        manager.reset(); // takes the window with it
+        manager.reset(); // also deletes the window
         QFile::remove(geometryFile());
         QFile::remove(localFile());
         clearStore();
@@ -51,7 +51,7 @@ public:
         MtConf::ConfigurationWindow *opened = manager->ShowWindow(page);
         return QTest::qWaitForWindowExposed(opened) ? opened : nullptr;
     }
-    /// Closes the window and waits until it is gone.
+    /// Closes the window and waits until it is deleted.
     bool close()
     {
         manager->closeConfigWindow();
@@ -70,7 +70,7 @@ public:
     {
         return window()->findChildren<QGroupBox *>(QStringLiteral("ConfigGroupBox"));
     }
-    /// The texts of the captions of the shown page's groups.
+    /// Returns the texts of the group captions on the shown page.
     static QStringList captions()
     {
         QStringList texts;
@@ -98,7 +98,8 @@ public:
         return qobject_cast<QCheckBox *>(item->editor->label());
     }
 
-    /// Clicks `button` and runs `action` on the question that it opens.
+    /// Clicks `button` and calls `action` with the message box that it opens. Returns whether one
+    /// was opened.
     template<class Action> static bool clickAndAnswer(QPushButton *button, Action action)
     {
         bool asked = false;
