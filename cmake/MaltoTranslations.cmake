@@ -29,10 +29,11 @@ if(NOT DEFINED MALTO_TRANSLATIONS_DIR)
 endif()
 # Functions are known to the whole project, plain variables of a subfolder are not.
 set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR ${MALTO_TRANSLATIONS_DIR})
+set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR ${MALTO_QT_MAJOR})
 
 function(malto_add_translations target)
     cmake_parse_arguments(ARG "" "TS_DIR;DESTINATION" "LANGUAGES" ${ARGN})
-    find_package(Qt5 5.15 REQUIRED COMPONENTS Core LinguistTools)
+    _malto_find_linguist_tools()
     get_property(own_dir GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR)
     if(ARG_TS_DIR)
         get_filename_component(ARG_TS_DIR ${ARG_TS_DIR} ABSOLUTE)
@@ -80,7 +81,7 @@ endfunction()
 # malto_add_catalogue(<qm> <source>...): makes one .qm of several .ts or .qm files. The last one
 # that translates a text is the one that counts.
 function(malto_add_catalogue catalogue)
-    find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
+    _malto_find_linguist_tools()
     get_filename_component(folder ${catalogue} DIRECTORY)
     file(MAKE_DIRECTORY ${folder})
     set(inputs)
@@ -88,9 +89,19 @@ function(malto_add_catalogue catalogue)
         list(APPEND inputs -i ${source})
     endforeach()
     add_custom_command(OUTPUT ${catalogue}
-        COMMAND Qt5::lconvert ${inputs} -o ${catalogue}
+        COMMAND Qt${qt_major}::lconvert ${inputs} -o ${catalogue}
         DEPENDS ${ARGN} VERBATIM)
 endfunction()
+
+# Sets qt_major, and finds the tools in the scope of the caller.
+macro(_malto_find_linguist_tools)
+    get_property(qt_major GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR)
+    find_package(Qt${qt_major} QUIET COMPONENTS Core LinguistTools)
+    if(NOT TARGET Qt${qt_major}::lconvert)
+        message(FATAL_ERROR "malto_add_translations needs the linguist tools of Qt ${qt_major}, which "
+            "were not found: install the development package of Qt's tools.")
+    endif()
+endmacro()
 
 # The codes of the .ts files in ts_dir, or of the library's own when that is empty.
 function(_malto_languages result own_dir ts_dir)
@@ -107,7 +118,8 @@ endfunction()
 # Qt's own texts in a language: those that Qt has installed, over the most visible ones, which the
 # library keeps for languages that Qt lacks.
 function(_malto_qt_sources result own_dir code)
-    get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+    get_property(qt_major GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR)
+    get_target_property(qmake Qt${qt_major}::qmake IMPORTED_LOCATION)
     execute_process(COMMAND ${qmake} -query QT_INSTALL_TRANSLATIONS
         OUTPUT_VARIABLE qt_dir OUTPUT_STRIP_TRAILING_WHITESPACE)
     string(REGEX REPLACE "-.*" "" language ${code})
