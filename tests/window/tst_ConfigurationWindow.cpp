@@ -46,6 +46,7 @@ private Q_SLOTS:
     void pageRebuiltUnderTheQuestionIsRestored();
     void callbackMayOpenAnotherPageWhileThePageIsRestored();
     void closingSavesTheLocalFile();
+    void closingAHiddenWindowSavesTheLocalFile();
     void managerWithoutClassesShowsAnEmptyWindow();
 
 private:
@@ -320,6 +321,16 @@ void tst_ConfigurationWindow::closingSavesTheLocalFile()
 {
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(mFirstItem));
+    QVERIFY(!QFile::exists(mFixture->localFile()));
+    QVERIFY(mFixture->close());
+    QVERIFY(QFile::exists(mFixture->localFile()));
+}
+
+void tst_ConfigurationWindow::closingAHiddenWindowSavesTheLocalFile()
+{
+    mFixture->open();
+    mFixture->clickBox(mFixture->checkBox(mFirstItem));
+    mFixture->window()->hide();
     QVERIFY(!QFile::exists(mFixture->localFile()));
     QVERIFY(mFixture->close());
     QVERIFY(QFile::exists(mFixture->localFile()));
