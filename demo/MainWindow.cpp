@@ -156,7 +156,7 @@ void MainWindow::retranslate()
 void MainWindow::applySheet()
 {
     QThemeCtrl::instance()->handleQssFile(
-        this, {QStringLiteral(":/qss/CommonWindow"), QStringLiteral(":/demo/MainWindow")},
+        this, {QStringLiteral(":/malto/qss/CommonWindow"), QStringLiteral(":/demo/MainWindow")},
         designScale(this));
     mLogPane->refresh();
 }

@@ -39,9 +39,12 @@ MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 MALTO_EXPORT void setStaysOnTopHint(bool on);
 
 /// Gives `widget` the style sheets of the settings window, expanded for the current theme and for
-/// `scale` (dots per inch divided by 72). The common sheet comes first. A file on disk,
-/// "./res/qss/CommonWindow.qss" and "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss",
-/// goes before the built-in sheet, each by itself.
+/// `scale` (dots per inch divided by 72): first the common sheet, then the window's own. Each is
+/// read from the first of its sources that exists; paths are relative to the working directory:
+/// - the common sheet: the file "./res/qss/CommonWindow.qss", the host's resource
+///   ":/qss/CommonWindow", the library's resource ":/malto/qss/CommonWindow";
+/// - the window's sheet: the file "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss", the
+///   resource ":/qss/ConfigurationWindow".
 MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);
 
 /// The settings window: the classes on the left, the editors of the chosen class on the right.

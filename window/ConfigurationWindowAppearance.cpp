@@ -18,6 +18,8 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace MtConf {
 
 namespace {
@@ -27,10 +29,12 @@ WindowGeometryFile geometryFile()
     return WindowGeometryFile(QStringLiteral("ConfigurationWindowConfig.ini"));
 }
 
-/// A sheet on disk goes before the built-in one.
-QString sheetSource(const QString &path, const QString &resource)
+/// Returns the first of `sources` that exists, or else the last.
+QString firstExisting(const QStringList &sources)
 {
-    return QFile::exists(path) ? path : resource;
+    const auto found = std::find_if(sources.cbegin(), sources.cend() - 1,
+                                    [](const QString &source) { return QFile::exists(source); });
+    return *found;
 }
 
 /// Whether a geometry that was saved earlier lies well inside a screen of today.
@@ -44,12 +48,14 @@ bool isInsideScreen(const QRect &geometry)
 
 void setQssForWidget(QWidget *widget, double scale)
 {
-    const QStringList sources{
-        sheetSource(QStringLiteral("./res/qss/CommonWindow.qss"),
-                    QStringLiteral(":/qss/CommonWindow")),
-        sheetSource(QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
-                    QStringLiteral(":/qss/ConfigurationWindow"))};
-    QThemeCtrl::instance()->handleQssFile(widget, sources, scale);
+    // The library's common sheet has a path of its own, so that a host can register its own.
+    const QString common = firstExisting({QStringLiteral("./res/qss/CommonWindow.qss"),
+                                          QStringLiteral(":/qss/CommonWindow"),
+                                          QStringLiteral(":/malto/qss/CommonWindow")});
+    const QString own = firstExisting(
+        {QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
+         QStringLiteral(":/qss/ConfigurationWindow")});
+    QThemeCtrl::instance()->handleQssFile(widget, {common, own}, scale);
 }
 
 double ConfigurationWindow::screenScale() const

@@ -3,6 +3,7 @@
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
 #include <OrvUtils/QThemeCtrl.h>
 
 #include <QGroupBox>
@@ -47,8 +48,7 @@ private:
     static void applySheets(QWidget *widget, QThemeCtrl::Theme theme, double scale)
     {
         QThemeCtrl::instance()->setTheme(theme);
-        QThemeCtrl::instance()->handleQssFile(
-            widget, {":/qss/CommonWindow", ":/qss/ConfigurationWindow"}, scale);
+        MtConf::setQssForWidget(widget, scale);
     }
     void applyRow();
     int textEdge(QWidget *field) const;

@@ -30,7 +30,7 @@ public:
 
 } // namespace
 
-/// Style sheets, themes, geometry, icons and the language of the window.
+/// Geometry, themes, icons and the language of the window.
 class tst_ConfigurationWindowAppearance : public QObject
 {
     Q_OBJECT
@@ -43,12 +43,7 @@ private Q_SLOTS:
         mFixture->manager->addConfBool("Sub", &mFlag, "General", "Group", "Sub");
         QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
     }
-    void cleanup()
-    {
-        mFixture.reset();
-        QDir("res").removeRecursively();
-        QDir("ThirdParty").removeRecursively();
-    }
+    void cleanup() { mFixture.reset(); }
 
     void firstWindowStandsInTheMiddleOfTheScreen();
     void geometryIsRemembered();
@@ -58,10 +53,6 @@ private Q_SLOTS:
     void geometryFileMayBeRubbish();
     void geometryOfOnePixelLeavesAUsableWindow();
     void closedWindowLeavesItsGeometryInTheFile();
-    void sheetIsExpanded();
-    void sheetOnDiskGoesFirst_data();
-    void sheetOnDiskGoesFirst();
-    void sheetNamesEverySelectorThatTheCodeSets();
     void changedCaptionIsBold();
     void themeChangeReachesTheOpenWindow();
     void themeChangeReachesTheIcons();
@@ -75,12 +66,11 @@ private:
         QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
         settings.setValue("Geometry", value);
     }
-    static void writeSheet(const QString &path, const QByteArray &sheet)
+    static void writeGeometryFile(const QByteArray &content)
     {
-        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-        QFile file(path);
+        QFile file(WindowFixture::geometryFile());
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(sheet);
+        file.write(content);
     }
     static QStandardItem *row(int index)
     {
@@ -189,7 +179,7 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()
 {
     QFETCH(QByteArray, content);
     QFETCH(QSize, size);
-    writeSheet(WindowFixture::geometryFile(), content);
+    writeGeometryFile(content);
     {
         const ConfigurationWindow window(mFixture->manager.get());
         QCOMPARE(window.size(), size);
@@ -216,71 +206,6 @@ void tst_ConfigurationWindowAppearance::closedWindowLeavesItsGeometryInTheFile()
     const QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
     QCOMPARE(settings.allKeys(), QStringList("Geometry"));
     QCOMPARE(settings.value("Geometry").toRect(), geometry);
-}
-
-void tst_ConfigurationWindowAppearance::sheetIsExpanded()
-{
-    const QString sheet = mFixture->open()->styleSheet();
-    QVERIFY(!sheet.contains("sca("));
-    QVERIFY(!sheet.contains("var("));
-    QVERIFY(sheet.contains("border-radius: 8px")); // 6 units at 96 dots per inch
-    QVERIFY(sheet.contains(QThemeCtrl::instance()->value("ColorMain")));
-}
-
-void tst_ConfigurationWindowAppearance::sheetOnDiskGoesFirst_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("isCommon");
-    QTest::newRow("common sheet") << "res/qss/CommonWindow.qss" << true;
-    QTest::newRow("the window's sheet")
-        << "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss" << false;
-}
-
-void tst_ConfigurationWindowAppearance::sheetOnDiskGoesFirst()
-{
-    QFETCH(QString, path);
-    QFETCH(bool, isCommon);
-    writeSheet(path, "#onDisk { width: sca(3)px; }");
-    const QString sheet = mFixture->open()->styleSheet();
-    QVERIFY(sheet.contains("#onDisk { width: 4px; }"));
-    QCOMPARE(sheet.contains("QToolTip"), !isCommon);
-    QCOMPARE(sheet.contains("#configList"), isCommon);
-    if (isCommon)
-        QVERIFY(sheet.indexOf("#onDisk") < sheet.indexOf("#configList"));
-    else
-        QVERIFY(sheet.indexOf("QToolTip") < sheet.indexOf("#onDisk"));
-}
-
-void tst_ConfigurationWindowAppearance::sheetNamesEverySelectorThatTheCodeSets()
-{
-    QFile file(":/qss/ConfigurationWindow");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString sheet = QString::fromUtf8(file.readAll());
-    for (const char *selector : {"#configList",
-                                 "#configList::item",
-                                 "#configList::item:selected",
-                                 "#configList::item::hover:!selected",
-                                 "QLabel[ClassLabel=\"normal\"]",
-                                 "QCheckBox[ClassLabel=\"normal\"]",
-                                 "#ConfigGroupBox",
-                                 "#ConfigGroupBox[NoGroupBox=\"1\"]",
-                                 "QLabel[ConfigItemWidgetLabel=\"1\"]",
-                                 "QLabel[changed=\"1\"]",
-                                 "QCheckBox[changed=\"1\"]",
-                                 "QRadioButton[changed=\"1\"]",
-                                 ".ColorSelectButton",
-                                 ".KeySequenceEdit",
-                                 "QLineEdit:focus[class=\"KeySequenceEdit\"]",
-                                 "QMainWindow",
-                                 "QDialog",
-                                 "QScrollArea",
-                                 "QGroupBox",
-                                 "QTextEdit",
-                                 "QTabBar",
-                                 "QTabWidget::pane",
-                                 "QMessageBox"}) {
-        QVERIFY2(sheet.contains(QLatin1String(selector)), selector);
-    }
 }
 
 void tst_ConfigurationWindowAppearance::changedCaptionIsBold()
