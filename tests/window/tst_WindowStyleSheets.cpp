@@ -14,7 +14,7 @@ private Q_SLOTS:
     {
         mFixture = std::make_unique<WindowFixture>();
         mFlag = true;
-        mFixture->manager->addConfBool("Flag", &mFlag, "General", "Flag");
+        mItem = mFixture->manager->addConfBool("Flag", &mFlag, "General", "Flag");
         QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
     }
     void cleanup()
@@ -31,6 +31,9 @@ private Q_SLOTS:
     void commonSheetOfTheHostReplacesTheBuiltInOne();
     void commonSheetOnDiskReplacesThatOfTheHost();
     void windowsSheetNamesEverySelectorThatTheCodeSets();
+    void windowsSheetUsesEveryNameOfTheTheme_data();
+    void windowsSheetUsesEveryNameOfTheTheme();
+    void everyTextHasTheMainFontUnderACommonSheetWithoutFonts();
 
 private:
     static void addHostSheet() { Q_INIT_RESOURCE(HostSheet); }
@@ -50,6 +53,7 @@ private:
     }
 
     std::unique_ptr<WindowFixture> mFixture;
+    MtConf::ConfItem *mItem = nullptr;
     bool mFlag = true;
 };
 
@@ -132,6 +136,36 @@ void tst_WindowStyleSheets::windowsSheetNamesEverySelectorThatTheCodeSets()
                                  "QMessageBox"}) {
         QVERIFY2(sheet.contains(QLatin1String(selector)), selector);
     }
+}
+
+void tst_WindowStyleSheets::windowsSheetUsesEveryNameOfTheTheme_data()
+{
+    QTest::addColumn<QString>("macro");
+    for (const char *name : {"ColorBg0", "ColorBg1", "ColorBg1Border", "ColorBg2", "ColorBg3",
+                             "ColorBg3Border", "ColorFg0", "ColorMain", "ColorSuccess",
+                             "ColorWarning", "ColorFailed", "ColorDisable", "FontMain"})
+        QTest::newRow(name) << QString("var(%1)").arg(name);
+}
+
+void tst_WindowStyleSheets::windowsSheetUsesEveryNameOfTheTheme()
+{
+    QFETCH(QString, macro);
+    QVERIFY(windowsSheet().contains(macro));
+}
+
+void tst_WindowStyleSheets::everyTextHasTheMainFontUnderACommonSheetWithoutFonts()
+{
+    QThemeCtrl *themes = QThemeCtrl::instance();
+    const QString before = themes->value("FontMain");
+    themes->setValue(QThemeCtrl::Theme::Light, "FontMain", "\"Test Font\", serif");
+    writeSheet("res/qss/CommonWindow.qss", "QToolTip { color: red; }");
+    mFixture->open();
+    const QList<QWidget *> shown{mFixture->classList(), mFixture->restoreAllButton(),
+                                 mFixture->restorePageButton(), mFixture->checkBox(mItem),
+                                 mFixture->page()->itemAt(0)->widget()};
+    themes->setValue(QThemeCtrl::Theme::Light, "FontMain", before);
+    for (const QWidget *widget : shown)
+        QCOMPARE(widget->font().family(), QString("Test Font"));
 }
 
 int main(int argc, char **argv)
