@@ -115,8 +115,7 @@ void ConfigurationWindow::loadQss()
 
 void ConfigurationWindow::refreshItemIcon()
 {
-    QColor color;
-    color.setNamedColor(QThemeCtrl::instance()->value(QStringLiteral("ColorFg0")));
+    const QColor color = QThemeCtrl::instance()->color(QStringLiteral("ColorFg0"));
     const int size = static_cast<int>(24 * mScale);
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row) {
         const auto glyph = mIconMap.constFind(row.value());

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void changedCaptionIsBold();
     void themeChangeReachesTheOpenWindow();
     void themeChangeReachesTheIcons();
+    void iconsHaveTheColourThatAMacroNames();
     void classWithoutGlyphHasNoIcon();
     void languageChangeReachesEveryText();
     void classNamesOfAnyScriptAreShown();
@@ -250,6 +251,19 @@ void tst_ConfigurationWindowAppearance::themeChangeReachesTheIcons()
     QCOMPARE(inkOf(row(0)->icon(), QIcon::Normal),
              QColor(QThemeCtrl::instance()->value("ColorFg0")));
     QCOMPARE(inkOf(row(0)->icon(), QIcon::Selected), QColor(Qt::white));
+}
+
+void tst_ConfigurationWindowAppearance::iconsHaveTheColourThatAMacroNames()
+{
+    QThemeCtrl *themes = QThemeCtrl::instance();
+    const QString before = themes->value("ColorFg0");
+    themes->setValue(QThemeCtrl::Theme::Light, "ColorFg0", "var(ColorSuccess)");
+    QMap<QString, QChar> icons{{"General", QChar(0xe800)}};
+    mFixture->manager->setIconMap(icons);
+    mFixture->open();
+    const QColor ink = inkOf(row(0)->icon(), QIcon::Normal);
+    themes->setValue(QThemeCtrl::Theme::Light, "ColorFg0", before);
+    QCOMPARE(ink, QColor(0x2e, 0x8b, 0x45));
 }
 
 void tst_ConfigurationWindowAppearance::classWithoutGlyphHasNoIcon()
