@@ -2,6 +2,7 @@
 """Finds what the shell scripts may not use: macOS runs them with bash 3.2 and the tools of BSD.
 
     checkScripts.py <folder of the project>
+    checkScripts.py <folder of the project> --shellcheck <program>   asks shellcheck instead
 
 Each rule has a line that it must find and one that it must accept; both are tried first. A script
 that says "Linux only" in a comment may use GNU's tools, and still no newer bash.
@@ -9,6 +10,7 @@ that says "Linux only" in a comment may use GNU's tools, and still no newer bash
 
 import os
 import re
+import subprocess
 import sys
 from collections import namedtuple
 from pathlib import Path
@@ -133,6 +135,9 @@ def try_rules():
 def main():
     try_rules()
     root = Path(sys.argv[1])
+    if "--shellcheck" in sys.argv:
+        sys.exit(subprocess.run([sys.argv[3], "-x", "-s", "bash", *sorted(scripts(root))],
+                                cwd=root).returncode)
     texts = {path: path.read_text() for path in sorted(scripts(root))}
     codes = {path: code_of(text) for path, text in texts.items()}
     full = never_empty(codes.values())

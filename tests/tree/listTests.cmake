@@ -1,0 +1,31 @@
+# Compares the registered tests with the list of the tree, or writes the list:
+#   cmake -DCTEST=<ctest> -DBUILD=<build folder> -DLIST=<file> [-DUPDATE=ON] -P listTests.cmake
+execute_process(COMMAND ${CTEST} -N WORKING_DIRECTORY ${BUILD}
+    OUTPUT_VARIABLE output RESULT_VARIABLE failed)
+if(failed)
+    message(FATAL_ERROR "ctest -N fails in ${BUILD}")
+endif()
+string(REGEX MATCHALL "Test +#[0-9]+: [^\n]+" tests "${output}")
+list(TRANSFORM tests REPLACE "Test +#[0-9]+: " "")
+list(SORT tests)
+if(UPDATE)
+    list(JOIN tests "\n" text)
+    file(WRITE ${LIST} "${text}\n")
+    return()
+endif()
+
+file(STRINGS ${LIST} listed)
+set(missing ${listed})
+list(REMOVE_ITEM missing ${tests})
+set(added ${tests})
+list(REMOVE_ITEM added ${listed})
+foreach(test IN LISTS missing)
+    message("Listed, but not registered here: ${test}")
+endforeach()
+foreach(test IN LISTS added)
+    message("Registered, but not listed: ${test}")
+endforeach()
+if(missing OR added)
+    message(FATAL_ERROR "The tests differ from ${LIST}. When a tool was missing, ./test installs it. "
+                        "After adding or removing a test: cmake --build ${BUILD} -t test-list")
+endif()
