@@ -1,13 +1,58 @@
 # Sourced by the commands: installs what is missing, configures and builds.
-# shellcheck shell=bash disable=SC2034 # the lists are for those who source this
+# shellcheck shell=bash disable=SC2034 # the lists are for the scripts that source this
 
 say() { printf '%s\n' "$*" >&2; }
+
+# choose_qt <argument>: true when the argument names a Qt, qt5 or qt6, which is then built with, in
+# folders of its own. The choice is in the environment, for the presets and for other scripts.
+choose_qt() {
+    case $1 in
+        qt5 | qt6) export MALTO_QT_FOLDER=-$1 ;;
+        *) return 1 ;;
+    esac
+    set_qt_packages
+}
+
+# Qt's packages are asked for separately: nobody needs those of both.
+set_qt_packages() {
+    case ${MALTO_QT_FOLDER:-} in
+        -qt5) qt_major=5 ;;
+        -qt6) qt_major=6 ;;
+        *) qt_major=$(default_qt) ;;
+    esac
+    if [ "$qt_major" = 6 ]; then
+        macos_qt=qt
+        QT_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+                     qt6-translations-l10n)
+        KCONFIG_PACKAGES=()
+    else
+        macos_qt=qt@5
+        QT_PACKAGES=(qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n)
+        KCONFIG_PACKAGES=(libkf5config-dev)
+    fi
+    MACOS_PACKAGES=(cmake ninja "$macos_qt" pkgconf google-benchmark)
+    BUILD_PACKAGES=(g++ cmake ninja-build pkg-config "${QT_PACKAGES[@]}"
+                    libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
+    BENCHMARK_PACKAGES=(libbenchmark-dev python3 ${KCONFIG_PACKAGES[@]+"${KCONFIG_PACKAGES[@]}"})
+}
+
+# Homebrew phases Qt 5 out.
+default_qt() {
+    if [ "$(uname)" = Darwin ]; then echo 6; else echo 5; fi
+}
+
+DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
+TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
+               x11-xkb-utils librapidcheck-dev libbenchmark-dev shellcheck)
+FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
+set_qt_packages
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# Installs those of the given packages that the system lacks, with its own package manager.
+# Installs those of the given packages that the system lacks, with its own package manager. On macOS
+# these are always the same.
 install_missing() {
     local package
     if [ "$(uname)" = Darwin ]; then
@@ -33,30 +78,38 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
-MACOS_PACKAGES=(cmake ninja qt@5 pkgconf google-benchmark)
-BUILD_PACKAGES=(g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools
-                qttranslations5-l10n libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
-DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
-TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
-               librapidcheck-dev libbenchmark-dev shellcheck)
-BENCHMARK_PACKAGES=(libbenchmark-dev libkf5config-dev python3)
-FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
-
 # Texts of every language pass through the console and the file system.
 [ -n "${LC_ALL:-}${LANG:-}" ] || export LC_ALL=C.UTF-8
-if [ "$(uname)" = Darwin ] && command -v brew >/dev/null; then
-    CMAKE_PREFIX_PATH="$(brew --prefix qt@5 2>/dev/null)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
-    export CMAKE_PREFIX_PATH
-fi
 
-# configure_and_build <preset> <build folder> [<target>...]
-configure_and_build() {
-    local preset=$1 folder=$2 target
-    shift 2
+# build_folder <preset>: where the preset builds with the chosen Qt, as CMakePresets.json says.
+build_folder() {
+    case $1 in
+        default) printf 'build%s' "${MALTO_QT_FOLDER:-}" ;;
+        *) printf 'build%s-%s' "${MALTO_QT_FOLDER:-}" "$1" ;;
+    esac
+}
+
+# configure <preset> [<CMake option>...]: every time, so that what was missing the last time is found.
+configure() {
+    local preset=$1
+    shift
     # On the build servers warnings are errors; a newer compiler elsewhere must not stop the build.
-    local strict=
-    [ "${CI:-}" != true ] || strict=-DMALTO_DEVELOPER=ON
-    [ -f "$folder/build.ninja" ] || cmake --preset "$preset" ${strict:+"$strict"} >&2
+    [ "${CI:-}" != true ] || set -- "$@" -DMALTO_DEVELOPER=ON
+    if [ "$(uname)" = Darwin ]; then
+        # Homebrew links only its newest Qt to where it is found. The tests of the packages look, too.
+        local qt
+        qt=$(brew --prefix "$macos_qt")
+        export CMAKE_PREFIX_PATH="$qt${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
+        export PKG_CONFIG_PATH="$qt/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
+    fi
+    cmake --preset "$preset" "-DMALTO_QT_MAJOR=$qt_major" "$@" >&2
+}
+
+# build <preset> [<target>...]
+build() {
+    local folder target
+    folder=$(build_folder "$1")
+    shift
     for target in "$@"; do
         shift
         set -- "$@" "--target=$target"

@@ -5,7 +5,9 @@ cd "$(dirname "$0")/../.."
 . cmake/prepare.sh
 
 install_missing "${BUILD_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}" optipng
-configure_and_build default build malto-editor-pictures
+configure default
+build default malto-editor-pictures
 mkdir -p docs/pictures/editors
-QT_QPA_PLATFORM=xcb xvfb-run -a -s '-screen 0 1920x1200x24 -dpi 96' build/bin/malto-editor-pictures docs/pictures/editors
+QT_QPA_PLATFORM=xcb xvfb-run -a -s '-screen 0 1920x1200x24 -dpi 96' \
+    "$(build_folder default)"/bin/malto-editor-pictures docs/pictures/editors
 optipng -quiet -strip all docs/pictures/editors/*.png

@@ -5,12 +5,13 @@ cd "$(dirname "$0")/../.."
 . cmake/prepare.sh
 
 install_missing "${BUILD_PACKAGES[@]}" "${DISPLAY_PACKAGES[@]}" imagemagick
-configure_and_build default build malto-demo
+configure default
+build default malto-demo
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 for language in en-us de-de zh-cn ar-eg; do
     xvfb-run -a -s '-screen 0 1920x1200x24 -dpi 96' \
-        build/bin/malto-demo --pictures "$work/$language" --language "$language" >/dev/null 2>&1
+        "$(build_folder default)"/bin/malto-demo --pictures "$work/$language" --language "$language" >/dev/null 2>&1
 done
 
 small=(-resize 760x +dither -colors 256 -strip)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets and runs each of them, one after the other, from what is in its corpus:
-#   tests/fuzz/run.sh [seconds for each target] [libFuzzer option...]
+#   ./check [qt5|qt6] fuzz [seconds for each target] [libFuzzer option...]
 # A second argument such as -runs=1000000 ends a target earlier. What breaks a target is kept in
 # build-fuzz/findings; put it into the target's corpus, where every test run repeats it.
 set -euo pipefail
@@ -10,7 +10,9 @@ cd "$(dirname "$0")/../.."
 seconds=${1:-60}
 [ $# -eq 0 ] || shift
 install_missing "${BUILD_PACKAGES[@]}" "${FUZZ_PACKAGES[@]}"
-configure_and_build fuzz build-fuzz
+configure fuzz
+build fuzz
+built=$(build_folder fuzz)
 
 dictionary_of() {
     case $1 in
@@ -29,19 +31,19 @@ memory=/tmp
 TMPDIR=$(mktemp -d "$memory/malto-fuzz-XXXXXX")
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
-findings=build-fuzz/findings
+findings=$built/findings
 mkdir -p "$findings"
 failed=0
 printf '%-20s %12s %8s %8s  %s\n' target executions seconds inputs result
 for folder in tests/fuzz/corpus/*/; do
     name=$(basename "$folder")
     # What is found on the way stays out of the repository, and is where the next run begins.
-    grown=build-fuzz/corpus/$name
-    log=build-fuzz/$name.log
+    grown=$built/corpus/$name
+    log=$built/$name.log
     mkdir -p "$grown"
     result=ok
     started=$SECONDS
-    build-fuzz/fuzz/bin/"fuzz_$name" -max_total_time="$seconds" -max_len=1024 -timeout=10 \
+    "$built/fuzz/bin/fuzz_$name" -max_total_time="$seconds" -max_len=1024 -timeout=10 \
         -rss_limit_mb=4096 -detect_leaks=0 -print_final_stats=1 \
         -dict=tests/fuzz/dictionaries/"$(dictionary_of "$name")".dict \
         -artifact_prefix="$findings/$name-" "$@" "$grown" "$folder" >"$log" 2>&1 \
