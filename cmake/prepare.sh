@@ -43,7 +43,7 @@ default_qt() {
 
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
 TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
-               x11-xkb-utils librapidcheck-dev libbenchmark-dev shellcheck)
+               x11-xkb-utils librapidcheck-dev libbenchmark-dev clang-format shellcheck)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
 set_qt_packages
 

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Compares the layout of all C++ with what .clang-format asks for: format.sh [--fix]
+# With --fix it brings the files into that layout. Versions of clang-format differ, and 14 decides:
+# another one exits with 77 and says so.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+
+for program in clang-format-14 clang-format /opt/homebrew/opt/llvm@14/bin/clang-format; do
+    version=$("$program" --version 2>/dev/null | sed -n 's/.*version \([0-9]*\).*/\1/p') || version=
+    [ "$version" != 14 ] || break
+done
+if [ "$version" != 14 ]; then
+    echo "clang-format 14, the one of Debian 12, decides; it is not here."
+    exit 77
+fi
+mode=(--dry-run --Werror)
+[ "${1:-}" != --fix ] || mode=(-i)
+find . \( -path './build*' -o -path './.*' \) -prune -o \
+    \( -name '*.cpp' -o -name '*.h' -o -name '*.mm' \) -print0 \
+    | xargs -0 "$program" --style=file "${mode[@]}"
