@@ -4,8 +4,8 @@
 
 #include <QtWidgets>
 
-// What every block may use; docs/README.md tells the reader. A block that uses a companion library shows
-// its include.
+// What every block may use; docs/README.md tells the reader. A block that uses a companion library
+// shows its include.
 
 extern MtConf::MtConfManage &settings; ///< the program's manager
 extern QMainWindow *mainWindow;        ///< the program's window
