@@ -31,6 +31,7 @@ struct MouseAction
 };
 
 constexpr int sAnyKind = -1;
+constexpr int sNoKind = -1; // no action but "None" has this kind
 
 constexpr MouseAction sActions[] = {
     {sAnyKind, 0, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "None")},
@@ -101,9 +102,20 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
     refreshConflictState();
 }
 
+ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent)
+    : ConfWidgetMouseAction(item, parent,
+                            item->properties.value(QStringLiteral("Kind"), sNoKind).toInt())
+{
+}
+
 ConfWidgetMouseAction::~ConfWidgetMouseAction()
 {
     sConflictList.removeAll(this);
+}
+
+ConfigItemWidget *ConfWidgetMouseAction::CreatConfWidget(ConfItem *item, QWidget *parent)
+{
+    return create<ConfWidgetMouseAction>(item, parent);
 }
 
 void ConfWidgetMouseAction::addActions(int kind)

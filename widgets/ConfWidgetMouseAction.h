@@ -22,7 +22,13 @@ public:
     /// `kind` tells which actions are offered beside "None": 0 the wheel, 1 the clicks, 2 the
     /// drags; any other number none.
     ConfWidgetMouseAction(ConfItem *item, QWidget *parent, int kind);
+    /// Takes the kind from the item's property "Kind", an `int`; without it only "None" is offered.
+    ConfWidgetMouseAction(ConfItem *item, QWidget *parent);
     ~ConfWidgetMouseAction() override;
+    /// Creates the editor: the `WidgetCreator` of this class. The property "Kind" of `item` is the
+    /// kind, as in `item->properties["Kind"] = 1` for clicks. `MtConfManage::addConfMouseAction`
+    /// takes the kind as an argument instead and does not read the property.
+    static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
     /// Shows the stored value; an action that is not offered as no choice. Once the editor is made
     /// every control that this changes calls `onCurrentIndexChanged`, which stores the value again.

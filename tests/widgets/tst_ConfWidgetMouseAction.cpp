@@ -38,6 +38,8 @@ private Q_SLOTS:
 
     void actionsFollowTheKind_data();
     void actionsFollowTheKind();
+    void factoryReadsTheKindFromTheItem_data();
+    void factoryReadsTheKindFromTheItem();
     void modifiersAreOffered();
     void partsAndOrder();
 
@@ -96,6 +98,39 @@ void tst_ConfWidgetMouseAction::actionsFollowTheKind()
     }
     QTEST(texts, "texts");
     QTEST(values, "values");
+}
+
+void tst_ConfWidgetMouseAction::factoryReadsTheKindFromTheItem_data()
+{
+    QTest::addColumn<QVariantMap>("properties");
+    QTest::addColumn<Values>("values");
+    QTest::newRow("wheel") << QVariantMap{{"Kind", 0}} << Values{0, 64};
+    QTest::newRow("clicks") << QVariantMap{{"Kind", 1}} << Values{0, 1, 2, 4, 8, 16, 32};
+    QTest::newRow("drags") << QVariantMap{{"Kind", 2}} << Values{0, 128, 256, 512};
+    QTest::newRow("unknown kind") << QVariantMap{{"Kind", 3}} << Values{0};
+    QTest::newRow("no kind") << QVariantMap{} << Values{0};
+}
+
+void tst_ConfWidgetMouseAction::factoryReadsTheKindFromTheItem()
+{
+    QFETCH(QVariantMap, properties);
+    int value = 0x02000000;
+    MtConf::ConfItem item(&value, "Mouse", "Zoom", "");
+    item.displayText = "Zoom";
+    item.properties = properties;
+    item.widgetCreator = ConfWidgetMouseAction::CreatConfWidget;
+    const std::unique_ptr<MtConf::ConfigItemWidget> editor(
+        item.widgetCreator(&item, &mFixture->parent));
+    QVERIFY(qobject_cast<ConfWidgetMouseAction *>(editor.get()));
+    QCOMPARE(editor->parentWidget(), &mFixture->parent);
+    const auto *actions = editor->findChild<ComboboxDisableWheel *>();
+    Values values;
+    for (int i = 0; i < actions->count(); ++i)
+        values << actions->itemData(i).toInt();
+    QTEST(values, "values");
+    const auto *modifiers = editor->findChild<MultiSelectComboBox *>();
+    QCOMPARE(modifiers->currentText(), QStringList(QString::fromUtf8("\u21e7")));
+    QCOMPARE(item.properties, properties);
 }
 
 void tst_ConfWidgetMouseAction::modifiersAreOffered()

@@ -9,6 +9,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
 #include <QLabel>
 #include <QProxyStyle>
@@ -281,6 +282,8 @@ void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing_data()
         << Factory(&MtConf::ConfDefWidgetQKeySequence::CreatConfWidget);
     QTest::newRow("ConfWidgetCombobox") << Factory(&MtConf::ConfWidgetCombobox::CreatConfWidget);
     QTest::newRow("ConfWidgetLanguage") << Factory(&MtConf::ConfWidgetLanguage::CreatConfWidget);
+    QTest::newRow("ConfWidgetMouseAction")
+        << Factory(&MtConf::ConfWidgetMouseAction::CreatConfWidget);
 }
 
 void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing()
