@@ -1,0 +1,16 @@
+#pragma once
+
+#include <Qt>
+
+/// What the keypad of a keyboard consists of.
+enum class KeyboardKind {
+    Pc, ///< the keypad has arrow keys of its own
+    Mac ///< the keypad has no arrow keys, but the system reports the arrow keys as part of it
+};
+
+/// Returns the chord of a pressed key as QKeySequence encodes it: `key`, a Qt::Key, combined with
+/// those of `modifiers` that a key sequence can hold. Returns 0 if `key` is not a known key.
+///
+/// A modifier key is not combined with its own modifier. Shift+Backtab becomes Shift+Tab. On a Mac
+/// the arrow keys lose Qt::KeypadModifier.
+int keyChord(int key, Qt::KeyboardModifiers modifiers, KeyboardKind keyboard);
