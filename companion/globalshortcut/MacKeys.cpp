@@ -4,8 +4,6 @@
 
 #include <Carbon/Carbon.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <iterator>
 
@@ -18,7 +16,7 @@ struct KeyRow
     quint32 shift; // held to make the symbol
 };
 
-constexpr KeyRow mainKeys[] = {
+constexpr KeyRow sMainKeys[] = {
     {Qt::Key_A, kVK_ANSI_A, 0},
     {Qt::Key_B, kVK_ANSI_B, 0},
     {Qt::Key_C, kVK_ANSI_C, 0},
@@ -128,7 +126,7 @@ constexpr KeyRow mainKeys[] = {
     {Qt::Key_F20, kVK_F20, 0},
 };
 
-constexpr KeyRow keypadKeys[] = {
+constexpr KeyRow sKeypadKeys[] = {
     {Qt::Key_0, kVK_ANSI_Keypad0, 0},
     {Qt::Key_1, kVK_ANSI_Keypad1, 0},
     {Qt::Key_2, kVK_ANSI_Keypad2, 0},
@@ -151,20 +149,16 @@ constexpr KeyRow keypadKeys[] = {
     {Qt::Key_Return, kVK_ANSI_KeypadEnter, 0},
 };
 
-} // namespace
-
-template<size_t size> static const KeyRow *lookUp(const KeyRow (&table)[size], int key)
+template<size_t size> const KeyRow *lookUp(const KeyRow (&table)[size], int key)
 {
     const auto row = std::find_if(std::begin(table), std::end(table),
                                   [key](const KeyRow &candidate) { return candidate.key == key; });
     return row == std::end(table) ? nullptr : row;
 }
 
-// As Qt has it on macOS: "Control" is the Command key and "Meta" the Control key, unless the
-// application wants them by their own names.
-static quint32 carbonModifiers(Qt::KeyboardModifiers held)
+quint32 carbonModifiers(Qt::KeyboardModifiers held, MacModifierNames names)
 {
-    const bool swapped = !QCoreApplication::testAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
+    const bool swapped = names == MacModifierNames::Swapped;
     quint32 modifiers = 0;
     if (held & Qt::ShiftModifier)
         modifiers |= shiftKey;
@@ -177,17 +171,20 @@ static quint32 carbonModifiers(Qt::KeyboardModifiers held)
     return modifiers;
 }
 
-QVector<KeyCombination> macKeyCombinations(int chord)
+} // namespace
+
+QVector<KeyCombination> macKeyCombinations(int chord, MacModifierNames names)
 {
     const Qt::KeyboardModifiers held = modifiersOf(chord);
     if (held & Qt::GroupSwitchModifier)
         return {};
     const int key = keyOf(chord);
-    // Qt on macOS gives the arrow keys the keypad's modifier too.
-    const KeyRow *row = held & Qt::KeypadModifier ? lookUp(keypadKeys, key) : nullptr;
+    // Chords recorded by other means than GetKeySequence() may have the keypad's modifier on an
+    // arrow key, as Qt reports it on macOS.
+    const KeyRow *row = held & Qt::KeypadModifier ? lookUp(sKeypadKeys, key) : nullptr;
     if (!row)
-        row = lookUp(mainKeys, key);
+        row = lookUp(sMainKeys, key);
     if (!row)
         return {};
-    return {{row->code, carbonModifiers(held) | row->shift, 0}};
+    return {{row->code, carbonModifiers(held, names) | row->shift, 0}};
 }

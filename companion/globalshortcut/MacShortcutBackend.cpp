@@ -2,14 +2,20 @@
 
 #include "MacKeys_p.h"
 
-// Marks our hotkeys among those that other code of the host registers: "MtHk".
-static constexpr OSType hotKeySignature = 0x4d74486b;
+#include <QCoreApplication>
 
-// Key codes and modifiers both fit into 16 bits, so the number says all that an event has to.
-static UInt32 hotKeyNumber(const KeyCombination &combination)
+namespace {
+
+/// "MtHk": tells our hotkeys from those that other code of the host registers.
+constexpr OSType sHotKeySignature = 0x4d74486b;
+
+/// Key code and modifiers fit into 16 bits each, so the number of a hotkey identifies both.
+UInt32 hotKeyNumber(const KeyCombination &combination)
 {
     return combination.key << 16 | combination.modifiers;
 }
+
+} // namespace
 
 MacShortcutBackend::MacShortcutBackend(Listener &listener)
     : mListener(listener), mHandlerFunction(NewEventHandlerUPP(&MacShortcutBackend::handleEvent))
@@ -37,14 +43,16 @@ bool MacShortcutBackend::isSupported() const
 
 QVector<KeyCombination> MacShortcutBackend::combinations(int chord) const
 {
-    return macKeyCombinations(chord);
+    const bool asOnKeys = QCoreApplication::testAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
+    return macKeyCombinations(chord,
+                              asOnKeys ? MacModifierNames::AsOnKeys : MacModifierNames::Swapped);
 }
 
 bool MacShortcutBackend::grab(const KeyCombination &combination)
 {
     if (!isSupported())
         return false;
-    const EventHotKeyID id{hotKeySignature, hotKeyNumber(combination)};
+    const EventHotKeyID id{sHotKeySignature, hotKeyNumber(combination)};
     EventHotKeyRef hotKey = nullptr;
     const OSStatus status = RegisterEventHotKey(combination.key, combination.modifiers, id,
                                                 GetApplicationEventTarget(), kEventHotKeyExclusive,
@@ -69,7 +77,7 @@ OSStatus MacShortcutBackend::handleEvent(EventHandlerCallRef, EventRef event, vo
     EventHotKeyID id{};
     const OSStatus status = GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID,
                                               nullptr, sizeof(id), nullptr, &id);
-    if (status != noErr || id.signature != hotKeySignature)
+    if (status != noErr || id.signature != sHotKeySignature)
         return eventNotHandledErr;
     static_cast<MacShortcutBackend *>(backend)->mListener.keyPressed(id.id >> 16, id.id & 0xffff);
     return noErr;

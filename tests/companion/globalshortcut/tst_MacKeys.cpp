@@ -12,7 +12,8 @@ private Q_SLOTS:
     void unknownKeyHasNoCode_data();
     void unknownKeyHasNoCode();
     void everyLetterAndDigitHasACodeOfItsOwn();
-    void controlAndMetaKeepTheirNamesWhenTheApplicationAsks();
+    void modifierNamesMayBeThoseOnTheKeys_data();
+    void modifierNamesMayBeThoseOnTheKeys();
 };
 
 void tst_MacKeys::chordBecomesKeyCodeAndModifiers_data()
@@ -54,7 +55,7 @@ void tst_MacKeys::chordBecomesKeyCodeAndModifiers()
     QFETCH(int, chord);
     QFETCH(quint32, code);
     QFETCH(quint32, modifiers);
-    const auto combinations = macKeyCombinations(chord);
+    const auto combinations = macKeyCombinations(chord, MacModifierNames::Swapped);
     QCOMPARE(combinations.size(), 1);
     QCOMPARE(combinations.first().key, code);
     QCOMPARE(combinations.first().modifiers, modifiers);
@@ -76,27 +77,35 @@ void tst_MacKeys::unknownKeyHasNoCode_data()
 void tst_MacKeys::unknownKeyHasNoCode()
 {
     QFETCH(int, chord);
-    QVERIFY(macKeyCombinations(chord).isEmpty());
+    QVERIFY(macKeyCombinations(chord, MacModifierNames::Swapped).isEmpty());
 }
 
 void tst_MacKeys::everyLetterAndDigitHasACodeOfItsOwn()
 {
     QSet<quint32> codes;
     for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
-        codes.insert(macKeyCombinations(key).value(0).key);
+        codes.insert(macKeyCombinations(key, MacModifierNames::Swapped).value(0).key);
     for (int key = Qt::Key_0; key <= Qt::Key_9; ++key)
-        codes.insert(macKeyCombinations(key).value(0).key);
+        codes.insert(macKeyCombinations(key, MacModifierNames::Swapped).value(0).key);
     QCOMPARE(codes.size(), 36);
 }
 
-void tst_MacKeys::controlAndMetaKeepTheirNamesWhenTheApplicationAsks()
+void tst_MacKeys::modifierNamesMayBeThoseOnTheKeys_data()
 {
-    QCoreApplication::setAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
-    const quint32 control = macKeyCombinations(int(Qt::CTRL) + Qt::Key_A).value(0).modifiers;
-    const quint32 meta = macKeyCombinations(int(Qt::META) + Qt::Key_A).value(0).modifiers;
-    QCoreApplication::setAttribute(Qt::AA_MacDontSwapCtrlAndMeta, false);
-    QCOMPARE(control, 0x1000U);
-    QCOMPARE(meta, 0x100U);
+    QTest::addColumn<int>("chord");
+    QTest::addColumn<quint32>("modifiers");
+    QTest::newRow("control") << int(Qt::CTRL) + Qt::Key_A << 0x1000U;
+    QTest::newRow("metaIsCommand") << int(Qt::META) + Qt::Key_A << 0x0100U;
+    QTest::newRow("shift") << int(Qt::SHIFT) + Qt::Key_A << 0x0200U;
+    QTest::newRow("altIsOption") << int(Qt::ALT) + Qt::Key_A << 0x0800U;
+}
+
+void tst_MacKeys::modifierNamesMayBeThoseOnTheKeys()
+{
+    QFETCH(int, chord);
+    const auto combinations = macKeyCombinations(chord, MacModifierNames::AsOnKeys);
+    QCOMPARE(combinations.size(), 1);
+    QTEST(combinations.first().modifiers, "modifiers");
 }
 
 int main(int argc, char **argv)

@@ -16,6 +16,7 @@ class tst_MacShortcutBackend : public QObject
 private Q_SLOTS:
     void cleanup();
     void aPressActivates();
+    void theApplicationChoosesTheNamesOfTheModifiers();
     void theSameKeysAreRegisteredOnce();
     void chordsOfTheSameKeysAreRegisteredOnce();
     void anOccupiedKeyIsEnabledButNotValid();
@@ -48,6 +49,16 @@ void tst_MacShortcutBackend::aPressActivates()
     QCOMPARE(changes.count(), 1);
     QCOMPARE(mCarbon.press(codeK, command), OSStatus(noErr));
     QTRY_COMPARE(activations.count(), 1);
+}
+
+void tst_MacShortcutBackend::theApplicationChoosesTheNamesOfTheModifiers()
+{
+    QCoreApplication::setAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
+    const QxtGlobalShortcut asOnKeys(mKeys);
+    QCoreApplication::setAttribute(Qt::AA_MacDontSwapCtrlAndMeta, false);
+    QVERIFY(asOnKeys.isValid());
+    QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
+    QCOMPARE(mCarbon.hotKeys.front()->modifiers, UInt32(controlKey));
 }
 
 void tst_MacShortcutBackend::theSameKeysAreRegisteredOnce()
