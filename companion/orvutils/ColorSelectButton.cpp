@@ -26,6 +26,16 @@ QBrush chequers()
     return QBrush(cells);
 }
 
+/// Whether `widget` is in a window that stays on top, or in one that such a window owns.
+bool staysOnTop(const QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (widget->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 ColorSelectButton::ColorSelectButton(QWidget *parent) : QPushButton(parent)
@@ -156,6 +166,9 @@ void ColorSelectButton::openDialog()
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
     // Before the colour: without the option the dialog drops the colour's alpha.
     mDialog->setOption(QColorDialog::ShowAlphaChannel);
+    // The colour panel of macOS has a fixed level, below that of windows that stay on top. A Qt
+    // dialog takes the level of its parent.
+    mDialog->setOption(QColorDialog::DontUseNativeDialog, staysOnTop(this));
     mDialog->setCurrentColor(mColor.isValid() ? mColor : QColor(Qt::white));
     connect(mDialog, &QColorDialog::colorSelected, this, &ColorSelectButton::onColorPicked);
     mDialog->open();

@@ -14,6 +14,9 @@ class QColorDialog;
 /// words:
 /// "#rrggbb", "#aarrggbb" for a translucent one, tr("None") for an invalid one.
 ///
+/// The dialog is the native one of the system, except in a window that stays on top: there it is
+/// Qt's own, because a native one may open behind that window.
+///
 /// In a style sheet the swatch fills the content rectangle, inside border and padding.
 class ORVUTILS_EXPORT ColorSelectButton : public QPushButton
 {

@@ -1,4 +1,5 @@
 #include <OrvUtils/ColorSelectButton.h>
+#include <OrvUtils/SetWindowTopmost.h>
 
 #include "support/TestMain.h"
 
@@ -55,6 +56,8 @@ private Q_SLOTS:
     void blackCanBePickedInPlaceOfNone();
     void keyOpensTheDialog_data();
     void keyOpensTheDialog();
+    void dialogOfATopmostWindowIsNotNative_data();
+    void dialogOfATopmostWindowIsNotNative();
     void secondClickOpensNoSecondDialog();
     void disabledButtonOpensNothing();
     void buttonMayGoWhileItsDialogIsOpen();
@@ -201,6 +204,34 @@ void tst_ColorSelectButton::keyOpensTheDialog()
     mButton->setFocus();
     QTest::keyClick(mButton, Qt::Key(key));
     QVERIFY(dialogOf(*mButton));
+}
+
+void tst_ColorSelectButton::dialogOfATopmostWindowIsNotNative_data()
+{
+    QTest::addColumn<bool>("topmost");
+    QTest::addColumn<bool>("inOwnedWindow");
+    QTest::newRow("ordinaryWindow") << false << false;
+    QTest::newRow("windowOfAnOrdinaryWindow") << false << true;
+    QTest::newRow("topmostWindow") << true << false;
+    QTest::newRow("windowOfATopmostWindow") << true << true;
+}
+
+void tst_ColorSelectButton::dialogOfATopmostWindowIsNotNative()
+{
+    QFETCH(bool, topmost);
+    QFETCH(bool, inOwnedWindow);
+    QPointer<ColorSelectButton> button = mButton;
+    if (inOwnedWindow)
+        button = new ColorSelectButton(new QDialog(mWindow.get()));
+    SetWindowTopmost(mWindow.get(), topmost, OrvWindowTypeSettings);
+    button->click();
+    QCOMPARE(dialogOf(*button)->testOption(QColorDialog::DontUseNativeDialog), topmost);
+
+    // The next dialog follows the window as it is then.
+    delete dialogOf(*button);
+    SetWindowTopmost(mWindow.get(), !topmost, OrvWindowTypeSettings);
+    button->click();
+    QCOMPARE(dialogOf(*button)->testOption(QColorDialog::DontUseNativeDialog), !topmost);
 }
 
 void tst_ColorSelectButton::secondClickOpensNoSecondDialog()
