@@ -6,8 +6,8 @@
 
 class QWidget;
 
-/// What a topmost window is for. The values stand for levels of the macOS window server, where a
-/// higher one stays above the lower; elsewhere there is one level, and all act alike.
+/// What a topmost window is for. This implementation has one level for all types, on every system;
+/// another library of this name may give each type a level of its own.
 enum OrvWindowType {
     OrvWindowTypeNormal = 0,
     OrvWindowTypeTool = 1,
@@ -16,6 +16,7 @@ enum OrvWindowType {
     OrvWindowTypeSettings = 4,
 };
 
-/// Keeps `window` above other windows, or no longer does. For a child widget its window is meant;
-/// null does nothing. Geometry, minimised or maximised state and visibility stay as they are.
+/// Keeps the window of `window` above ordinary windows if `on` is true, and no longer does so if it
+/// is false. Does nothing if `window` is null. `type` is not used. Geometry, minimised or maximised
+/// state and visibility do not change.
 ORVUTILS_EXPORT void SetWindowTopmost(QWidget *window, bool on, OrvWindowType type);

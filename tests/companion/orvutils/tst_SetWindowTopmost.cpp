@@ -73,6 +73,9 @@ void tst_SetWindowTopmost::hintIsSetAndTakenBack_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("normal") << int(OrvWindowTypeNormal);
+    QTest::newRow("tool") << int(OrvWindowTypeTool);
+    QTest::newRow("panel") << int(OrvWindowTypePanel);
+    QTest::newRow("overlay") << int(OrvWindowTypeOverlay);
     QTest::newRow("settings") << int(OrvWindowTypeSettings);
     QTest::newRow("noTypeAtAll") << 7;
 }
