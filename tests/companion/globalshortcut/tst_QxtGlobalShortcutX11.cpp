@@ -2,8 +2,11 @@
 
 #include "support/TestMain.h"
 #include "support/XClient.h"
+#include "support/XPointer.h"
 
 #include <QElapsedTimer>
+#include <QPushButton>
+#include <QScopeGuard>
 
 #include <memory>
 #include <thread>
@@ -31,6 +34,7 @@ private Q_SLOTS:
     void aPressActivates();
     void otherModifiersDoNotActivate();
     void aHeldKeyActivatesOnce();
+    void aHeldKeyLeavesThePointerAlone();
     void aKeyHeldByAnotherClientIsEnabledButNotValid();
     void aPartlyHeldKeyIsGivenBackWhole();
     void changeDisableAndDestroyRelease_data();
@@ -183,6 +187,23 @@ void tst_QxtGlobalShortcutX11::aHeldKeyActivatesOnce()
     QCOMPARE(activations.count(), 1);
     mClient->type({f9});
     QTRY_COMPARE(activations.count(), 2);
+}
+
+void tst_QxtGlobalShortcutX11::aHeldKeyLeavesThePointerAlone()
+{
+    QPushButton button;
+    button.setGeometry(100, 100, 200, 100);
+    button.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QSignalSpy clicks(&button, &QPushButton::clicked);
+    QxtGlobalShortcut shortcut(mKeys);
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    const xcb_keycode_t key = mClient->keyOf(f9);
+    const auto release = qScopeGuard([this, key] { mClient->send(key, false); });
+    mClient->send(key, true);
+    QTRY_COMPARE(activations.count(), 1);
+    XPointer().click(button.mapToGlobal(button.rect().center()));
+    QTRY_COMPARE(clicks.count(), 1);
 }
 
 void tst_QxtGlobalShortcutX11::aKeyHeldByAnotherClientIsEnabledButNotValid()
