@@ -65,15 +65,22 @@ void fromJson(const QJsonValue &json, QString &text)
 {
     text = json.toString();
 }
+/// Whether text in this font can be shown. Qt accepts "inf" and a thousand million points as sizes,
+/// and a program that draws text in such a font stalls or draws nothing.
+bool hasUsableSize(const QFont &font)
+{
+    const qreal size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
+    // Without a QGuiApplication there is no default size, so a text without a size leaves none.
+    const bool isUnset = size <= 0;
+    return isUnset || (size >= sMinFontSize && size <= sMaxFontSize);
+}
+
 void fromJson(const QJsonValue &json, QFont &font)
 {
-    // Qt takes "inf" and a thousand million points for sizes, and any program that then shows a
-    // text in that font stalls or draws nothing. Such a text counts as one that is no font.
     QFont read;
     if (!read.fromString(json.toString()))
         return;
-    const qreal size = read.pixelSize() > 0 ? read.pixelSize() : read.pointSizeF();
-    if (size >= sMinFontSize && size <= sMaxFontSize)
+    if (hasUsableSize(read))
         font = read;
     else
         qWarning() << "ConfValue::loadFromJsonValue() font size out of range: " << json.toString();

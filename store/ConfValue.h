@@ -106,7 +106,8 @@ public:
     /// Sets the value from JSON written by `toJsonValue`, with Qt's lenient conversions when the
     /// JSON is of another type. A font of less than 0.1 or more than 4096 points or pixels counts
     /// as a text that is no font, which gives the default font; it logs the warning
-    /// "ConfValue::loadFromJsonValue() font size out of range: " and the text. JSON null or
+    /// "ConfValue::loadFromJsonValue() font size out of range: " and the text. A font without a
+    /// size has the default font's, or none where no `QGuiApplication` exists. JSON null or
     /// undefined empties the value and unbinds it from its variable, which keeps its content. Logs
     /// the critical message "restoreDefault: unknow type: " and the type for an unknown one.
     void loadFromJsonValue(const QJsonValue &value);
