@@ -52,7 +52,7 @@ public:
     /// What is kept about one key besides its value.
     struct ConfMeta
     {
-        QDateTime lastChangeTime;            ///< when the value last changed; null: never
+        QDateTime lastChangeTime;            ///< when the value last changed, UTC; null: never
         quint32 flags = FlagIsDefault;       ///< `ConfFlag` bits
         ConfValue defaultValue;              ///< an owned copy of the default
         ConfChangedCallback changedCallback; ///< may be empty
@@ -146,8 +146,8 @@ public:
     /// Merges one member of a dumped configuration; `key` may bear a system mark.
     void loadSingleConf(QString key, const QJsonValue &value, LoadConfType type);
 
-    /// The time of the newest change or removal that other copies may know of; null when there is
-    /// none. It tells which of two copies is newer.
+    /// The time of the newest change or removal that other copies may know of, in local time; null
+    /// when there is none. It tells which of two copies is newer.
     QDateTime calcLastConfTime() const;
 
     /// The first class of `mDynamicConfClasses` whose prefix starts `key`, or null.
@@ -224,7 +224,7 @@ public:
     QString mLocalSaveFile;                        ///< path of the local file; set by the host
     QMap<QString, QJsonValue> mPresetDynamicConfs; ///< dynamic keys that exist by default
     QList<DynamicConfClass *> mDynamicConfClasses; ///< in order of precedence; not owned
-    QMap<QString, QDateTime> mRemovedDynamicConfs; ///< when each removed dynamic key was removed
+    QMap<QString, QDateTime> mRemovedDynamicConfs; ///< when each dynamic key was removed, UTC
 
 private:
     friend class ConfLoad;

@@ -47,5 +47,5 @@ QDateTime ConfStorage::calcLastConfTime() const
     }
     for (const QDateTime &removed : mRemovedDynamicConfs)
         newest = std::max(newest, removed);
-    return newest;
+    return newest.toLocalTime();
 }

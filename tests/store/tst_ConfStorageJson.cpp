@@ -65,6 +65,7 @@ private Q_SLOTS:
     void restoredDefaultIsMergedIntoAnotherStore();
     void changedOnlyIncludesAChangedValueEqualToItsDefault();
     void newestTime();
+    void newestTimeIsLocalAndRecordsAreUtc();
     void largeStoreSurvivesTheRoundTrip();
 
 private:
@@ -454,6 +455,42 @@ void tst_ConfStorageJson::newestTime()
     QCOMPARE(mStore->calcLastConfTime(), at(100));
     mStore->mRemovedDynamicConfs["x"] = at(200);
     QCOMPARE(mStore->calcLastConfTime(), at(200));
+}
+
+void tst_ConfStorageJson::newestTimeIsLocalAndRecordsAreUtc()
+{
+    const auto restore = qScopeGuard(
+        [zone = qgetenv("TZ")] { zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone); });
+    qputenv("TZ", "XXX-5"); // five hours east
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    mStore->mDynamicConfClasses = {&cls};
+    const auto specOf = [&](const QString &key) {
+        return mStore->mConfMetas.value(key).lastChangeTime.timeSpec();
+    };
+    mStore->set<int>("a", 10);
+    QCOMPARE(specOf("a"), Qt::UTC);
+    mStore->setToDefault("a", true);
+    QCOMPARE(specOf("a"), Qt::UTC);
+    mStore->loadValueFromJson("b", 5);
+    QCOMPARE(specOf("b"), Qt::UTC);
+    mStore->createDynamicConf("P.a", 1, nullptr);
+    QCOMPARE(specOf("P.a"), Qt::UTC);
+    mStore->reserveConf("P.b", &mB);
+    mStore->removeDynamicConf("P.b");
+    QCOMPARE(mStore->mRemovedDynamicConfs.value("P.b").timeSpec(), Qt::UTC);
+
+    ConfStorage loaded;
+    loaded.mDynamicConfClasses = {&cls};
+    loaded.reserveConf("a", &mA);
+    loaded.loadSingleConf("a", entry(86400, 1), ConfStorage::LoadLocal);
+    QCOMPARE(loaded.mConfMetas.value("a").lastChangeTime.timeSpec(), Qt::UTC);
+    loaded.loadSingleConf("P.a", QJsonObject{{"d", 86399}}, ConfStorage::LoadLocal);
+    QCOMPARE(loaded.mRemovedDynamicConfs.value("P.a").timeSpec(), Qt::UTC);
+    const QDateTime newest = loaded.calcLastConfTime();
+    QCOMPARE(newest.timeSpec(), Qt::LocalTime);
+    QCOMPARE(newest, at(86400));
+    QCOMPARE(newest.toString(Qt::ISODate), QString("1970-01-02T05:00:00"));
 }
 
 void tst_ConfStorageJson::largeStoreSurvivesTheRoundTrip()
