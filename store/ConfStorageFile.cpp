@@ -57,13 +57,21 @@ void ConfStorage::saveToLocalConfFile()
 /// Rewritten in place, so that links and permissions that a person gave the file stay.
 bool ConfStorage::saveInPlace() const
 {
-    QFile file(mLocalSaveFile);
-    if (PosixFile::isPipe(mLocalSaveFile)
-        || !file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    QFile file;
+    const int descriptor = PosixFile::openForWriting(mLocalSaveFile);
+    if (descriptor == -1
+        || !file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
         logOpenFailed(mLocalSaveFile);
         return false;
     }
-    file.write(ConfDump(*this, DumpLocal).toText());
+    // Truncated only after the text is composed: composing it may run out of memory, and may log
+    // messages, whose handler may read the file. A device has nothing to truncate.
+    const QByteArray text = ConfDump(*this, DumpLocal).toText();
+    if (!file.isSequential() && !file.resize(0)) {
+        logOpenFailed(mLocalSaveFile);
+        return false;
+    }
+    file.write(text);
     return true;
 }
 

@@ -28,24 +28,37 @@ mode_t toMode(QFile::Permissions permissions)
     return mode;
 }
 
-} // namespace
-
-bool isPipe(const QString &path)
+bool isPipe(const QByteArray &name)
 {
     struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+    return ::stat(name.constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+/// Returns a descriptor, or -1.
+int openUninterrupted(const QByteArray &name, int flags, mode_t mode = 0)
+{
+    int descriptor = -1;
+    do {
+        descriptor = ::open(name.constData(), flags | O_CLOEXEC, mode);
+    } while (descriptor == -1 && errno == EINTR);
+    return descriptor;
+}
+
+} // namespace
+
+int openForWriting(const QString &path)
+{
+    constexpr mode_t sEverybody = 0666; // less what the process masks, as Qt creates files
+    const QByteArray name = QFile::encodeName(path);
+    return isPipe(name) ? -1 : openUninterrupted(name, O_WRONLY | O_CREAT, sEverybody);
 }
 
 int createAnew(const QString &path, QFile::Permissions permissions)
 {
     const QByteArray name = QFile::encodeName(path);
     ::unlink(name.constData());
-    int descriptor = -1;
-    do {
-        // Nobody else may read it before it has its permissions.
-        descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                            S_IRUSR | S_IWUSR);
-    } while (descriptor == -1 && errno == EINTR);
+    // Nobody else may read it before it has its permissions.
+    const int descriptor = openUninterrupted(name, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
     if (descriptor != -1)
         ::fchmod(descriptor, toMode(permissions));
     return descriptor;
@@ -73,10 +86,7 @@ bool sync(int descriptor)
 bool syncFolderOf(const QString &path)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
-    int descriptor = -1;
-    do {
-        descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    } while (descriptor == -1 && errno == EINTR);
+    const int descriptor = openUninterrupted(folder, O_RDONLY | O_DIRECTORY);
     if (descriptor == -1)
         return false;
     // Some file systems cannot sync folders, and say so; there is nothing more to be had from them.

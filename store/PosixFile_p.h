@@ -8,8 +8,11 @@ namespace PosixFile {
 /// What no memory holds would end the process: files of more bytes are not read.
 constexpr qint64 sMaxSize = 128 * 1024 * 1024;
 
-/// Whether `path` leads to a named pipe, which blocks whoever opens it until somebody else does.
-bool isPipe(const QString &path);
+/// Opens the file `path` for writing without truncating it, and creates it if it is missing. QFile
+/// has no such mode: it truncates, needs the permission to read, or warns about devices. Returns a
+/// descriptor, or -1, also for a named pipe, where opening would block until somebody reads from
+/// it.
+int openForWriting(const QString &path);
 
 /// Creates the file `path` with `permissions`, in place of one that is there; links are not
 /// followed. Returns a descriptor for writing, or -1.

@@ -42,7 +42,8 @@ void tst_ConfStorageFaults::callsOfASave_data()
 {
     QTest::addColumn<bool>("safe");
     QTest::addColumn<QStringList>("calls");
-    QTest::newRow("plain") << false << QStringList{"open json", "write json", "close json"};
+    QTest::newRow("plain") << false
+                           << QStringList{"open json", "truncate json", "write json", "close json"};
     QTest::newRow("safe") << true
                           << QStringList{"open json",  "read json",     "open new",
                                          "write new",  "sync new",      "close new",
@@ -99,6 +100,8 @@ void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows_data()
         << failing(Kind::Open, ".json", 0, EIO) << SavedSettings::openFailed() << true << before;
     QTest::newRow("interrupted opening")
         << interrupted(Kind::Open, ".json") << SavedSettings::saved() << false << after;
+    QTest::newRow("disk error at truncating") << failing(Kind::Truncate, ".json", 0, EIO)
+                                              << SavedSettings::openFailed() << true << before;
     QTest::newRow("disk error at writing")
         << failing(Kind::Write, ".json", 0, EIO) << SavedSettings::saved() << false << QByteArray();
     QTest::newRow("interrupted writing")

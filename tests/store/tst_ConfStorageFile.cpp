@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// The local file of a store.
@@ -34,6 +35,9 @@ private Q_SLOTS:
     void saveStaysPendingIfTheFileCannotBeOpened();
     void fileIsRewrittenInPlace();
     void shorterContentTruncatesTheFile();
+    void fileIsWholeUntilTheTextIsComposed();
+    void failedOpeningIsLoggedBeforeTheDump();
+    void fileThatMayOnlyBeWrittenIsSaved();
     void loadedFileRestoresEverything();
     void fileWithoutAJsonObjectCountsAsEmpty_data();
     void fileWithoutAJsonObjectCountsAsEmpty();
@@ -215,6 +219,74 @@ void tst_ConfStorageFile::shorterContentTruncatesTheFile()
     write(QByteArray(100000, ' '));
     change(8, 100);
     mStore->saveToLocalConfFile();
+    QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":8}}"));
+}
+
+namespace {
+
+QByteArray sContentAtTheMessage;
+
+void readFileAtTheMessage(QtMsgType level, const QMessageLogContext &, const QString &)
+{
+    QFile file("local.json");
+    if (level == QtCriticalMsg && file.open(QIODevice::ReadOnly))
+        sContentAtTheMessage = file.readAll();
+}
+
+} // namespace
+
+void tst_ConfStorageFile::fileIsWholeUntilTheTextIsComposed()
+{
+    const QByteArray before = "{\"size\":{\"t\":50,\"v\":3}}";
+    write(before);
+    change(8, 100);
+    // A removed key without a class is logged while the text is composed.
+    mStore->mRemovedDynamicConfs["P.x"] = QDateTime::fromSecsSinceEpoch(300, Qt::UTC);
+    const QtMessageHandler previous = qInstallMessageHandler(readFileAtTheMessage);
+    mStore->saveToLocalConfFile();
+    qInstallMessageHandler(previous);
+    QCOMPARE(sContentAtTheMessage, before);
+    QCOMPARE(content(), QByteArray("{\"P.x\":{\"d\":300},\"size\":{\"t\":100,\"v\":8}}"));
+}
+
+void tst_ConfStorageFile::failedOpeningIsLoggedBeforeTheDump()
+{
+    mStore->mRemovedDynamicConfs["P.x"] = QDateTime::fromSecsSinceEpoch(300, Qt::UTC);
+    mStore->mLocalSaveFile = ".";
+    change(8, 100);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{
+                 {QtCriticalMsg, "ConfStorage::saveToLocalConfFile() open file failed:  \".\""}}));
+    LogCapture::messages().clear();
+    mStore->mLocalSaveFile = path();
+    mStore->saveToLocalConfFile();
+    QCOMPARE(
+        log.messages(),
+        (QList<LoggedMessage>{
+            {QtCriticalMsg, "dumpConf findDynamicConfClass error :  \"P.x\""},
+            {QtDebugMsg, "ConfStorage::saveToLocalConfFile() save to file:  \"local.json\""}}));
+}
+
+void tst_ConfStorageFile::fileThatMayOnlyBeWrittenIsSaved()
+{
+    constexpr uid_t somebody = 65534;
+    const bool isRoot = ::geteuid() == 0; // who may read everything
+    write("older and longer than what is saved, which leaves nothing of it");
+    QVERIFY(QFile::setPermissions(path(), QFile::WriteOwner));
+    if (isRoot) {
+        QCOMPARE(::chown(qPrintable(path()), somebody, somebody), 0);
+        QCOMPARE(::chmod(".", 0755), 0);
+    }
+    change(8, 100);
+    if (isRoot)
+        QCOMPARE(::seteuid(somebody), 0);
+    mStore->saveToLocalConfFile();
+    if (isRoot)
+        QCOMPARE(::seteuid(0), 0);
+    QVERIFY(!mStore->mChanged);
+    QVERIFY(QFile::setPermissions(path(), QFile::ReadOwner | QFile::WriteOwner));
     QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":8}}"));
 }
 
