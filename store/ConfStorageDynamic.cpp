@@ -60,6 +60,10 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
     if (creator)
         creator(name, &initial);
     mBusyDynamicConfs.remove(name);
+    // Again, because the creator may have loaded a removal of its own key. Creating a key ends its
+    // removal whatever the time of it, and is the newer change: its own timestamp is taken now.
+    if (mConfValues.contains(name))
+        mRemovedDynamicConfs.remove(name);
     ConfMeta &meta = mConfMetas[name];
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
     meta.flags |= flags;

@@ -40,6 +40,9 @@ private Q_SLOTS:
     void removerMayRemoveItsKeyAgain();
     void creatorMayCreateItsKeyAgain();
     void creatorMayLoadItsKey();
+    void creatorThatLoadsTheRemovalOfItsKeyCreatesIt_data();
+    void creatorThatLoadsTheRemovalOfItsKeyCreatesIt();
+    void creatorThatLoadsTheRemovalInsteadOfReservingLeavesItRemoved();
     void keyArgumentMayReferToTheMapBeingChanged();
     void callbackMayRemoveOtherKeysWhileAClassIsRestored();
 
@@ -399,6 +402,55 @@ void tst_ConfStorageReentrancy::creatorMayLoadItsKey()
                           "createDynamicConf Not create conf:  \"Dyn.a\""}));
     QVERIFY(mStore->mConfValues.contains("Dyn.a"));
     QCOMPARE(mStore->mConfMetas["Dyn.a"].lastChangeTime.toSecsSinceEpoch(), 100);
+}
+
+void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalOfItsKeyCreatesIt_data()
+{
+    QTest::addColumn<bool>("isReservedFirst");
+    QTest::addColumn<bool>("isMerged"); // created by a loaded entry, or else by the host
+    QTest::newRow("loads, then reserves") << false << false;
+    QTest::newRow("reserves, then loads") << true << false;
+    QTest::newRow("loads, then reserves, in a load") << false << true;
+    QTest::newRow("reserves, then loads, in a load") << true << true;
+}
+
+void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalOfItsKeyCreatesIt()
+{
+    QFETCH(bool, isReservedFirst);
+    QFETCH(bool, isMerged);
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    cls.creator = [&](QString name, const QJsonValue *) {
+        if (isReservedFirst)
+            mStore->reserveConf(name, &mSize);
+        mStore->loadSingleConf(name, QJsonObject{{"d", 100}}, ConfStorage::LoadLocal);
+        if (!isReservedFirst)
+            mStore->reserveConf(name, &mSize);
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    const LogCapture log;
+    if (isMerged)
+        mStore->loadSingleConf("P.a", QJsonObject{{"t", 50}, {"v", 1}}, ConfStorage::LoadLocal);
+    else
+        mStore->createDynamicConf("P.a", 1, nullptr);
+    QVERIFY(mStore->mConfValues.contains("P.a"));
+    QVERIFY(!mStore->mRemovedDynamicConfs.contains("P.a"));
+    QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal).value("P.a").toObject().keys(),
+             (QStringList{"t", "v"}));
+}
+
+void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalInsteadOfReservingLeavesItRemoved()
+{
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    cls.creator = [&](QString name, const QJsonValue *) {
+        mStore->loadSingleConf(name, QJsonObject{{"d", 100}}, ConfStorage::LoadLocal);
+    };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->createDynamicConf("P.a", 1, nullptr);
+    QVERIFY(!mStore->mConfValues.contains("P.a"));
+    QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal),
+             (QJsonObject{{"P.a", QJsonObject{{"d", 100}}}}));
 }
 
 void tst_ConfStorageReentrancy::keyArgumentMayReferToTheMapBeingChanged()
