@@ -167,7 +167,9 @@ public:
     void removeDynamicConf(const QString &key);
 
     /// Brings the dynamic keys that start with `prefix` back to the presets: presets to their
-    /// default, others removed. Removed presets of every class are created again.
+    /// default, others removed. Removed presets of every class are created again. Logs what
+    /// `setToDefault`, `removeDynamicConf` and `createDynamicConf` log; a key that a callback
+    /// removes meanwhile is one that `removeDynamicConf` does not find.
     void restoreDynamicConf(const QString &prefix);
 
     /// Creates every preset that neither exists nor was removed by a person. Logs what

@@ -103,8 +103,8 @@ void ConfStorage::restoreDynamicConf(const QString &prefix)
             continue;
         if (mPresetDynamicConfs.contains(key))
             setToDefault(key, true);
-        else if (mConfValues.contains(key)) // not taken away by a callback meanwhile
-            removeDynamicConf(key);
+        else
+            removeDynamicConf(key); // logs a key that a callback has removed meanwhile
     }
     // Every class's presets, not only those of `prefix`: restoring one class is the way to get
     // deleted presets of the others back, too.
