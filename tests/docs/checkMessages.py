@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Fails unless the table of messages in docs/guide/messages.md lists exactly the messages that the
-libraries log, with their levels.
+libraries log, with their levels, and when a page breaks a message across lines, where no search finds it.
 
     checkMessages.py <folder of the project>
 """
@@ -25,4 +25,12 @@ for level, message in sorted(logged - listed):
     print(f"logged, but not in the table: {level} {message!r}")
 for level, message in sorted(listed - logged):
     print(f"in the table, but not logged: {level} {message!r}")
-sys.exit(logged != listed or not logged)
+
+broken = []
+for page in [*root.glob("*.md"), *sorted(root.glob("docs/**/*.md"))]:
+    text = page.read_text(encoding="utf-8")
+    for message in sorted({message.strip() for _, message in logged}):
+        if " ".join(text.split()).count(message) > text.count(message):
+            broken.append(f"{page}: broken across lines: {message!r}")
+print("\n".join(broken))
+sys.exit(logged != listed or bool(broken) or not logged)
