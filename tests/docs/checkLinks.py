@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Fails when a link of README.md or of a page in docs/ leads to a file or a heading that is not there.
+"""Fails when a link in a page of the project leads to a file or a heading that does not exist.
 
     checkLinks.py <folder of the project>
 """
@@ -29,7 +29,8 @@ def problems(page):
 
 
 root = pathlib.Path(sys.argv[1])
-found = [problem for page in [root / "README.md", *sorted(root.glob("docs/**/*.md"))]
+found = [problem for folder in ["*.md", "docs/**/*.md", "companion/*/*.md", "tests/**/*.md"]
+         for page in sorted(root.glob(folder))
          for problem in problems(page)]
 print("\n".join(found))
 sys.exit(bool(found))
