@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Builds the consumer against the project in one of three ways, and runs it; with "readme" the program of
-# the README against the installed package, as the README says.
-#   consume.sh package|pkgconfig|readme <build of the project> <work folder> <compiler> <flags>
-#   consume.sh tree              <source of the project> <work folder> <compiler> <flags>
+# Builds the consumer against the project in one of three ways, and runs it. With "readme" it builds the
+# README's program against the installed package; with "preset" it looks at what the presets for installing
+# would build.
+#   consume.sh package|pkgconfig|readme <build of the project> <work folder> <Qt: 5|6> <compiler> <flags>
+#   consume.sh tree|preset       <source of the project> <work folder> <Qt: 5|6> <compiler> <flags>
 set -euo pipefail
-way=$1 project=$2 work=$3 compiler=$4 flags=$5
+way=$1 project=$2 work=$3 qt_major=$4 compiler=$5 flags=$6
 consumer=$(cd "$(dirname "$0")/consumer" && pwd)
 export QT_QPA_PLATFORM=offscreen CXX=$compiler CXXFLAGS=$flags
 
@@ -16,7 +17,7 @@ build() { # <source folder> [<option>...]
     cmake -G Ninja -S "$source" -B "$work/build" -DCMAKE_BUILD_TYPE=Debug "$@"
     cmake --build "$work/build"
 }
-# Where it was installed first there is nothing any more: the package must find its own way.
+# The package must work where it was moved to.
 install_and_move() {
     cmake --install "$project" --prefix "$work/first" >/dev/null
     mkdir "$work/moved"
@@ -40,7 +41,7 @@ pkgconfig)
     modules=$(find "$work/moved/here" -name pkgconfig)
     export PKG_CONFIG_PATH=$modules
     names=(MaltoConfiguration MaltoOrvUtils MaltoQIconfont MaltoQxtGlobalShortcut)
-    # Qt asks everybody for position-independent code.
+    # Qt requires position-independent code.
     # shellcheck disable=SC2046,SC2086
     $compiler $flags -std=c++17 -fPIC "$consumer/main.cpp" -o "$work/consumer" \
         $(pkg-config --cflags --libs "${names[@]}")
@@ -52,9 +53,21 @@ tree)
     cp "$consumer"/* "$work/host"
     mkdir "$work/host/ThirdParty"
     ln -s "$project" "$work/host/ThirdParty/MaltoConfiguration"
-    build "$work/host"
+    build "$work/host" -DMALTO_QT_MAJOR="$qt_major"
     "$work/build/consumer"
-    # A host's tree gets the libraries and nothing else.
-    ! find "$work/build" -name '*malto-demo*' -o -name 'tst_*' | grep .
+    # In a host's tree only the libraries are built.
+    if find "$work/build" -name '*malto-demo*' -o -name 'tst_*' | grep .; then
+        exit 1
+    fi
+    ;;
+preset)
+    for preset in install package; do
+        cmake --preset "$preset" -S "$project" -B "$work/$preset" -DMALTO_QT_MAJOR="$qt_major"
+        ninja -C "$work/$preset" -n > "$work/$preset.log"
+        test "$(grep -c 'Linking CXX shared library' "$work/$preset.log")" = 4
+        if grep -E 'Linking CXX executable|demo/|examples/|benchmarks/|pictures/' "$work/$preset.log"; then
+            exit 1
+        fi
+    done
     ;;
 esac
