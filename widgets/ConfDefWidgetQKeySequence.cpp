@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 
+#include "Glyphs_p.h"
+
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
 #include <QEvent>
@@ -10,10 +12,6 @@
 namespace MtConf {
 
 namespace {
-
-constexpr QChar sWarningGlyph{0xe71b};
-constexpr QChar sCorrectGlyph{0xe725};
-constexpr QChar sDisabledGlyph{0xe63a};
 
 QString shortcutKey()
 {

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 
+#include "CheckedFlags_p.h"
+
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
@@ -101,16 +103,7 @@ void ConfWidgetCombobox::loadConf()
 void ConfWidgetCombobox::loadChecks()
 {
     auto *multi = static_cast<MultiSelectComboBox *>(mComboBox);
-    const int stored = readValue<int>();
-    QVector<bool> checks(multi->count());
-    for (int i = 0; i < checks.size(); ++i) {
-        bool checked = false;
-        QVariant flag;
-        multi->getItemData(i, checked, flag);
-        // A label of several bits needs all of them, and one of none is always checked.
-        checks[i] = (flag.toInt() & ~stored) == 0;
-    }
-    multi->setItemsChecked(checks);
+    multi->setItemsChecked(containedFlags(multi, readValue<int>()));
 }
 
 void ConfWidgetCombobox::loadSelection()
@@ -144,19 +137,11 @@ void ConfWidgetCombobox::setValueInt32(int index)
 
 void ConfWidgetCombobox::onMultiSelectionChanged()
 {
-    auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
+    const auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
     if (!multi)
         return;
-    int value = 0;
-    for (int i = 0; i < multi->count(); ++i) {
-        bool checked = false;
-        QVariant flag;
-        multi->getItemData(i, checked, flag);
-        if (checked)
-            value |= flag.toInt();
-    }
     // Stored also when it is the same: the person has just chosen it, which stamps the time.
-    if (storeValue(value))
+    if (storeValue(checkedFlags(multi)))
         refreshLabelState();
 }
 

@@ -1,5 +1,8 @@
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
+#include "CheckedFlags_p.h"
+#include "Glyphs_p.h"
+
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
@@ -14,11 +17,6 @@
 namespace MtConf {
 
 namespace {
-
-constexpr QChar sErrorGlyph{0xe70d};
-constexpr QChar sNoneGlyph{0xe63a};
-constexpr QChar sWarningGlyph{0xe71b};
-constexpr QChar sCorrectGlyph{0xe725};
 
 constexpr int sActionBits = 0xffff;
 constexpr int sLeftClick = 1;
@@ -132,12 +130,9 @@ void ConfWidgetMouseAction::loadConf()
     // Each control that changes stores what the controls show until then; the last one stores what
     // was read here. A callback may delete the editor at each of them.
     const QPointer<ConfWidgetMouseAction> self(this);
-    for (int i = 0; self && i < mModifierBox->count(); ++i) {
-        bool checked = false;
-        QVariant flag;
-        mModifierBox->getItemData(i, checked, flag);
-        mModifierBox->setItemChecked(i, (flag.toInt() & ~stored) == 0);
-    }
+    const QVector<bool> checks = containedFlags(mModifierBox, stored);
+    for (int i = 0; self && i < checks.size(); ++i)
+        mModifierBox->setItemChecked(i, checks.at(i));
     if (!self)
         return;
     mCurrentValue = stored;
@@ -148,14 +143,7 @@ void ConfWidgetMouseAction::loadConf()
 
 void ConfWidgetMouseAction::onCurrentIndexChanged()
 {
-    int value = mActionBox->currentData().toInt();
-    for (int i = 0; i < mModifierBox->count(); ++i) {
-        bool checked = false;
-        QVariant flag;
-        mModifierBox->getItemData(i, checked, flag);
-        if (checked)
-            value |= flag.toInt();
-    }
+    const int value = mActionBox->currentData().toInt() | checkedFlags(mModifierBox);
     mCurrentValue = value;
     // The left click alone would take every click from the host: it is shown as an error, and what
     // was stored before stays in force.
@@ -172,7 +160,7 @@ void ConfWidgetMouseAction::refreshConflictState()
         showState(QStringLiteral("ErrorIcon"), sErrorGlyph,
                   QObject::tr("Cannot set left-click separately"));
     } else if ((mCurrentValue & sActionBits) == 0) {
-        showState(QStringLiteral("NoneIcon"), sNoneGlyph, QObject::tr("No set"));
+        showState(QStringLiteral("NoneIcon"), sDisabledGlyph, QObject::tr("No set"));
     } else if (const ConfWidgetMouseAction *other = firstConflict()) {
         showState(QStringLiteral("WarningIcon"), sWarningGlyph,
                   QObject::tr("Conflict with %1").arg(other->translatedText()));

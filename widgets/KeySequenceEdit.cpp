@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
-#include <MaltoConfiguration/widgets/FaintPlaceholder_p.h>
+#include "FaintPlaceholder_p.h"
+#include "Glyphs_p.h"
 
 #include <OrvUtils/GetKeySequence.h>
 #include <OrvUtils/QMsgeBox.h>
@@ -11,8 +12,6 @@
 #include <QPointer>
 
 namespace {
-
-constexpr QChar sClearGlyph{0xe70d};
 
 bool isModifierKey(int key)
 {
@@ -59,7 +58,7 @@ KeySequenceEdit::KeySequenceEdit(QKeySequence sequence, QWidget *parent)
     setReadOnly(true);
     setAlignment(Qt::AlignCenter);
     setProperty("class", QStringLiteral("KeySequenceEdit"));
-    const QIcon icon = QIconfont::Icon(sClearGlyph, QColor(255, 85, 85), 24, QMargins());
+    const QIcon icon = QIconfont::Icon(MtConf::sErrorGlyph, QColor(255, 85, 85), 24, QMargins());
     mClearAction = addAction(icon, QLineEdit::TrailingPosition);
     mClearAction->setText(QString());
     connect(mClearAction, &QAction::triggered, this, &KeySequenceEdit::cleanSetting);
