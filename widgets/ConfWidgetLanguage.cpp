@@ -1,6 +1,6 @@
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 
-#include <MaltoConfiguration/widgets/LangCodeTable_p.h>
+#include "LangCodeTable_p.h"
 
 #include <OrvUtils/getPreferredLanguages.h>
 

@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/widgets/FaintPlaceholder_p.h>
+#include "FaintPlaceholder_p.h"
 
 #include <QEvent>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/widgets/LangCodeTable_p.h>
+#include "LangCodeTable_p.h"
 
 #include <algorithm>
 #include <iterator>

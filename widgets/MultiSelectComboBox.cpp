@@ -1,6 +1,6 @@
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
-#include <MaltoConfiguration/widgets/FaintPlaceholder_p.h>
+#include "FaintPlaceholder_p.h"
 
 #include <QApplication>
 #include <QCheckBox>
