@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Fails when a fenced block right after a line <!-- path/of/a/file --> of README.md or of a page in
-docs/ does not hold that file's very text.
+docs/ differs from that file.
 
     checkBlocks.py <folder of the project>
 """
@@ -16,6 +16,6 @@ for page in [root / "README.md", *sorted(root.glob("docs/**/*.md"))]:
         found += 1
         file = root / path
         if not file.is_file() or file.read_text(encoding="utf-8") != block:
-            problems.append(f"{page}: another text than {path}")
-print("\n".join(problems) or f"{found} blocks are the files that they name")
+            problems.append(f"{page}: differs from {path}")
+print("\n".join(problems) or f"{found} blocks equal the files that they name")
 sys.exit(bool(problems) or not found)

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Fails unless the schemas in docs/schemas accept what the library writes and what the pages show, and
-refuse documents that the library would not understand.
+reject documents that the library does not understand.
 
     checkSchemas.py <folder of the project> <writeDumps>
 """

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Fails unless docs/guide/themes.md lists the colours of both themes as they are, and every hook that the
-window's own style sheets use.
+"""Fails unless docs/guide/themes.md lists the colours of both themes correctly, and every hook that the
+window's style sheets use.
 
     checkThemes.py <folder of the project>
 """
