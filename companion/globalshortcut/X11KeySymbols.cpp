@@ -1,24 +1,17 @@
 #include "X11KeySymbols_p.h"
 
 #include "Chord_p.h"
+#include "X11OldKeySymbols_p.h"
 
 #include <X11/XF86keysym.h>
 #include <X11/keysym.h>
-
-#include <QTextCodec>
 
 #include <algorithm>
 #include <iterator>
 
 namespace {
 
-struct KeyRow
-{
-    int key;
-    xcb_keysym_t symbol;
-};
-
-constexpr KeyRow specialKeys[] = {
+constexpr X11KeyRow specialKeys[] = {
     {Qt::Key_Escape, XK_Escape},
     {Qt::Key_Tab, XK_Tab},
     {Qt::Key_Backtab, XK_ISO_Left_Tab},
@@ -118,7 +111,7 @@ constexpr KeyRow specialKeys[] = {
     {Qt::Key_TouchpadToggle, XF86XK_TouchpadToggle},
 };
 
-constexpr KeyRow keypadKeys[] = {
+constexpr X11KeyRow keypadKeys[] = {
     {Qt::Key_Space, XK_KP_Space},
     {Qt::Key_Tab, XK_KP_Tab},
     {Qt::Key_Enter, XK_KP_Enter},
@@ -143,38 +136,14 @@ constexpr KeyRow keypadKeys[] = {
     {Qt::Key_Slash, XK_KP_Divide},
 };
 
-// The keysyms that are older than Unicode: those of one upper byte follow an 8-bit character set.
-struct CharacterSet
-{
-    xcb_keysym_t upperByte;
-    const char *codec;
-};
-
-constexpr CharacterSet characterSets[] = {
-    {0x100, "ISO-8859-2"}, {0x200, "ISO-8859-3"}, {0x300, "ISO-8859-4"}, {0x500, "ISO-8859-6"},
-    {0x600, "KOI8-R"},     {0x700, "ISO-8859-7"}, {0xc00, "ISO-8859-8"},
-};
-
 } // namespace
 
-template<size_t size> static QVector<xcb_keysym_t> lookUp(const KeyRow (&table)[size], int key)
+template<size_t size> static QVector<xcb_keysym_t> lookUp(const X11KeyRow (&table)[size], int key)
 {
-    const auto row = std::find_if(std::begin(table), std::end(table),
-                                  [key](const KeyRow &candidate) { return candidate.key == key; });
+    const auto row = std::find_if(
+        std::begin(table), std::end(table),
+        [key](const X11KeyRow &candidate) { return candidate.key == key; });
     return row == std::end(table) ? QVector<xcb_keysym_t>() : QVector<xcb_keysym_t>{row->symbol};
-}
-
-static xcb_keysym_t oldSymbol(const CharacterSet &set, QChar character)
-{
-    // Here the X order differs from the character set's, which it follows elsewhere.
-    if (set.upperByte == 0x700 && character == QChar(0x03c3))
-        return XK_Greek_sigma;
-    const QTextCodec *codec = QTextCodec::codecForName(set.codec);
-    if (!codec || !codec->canEncode(character))
-        return XCB_NO_SYMBOL;
-    const QByteArray encoded = codec->fromUnicode(QString(character));
-    const auto byte = static_cast<uchar>(encoded.size() == 1 ? encoded.at(0) : '\0');
-    return byte > 0xa0 ? set.upperByte | byte : XCB_NO_SYMBOL;
 }
 
 static QVector<xcb_keysym_t> characterSymbols(int key)
@@ -182,15 +151,8 @@ static QVector<xcb_keysym_t> characterSymbols(int key)
     const uint lower = QChar::toLower(static_cast<uint>(key));
     if (lower <= 0xff)
         return {lower};
-    QVector<xcb_keysym_t> symbols{0x01000000 | lower};
-    if (QChar::requiresSurrogates(lower))
-        return symbols;
-    for (const CharacterSet &set : characterSets) {
-        const xcb_keysym_t symbol = oldSymbol(set, QChar(lower));
-        if (symbol != XCB_NO_SYMBOL)
-            symbols.append(symbol);
-    }
-    return symbols;
+    return QVector<xcb_keysym_t>{0x01000000 | lower}
+           + lookUp(x11OldSymbols, static_cast<int>(lower));
 }
 
 QVector<xcb_keysym_t> x11KeySymbols(int chord)

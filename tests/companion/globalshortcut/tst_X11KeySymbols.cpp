@@ -35,6 +35,10 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("cyrillicYoByItsOldName", 0x0401, 0x6a3);
     row("greekByItsOldName", 0x0391, 0x7e1);
     row("greekSigmaByItsOldName", 0x03a3, 0x7f2);
+    row("greekAlphaWithAccentByItsOldName", 0x03ac, 0x7b1);
+    row("ukrainianByItsOldName", 0x0406, 0x6a6);
+    row("arabicByItsOldName", 0x0628, 0x5c8);
+    row("latvianByItsOldName", 0x0112, 0x3ba);
     row("czechByItsOldName", 0x011a, 0x1ec);
     row("turkishByItsOldName", 0x011e, 0x2bb);
     row("hebrewByItsOldName", 0x05d0, 0xce0);
