@@ -32,6 +32,10 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
     QTest::newRow("no digits") << "SCA() SCA(x) SCA(-1) SCA(1.5)" << 2.0f
                                << "SCA() SCA(x) SCA(-1) SCA(1.5)";
     QTest::newRow("no closing parenthesis") << "SCA(12" << 2.0f << "SCA(12";
+    QTest::newRow("no closing parenthesis, then a macro") << "SCA(12SCA(4)" << 2.0f << "SCA(128";
+    QTest::newRow("digits of another script count as none") << "SCA(\u0663)" << 2.0f << "0";
+    QTest::newRow("behind half a surrogate pair")
+        << QString(QChar(0xd800)) + "SCA(4)" << 2.0f << QString(QChar(0xd800)) + "8";
     QTest::newRow("nested") << "SCA(SCA(1))" << 2.0f << "SCA(2)";
     QTest::newRow("product beyond an int counts as none") << "SCA(2147483647)" << 4.0f << "0";
     QTest::newRow("digits beyond an int count as none") << "SCA(99999999999)" << 2.0f << "0";
