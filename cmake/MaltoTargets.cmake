@@ -31,6 +31,8 @@ function(malto_own_code target)
     if(NOT "CASTS" IN_LIST ARGN)
         target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     endif()
+    # What the two Qts write differently.
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/compat/qt${MALTO_QT_MAJOR})
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         "$<$<CXX_COMPILER_ID:Clang,AppleClang>:${MALTO_CLANG_WARNINGS}>"

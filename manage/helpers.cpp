@@ -2,6 +2,8 @@
 
 #include <MaltoConfiguration/store/PosixFile_p.h>
 
+#include "QtCompat_p.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
@@ -29,7 +31,7 @@ QJsonDocument readJsonFromFile(QString path)
         return QJsonDocument();
     }
     QTextStream stream(&file);
-    stream.setCodec("UTF-8");
+    QtCompat::setUtf8(stream);
     const QByteArray text = stream.readAll().toUtf8();
     file.close();
 

@@ -50,7 +50,7 @@ QString flagsText(quint32 flags)
 
 QString aligned(const QVector<QStringList> &rows)
 {
-    QVector<int> widths(rows.first().size());
+    QVector<QString::size_type> widths(rows.first().size());
     for (const QStringList &row : rows) {
         for (int column = 0; column < row.size(); ++column)
             widths[column] = std::max(widths[column], row[column].size());

@@ -20,7 +20,7 @@ QJsonObject ConfStorage::dumpConf(DumpConfType type) const
 
 int ConfStorage::loadConf(const QJsonObject &conf, LoadConfType type)
 {
-    const int count = conf.size(); // a callback may change it
+    const auto count = static_cast<int>(conf.size()); // a callback may change it
     ConfLoad(*this, type).loadObject(conf);
     return count;
 }

@@ -29,7 +29,7 @@ bool isPlain(ushort character)
 
 void appendJsonString(QByteArray &text, const QString &string)
 {
-    const int start = text.size();
+    const auto start = text.size();
     text.resize(start + string.size() + 2);
     char *out = text.data() + start;
     *out++ = '"';

@@ -24,9 +24,9 @@ QByteArray toBody(const SaveJournal::Entry &entry)
 bool fromBody(const QByteArray &body, SaveJournal::Entry *entry)
 {
     QList<QByteArray> lines;
-    int start = 0;
+    QByteArray::size_type start = 0;
     for (int i = 0; i < sHeaderLines; ++i) {
-        const int end = body.indexOf('\n', start);
+        const auto end = body.indexOf('\n', start);
         if (end == -1)
             return false;
         lines.append(body.mid(start, end - start));
@@ -82,7 +82,7 @@ SaveJournal::State SaveJournal::read(Entry *entry) const
     if (!content.startsWith(sMagic))
         return State::None;
     const int magicSize = int(sizeof(sMagic)) - 1;
-    const int checksumEnd = content.indexOf('\n', magicSize);
+    const auto checksumEnd = content.indexOf('\n', magicSize);
     const QByteArray checksum = content.mid(magicSize, checksumEnd - magicSize);
     const QByteArray body = content.mid(checksumEnd + 1);
     if (checksumEnd == -1 || checksum != hash(body) || !fromBody(body, entry))

@@ -44,7 +44,7 @@ int ConfDefWidgetInt32::widthOfMaximum() const
 {
     constexpr int pointsPerDigit = 12;
     constexpr int pointsBeside = 60;
-    const int digits = QString::number(mSpinBox->maximum()).size();
+    const auto digits = static_cast<int>(QString::number(mSpinBox->maximum()).size());
     const double dpi = OrvScreenManager::instance()->widgetScreen(window()).dpi;
     return static_cast<int>((digits * pointsPerDigit + pointsBeside) * dpi / 72);
 }

@@ -139,7 +139,8 @@ void ConfWidgetLanguage::loadConf()
 {
     // Showing a code whose file has gone must not replace it: the file may come back.
     const QSignalBlocker blocker(mComboBox);
-    mComboBox->setCurrentIndex(qMax(0, mSupportLangCodes.indexOf(readValue<QString>())));
+    const auto index = static_cast<int>(mSupportLangCodes.indexOf(readValue<QString>()));
+    mComboBox->setCurrentIndex(qMax(0, index));
     refreshLabelState();
 }
 

@@ -3,6 +3,8 @@
 #include "FaintPlaceholder_p.h"
 #include "Glyphs_p.h"
 
+#include "QtCompat_p.h"
+
 #include <OrvUtils/GetKeySequence.h>
 #include <OrvUtils/QMsgeBox.h>
 #include <QIconfont/QIconfont.h>
@@ -34,7 +36,8 @@ int keyOf(const QKeyEvent *event)
 bool isNameless(const QKeySequence &sequence)
 {
     const QString text = sequence.toString(QKeySequence::PortableText);
-    return QKeySequence::fromString(text, QKeySequence::PortableText)[0] == Qt::Key_unknown;
+    const QKeySequence read = QKeySequence::fromString(text, QKeySequence::PortableText);
+    return QtCompat::chordAt(read, 0) == Qt::Key_unknown;
 }
 
 /// Whether `sequence` is one key that people need for typing. The modifiers of a chord belong to
@@ -44,7 +47,7 @@ bool isSimple(const QKeySequence &sequence)
     if (sequence.isEmpty() || sequence.count() > 1)
         return false;
     // A key is no rarer for standing on the keypad.
-    const int key = sequence[0] & ~static_cast<int>(Qt::KeypadModifier);
+    const int key = QtCompat::chordAt(sequence, 0) & ~static_cast<int>(Qt::KeypadModifier);
     return (key >= Qt::Key_Escape && key <= Qt::Key_Delete)
            || (key >= Qt::Key_Left && key <= Qt::Key_ScrollLock)
            || (key >= Qt::Key_Space && key <= Qt::Key_AsciiTilde);

@@ -2,6 +2,8 @@
 
 #include "FaintPlaceholder_p.h"
 
+#include "QtWidgetsCompat_p.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QCursor>
@@ -29,7 +31,8 @@ QString elided(const QString &text, int length)
 bool opensList(const QKeyEvent &event)
 {
     const int keys = event.key() | static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
-    return keys == Qt::Key_F4 || keys == Qt::Key_Space || keys == Qt::ALT + Qt::Key_Down;
+    return keys == Qt::Key_F4 || keys == Qt::Key_Space
+           || keys == (static_cast<int>(Qt::AltModifier) | Qt::Key_Down);
 }
 
 /// Gives each row the height of its check box, which a list view does not ask by itself, and a
@@ -94,7 +97,7 @@ QSize MultiSelectComboBoxPrivate::recomputeSizeHint(QSize &cache) const
         q->initStyleOption(&option);
         cache = q->style()->sizeFromContents(QStyle::CT_ComboBox, &option, QSize(width, height), q);
     }
-    return cache.expandedTo(QApplication::globalStrut());
+    return cache.expandedTo(QtCompat::globalStrut());
 }
 
 QString MultiSelectComboBoxPrivate::textToFit() const

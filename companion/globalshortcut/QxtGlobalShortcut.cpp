@@ -2,6 +2,7 @@
 
 #include "Chord_p.h"
 #include "GlobalShortcutRegistry_p.h"
+#include "QtCompat_p.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -14,7 +15,8 @@
 static bool namesAKey(int chord)
 {
     const QString name = QKeySequence(keyOf(chord)).toString(QKeySequence::PortableText);
-    const int key = QKeySequence::fromString(name, QKeySequence::PortableText)[0];
+    const QKeySequence read = QKeySequence::fromString(name, QKeySequence::PortableText);
+    const int key = QtCompat::chordAt(read, 0);
     return key != 0 && key != Qt::Key_unknown;
 }
 
@@ -37,9 +39,12 @@ public:
         // The registry outlives the change: made anew it would connect to the system again.
         const auto registry = mRegistry;
         giveBack();
-        if (!enabled || shortcut.count() != 1 || !namesAKey(shortcut[0]) || !isGuiThread())
+        if (!enabled || shortcut.count() != 1 || !isGuiThread())
             return;
-        mChord = shortcut[0];
+        const int chord = QtCompat::chordAt(shortcut, 0);
+        if (!namesAKey(chord))
+            return;
+        mChord = chord;
         mRegistry = GlobalShortcutRegistry::instance();
         mRegistry->add(mChord, this);
     }

@@ -141,7 +141,7 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
 
     // Some of the text's colour shows on every ground, whatever the swatch's own colour.
     QColor border = palette().color(QPalette::WindowText);
-    border.setAlphaF(0.35);
+    border.setAlphaF(0.35F);
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(border, 1));
     painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), SwatchRadius, SwatchRadius);

@@ -1,6 +1,7 @@
 #include <OrvUtils/QThemeCtrl.h>
 
 #include "QssMacros_p.h"
+#include "QtCompat_p.h"
 #include "SheetWatcher_p.h"
 #include "ThemeValues_p.h"
 
@@ -156,7 +157,7 @@ void QThemeCtrl::followApplication()
     mApplication = application;
     // The signal rather than an event filter: a filter on the application would see every event of
     // every object, and the event is not sent before the event loop runs.
-    connect(application, &QGuiApplication::paletteChanged, this, &QThemeCtrl::onApplicationPalette);
+    QtCompat::connectPaletteChanged(application, this, &QThemeCtrl::onApplicationPalette);
     onApplicationPalette(QGuiApplication::palette());
 }
 

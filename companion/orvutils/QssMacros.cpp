@@ -1,5 +1,6 @@
 #include "QssMacros_p.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -10,14 +11,20 @@ namespace {
 constexpr int MaxArgumentLength = 256;
 constexpr int MaxValueLength = 4096;
 constexpr int MaxValueDepth = 64;
-constexpr int MacroPrefixLength = 4;
+constexpr QLatin1String sScale("sca(", 4);
+constexpr QLatin1String sVariable("var(", 4);
 
 bool isWordPart(QChar c)
 {
     return c.isLetterOrNumber() || c == QLatin1Char('_');
 }
 
-bool beginsWord(const QString &text, int position)
+bool isAt(const QString &text, QString::size_type position, QLatin1String expected)
+{
+    return QStringView(text).mid(position).startsWith(expected);
+}
+
+bool beginsWord(const QString &text, QString::size_type position)
 {
     if (position == 0)
         return true;
@@ -54,9 +61,9 @@ bool endsMacros(QChar c)
 }
 
 // Where the comment that begins at `start` ends: behind its last character.
-int commentEnd(const QString &text, int start)
+QString::size_type commentEnd(const QString &text, QString::size_type start)
 {
-    const int end = text.indexOf(QLatin1String("*/"), start + 2);
+    const auto end = text.indexOf(QLatin1String("*/"), start + 2);
     return end < 0 ? text.size() : end + 2;
 }
 
@@ -82,18 +89,17 @@ QString QssMacros::expand(const QString &text)
     out.reserve(text.size());
     QVector<Open> open;
     QChar quote;
-    for (int i = 0; i < text.size();) {
+    for (QString::size_type i = 0; i < text.size();) {
         const QChar c = text.at(i);
-        int length = 1;
-        if (quote.isNull() && c == QLatin1Char('/') && text.midRef(i, 2) == QLatin1String("/*")) {
+        QString::size_type length = 1;
+        if (quote.isNull() && c == QLatin1Char('/') && isAt(text, i, QLatin1String("/*"))) {
             length = commentEnd(text, i) - i;
         } else if (c == QLatin1Char('\\')) {
-            length = qMin(2, text.size() - i);
+            length = std::min(length + 1, text.size() - i);
         } else if ((c == QLatin1Char('s') || c == QLatin1Char('v')) && beginsWord(text, i)) {
-            const QStringRef prefix = text.midRef(i, MacroPrefixLength);
-            const bool scales = prefix == QLatin1String("sca(");
-            if (scales || prefix == QLatin1String("var(")) {
-                length = MacroPrefixLength;
+            const bool scales = isAt(text, i, sScale);
+            if (scales || isAt(text, i, sVariable)) {
+                length = sScale.size();
                 open.append(
                     {scales ? Kind::Scale : Kind::Variable, out.size(), out.size() + length});
             }
@@ -107,8 +113,8 @@ QString QssMacros::expand(const QString &text)
                 open.clear();
             quote = quoteAfter(quote, c);
         }
-        out.append(text.midRef(i, length));
-        i += qMax(length, 1);
+        out.append(text.constData() + i, length);
+        i += std::max(length, QString::size_type(1));
     }
     return out;
 }

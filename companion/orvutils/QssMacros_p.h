@@ -27,8 +27,8 @@ private:
     struct Open
     {
         Kind kind;
-        int start;    ///< where its text begins in the output
-        int argument; ///< where its argument begins in the output
+        QString::size_type start;    ///< where its text begins in the output
+        QString::size_type argument; ///< where its argument begins in the output
     };
 
     bool expandClosed(const Open &open, QString *out);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QTextStream>
+
+/// What is called otherwise in Qt 5 than in Qt 6. CMake chooses this header or the one of the same
+/// name for Qt 6; both have the same functions.
+namespace QtCompat {
+
+/// The key and the modifiers of the chord at `index`, in one number.
+inline int chordAt(const QKeySequence &keys, int index)
+{
+    return keys[static_cast<uint>(index)];
+}
+
+/// Lets the stream read and write UTF-8; a byte order mark of another encoding still counts.
+inline void setUtf8(QTextStream &stream)
+{
+    stream.setCodec("UTF-8");
+}
+
+/// Calls `slot` of `receiver` with each new palette of the application.
+template<class Receiver, class Slot>
+void connectPaletteChanged(QGuiApplication *application, Receiver *receiver, Slot slot)
+{
+    QObject::connect(application, &QGuiApplication::paletteChanged, receiver, slot);
+}
+
+} // namespace QtCompat

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QTextStream>
+
+/// What is called otherwise in Qt 6 than in Qt 5. CMake chooses this header or the one of the same
+/// name for Qt 5; both have the same functions.
+namespace QtCompat {
+
+/// The key and the modifiers of the chord at `index`, in one number.
+inline int chordAt(const QKeySequence &keys, int index)
+{
+    return keys[static_cast<uint>(index)].toCombined();
+}
+
+/// Lets the stream read and write UTF-8; a byte order mark of another encoding still counts.
+inline void setUtf8(QTextStream &stream)
+{
+    stream.setEncoding(QStringConverter::Utf8);
+}
+
+/// Calls `slot` of `receiver` with each new palette of the application.
+template<class Receiver, class Slot>
+void connectPaletteChanged(QGuiApplication *application, Receiver *receiver, Slot slot)
+{
+    // The event that Qt offers instead is only seen by a filter of all events of all objects.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QObject::connect(application, &QGuiApplication::paletteChanged, receiver, slot);
+    QT_WARNING_POP
+}
+
+} // namespace QtCompat
