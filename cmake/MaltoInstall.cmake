@@ -72,4 +72,10 @@ function(malto_install_package)
         DESTINATION ${MALTO_DATA_DIR}/qss COMPONENT Development)
     install(FILES ${PROJECT_SOURCE_DIR}/companion/iconfont/QuorviIconfont.ttf
         DESTINATION ${MALTO_DATA_DIR}/fonts COMPONENT Development)
+    install(FILES ${PROJECT_SOURCE_DIR}/companion/iconfont/outlines/LICENSE
+        DESTINATION ${MALTO_DATA_DIR}/licences RENAME QuorviIconfont COMPONENT Development)
+    if(MALTO_LICENSE)
+        install(FILES ${MALTO_LICENSE_FILE}
+            DESTINATION ${MALTO_DATA_DIR}/licences RENAME MaltoConfiguration COMPONENT Development)
+    endif()
 endfunction()

@@ -1,4 +1,5 @@
-# Debian packages, by `cpack --preset deb`: the libraries, and what a host is built with.
+# The Debian packages that cpack makes of the preset `package`: the libraries, and what is needed to
+# build a host.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME maltoconfiguration)
 set(CPACK_PACKAGE_VENDOR "The MaltoConfiguration developers")
@@ -16,7 +17,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libmaltoconfiguration${PROJECT_VERSION_MAJ
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "A program declares each setting once, bound to one of its own variables; the
 library keeps it in a file that merges with other copies, and shows one window
-in which a person edits everything.")
+in which the user edits everything.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
@@ -34,17 +35,17 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION}-1), qtbase5-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "qttools5-dev, qttools5-dev-tools, qttranslations5-l10n")
 
-# What every Debian package tells about itself.
+# What every Debian package tells about itself. Elsewhere than below /usr nobody looks for it.
 find_program(MALTO_GZIP gzip)
-if(MALTO_GZIP)
-    set(changelog ${PROJECT_BINARY_DIR}/packaging/changelog.Debian.gz)
-    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packaging)
+if(MALTO_GZIP AND CMAKE_INSTALL_PREFIX STREQUAL /usr)
+    set(folder ${PROJECT_BINARY_DIR}/packaging)
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/copyright.in ${folder}/copyright @ONLY)
     execute_process(
         COMMAND ${MALTO_GZIP} -9nc ${PROJECT_SOURCE_DIR}/packaging/changelog
-        OUTPUT_FILE ${changelog})
+        OUTPUT_FILE ${folder}/changelog.Debian.gz)
     foreach(component IN LISTS CPACK_COMPONENTS_ALL)
         string(TOUPPER ${component} upper)
-        install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright ${changelog}
+        install(FILES ${folder}/copyright ${folder}/changelog.Debian.gz
             DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
             COMPONENT ${component})
     endforeach()
