@@ -3,7 +3,7 @@
 #include "ByteReader.h"
 #include "FuzzTarget.h"
 
-#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+#include "MaltoConfiguration/window/WindowGeometryFile_p.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -15,7 +15,8 @@
 
 #include <functional>
 
-/// An editor of a host that runs the host's code wherever an editor can.
+/// An editor of the host that calls host code when it is retranslated and when it receives a
+/// language change event.
 class HostEditor : public MtConf::ConfigItemWidget
 {
 public:
@@ -32,7 +33,7 @@ public:
     {
         if (mOnRetranslate)
             mOnRetranslate();
-        // What was deleted meanwhile is seen here, under the sanitizers.
+        // Under the sanitizers this fails if the host code has deleted the editor.
         mBox->setText(translatedText());
     }
     void loadConf() override { mBox->setChecked(readValue<bool>()); }
@@ -52,8 +53,8 @@ private:
     const Code mOnLanguage;
 };
 
-/// A host with every kind of setting on the page "Edit", a plain one on the page "Other", and a
-/// page of its own making, "Custom". Any code of the host can be set to run.
+/// A host with every kind of setting on page "Edit", a check box on page "Other", and the custom
+/// page "Custom". Tests set the functions `onCreate` etc. to run host code at these places.
 class LifetimeFixture
 {
 public:
@@ -62,7 +63,7 @@ public:
         clearStore();
         store()->mLocalSaveFile = WindowFixture::localFile();
         QFile::remove(WindowFixture::geometryFile());
-        // So that keys can be removed.
+        // Only keys of a dynamic class can be removed.
         mRemovable.prefix = "Edit.";
         store()->mDynamicConfClasses.append(&mRemovable);
         declare();
@@ -78,7 +79,7 @@ public:
     static ConfStorage *store() { return ConfStorage::instance(); }
     static MtConf::ConfigurationWindow *window() { return MtConf::ConfigurationWindow::instance(); }
 
-    /// A new manager with all settings, after the old one has gone.
+    /// Creates a new manager with all settings, after the old one is destroyed.
     void declare()
     {
         using MtConf::ConfItem;
@@ -116,7 +117,7 @@ public:
         });
         language = "auto";
     }
-    /// A file that changes every setting of the page "Edit".
+    /// Writes a file that changes every setting of page "Edit" and returns its path.
     static QString configuration()
     {
         const QJsonObject members{{"Edit.Flag", false},   {"Edit.Number", 11},
@@ -127,7 +128,7 @@ public:
             file.write(QJsonDocument(members).toJson());
         return file.fileName();
     }
-    /// The first control of its class in the editor of a setting of the page "Edit".
+    /// Returns the first control of this class in the editor of setting `name` on page "Edit".
     template<class Control> Control *control(const char *name) const
     {
         return manager->getItemByName("Edit", name, "")->editor->findChild<Control *>();

@@ -8,11 +8,11 @@
 #include <malloc.h>
 #endif
 
-/// Qt's table of hooks for tools: its version, its length, Qt's version, then what is called with
-/// every object that is made and that goes.
+/// Qt's table of hooks for tools: the table's version and length, Qt's version, then the functions
+/// that are called with every object that is created or destroyed.
 extern Q_CORE_EXPORT quintptr qtHookData[];
 
-/// Counts the objects that are made and not yet destroyed while it lives.
+/// Counts the objects that are created during its lifetime and not yet destroyed.
 class LiveObjects
 {
 public:
@@ -40,7 +40,7 @@ private:
     static inline QAtomicInt sCount{0};
 };
 
-/// How many receivers all signals of an object have together.
+/// Counts the receivers of all signals of an object.
 class Receivers : public QObject
 {
 public:
@@ -56,7 +56,7 @@ public:
     }
 };
 
-/// The bytes that the process has allocated; 0 where that cannot be asked.
+/// Returns the number of bytes that the process has allocated, or 0 where this is unknown.
 inline qint64 allocatedBytes()
 {
 #ifdef __GLIBC__

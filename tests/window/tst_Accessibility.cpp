@@ -19,15 +19,16 @@ QString spoken(QWidget *widget, QAccessible::Text text)
     return QAccessible::queryAccessibleInterface(widget)->text(text);
 }
 
-/// The name that is said for a control. On some systems Qt's combo boxes say their value instead;
-/// there the name of the editor around them is said.
+/// Returns the name that a screen reader announces for a control. On some systems Qt's combo boxes
+/// announce their value instead of a name; screen readers then use the name of the editor around
+/// them.
 QString nameOf(QWidget *control)
 {
     return spoken(qobject_cast<QComboBox *>(control) ? control->parentWidget() : control,
                   QAccessible::Name);
 }
 
-/// A language in which every text of a host ends in "!".
+/// A language in which every text of the host ends with "!".
 class Shouting : public QTranslator
 {
 public:
@@ -40,7 +41,7 @@ public:
 
 } // namespace
 
-/// The window for people who use a keyboard only, or a screen reader.
+/// The window for users of a keyboard without a mouse, or of a screen reader.
 class tst_Accessibility : public QObject
 {
     Q_OBJECT
@@ -55,26 +56,26 @@ private Q_SLOTS:
     }
     void cleanup() { mFixture.reset(); }
 
-    void controlIsNamedAsItsCaptionAndDescribedByItsGroup_data();
-    void controlIsNamedAsItsCaptionAndDescribedByItsGroup();
-    void controlThatShowsItsValueByLookOrNameSaysItInTheDescription();
+    void controlIsNamedByItsCaptionAndDescribedByItsGroup_data();
+    void controlIsNamedByItsCaptionAndDescribedByItsGroup();
+    void colourAndFontButtonsHaveTheirValueAsDescription();
     void partsOfTheWindowAreNamed();
     void captionIsTheBuddyOfItsControl();
     void captionWithAnAmpersandHasNoBuddyAndKeepsItsText();
     void namesFollowTheLanguage();
-    void namesThatAHostGaveStay();
-    void tabGoesThroughThePageThenToWhatRestores();
+    void namesSetByTheHostAreKept();
+    void tabVisitsThePageAndThenTheRestoreButtons();
     void everySimpleEditorWorksByKeyboard();
-    void everyEditorWorksByKeyboardOnceTheHostWantsIt();
-    void focusIsSeen_data();
-    void focusIsSeen();
+    void everyEditorWorksByKeyboardWithFullKeyboardAccess();
+    void focusIsVisible_data();
+    void focusIsVisible();
 
 private:
     ConfItem *item(const QString &name) const
     {
         return mFixture->manager->getItemByName("Edit", name, "");
     }
-    /// The control that takes the keyboard first.
+    /// Returns the control of an editor that gets the focus first.
     QWidget *firstControl(const QString &name) const
     {
         auto *label = qobject_cast<QLabel *>(item(name)->editor->label());
@@ -84,7 +85,7 @@ private:
     std::unique_ptr<LifetimeFixture> mFixture;
 };
 
-void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup_data()
+void tst_Accessibility::controlIsNamedByItsCaptionAndDescribedByItsGroup_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
@@ -106,7 +107,7 @@ void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup_data()
                                         << "Host";
 }
 
-void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup()
+void tst_Accessibility::controlIsNamedByItsCaptionAndDescribedByItsGroup()
 {
     QFETCH(QString, name);
     QFETCH(QString, caption);
@@ -115,7 +116,7 @@ void tst_Accessibility::controlIsNamedAsItsCaptionAndDescribedByItsGroup()
     QCOMPARE(spoken(firstControl(name), QAccessible::Description), QString("Edit"));
 }
 
-void tst_Accessibility::controlThatShowsItsValueByLookOrNameSaysItInTheDescription()
+void tst_Accessibility::colourAndFontButtonsHaveTheirValueAsDescription()
 {
     QCOMPARE(spoken(firstControl("Colour"), QAccessible::Name), QString("Colour"));
     QCOMPARE(spoken(firstControl("Colour"), QAccessible::Description), QString("#ff0000"));
@@ -164,11 +165,11 @@ void tst_Accessibility::namesFollowTheLanguage()
          {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Mouse", "Language", "Host"})
         QCOMPARE(nameOf(firstControl(name)), QString(name) + '!');
     QCOMPARE(firstControl("Text")->accessibleName(), QString("Text!"));
-    // The hotkey's own name follows with the event that the application sends.
+    // The name of the hotkey editor is updated by the event that the application sends.
     QTRY_COMPARE(spoken(firstControl("Key"), QAccessible::Name), QString("Key!"));
 }
 
-void tst_Accessibility::namesThatAHostGaveStay()
+void tst_Accessibility::namesSetByTheHostAreKept()
 {
     QWidget *box = firstControl("Number");
     box->setProperty("NamedByPage", QVariant());
@@ -180,7 +181,7 @@ void tst_Accessibility::namesThatAHostGaveStay()
     QCOMPARE(spoken(box, QAccessible::Description), QString("own description"));
 }
 
-void tst_Accessibility::tabGoesThroughThePageThenToWhatRestores()
+void tst_Accessibility::tabVisitsThePageAndThenTheRestoreButtons()
 {
     WindowFixture::classList()->setFocus();
     QStringList visited;
@@ -190,7 +191,7 @@ void tst_Accessibility::tabGoesThroughThePageThenToWhatRestores()
         visited << (focus->accessibleName().isEmpty() ? spoken(focus, QAccessible::Name)
                                                       : focus->accessibleName());
     }
-    // The scroll area is where the arrow keys scroll. The mouse action has two boxes.
+    // The scroll area is in the tab order because the arrow keys scroll it. "Mouse" has two boxes.
     QCOMPARE(visited,
              (QStringList{"Edit", "Flag", "Number", "Text", "Bits", "Colour", "Font", "Key",
                           "Setup failed, the hotkey may be occupied. Click to try setup "
@@ -220,14 +221,14 @@ void tst_Accessibility::everySimpleEditorWorksByKeyboard()
     QTRY_VERIFY(mFixture->other->editor);
 }
 
-void tst_Accessibility::everyEditorWorksByKeyboardOnceTheHostWantsIt()
+void tst_Accessibility::everyEditorWorksByKeyboardWithFullKeyboardAccess()
 {
     QVERIFY(!MtConf::ConfigItemWidget::sFullKeyboardAccess);
     MtConf::ConfigItemWidget::sFullKeyboardAccess = true;
     mFixture->window()->switchToView("Other");
     mFixture->window()->switchToView("Edit");
     MtConf::ConfigItemWidget::sFullKeyboardAccess = false;
-    QCursor::setPos(0, 0); // a list stays open under the cursor
+    QCursor::setPos(0, 0); // Qt does not close a list that is under the cursor
 
     const auto stored = [this](const QString &name) {
         return mFixture->store()->get<int>("Edit." + name);
@@ -262,14 +263,14 @@ void tst_Accessibility::everyEditorWorksByKeyboardOnceTheHostWantsIt()
     QCOMPARE(mFixture->key, QKeySequence(Qt::CTRL + Qt::Key_Delete));
 }
 
-void tst_Accessibility::focusIsSeen_data()
+void tst_Accessibility::focusIsVisible_data()
 {
     QTest::addColumn<int>("theme");
     QTest::newRow("light") << int(QThemeCtrl::Theme::Light);
     QTest::newRow("dark") << int(QThemeCtrl::Theme::Dark);
 }
 
-void tst_Accessibility::focusIsSeen()
+void tst_Accessibility::focusIsVisible()
 {
     QFETCH(int, theme);
     QThemeCtrl::instance()->setTheme(static_cast<QThemeCtrl::Theme>(theme));
@@ -278,14 +279,14 @@ void tst_Accessibility::focusIsSeen()
     for (const char *name :
          {"Flag", "Number", "Text", "Bits", "Colour", "Font", "Key", "Mouse", "Language", "Host"})
         controls << firstControl(name);
-    // The reference has the focus where nothing of it is drawn.
+    // For the image without focus, the focus is in the scroll area, which draws no focus frame.
     auto *area = WindowFixture::child<QScrollArea>("scrollArea");
     for (QWidget *control : qAsConst(controls)) {
         area->setFocus();
         const QImage without = control->grab().toImage();
         control->setFocus(Qt::TabFocusReason);
         QVERIFY2(control->hasFocus(), qPrintable(spoken(control, QAccessible::Name)));
-        // A blinking cursor alone is no sign.
+        // A blinking text cursor alone is not enough; neither is the selection.
         if (auto *edit = qobject_cast<QLineEdit *>(control))
             edit->deselect();
         QVERIFY2(control->grab().toImage() != without,

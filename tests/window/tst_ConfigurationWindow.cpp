@@ -8,7 +8,7 @@
 using MtConf::ConfigurationWindow;
 using MtConf::ConfItem;
 
-/// The window itself: its form, navigation and the restoring of defaults.
+/// The window itself: its form, its navigation, and restoring defaults.
 class tst_ConfigurationWindow : public QObject
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ private Q_SLOTS:
     }
     void cleanup() { mFixture.reset(); }
 
-    void formIsBuiltAsTheStyleSheetExpectsIt();
+    void formHasTheStructureThatTheStyleSheetExpects();
     void windowIsOnTopAndDeletesItself();
     void classListShowsTheClassesInOrder();
     void firstPageIsShownAtStart();
     void clickOnAClassShowsItsPage();
-    void arrowKeysWalkThroughTheClasses();
+    void arrowKeysMoveThroughTheClasses();
     void switchToView_opensTheFirstPageOfThatName();
     void switchToView_withUnknownNameShowsAnEmptyPage();
     void editByClickReachesTheVariable();
@@ -39,12 +39,12 @@ private Q_SLOTS:
     void restorePage_rebuildsAPageAtItsDefaults();
     void restoreAll_answeredNoChangesNothing();
     void restoreAll_answeredYesRestoresEverything();
-    void questionsAreAsked_data();
-    void questionsAreAsked();
-    void windowClosedUnderTheQuestionChangesNothing();
+    void restoringAsksForConfirmation_data();
+    void restoringAsksForConfirmation();
+    void windowDeletedWhileTheQuestionIsOpenChangesNothing();
     void questionThatTheHostDeletesChangesNothing();
-    void pageRebuiltUnderTheQuestionIsRestored();
-    void callbackMayOpenAnotherPageWhileThePageIsRestored();
+    void pageShownWhenTheQuestionIsAnsweredIsRestored();
+    void callbackMayOpenAnotherPageDuringRestore();
     void closingSavesTheLocalFile();
     void closingAHiddenWindowSavesTheLocalFile();
     void managerWithoutClassesShowsAnEmptyWindow();
@@ -65,7 +65,7 @@ private:
     int mNumber = 0;
 };
 
-void tst_ConfigurationWindow::formIsBuiltAsTheStyleSheetExpectsIt()
+void tst_ConfigurationWindow::formHasTheStructureThatTheStyleSheetExpects()
 {
     const ConfigurationWindow *window = mFixture->open();
     QVERIFY(window);
@@ -145,7 +145,7 @@ void tst_ConfigurationWindow::clickOnAClassShowsItsPage()
     QVERIFY(mSecondItem->editor);
 }
 
-void tst_ConfigurationWindow::arrowKeysWalkThroughTheClasses()
+void tst_ConfigurationWindow::arrowKeysMoveThroughTheClasses()
 {
     mFixture->open();
     QTest::keyClick(mFixture->classList(), Qt::Key_Down);
@@ -245,7 +245,7 @@ void tst_ConfigurationWindow::restoreAll_answeredYesRestoresEverything()
     QVERIFY(mFixture->checkBox(mFirstItem)->isChecked());
 }
 
-void tst_ConfigurationWindow::questionsAreAsked_data()
+void tst_ConfigurationWindow::restoringAsksForConfirmation_data()
 {
     QTest::addColumn<bool>("all");
     QTest::addColumn<QString>("question");
@@ -253,7 +253,7 @@ void tst_ConfigurationWindow::questionsAreAsked_data()
     QTest::newRow("all") << true << "Are you sure to restore all default?";
 }
 
-void tst_ConfigurationWindow::questionsAreAsked()
+void tst_ConfigurationWindow::restoringAsksForConfirmation()
 {
     QFETCH(bool, all);
     mFixture->open();
@@ -275,7 +275,7 @@ void tst_ConfigurationWindow::questionsAreAsked()
     QVERIFY(yesIsDefault);
 }
 
-void tst_ConfigurationWindow::windowClosedUnderTheQuestionChangesNothing()
+void tst_ConfigurationWindow::windowDeletedWhileTheQuestionIsOpenChangesNothing()
 {
     change();
     mFixture->open();
@@ -294,7 +294,7 @@ void tst_ConfigurationWindow::questionThatTheHostDeletesChangesNothing()
     QVERIFY(!mFirst);
 }
 
-void tst_ConfigurationWindow::pageRebuiltUnderTheQuestionIsRestored()
+void tst_ConfigurationWindow::pageShownWhenTheQuestionIsAnsweredIsRestored()
 {
     change();
     mFixture->open();
@@ -306,7 +306,7 @@ void tst_ConfigurationWindow::pageRebuiltUnderTheQuestionIsRestored()
     QVERIFY(mSecond);
 }
 
-void tst_ConfigurationWindow::callbackMayOpenAnotherPageWhileThePageIsRestored()
+void tst_ConfigurationWindow::callbackMayOpenAnotherPageDuringRestore()
 {
     change();
     mFirstItem->setConfChangedCallback(

@@ -14,7 +14,7 @@ using MtConf::ConfItem;
 
 namespace {
 
-/// Translates into brackets whatever stands in one of the window's contexts.
+/// Translates every text of the window's contexts by putting it in brackets.
 class BracketTranslator : public QTranslator
 {
 public:
@@ -45,20 +45,20 @@ private Q_SLOTS:
     }
     void cleanup() { mFixture.reset(); }
 
-    void firstWindowStandsInTheMiddleOfTheScreen();
+    void firstWindowIsCentredOnTheScreen();
     void geometryIsRemembered();
     void savedGeometry_data();
     void savedGeometry();
-    void geometryFileMayBeRubbish_data();
-    void geometryFileMayBeRubbish();
+    void invalidGeometryFileIsIgnored_data();
+    void invalidGeometryFileIsIgnored();
     void geometryOfOnePixelLeavesAUsableWindow();
-    void closedWindowLeavesItsGeometryInTheFile();
+    void closingTheWindowSavesItsGeometry();
     void changedCaptionIsBold();
-    void themeChangeReachesTheOpenWindow();
-    void themeChangeReachesTheIcons();
+    void themeChangeUpdatesTheOpenWindow();
+    void themeChangeUpdatesTheIcons();
     void iconsHaveTheColourThatAMacroNames();
     void classWithoutGlyphHasNoIcon();
-    void languageChangeReachesEveryText();
+    void languageChangeUpdatesEveryText();
     void classNamesOfAnyScriptAreShown();
 
 private:
@@ -77,7 +77,7 @@ private:
     {
         return qobject_cast<QStandardItemModel *>(WindowFixture::classList()->model())->item(index);
     }
-    /// A colour that the row's icon really paints.
+    /// Returns the first opaque colour that the icon paints.
     static QColor inkOf(const QIcon &icon, QIcon::Mode mode)
     {
         const QImage image =
@@ -97,9 +97,10 @@ private:
     int mNumber = 0;
 };
 
-void tst_ConfigurationWindowAppearance::firstWindowStandsInTheMiddleOfTheScreen()
+void tst_ConfigurationWindowAppearance::firstWindowIsCentredOnTheScreen()
 {
-    // Not shown: what the constructor has set counts, not what a window system does with it.
+    // The window is not shown: the test is about the geometry that the constructor sets, which a
+    // window system might change.
     const ConfigurationWindow window(mFixture->manager.get());
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     // 768 by 500 units at 96 dots per inch.
@@ -120,7 +121,7 @@ void tst_ConfigurationWindowAppearance::geometryIsRemembered()
 
 void tst_ConfigurationWindowAppearance::savedGeometry_data()
 {
-    QTest::addColumn<QRect>("saved"); // on a screen that begins at (0, 0)
+    QTest::addColumn<QRect>("saved"); // on a screen whose top left corner is (0, 0)
     QTest::addColumn<bool>("applied");
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     QTest::newRow("well inside") << QRect(10, 10, 640, 480) << true;
@@ -129,11 +130,11 @@ void tst_ConfigurationWindowAppearance::savedGeometry_data()
     QTest::newRow("one pixel from the edges") << QRect(1, 1, 640, 480) << true;
     QTest::newRow("touches the right edge") << QRect(screen.right() - 639, 10, 640, 480) << false;
     QTest::newRow("touches the bottom edge") << QRect(10, screen.bottom() - 479, 640, 480) << false;
-    QTest::newRow("outside of every screen") << QRect(100000, 100000, 640, 480) << false;
-    QTest::newRow("as far as integers go")
+    QTest::newRow("outside all screens") << QRect(100000, 100000, 640, 480) << false;
+    QTest::newRow("largest integers")
         << QRect(QPoint(1, 1), QPoint(2147483647, 2147483647)) << false;
     QTest::newRow("empty") << QRect() << false;
-    QTest::newRow("turned inside out") << QRect(QPoint(500, 500), QPoint(100, 100)) << false;
+    QTest::newRow("negative size") << QRect(QPoint(500, 500), QPoint(100, 100)) << false;
 }
 
 void tst_ConfigurationWindowAppearance::savedGeometry()
@@ -141,7 +142,8 @@ void tst_ConfigurationWindowAppearance::savedGeometry()
     QFETCH(QRect, saved);
     QFETCH(bool, applied);
     writeGeometry(saved);
-    // The window is not shown: what the constructor has set counts, not what a window system does.
+    // The window is not shown: the test is about the geometry that the constructor sets, which a
+    // window system might change.
     const ConfigurationWindow window(mFixture->manager.get());
     if (applied)
         QCOMPARE(window.geometry(), saved);
@@ -149,13 +151,13 @@ void tst_ConfigurationWindowAppearance::savedGeometry()
         QCOMPARE(window.size(), QSize(1089, 598));
 }
 
-void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
+void tst_ConfigurationWindowAppearance::invalidGeometryFileIsIgnored_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QSize>("size");
     const QSize formSize(1089, 598);
-    QTest::newRow("no lines") << QByteArray("\x00[[[=\xff\n", 7) << QSize(1024, 667);
-    QTest::newRow("broken lines around the key")
+    QTest::newRow("invalid lines") << QByteArray("\x00[[[=\xff\n", 7) << QSize(1024, 667);
+    QTest::newRow("invalid lines around the key")
         << QByteArray("\x00[[[=\xff\nGeometry=@Rect(x)\n", 25) << formSize;
     QTest::newRow("a word") << QByteArray("[General]\nGeometry=wide\n") << formSize;
     QTest::newRow("three numbers")
@@ -169,14 +171,14 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish_data()
         << formSize;
     QTest::newRow("numbers beyond integers")
         << QByteArray("[General]\nGeometry=@Rect(10 10 99999999999999999999 500)\n") << formSize;
-    QTest::newRow("a list that no memory holds")
+    QTest::newRow("a list that exceeds the memory")
         << QByteArray("[General]\nGeometry=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n")
         << formSize;
     QTest::newRow("such a list under another key")
         << QByteArray("[Other]\nx=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n") << formSize;
 }
 
-void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()
+void tst_ConfigurationWindowAppearance::invalidGeometryFileIsIgnored()
 {
     QFETCH(QByteArray, content);
     QFETCH(QSize, size);
@@ -184,7 +186,7 @@ void tst_ConfigurationWindowAppearance::geometryFileMayBeRubbish()
     {
         const ConfigurationWindow window(mFixture->manager.get());
         QCOMPARE(window.size(), size);
-        // Closing it saves its geometry over what stood there.
+        // Closing the window replaces the invalid geometry in the file.
     }
     const QSettings settings(WindowFixture::geometryFile(), QSettings::IniFormat);
     QCOMPARE(settings.value("Geometry").toRect().size(), size);
@@ -198,7 +200,7 @@ void tst_ConfigurationWindowAppearance::geometryOfOnePixelLeavesAUsableWindow()
     QVERIFY(mFixture->window()->height() >= mFixture->window()->minimumSizeHint().height());
 }
 
-void tst_ConfigurationWindowAppearance::closedWindowLeavesItsGeometryInTheFile()
+void tst_ConfigurationWindowAppearance::closingTheWindowSavesItsGeometry()
 {
     mFixture->open();
     const QRect geometry = mFixture->window()->geometry();
@@ -227,7 +229,7 @@ void tst_ConfigurationWindowAppearance::changedCaptionIsBold()
     QCOMPARE(mFixture->checkBox(mItem)->font().weight(), int(QFont::Normal));
 }
 
-void tst_ConfigurationWindowAppearance::themeChangeReachesTheOpenWindow()
+void tst_ConfigurationWindowAppearance::themeChangeUpdatesTheOpenWindow()
 {
     const ConfigurationWindow *window = mFixture->open();
     const QString light = window->styleSheet();
@@ -238,7 +240,7 @@ void tst_ConfigurationWindowAppearance::themeChangeReachesTheOpenWindow()
     QCOMPARE(ground, QColor(QThemeCtrl::instance()->value("ColorBg0")));
 }
 
-void tst_ConfigurationWindowAppearance::themeChangeReachesTheIcons()
+void tst_ConfigurationWindowAppearance::themeChangeUpdatesTheIcons()
 {
     QMap<QString, QChar> icons{{"General", QChar(0xe800)}};
     mFixture->manager->setIconMap(icons);
@@ -274,7 +276,7 @@ void tst_ConfigurationWindowAppearance::classWithoutGlyphHasNoIcon()
     QVERIFY(row(0)->icon().isNull());
 }
 
-void tst_ConfigurationWindowAppearance::languageChangeReachesEveryText()
+void tst_ConfigurationWindowAppearance::languageChangeUpdatesEveryText()
 {
     const ConfigurationWindow *window = mFixture->open();
     BracketTranslator translator;

@@ -10,7 +10,7 @@
 using MtConf::ConfigItemWidget;
 using MtConf::ConfItem;
 
-/// How a page is built from the declarations of its class, and taken down again.
+/// How a page is built from the declared items of its class, and how it is deleted.
 class tst_ConfigurationWindowPage : public QObject
 {
     Q_OBJECT
@@ -25,26 +25,26 @@ private Q_SLOTS:
     void ungroupedItemsShareOneGroupUnderTheClassName();
     void subNamedItemsAreGroupedByName();
     void classOfSubNamedItemsOnlyHasNoGroupOfItsOwn();
-    void separatorsStandBetweenItems_data();
-    void separatorsStandBetweenItems();
-    void captionsStandLeftOfTheirEditors();
+    void separatorsAreBetweenItems_data();
+    void separatorsAreBetweenItems();
+    void captionsAreLeftOfTheirEditors();
     void editorWithoutCaptionTakesTheWholeRow();
     void gridIsSpacedByTheScale();
-    void classFlag1LeavesOutCaptionsAndPanels();
+    void classFlag1HidesCaptionsAndPanels();
     void classFlag4HidesTheRestoreButton();
-    void customPageStandsAlone();
+    void customPageIsShownAlone();
     void customPageMayBeNull();
     void filteredItems_data();
     void filteredItems();
-    void itemWithoutEditorIsLeftOut();
-    void pageEndsWithASpacerAndIsScrolledUp();
+    void itemWithoutEditorIsNotShown();
+    void pageEndsWithASpacerAndIsScrolledToTheTop();
     void pageOfAThousandItemsIsShown();
-    void oldEditorsGoAtOnce();
+    void oldEditorsAreDeletedAtOnce();
     void itemDeclaredLaterAppearsWhenThePageIsBuiltAgain();
     void callbackMayOpenAnotherPage_fromACheckBox();
     void callbackMayOpenAnotherPage_fromASpinBox();
     void callbackMayCloseTheWindow();
-    void factoryMayAskForAnotherPage();
+    void factoryMayOpenAnotherPage();
     void factoryMayDeleteTheWindow_data();
     void factoryMayDeleteTheWindow();
     void filterAndFactoryMayReplaceThemselves();
@@ -109,7 +109,7 @@ void tst_ConfigurationWindowPage::classOfSubNamedItemsOnlyHasNoGroupOfItsOwn()
     QCOMPARE(mFixture->captions(), QStringList("Hotkey"));
 }
 
-void tst_ConfigurationWindowPage::separatorsStandBetweenItems_data()
+void tst_ConfigurationWindowPage::separatorsAreBetweenItems_data()
 {
     QTest::addColumn<int>("items");
     QTest::addColumn<int>("lines");
@@ -118,7 +118,7 @@ void tst_ConfigurationWindowPage::separatorsStandBetweenItems_data()
     QTest::newRow("three items") << 3 << 2;
 }
 
-void tst_ConfigurationWindowPage::separatorsStandBetweenItems()
+void tst_ConfigurationWindowPage::separatorsAreBetweenItems()
 {
     QFETCH(int, items);
     const char *const names[] = {"a", "b", "c"};
@@ -128,7 +128,7 @@ void tst_ConfigurationWindowPage::separatorsStandBetweenItems()
     QTEST(separators(mFixture->groups().first()), "lines");
 }
 
-void tst_ConfigurationWindowPage::captionsStandLeftOfTheirEditors()
+void tst_ConfigurationWindowPage::captionsAreLeftOfTheirEditors()
 {
     mNumber = 3;
     const ConfItem *item = mFixture->manager->addConfInt32("Number", &mNumber, "General", "n");
@@ -182,7 +182,7 @@ void tst_ConfigurationWindowPage::gridIsSpacedByTheScale()
     QVERIFY(!mFixture->groups().first()->property("NoGroupBox").isValid());
 }
 
-void tst_ConfigurationWindowPage::classFlag1LeavesOutCaptionsAndPanels()
+void tst_ConfigurationWindowPage::classFlag1HidesCaptionsAndPanels()
 {
     addBool("a");
     addBool("Group", "b");
@@ -211,7 +211,7 @@ void tst_ConfigurationWindowPage::classFlag4HidesTheRestoreButton()
     QVERIFY(mFixture->restorePageButton()->isVisible());
 }
 
-void tst_ConfigurationWindowPage::customPageStandsAlone()
+void tst_ConfigurationWindowPage::customPageIsShownAlone()
 {
     addBool("a");
     QWidget *givenParent = nullptr;
@@ -240,11 +240,11 @@ void tst_ConfigurationWindowPage::customPageMayBeNull()
 
 void tst_ConfigurationWindowPage::filteredItems_data()
 {
-    QTest::addColumn<QVariant>("answer"); // of the filter; none: there is no filter
+    QTest::addColumn<QVariant>("answer"); // result of the filter; invalid: no filter is set
     QTest::addColumn<QStringList>("shown");
     QTest::addColumn<int>("lines");
     QTest::newRow("no filter hides them") << QVariant() << QStringList{"a", "d"} << 1;
-    QTest::newRow("filter refuses") << QVariant(false) << QStringList{"a", "d"} << 1;
+    QTest::newRow("filter rejects") << QVariant(false) << QStringList{"a", "d"} << 1;
     QTest::newRow("filter accepts") << QVariant(true) << QStringList{"a", "b", "c", "d"} << 3;
 }
 
@@ -273,7 +273,7 @@ void tst_ConfigurationWindowPage::filteredItems()
     QVERIFY(!asked.contains("d"));
 }
 
-void tst_ConfigurationWindowPage::itemWithoutEditorIsLeftOut()
+void tst_ConfigurationWindowPage::itemWithoutEditorIsNotShown()
 {
     mFixture->manager->addConfQString("Text", &mText, "General", "t");
     addBool("a");
@@ -284,7 +284,7 @@ void tst_ConfigurationWindowPage::itemWithoutEditorIsLeftOut()
     QVERIFY(mFixture->groups().first()->findChildren<QLabel *>().isEmpty());
 }
 
-void tst_ConfigurationWindowPage::pageEndsWithASpacerAndIsScrolledUp()
+void tst_ConfigurationWindowPage::pageEndsWithASpacerAndIsScrolledToTheTop()
 {
     for (int i = 0; i < 40; ++i)
         addBool("many", QByteArray::number(i).constData());
@@ -312,7 +312,7 @@ void tst_ConfigurationWindowPage::pageOfAThousandItemsIsShown()
     QCOMPARE(separators(mFixture->groups().first()), 999);
 }
 
-void tst_ConfigurationWindowPage::oldEditorsGoAtOnce()
+void tst_ConfigurationWindowPage::oldEditorsAreDeletedAtOnce()
 {
     const ConfItem *item = addBool("a");
     addBool("b", "", "Other");
@@ -353,7 +353,7 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
     const ConfItem *item = mFixture->manager->addConfInt32("n", &mNumber, "General", "n");
     addBool("b", "", "Other");
     item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->ShowWindow("General"); // the same page, built anew under the key press
+        mFixture->manager->ShowWindow("General"); // rebuilds the page during the key press
     });
     mFixture->open();
     auto *box = item->editor->findChild<QSpinBox *>();
@@ -376,7 +376,7 @@ void tst_ConfigurationWindowPage::callbackMayCloseTheWindow()
     QVERIFY(!*mFlags.at(0));
 }
 
-void tst_ConfigurationWindowPage::factoryMayAskForAnotherPage()
+void tst_ConfigurationWindowPage::factoryMayOpenAnotherPage()
 {
     int asked = 0;
     mFixture->manager->setMajorWidget("Custom", [&](QWidget *parent) {
@@ -425,7 +425,7 @@ void tst_ConfigurationWindowPage::factoryMayDeleteTheWindow()
     mFixture->open();
     QVERIFY(!mFixture->manager->ShowWindow("General"));
     QVERIFY(!mFixture->window());
-    // Also when it is the first page, built by the constructor.
+    // The same for the first page, which the constructor builds.
     mFixture->manager->majorItems.move(1, 0);
     QVERIFY(!mFixture->manager->ShowWindow());
 }

@@ -10,11 +10,11 @@
 
 namespace {
 
-/// The contrast of what is drawn on a widget: of its most frequent colour with the one that stands
-/// out most.
+/// Returns the contrast ratio between a widget's most frequent colour and the drawn colour that
+/// differs most from it.
 double drawnContrast(QWidget *widget)
 {
-    // From the window, so that a transparent widget has the ground that is seen behind it.
+    // Grab from the window, so that a transparent widget has the background behind it.
     const QRect place(widget->mapTo(widget->window(), QPoint()), widget->size());
     const QImage image = widget->window()->grab(place).toImage();
     std::map<QRgb, int> counts;
@@ -32,7 +32,7 @@ double drawnContrast(QWidget *widget)
 
 } // namespace
 
-/// Texts can be read in both themes: 4.5 to 1, and signs that are no text 3 to 1.
+/// Contrast ratios in both themes: at least 4.5 to 1 for texts, 3 to 1 for other signs.
 class tst_Contrast : public QObject
 {
     Q_OBJECT
@@ -40,21 +40,21 @@ class tst_Contrast : public QObject
 private Q_SLOTS:
     void cleanup() { QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::System); }
 
-    void contrastIsThatOfTheGuidelines();
-    void coloursOfTheThemesContrast_data();
-    void coloursOfTheThemesContrast();
-    void drawnTextsContrast_data();
-    void drawnTextsContrast();
+    void contrastFollowsTheGuidelines();
+    void themeColoursHaveEnoughContrast_data();
+    void themeColoursHaveEnoughContrast();
+    void drawnTextsHaveEnoughContrast_data();
+    void drawnTextsHaveEnoughContrast();
 };
 
-void tst_Contrast::contrastIsThatOfTheGuidelines()
+void tst_Contrast::contrastFollowsTheGuidelines()
 {
     QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
     QCOMPARE(contrast(Qt::red, Qt::red), 1.0);
     QVERIFY(qAbs(contrast(QColor("#767676"), Qt::white) - 4.54) < 0.01);
 }
 
-void tst_Contrast::coloursOfTheThemesContrast_data()
+void tst_Contrast::themeColoursHaveEnoughContrast_data()
 {
     QTest::addColumn<int>("theme");
     QTest::addColumn<QString>("front");
@@ -71,14 +71,14 @@ void tst_Contrast::coloursOfTheThemesContrast_data()
         const QStringList grounds{"ColorBg0", "ColorBg1", "ColorBg2", "ColorBg3"};
         add("ColorFg0", grounds, 4.5);
         add("white", {"ColorMain"}, 4.5);
-        // The signs of states, and the frame of what has the focus.
+        // The icons for states, and the focus frame.
         for (const char *sign :
              {"ColorSuccess", "ColorWarning", "ColorFailed", "ColorDisable", "ColorMain"})
             add(sign, {"ColorBg1"}, 3);
     }
 }
 
-void tst_Contrast::coloursOfTheThemesContrast()
+void tst_Contrast::themeColoursHaveEnoughContrast()
 {
     QFETCH(int, theme);
     QFETCH(QString, front);
@@ -91,18 +91,18 @@ void tst_Contrast::coloursOfTheThemesContrast()
     QVERIFY2(ratio >= least, qPrintable(QString::number(ratio)));
 }
 
-void tst_Contrast::drawnTextsContrast_data()
+void tst_Contrast::drawnTextsHaveEnoughContrast_data()
 {
     QTest::addColumn<int>("theme");
     QTest::newRow("light") << int(QThemeCtrl::Theme::Light);
     QTest::newRow("dark") << int(QThemeCtrl::Theme::Dark);
 }
 
-void tst_Contrast::drawnTextsContrast()
+void tst_Contrast::drawnTextsHaveEnoughContrast()
 {
     QFETCH(int, theme);
     LifetimeFixture host;
-    host.flag = false; // a check mark would stand out more than the text
+    host.flag = false; // a check mark has more contrast than the text
     QThemeCtrl::instance()->setTheme(static_cast<QThemeCtrl::Theme>(theme));
     QVERIFY(host.manager->ShowWindow("Edit"));
     host.window()->resize(900, 900);

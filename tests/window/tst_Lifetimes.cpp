@@ -16,8 +16,8 @@
 
 using MtConf::ConfigurationWindow;
 
-/// Whatever a host does, wherever its code can run: nothing crashes, and the window works
-/// afterwards.
+/// Runs every host action at every place where the library calls host code: nothing crashes, and
+/// the window works afterwards.
 class tst_Lifetimes : public QObject
 {
     Q_OBJECT
@@ -33,8 +33,8 @@ private Q_SLOTS:
 
     void hostMayDoAnythingAnywhere_data();
     void hostMayDoAnythingAnywhere();
-    void dialogOfTheHostInsideACallbackOutlivesThePage_data();
-    void dialogOfTheHostInsideACallbackOutlivesThePage();
+    void hostDialogInACallbackMayOutliveThePage_data();
+    void hostDialogInACallbackMayOutliveThePage();
 
 private:
     using Step = std::function<void()>;
@@ -45,7 +45,8 @@ private:
     std::map<QString, Step> dialogPlaces();
     std::map<QString, Step> hostPlaces();
 
-    /// Runs the action of the row, once; under a dialog of the host's own if it asks first.
+    /// Runs the action of the current row, at most once. With `mAsks` the action runs while a modal
+    /// dialog of the host is open.
     void act()
     {
         if (std::exchange(mHasActed, true))
@@ -58,7 +59,7 @@ private:
         QDialog question;
         QTimer::singleShot(0, &question, [&question, action] {
             action();
-            // Long enough for everything that is to be deleted later.
+            // The nested event loop runs long enough for deferred deletions.
             QTimer::singleShot(50, &question, &QDialog::accept);
         });
         question.exec();
@@ -72,7 +73,8 @@ private:
         QTimer::singleShot(0, this, actor());
         QTRY_VERIFY(mHasActed);
     }
-    /// Has the change of a setting of the page "Edit" act, then runs `edit`.
+    /// Returns a step that runs the action from the change callback of a setting on page "Edit";
+    /// `edit` changes the setting.
     Step fromCallback(const QString &name, const Step &edit)
     {
         return [this, name, edit] {
@@ -81,8 +83,8 @@ private:
             edit();
         };
     }
-    /// Runs `open`, which opens a modal dialog, acts under it and then has it accepted, if it is
-    /// still there.
+    /// Runs `open`, which opens a modal dialog, runs the action while the dialog is open, and then
+    /// accepts the dialog if it still exists.
     template<class Dialog> void actUnder(const Step &open)
     {
         QTimer timer;
@@ -126,8 +128,8 @@ private:
         while (QWidget *dialog = QApplication::activeModalWidget())
             delete dialog;
     }
-    /// The classes of all widgets that there are, without the desktop and tips, which come
-    /// from where the cursor of an X server is.
+    /// Returns the classes of all existing widgets, except the desktop and tool tips, which depend
+    /// on the position of the cursor.
     static QString widgets()
     {
         QStringList classes;
@@ -141,7 +143,7 @@ private:
     bool open() const
     {
         ConfigurationWindow *window = mFixture->manager->ShowWindow("Edit");
-        // Without a window manager nobody else makes it active.
+        // On an X server without a window manager the window is not activated otherwise.
         window->activateWindow();
         return QTest::qWaitForWindowActive(window);
     }
@@ -252,17 +254,17 @@ std::map<QString, tst_Lifetimes::Step> tst_Lifetimes::dialogPlaces()
 {
     LifetimeFixture *host = mFixture.get();
     return {
-        {"question of the page",
+        {"question before restoring a page",
          [this] {
              actUnder<QMessageBox>(
                  [] { QTest::mouseClick(WindowFixture::restorePageButton(), Qt::LeftButton); });
          }},
-        {"question of all",
+        {"question before restoring all",
          [this] {
              actUnder<QMessageBox>(
                  [] { QTest::mouseClick(WindowFixture::restoreAllButton(), Qt::LeftButton); });
          }},
-        {"box of a too simple hotkey",
+        {"message box for a hotkey without modifiers",
          [this, host] {
              actUnder<QMessageBox>([host] {
                  auto *edit = host->control<KeySequenceEdit>("Key");
@@ -368,7 +370,7 @@ void tst_Lifetimes::verifyThatTheWindowWorks()
     const bool before = mFixture->otherValue;
     WindowFixture::clickBox(WindowFixture::checkBox(mFixture->other));
     QCOMPARE(mFixture->otherValue, !before);
-    // Nothing that a deleted editor left behind is still there once the window is closed.
+    // After closing the window no widget of a deleted editor is left.
     mFixture->manager->closeConfigWindow();
     QTRY_COMPARE(widgets(), QString());
 }
@@ -392,7 +394,7 @@ void tst_Lifetimes::hostMayDoAnythingAnywhere()
     mAction = action;
     QVERIFY(open());
     {
-        const LogCapture log; // keys that are gone are reported
+        const LogCapture log; // removed keys are logged
         places().at(place)();
         QVERIFY(mHasActed);
         QCoreApplication::processEvents();
@@ -401,7 +403,7 @@ void tst_Lifetimes::hostMayDoAnythingAnywhere()
     verifyThatTheWindowWorks();
 }
 
-void tst_Lifetimes::dialogOfTheHostInsideACallbackOutlivesThePage_data()
+void tst_Lifetimes::hostDialogInACallbackMayOutliveThePage_data()
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<QString>("action");
@@ -412,7 +414,7 @@ void tst_Lifetimes::dialogOfTheHostInsideACallbackOutlivesThePage_data()
     }
 }
 
-void tst_Lifetimes::dialogOfTheHostInsideACallbackOutlivesThePage()
+void tst_Lifetimes::hostDialogInACallbackMayOutliveThePage()
 {
     QFETCH(QString, place);
     QFETCH(QString, action);

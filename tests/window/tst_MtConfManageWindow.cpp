@@ -5,7 +5,7 @@
 using MtConf::ConfigurationWindow;
 using MtConf::MtConfManage;
 
-/// The manager's way to the window, and the rule that there is only one.
+/// How the manager shows and closes the window, and that there is only one.
 class tst_MtConfManageWindow : public QObject
 {
     Q_OBJECT
@@ -22,20 +22,20 @@ private Q_SLOTS:
     void minimisedWindowIsRestored();
     void emptyPageNameKeepsThePage();
     void pageNameOpensThePage();
-    void closedWindowIsMadeAnew();
-    void windowClosedAMomentAgoGivesWayToANewOne();
-    void managerTakesClosedWindowsAlongToo();
+    void closedWindowIsCreatedAgain();
+    void windowIsCreatedAgainBeforeTheClosedOneIsDeleted();
+    void destroyedManagerDeletesClosedWindowsToo();
     void closingWithoutAWindowDoesNothing();
     void stayOnTopWithoutAWindowDoesNothing();
     void stayOnTopLeavesAClosedWindowClosed();
-    void stayOnTopKeepsPlaceAndVisibility();
-    void windowOfAnotherManagerStays();
-    void managerTakesItsWindowAlong();
-    void managerLeavesTheWindowOfAnotherAlone();
-    void windowWithoutManagerIsRefused();
-    void windowOfNobodyIsEmpty();
+    void stayOnTopKeepsGeometryAndVisibility();
+    void windowOfAnotherManagerIsKept();
+    void destroyedManagerDeletesItsWindow();
+    void destroyedManagerKeepsTheWindowOfAnother();
+    void windowWithoutManagerIsNotShown();
+    void windowConstructedWithoutManagerIsEmpty();
     void hostMayDeleteTheWindow();
-    void hostMayDeleteTheWindowThatItsManagerTakesAlong();
+    void hostMayDeleteTheWindowWhileItsManagerIsDestroyed();
 
 private:
     std::unique_ptr<WindowFixture> mFixture;
@@ -76,7 +76,7 @@ void tst_MtConfManageWindow::pageNameOpensThePage()
     QCOMPARE(mFixture->captions(), QStringList("General"));
 }
 
-void tst_MtConfManageWindow::closedWindowIsMadeAnew()
+void tst_MtConfManageWindow::closedWindowIsCreatedAgain()
 {
     mFixture->open("Other");
     QVERIFY(mFixture->close());
@@ -84,7 +84,7 @@ void tst_MtConfManageWindow::closedWindowIsMadeAnew()
     QCOMPARE(mFixture->captions(), QStringList("General"));
 }
 
-void tst_MtConfManageWindow::windowClosedAMomentAgoGivesWayToANewOne()
+void tst_MtConfManageWindow::windowIsCreatedAgainBeforeTheClosedOneIsDeleted()
 {
     const QRect geometry(60, 70, 640, 480);
     const QPointer<ConfigurationWindow> old = mFixture->open();
@@ -101,7 +101,7 @@ void tst_MtConfManageWindow::windowClosedAMomentAgoGivesWayToANewOne()
     QVERIFY(!window);
 }
 
-void tst_MtConfManageWindow::managerTakesClosedWindowsAlongToo()
+void tst_MtConfManageWindow::destroyedManagerDeletesClosedWindowsToo()
 {
     const QPointer<ConfigurationWindow> old = mFixture->open();
     mFixture->manager->closeConfigWindow();
@@ -133,7 +133,7 @@ void tst_MtConfManageWindow::stayOnTopLeavesAClosedWindowClosed()
     QTRY_VERIFY(!window);
 }
 
-void tst_MtConfManageWindow::stayOnTopKeepsPlaceAndVisibility()
+void tst_MtConfManageWindow::stayOnTopKeepsGeometryAndVisibility()
 {
     ConfigurationWindow *window = mFixture->open();
     const QRect geometry = window->geometry();
@@ -147,7 +147,7 @@ void tst_MtConfManageWindow::stayOnTopKeepsPlaceAndVisibility()
     QTRY_COMPARE(window->geometry(), geometry);
 }
 
-void tst_MtConfManageWindow::windowOfAnotherManagerStays()
+void tst_MtConfManageWindow::windowOfAnotherManagerIsKept()
 {
     ConfigurationWindow *window = mFixture->open();
     MtConfManage another;
@@ -155,7 +155,7 @@ void tst_MtConfManageWindow::windowOfAnotherManagerStays()
     QCOMPARE(window->manager(), mFixture->manager.get());
 }
 
-void tst_MtConfManageWindow::managerTakesItsWindowAlong()
+void tst_MtConfManageWindow::destroyedManagerDeletesItsWindow()
 {
     mFixture->open();
     mFixture->store()->set<bool>("General.First", false);
@@ -165,7 +165,7 @@ void tst_MtConfManageWindow::managerTakesItsWindowAlong()
     QVERIFY(QFile::exists(mFixture->geometryFile()));
 }
 
-void tst_MtConfManageWindow::managerLeavesTheWindowOfAnotherAlone()
+void tst_MtConfManageWindow::destroyedManagerKeepsTheWindowOfAnother()
 {
     ConfigurationWindow *window = mFixture->open();
     {
@@ -174,14 +174,14 @@ void tst_MtConfManageWindow::managerLeavesTheWindowOfAnotherAlone()
     QCOMPARE(ConfigurationWindow::instance(), window);
 }
 
-void tst_MtConfManageWindow::windowWithoutManagerIsRefused()
+void tst_MtConfManageWindow::windowWithoutManagerIsNotShown()
 {
     const LogCapture log;
     QVERIFY(!MtConf::ShowConfigurationWindow(nullptr));
     QCOMPARE(log.texts(QtCriticalMsg), QStringList("ShowConfigurationWindow without a manager"));
 }
 
-void tst_MtConfManageWindow::windowOfNobodyIsEmpty()
+void tst_MtConfManageWindow::windowConstructedWithoutManagerIsEmpty()
 {
     const LogCapture log;
     ConfigurationWindow window(nullptr);
@@ -204,9 +204,9 @@ void tst_MtConfManageWindow::hostMayDeleteTheWindow()
     QVERIFY(mFixture->open());
 }
 
-void tst_MtConfManageWindow::hostMayDeleteTheWindowThatItsManagerTakesAlong()
+void tst_MtConfManageWindow::hostMayDeleteTheWindowWhileItsManagerIsDestroyed()
 {
-    /// Deletes what it watches as soon as that is to close.
+    /// Deletes the watched window when it receives its close event.
     class Deleter : public QObject
     {
         bool eventFilter(QObject *watched, QEvent *event) override

@@ -1,7 +1,7 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
-#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+#include "MaltoConfiguration/window/WindowGeometryFile_p.h"
 
 #include <QSettings>
 
@@ -31,21 +31,21 @@ class tst_WindowGeometryFile : public QObject
 private Q_SLOTS:
     void init() { QFile::remove(sPath); }
 
-    void missingFileHoldsNothing();
+    void missingFileHasNoGeometry();
     void savedGeometryIsRead();
-    void fileOfOtherKeysHoldsNothing();
+    void fileWithOtherKeysHasNoGeometry();
     void otherKeysAreKept();
-    void hiddenVariantIsSeen_data();
-    void hiddenVariantIsSeen();
+    void hiddenVariantIsDetected_data();
+    void hiddenVariantIsDetected();
     void ordinaryTextIsHarmless_data();
     void ordinaryTextIsHarmless();
     void dangerousFileIsUnusableAndReplaced();
-    void enormousFileIsUnusable();
+    void hugeFileIsUnusable();
     void pipesAndDevicesAreLeftAlone_data();
     void pipesAndDevicesAreLeftAlone();
 };
 
-void tst_WindowGeometryFile::missingFileHoldsNothing()
+void tst_WindowGeometryFile::missingFileHasNoGeometry()
 {
     const LogCapture log;
     QVERIFY(!WindowGeometryFile(sPath).read().found);
@@ -62,7 +62,7 @@ void tst_WindowGeometryFile::savedGeometryIsRead()
     QCOMPARE(saved.geometry, QRect(576, 290, 1067, 694));
 }
 
-void tst_WindowGeometryFile::fileOfOtherKeysHoldsNothing()
+void tst_WindowGeometryFile::fileWithOtherKeysHasNoGeometry()
 {
     writeFile("[General]\nWidth=5\n[Other]\nGeometry=@Rect(1 2 3 4)\n");
     QVERIFY(!WindowGeometryFile(sPath).read().found);
@@ -77,28 +77,28 @@ void tst_WindowGeometryFile::otherKeysAreKept()
     QCOMPARE(settings.value("Geometry").toRect(), QRect(1, 2, 3, 4));
 }
 
-void tst_WindowGeometryFile::hiddenVariantIsSeen_data()
+void tst_WindowGeometryFile::hiddenVariantIsDetected_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("plain") << QByteArray("x=@Variant(1)");
     QTest::newRow("date") << QByteArray("x=@DateTime(1)");
     QTest::newRow("quoted") << QByteArray("x=\"@Variant(1)\"");
     QTest::newRow("quote inside") << QByteArray("x=@\"Variant(1)\"");
-    QTest::newRow("hexadecimal sign") << QByteArray("x=\\x40Variant(1)");
-    QTest::newRow("hexadecimal sign with leading digits") << QByteArray("x=\\x10040Variant(1)");
-    QTest::newRow("octal sign") << QByteArray("x=\\100Variant(1)");
-    QTest::newRow("blanks behind a quote") << QByteArray("x=\"@\"  Variant(1)");
+    QTest::newRow("hexadecimal @") << QByteArray("x=\\x40Variant(1)");
+    QTest::newRow("hexadecimal @ with leading digits") << QByteArray("x=\\x10040Variant(1)");
+    QTest::newRow("octal @") << QByteArray("x=\\100Variant(1)");
+    QTest::newRow("blanks after a quote") << QByteArray("x=\"@\"  Variant(1)");
     QTest::newRow("octal letter") << QByteArray("x=@\\126ariant(1)");
     QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56\"ariant(1)\"");
     QTest::newRow("unknown escape") << QByteArray("x=@\\zVariant(1)");
     QTest::newRow("continued line of another system") << QByteArray("x=@\\\r\nVariant(1)");
     QTest::newRow("continued line") << QByteArray("x=@\\\nVariant(1)");
-    QTest::newRow("behind a zero byte") << QByteArray("\0x=@Variant(1)", 14);
-    QTest::newRow("far behind the sign") << "x=@" + QByteArray(60000, '"') + "Variant(1)";
+    QTest::newRow("after a zero byte") << QByteArray("\0x=@Variant(1)", 14);
+    QTest::newRow("far after the @") << "x=@" + QByteArray(60000, '"') + "Variant(1)";
     QTest::newRow("in a list") << QByteArray("x=a, @Variant(1)");
 }
 
-void tst_WindowGeometryFile::hiddenVariantIsSeen()
+void tst_WindowGeometryFile::hiddenVariantIsDetected()
 {
     QFETCH(QByteArray, text);
     QVERIFY(!WindowGeometryFile::isHarmless(text));
@@ -110,12 +110,12 @@ void tst_WindowGeometryFile::ordinaryTextIsHarmless_data()
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("rectangle") << QByteArray("[General]\nGeometry=@Rect(1 2 3 4)\n");
     QTest::newRow("address") << QByteArray("x=me@example.org\n");
-    QTest::newRow("letter of another script behind the sign") << QByteArray("x=me@\\xe9\\x63ole\n");
-    QTest::newRow("escaped character behind the sign") << QByteArray("x=@\\bV\n");
-    QTest::newRow("letter of a far script behind the sign") << QByteArray("x=@\\x144\\x5644\n");
+    QTest::newRow("Latin-1 letter after the @") << QByteArray("x=me@\\xe9\\x63ole\n");
+    QTest::newRow("escaped character after the @") << QByteArray("x=@\\bV\n");
+    QTest::newRow("letter beyond Latin-1 after the @") << QByteArray("x=@\\x144\\x5644\n");
     QTest::newRow("letter on the next line") << QByteArray("x=me@\nVersion=1\n");
-    QTest::newRow("bytes") << QByteArray("x=@ByteArray(\\0\\xff)\n");
-    QTest::newRow("sign at the beginning of a text") << QByteArray("x=@@home\n");
+    QTest::newRow("byte array") << QByteArray("x=@ByteArray(\\0\\xff)\n");
+    QTest::newRow("@ at the start of a text") << QByteArray("x=@@home\n");
 }
 
 void tst_WindowGeometryFile::ordinaryTextIsHarmless()
@@ -140,7 +140,7 @@ void tst_WindowGeometryFile::dangerousFileIsUnusableAndReplaced()
     QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
 }
 
-void tst_WindowGeometryFile::enormousFileIsUnusable()
+void tst_WindowGeometryFile::hugeFileIsUnusable()
 {
     QFile file(sPath);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));

@@ -6,8 +6,7 @@
 #include <QCoreApplication>
 #include <QtTest>
 
-/// A host that declares its settings in a program without a window system: a service, or a tool on
-/// the command line.
+/// A host without a window system that declares settings: a service or a command-line tool.
 class tst_WithoutApplication : public QObject
 {
     Q_OBJECT

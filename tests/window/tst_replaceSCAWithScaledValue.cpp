@@ -18,8 +18,9 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
     QTest::newRow("one macro") << "width: SCA(10)px" << 1.5f << "width: 15px";
     QTest::newRow("second macro inside the replaced span stays")
         << "SCA(4) SCA(8)" << 2.0f << "8 SCA(8)";
-    // "SCA(4)" fills six characters; after its replacement by one the search goes on at the sixth.
-    QTest::newRow("second macro behind the replaced span is replaced")
+    // "SCA(4)" has six characters. After its replacement by one character the search continues at
+    // the sixth.
+    QTest::newRow("second macro after the replaced span is replaced")
         << "SCA(4)-----SCA(8)" << 2.0f << "8-----16";
     QTest::newRow("one character less is inside") << "SCA(4)----SCA(8)" << 2.0f << "8----SCA(8)";
     QTest::newRow("half is rounded up") << "SCA(1)" << 2.5f << "3";
@@ -37,8 +38,8 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
     QTest::newRow("behind half a surrogate pair")
         << QString(QChar(0xd800)) + "SCA(4)" << 2.0f << QString(QChar(0xd800)) + "8";
     QTest::newRow("nested") << "SCA(SCA(1))" << 2.0f << "SCA(2)";
-    QTest::newRow("product beyond an int counts as none") << "SCA(2147483647)" << 4.0f << "0";
-    QTest::newRow("digits beyond an int count as none") << "SCA(99999999999)" << 2.0f << "0";
+    QTest::newRow("product beyond int counts as 0") << "SCA(2147483647)" << 4.0f << "0";
+    QTest::newRow("digits beyond int count as 0") << "SCA(99999999999)" << 2.0f << "0";
 }
 
 void tst_replaceSCAWithScaledValue::macrosAreReplaced()
