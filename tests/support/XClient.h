@@ -4,8 +4,8 @@
 
 #include <QVector>
 
-/// Another program on the X server: it types on the keyboard, and takes keys for itself. Everything
-/// has reached the server when a function returns.
+/// Another client of the X server: it presses keys and grabs them. Every function returns after
+/// the server has processed its requests.
 class XClient
 {
 public:
@@ -13,41 +13,42 @@ public:
     ~XClient();
     Q_DISABLE_COPY(XClient)
 
-    /// The keysym of the locking key that `setLock` presses.
-    static constexpr xcb_keysym_t capsLock = 0xffe5;
-    static constexpr xcb_keysym_t numLock = 0xff7f;
+    /// Keysyms of the lock keys that `setLock` presses.
+    static constexpr xcb_keysym_t sCapsLock = 0xffe5;
+    static constexpr xcb_keysym_t sNumLock = 0xff7f;
 
-    /// The first key with this keysym on it, 0 when there is none.
+    /// Returns the first key with keysym `symbol`, or 0 if there is none.
     xcb_keycode_t keyOf(xcb_keysym_t symbol) const;
-    /// Presses the keys in their order, then releases them in the opposite order.
+    /// Presses the keys in this order, then releases them in reverse order.
     void type(const QVector<xcb_keysym_t> &symbols);
     /// Presses or releases one key.
     void send(xcb_keycode_t key, bool press);
-    /// Turns a locking key on or off: presses it when the modifier bits `mask` are not so yet.
+    /// Turns a lock key on or off: presses it if the modifier bits `mask` are not yet in that
+    /// state.
     void setLock(xcb_keysym_t symbol, quint16 mask, bool on);
-    /// The modifiers in force.
+    /// Returns the modifiers that are currently active.
     quint16 modifiers() const;
 
-    /// Takes a key on the root window; false when another client has it.
+    /// Grabs a key on the root window; returns false if another client has grabbed it.
     bool grab(xcb_keycode_t key, quint16 modifiers);
-    /// Gives it back.
+    /// Releases the grab.
     void ungrab(xcb_keycode_t key, quint16 modifiers);
 
-    /// Whether this client could take a key; it does not keep it.
+    /// Returns whether this client could grab the key. Does not keep the grab.
     bool canGrab(xcb_keycode_t key, quint16 modifiers);
 
-    /// Shows a window and gives it the keyboard.
+    /// Shows a window and gives it the keyboard focus.
     void takeFocus();
 
-    /// The keysyms on a key, in the server's order.
+    /// Returns the keysyms of a key, in the server's order.
     QVector<xcb_keysym_t> symbolsOf(xcb_keycode_t key) const;
-    /// Replaces the keysyms on a key.
+    /// Replaces the keysyms of a key.
     void setSymbols(xcb_keycode_t key, const QVector<xcb_keysym_t> &symbols);
-    /// A key without keysyms.
+    /// Returns a key without keysyms.
     xcb_keycode_t emptyKey() const;
-    /// The keys of each of the eight modifiers, the same number for each, 0 for none.
+    /// Returns the keys of the eight modifiers, the same number for each; unused places are 0.
     QVector<xcb_keycode_t> modifierMap() const;
-    /// Replaces it; false when the server refuses.
+    /// Replaces the modifier map; returns false if the server rejects it.
     bool setModifierMap(const QVector<xcb_keycode_t> &map);
 
 private:

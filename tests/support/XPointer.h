@@ -7,8 +7,8 @@
 
 #include <cstdlib>
 
-/// The mouse of the X server, moved and pressed from another client: what the server makes of it
-/// (the windows hit, grabs, entering and leaving) reaches the program as it does from a hand.
+/// The mouse of the X server, controlled by another client. The server finds the window under the
+/// pointer and handles grabs, enter and leave events as it does for a real mouse.
 class XPointer
 {
 public:
@@ -21,12 +21,12 @@ public:
     ~XPointer() { xcb_disconnect(mConnection); }
     Q_DISABLE_COPY(XPointer)
 
-    /// Moves to `global`, in pixels of the screen.
+    /// Moves the pointer to `global`, in screen pixels.
     void moveTo(const QPoint &global) const { send(XCB_MOTION_NOTIFY, 0, global); }
-    /// Presses the left button where the pointer is.
-    void press() const { send(XCB_BUTTON_PRESS, leftButton); }
-    /// Releases it.
-    void release() const { send(XCB_BUTTON_RELEASE, leftButton); }
+    /// Presses the left button at the current position.
+    void press() const { send(XCB_BUTTON_PRESS, sLeftButton); }
+    /// Releases the left button.
+    void release() const { send(XCB_BUTTON_RELEASE, sLeftButton); }
     /// Moves, presses and releases.
     void click(const QPoint &global) const
     {
@@ -36,10 +36,10 @@ public:
     }
 
 private:
-    static constexpr uint8_t leftButton = 1;
+    static constexpr uint8_t sLeftButton = 1;
 
-    /// The events have reached the server when this returns, and the program when it has run its
-    /// event loop.
+    /// Returns after the server has processed the event. The program receives it the next time it
+    /// runs its event loop.
     void send(uint8_t type, uint8_t detail, const QPoint &global = QPoint()) const
     {
         xcb_test_fake_input(mConnection, type, detail, XCB_CURRENT_TIME, mRoot,

@@ -12,8 +12,8 @@
 
 using Labels = QList<const char *>;
 
-/// Makes combo-box editors of two items, "Capture.Mode" bound to `mInt` and "Capture.Name" bound to
-/// `mString`, and clicks in their lists.
+/// Creates combo box editors for two items, "Capture.Mode" bound to `mInt` and "Capture.Name" bound
+/// to `mString`, and clicks in their lists.
 class ComboboxFixture
 {
 protected:
@@ -33,7 +33,7 @@ protected:
     {
         return mFixture->manager.addConfQString("Name", &mString, "Capture", "Name");
     }
-    /// Makes the editor of `item`, with a list to check in when `multi`.
+    /// Creates the editor of `item`; with `multi` its list has check boxes.
     MtConf::ConfWidgetCombobox *edit(MtConf::ConfItem *item, bool multi = false)
     {
         item->widgetCreator = MtConf::ConfWidgetCombobox::CreatConfWidget;
@@ -63,7 +63,7 @@ protected:
         QTest::mouseClick(checkBox(index), Qt::LeftButton, {},
                           QPoint(8, checkBox(index)->height() / 2));
     }
-    /// Opens the list and clicks on a row, away from its check box.
+    /// Opens the list and clicks a row, not its check box.
     void clickRow(int index) const
     {
         QVERIFY(mFixture->show());

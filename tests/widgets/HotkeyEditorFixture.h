@@ -11,13 +11,13 @@
 
 #include <memory>
 
-/// What the state button says of a hotkey that could not be registered.
+/// Returns the tool tip of the state button for a hotkey that could not be registered.
 inline QString failedToolTip()
 {
     return QStringLiteral("Setup failed, the hotkey may be occupied. Click to try setup again.");
 }
 
-/// Two chords, which no system registers.
+/// Returns a sequence of two chords, which no platform can register.
 inline QKeySequence neverValid()
 {
     return QKeySequence(QStringLiteral("Ctrl+K, Ctrl+L"));
@@ -27,7 +27,7 @@ inline QKeySequence neverValid()
 class HotkeyEditorFixture : public QObject
 {
 protected:
-    /// Starts anew, without an item.
+    /// Resets the fixture; there is no item yet.
     void reset()
     {
         mFixture = std::make_unique<EditorFixture>();

@@ -12,7 +12,7 @@
 #include <functional>
 #include <memory>
 
-/// Runs an action on every message box once it is open.
+/// Calls a function with every message box when it is shown.
 class BoxWatcher : public QObject
 {
 public:
@@ -41,26 +41,26 @@ inline void clickOk(QMessageBox *box)
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
 }
 
-/// Releases one key while `held` are still held. The system counts a modifier key that is released
-/// among these; QTest releases it twice.
+/// Releases one key while the modifiers `held` are pressed. A window system reports a modifier key
+/// that is released as still held. QTest would send two release events for it.
 inline void releaseKey(QWidget *widget, int key, Qt::KeyboardModifiers held = Qt::NoModifier)
 {
     QKeyEvent release(QEvent::KeyRelease, key, held);
     QCoreApplication::sendEvent(widget, &release);
 }
 
-/// A test object with one field, in a window between two other line edits.
+/// A test object with one KeySequenceEdit, between two other line edits in a window.
 class KeySequenceEditFixture : public QObject
 {
 protected:
-    /// Starts anew, without a field.
+    /// Resets the fixture; there is no field yet.
     void reset()
     {
         mParent = std::make_unique<QWidget>();
         mField = nullptr;
     }
 
-    /// Makes the only field of the test and gives it the focus.
+    /// Creates the field and gives it the focus.
     KeySequenceEdit *field(const QKeySequence &sequence = QKeySequence())
     {
         auto *layout = new QVBoxLayout(mParent.get());

@@ -4,7 +4,8 @@
 
 #include <QtTest>
 
-/// The translation files of one test, where the language editor looks for them while this lives.
+/// The folder with the translation files of one test. The language editor searches it during the
+/// lifetime of this object.
 class LanguageFolder
 {
 public:
@@ -18,7 +19,7 @@ public:
         ConfWidgetLanguage::sLanguageQtPath = base + "/language_qt/";
         ConfWidgetLanguage::mSupportLangCodes.clear();
     }
-    /// Removes the translators too: they are the process's.
+    /// Removes the translators too: they belong to the process.
     ~LanguageFolder()
     {
         MtConf::ConfWidgetLanguage::mSupportLangCodes = QStringList{"auto", "en-us"};
@@ -26,7 +27,8 @@ public:
     }
     Q_DISABLE_COPY(LanguageFolder)
 
-    /// Empty files: only their names count until they are loaded. A name may lead into a folder.
+    /// Adds empty files: only their names matter until they are loaded. A name may contain a
+    /// folder.
     void addFiles(const QStringList &names) const
     {
         for (const QString &name : names) {
@@ -34,12 +36,13 @@ public:
             QVERIFY(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly));
         }
     }
-    /// A file with translations, made by the build.
+    /// Adds a file with translations that the build has compiled.
     void addCatalogue(const QString &name) const
     {
         copyCatalogue(name, (name.startsWith("qt_") ? "language_qt/" : "language/") + name);
     }
-    /// A file with translations under another name; `path` leads from the parent of the folders.
+    /// Adds a file with translations under another name; `path` is relative to the parent of the
+    /// language folders.
     void copyCatalogue(const QString &name, const QString &path) const
     {
         const QString target = mFolder.filePath(path);
@@ -47,9 +50,9 @@ public:
         QFile::remove(target);
         QVERIFY(QFile::copy(QDir(MALTO_TEST_CATALOGUES).filePath(name), target));
     }
-    /// The path of a file in the application's folder.
+    /// Returns the path of a file in the folder for the application's translations.
     QString filePath(const QString &name) const { return mFolder.filePath("language/" + name); }
-    /// French for the application and Qt, German for the application alone.
+    /// Adds French for the application and Qt, and German for the application only.
     void addFrenchAndGerman() const
     {
         addCatalogue("fr-fr.qm");

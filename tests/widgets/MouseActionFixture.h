@@ -22,7 +22,7 @@ protected:
     static constexpr int sAlt = 0x08000000;
     static constexpr int sMeta = 0x10000000;
 
-    /// One item, its variable, its editor, and the controls of that.
+    /// One item with its variable, its editor and the editor's controls.
     struct Gesture
     {
         int value = 0;
@@ -33,7 +33,7 @@ protected:
         QPointer<QLabel> state;
     };
 
-    /// Starts anew, without a gesture.
+    /// Resets the fixture; there is no gesture yet.
     void reset()
     {
         mFixture = std::make_unique<EditorFixture>();
@@ -67,14 +67,14 @@ protected:
         return gesture;
     }
 
-    /// Makes the controls show `value`.
+    /// Sets the controls to show `value`.
     static void show(Gesture *gesture, int value)
     {
         for (int row = 0; row < 4; ++row)
             gesture->modifiers->setItemChecked(row, value & (sShift << row));
         gesture->actions->setCurrentIndex(gesture->actions->findData(value & 0xffff));
     }
-    /// Clicks the modifier in the open list.
+    /// Opens the list of modifiers and clicks a row.
     static void clickModifier(const Gesture *gesture, int row)
     {
         gesture->modifiers->showPopup();

@@ -11,12 +11,12 @@
 
 #include <memory>
 
-/// A box and another field in a window. Clicks go to the window under the cursor, which is placed
-/// there first, so that they take the way of real ones through the open list.
+/// A MultiSelectComboBox and another field in a window. A click moves the cursor first and then
+/// goes to the window under it, so that the open list receives it as it receives real clicks.
 class MultiSelectFixture
 {
 protected:
-    /// Shows the window; false if it does not become the active one.
+    /// Shows the window; returns false if it does not become the active window.
     bool open()
     {
         mWindow = std::make_unique<QWidget>();
@@ -73,7 +73,7 @@ protected:
         QTRY_COMPARE(QCursor::pos(), global);
         QWindow *window = windowAt(global);
         QTest::mouseMove(window, window->mapFromGlobal(global));
-        // A real server tells of the new place a little later.
+        // A real X server reports the new position a little later.
         QCoreApplication::processEvents();
     }
     void press(const QPoint &global) const
@@ -99,7 +99,8 @@ protected:
         QVERIFY(QTest::qWaitForWindowExposed(mBox->view()->window()));
     }
 
-    /// Within one millisecond the rule cannot tell a list just hidden from one never hidden.
+    /// Waits until the time of hiding differs from the current time: within the same millisecond
+    /// the box cannot distinguish a list that was just hidden from one that was never hidden.
     static void awaitNextMillisecond()
     {
         const QDateTime now = QDateTime::currentDateTimeUtc();

@@ -20,7 +20,7 @@ const QString sText = QStringLiteral("HHH");
 
 } // namespace
 
-/// How combo boxes look under the built-in style sheets, beside the other fields of a page.
+/// How combo boxes look with the built-in style sheets, next to the other fields of a page.
 class tst_ComboBoxAppearance : public QObject
 {
     Q_OBJECT
@@ -34,15 +34,15 @@ private Q_SLOTS:
 
     void textsBeginAtTheSamePlace_data();
     void textsBeginAtTheSamePlace();
-    void checkBoxesAreAsLargeAsTheClosedText_data() { textsBeginAtTheSamePlace_data(); }
-    void checkBoxesAreAsLargeAsTheClosedText();
-    void rowsHaveThePanelsColours_data() { textsBeginAtTheSamePlace_data(); }
-    void rowsHaveThePanelsColours();
-    void longestTextFitsAtTheSmallestWidth_data() { textsBeginAtTheSamePlace_data(); }
-    void longestTextFitsAtTheSmallestWidth();
-    void placeholderIsFainterThanAText_data();
-    void placeholderIsFainterThanAText();
-    void placeholderColourOfTheHostStays();
+    void textOfCheckBoxesHasTheSizeOfTheClosedText_data() { textsBeginAtTheSamePlace_data(); }
+    void textOfCheckBoxesHasTheSizeOfTheClosedText();
+    void rowsHaveTheColoursOfThePanel_data() { textsBeginAtTheSamePlace_data(); }
+    void rowsHaveTheColoursOfThePanel();
+    void longestTextFitsIntoTheMinimumWidth_data() { textsBeginAtTheSamePlace_data(); }
+    void longestTextFitsIntoTheMinimumWidth();
+    void placeholderIsFainterThanText_data();
+    void placeholderIsFainterThanText();
+    void placeholderColourOfTheHostIsKept();
 
 private:
     static void applySheets(QWidget *widget, QThemeCtrl::Theme theme, double scale)
@@ -81,7 +81,7 @@ void tst_ComboBoxAppearance::init()
         layout->addWidget(field);
 }
 
-/// Applies the theme, scale and direction of the test's row, and shows the window.
+/// Applies the theme, scale and layout direction of the current row, and shows the window.
 void tst_ComboBoxAppearance::applyRow()
 {
     QFETCH(bool, dark);
@@ -94,7 +94,8 @@ void tst_ComboBoxAppearance::applyRow()
     QVERIFY(QTest::qWaitForWindowExposed(mWindow.get()));
 }
 
-/// How far from the side where lines begin the first letter of `field` is painted, in pixels.
+/// Returns the distance in pixels between the first painted letter of `field` and the edge where
+/// lines begin: the left edge, or the right edge in a right-to-left layout.
 int tst_ComboBoxAppearance::textEdge(QWidget *field) const
 {
     const QImage image = mWindow->grab(field->geometry()).toImage();
@@ -143,7 +144,7 @@ void tst_ComboBoxAppearance::textsBeginAtTheSamePlace()
         return qAbs(other - edge) <= slack;
     };
     if (mWindow->isRightToLeft()) {
-        // A line edit keeps room for the cursor behind its text; others follow their text.
+        // A line edit reserves room for the cursor after its text; the other fields do not.
         QVERIFY(besideEdge(mMulti, 2));
         return;
     }
@@ -152,7 +153,7 @@ void tst_ComboBoxAppearance::textsBeginAtTheSamePlace()
         QVERIFY(besideEdge(field, 1));
 }
 
-void tst_ComboBoxAppearance::checkBoxesAreAsLargeAsTheClosedText()
+void tst_ComboBoxAppearance::textOfCheckBoxesHasTheSizeOfTheClosedText()
 {
     auto *group = new QGroupBox(mWindow.get());
     group->setObjectName("ConfigGroupBox");
@@ -171,13 +172,13 @@ void tst_ComboBoxAppearance::checkBoxesAreAsLargeAsTheClosedText()
         QCOMPARE(box->lineEdit()->font().pointSize(), 14);
         if (height == 0)
             height = row->height();
-        // Check boxes that stand without a panel on a page are higher, those in a list are not.
+        // The sheet makes check boxes of a page without panels higher, but not those of a list.
         QCOMPARE(row->height(), height);
         box->view()->window()->hide();
     }
 }
 
-void tst_ComboBoxAppearance::rowsHaveThePanelsColours()
+void tst_ComboBoxAppearance::rowsHaveTheColoursOfThePanel()
 {
     applyRow();
     const QThemeCtrl *theme = QThemeCtrl::instance();
@@ -186,7 +187,7 @@ void tst_ComboBoxAppearance::rowsHaveThePanelsColours()
         QVERIFY(openList(box));
         box->view()->setCurrentIndex(box->model()->index(0, 0));
         const QImage list = box->view()->window()->grab().toImage();
-        // Down the middle: the frame, the chosen row, the other one, the frame, and nothing else.
+        // The middle column has only the colours of the frame, the current row and the other row.
         const QColor chosen = theme->color(box == mPlain ? "ColorMain" : "ColorBg2");
         const QList<QColor> allowed{theme->color("ColorBg3Border"), chosen, panel};
         for (int y = 0; y < list.height(); ++y) {
@@ -198,7 +199,7 @@ void tst_ComboBoxAppearance::rowsHaveThePanelsColours()
     }
 }
 
-void tst_ComboBoxAppearance::longestTextFitsAtTheSmallestWidth()
+void tst_ComboBoxAppearance::longestTextFitsIntoTheMinimumWidth()
 {
     applyRow();
     const auto room = [](QComboBox *box) {
@@ -214,19 +215,19 @@ void tst_ComboBoxAppearance::longestTextFitsAtTheSmallestWidth()
     QVERIFY(room(mMulti) >= mMulti->fontMetrics().horizontalAdvance(sText));
 }
 
-void tst_ComboBoxAppearance::placeholderIsFainterThanAText_data()
+void tst_ComboBoxAppearance::placeholderIsFainterThanText_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::newRow("enabled") << true;
     QTest::newRow("disabled") << false;
 }
 
-void tst_ComboBoxAppearance::placeholderIsFainterThanAText()
+void tst_ComboBoxAppearance::placeholderIsFainterThanText()
 {
     QFETCH(bool, enabled);
     auto *keys = new KeySequenceEdit(QKeySequence(), mWindow.get());
     mWindow->setEnabled(enabled);
-    // One after the other: each takes the place of the one before.
+    // Each theme replaces the colours of the one before.
     for (const auto theme :
          {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark, QThemeCtrl::Theme::Light}) {
         applySheets(mWindow.get(), theme, 1);
@@ -242,7 +243,7 @@ void tst_ComboBoxAppearance::placeholderIsFainterThanAText()
     }
 }
 
-void tst_ComboBoxAppearance::placeholderColourOfTheHostStays()
+void tst_ComboBoxAppearance::placeholderColourOfTheHostIsKept()
 {
     QPalette palette = mMulti->lineEdit()->palette();
     palette.setColor(QPalette::PlaceholderText, Qt::red);

@@ -25,12 +25,12 @@ private Q_SLOTS:
     void cleanup() { mFixture.reset(); }
 
     void checkBoxIsItsOwnCaption();
-    void checkBoxFillsAnEditorWhoseCaptionNobodyMoves();
-    void clickWritesAndMarks();
+    void checkBoxFillsAnEditorOutsideThePage();
+    void clickWritesTheValueAndMarksTheCaption();
     void spaceKeyWritesToo();
     void clickOnTheStoredValueWritesNothing();
     void loadConfShowsTheStoredValue();
-    void callbackMayRefuseTheChange();
+    void callbackMayRevertTheChange();
     void callbackMayDeleteTheEditor();
 
 private:
@@ -54,7 +54,7 @@ void tst_ConfDefWidgetBool::checkBoxIsItsOwnCaption()
     QCOMPARE(mEditor->layout()->spacing(), 0);
 }
 
-void tst_ConfDefWidgetBool::checkBoxFillsAnEditorWhoseCaptionNobodyMoves()
+void tst_ConfDefWidgetBool::checkBoxFillsAnEditorOutsideThePage()
 {
     ConfDefWidgetBool editor(mItem, nullptr);
     editor.resize(300, 50);
@@ -64,7 +64,7 @@ void tst_ConfDefWidgetBool::checkBoxFillsAnEditorWhoseCaptionNobodyMoves()
     QCOMPARE(box.width(), 300);
 }
 
-void tst_ConfDefWidgetBool::clickWritesAndMarks()
+void tst_ConfDefWidgetBool::clickWritesTheValueAndMarksTheCaption()
 {
     click();
     QVERIFY(!mValue);
@@ -85,7 +85,7 @@ void tst_ConfDefWidgetBool::clickOnTheStoredValueWritesNothing()
 {
     mFixture->store()->set<bool>("Capture.Grid", false);
     mFixture->store()->mChanged = false;
-    click(); // shows false now, as the store has it
+    click(); // now shows false, which is the stored value
     QVERIFY(!mBox->isChecked());
     QVERIFY(!mFixture->store()->mChanged);
     QCOMPARE(changedMark(mEditor), QString("0"));
@@ -99,7 +99,7 @@ void tst_ConfDefWidgetBool::loadConfShowsTheStoredValue()
     QCOMPARE(changedMark(mEditor), QString("1"));
 }
 
-void tst_ConfDefWidgetBool::callbackMayRefuseTheChange()
+void tst_ConfDefWidgetBool::callbackMayRevertTheChange()
 {
     mItem->setConfChangedCallback([this](const QString &key, const ConfValue *value) {
         if (!value->get<bool>())

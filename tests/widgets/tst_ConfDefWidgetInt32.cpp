@@ -25,11 +25,11 @@ private Q_SLOTS:
 
     void rangeFollowsTheProperties_data();
     void rangeFollowsTheProperties();
-    void layoutIsPlain();
-    void typingWritesEachChange();
+    void layoutHasNoMargins();
+    void typingWritesEveryChange();
     void arrowKeysWrite();
-    void loadConfLeavesTheCaptionAlone();
-    void valueOutsideTheRangeIsBroughtIntoIt();
+    void loadConfDoesNotChangeTheCaption();
+    void valueOutsideTheRangeIsClamped();
     void callbackMayDeleteTheEditorOfAShownPage();
 
 private:
@@ -51,20 +51,20 @@ void tst_ConfDefWidgetInt32::rangeFollowsTheProperties_data()
     QTest::addColumn<QVariant>("maximum");
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
-    QTest::addColumn<int>("points"); // of the width, a 72nd of an inch each
+    QTest::addColumn<int>("points"); // width in points (1/72 inch)
     const QVariant none;
     QTest::newRow("none") << none << none << 0 << 99 << 84;
     QTest::newRow("both") << QVariant(10) << QVariant(100) << 10 << 100 << 96;
     QTest::newRow("only a maximum") << none << QVariant(1000) << 0 << 1000 << 108;
     QTest::newRow("minimum above the maximum of a spin box raises it")
         << QVariant(500) << none << 500 << 500 << 96;
-    QTest::newRow("minus sign counts") << QVariant(-50) << QVariant(-10) << -50 << -10 << 96;
+    QTest::newRow("minus sign takes room") << QVariant(-50) << QVariant(-10) << -50 << -10 << 96;
     QTest::newRow("texts are converted") << QVariant("2") << QVariant("8") << 2 << 8 << 72;
     QTest::newRow("whole range") << QVariant(std::numeric_limits<int>::min())
                                  << QVariant(std::numeric_limits<int>::max())
                                  << std::numeric_limits<int>::min()
                                  << std::numeric_limits<int>::max() << 180;
-    QTest::newRow("no number") << QVariant("x") << QVariant("y") << 0 << 0 << 72;
+    QTest::newRow("not numbers") << QVariant("x") << QVariant("y") << 0 << 0 << 72;
 }
 
 void tst_ConfDefWidgetInt32::rangeFollowsTheProperties()
@@ -79,12 +79,12 @@ void tst_ConfDefWidgetInt32::rangeFollowsTheProperties()
     const QSpinBox *box = edit();
     QTEST(box->minimum(), "from");
     QTEST(box->maximum(), "to");
-    // The offscreen screen and the X server of the tests have 96 dots per inch.
+    // The offscreen platform and the X server of the tests have 96 dots per inch.
     QCOMPARE(box->minimumWidth(), points * 4 / 3);
     QCOMPARE(box->maximumWidth(), points * 4 / 3);
 }
 
-void tst_ConfDefWidgetInt32::layoutIsPlain()
+void tst_ConfDefWidgetInt32::layoutHasNoMargins()
 {
     const QSpinBox *box = edit();
     QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
@@ -94,7 +94,7 @@ void tst_ConfDefWidgetInt32::layoutIsPlain()
     QCOMPARE(box->value(), 5);
 }
 
-void tst_ConfDefWidgetInt32::typingWritesEachChange()
+void tst_ConfDefWidgetInt32::typingWritesEveryChange()
 {
     QSpinBox *box = edit();
     QVERIFY(mFixture->show());
@@ -121,7 +121,7 @@ void tst_ConfDefWidgetInt32::arrowKeysWrite()
     QCOMPARE(mValue, 4);
 }
 
-void tst_ConfDefWidgetInt32::loadConfLeavesTheCaptionAlone()
+void tst_ConfDefWidgetInt32::loadConfDoesNotChangeTheCaption()
 {
     const QSpinBox *box = edit();
     mFixture->store()->set<int>("Capture.Delay", 8);
@@ -130,7 +130,7 @@ void tst_ConfDefWidgetInt32::loadConfLeavesTheCaptionAlone()
     QCOMPARE(changedMark(mEditor), QString("0"));
 }
 
-void tst_ConfDefWidgetInt32::valueOutsideTheRangeIsBroughtIntoIt()
+void tst_ConfDefWidgetInt32::valueOutsideTheRangeIsClamped()
 {
     mValue = 5000;
     QCOMPARE(edit()->value(), 99);

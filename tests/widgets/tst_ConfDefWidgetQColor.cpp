@@ -28,13 +28,13 @@ private Q_SLOTS:
     void buttonShowsTheStoredColour();
     void pickedColourIsWrittenAndMarked();
     void sameColourWritesNothing();
-    void invalidColourIsAColourToo();
+    void invalidColourIsShownAndStoredToo();
     void cancelledDialogWritesNothing();
-    void pageMayGoWhileTheDialogIsOpen();
+    void editorMayBeDeletedWhileTheDialogIsOpen();
     void callbackMayDeleteTheEditor();
 
 private:
-    /// Runs `action` on the colour dialog as soon as it is open, and clicks the button to open it.
+    /// Clicks the button and calls `action` with the colour dialog when it is open.
     template<class Action> void clickAndThen(Action action)
     {
         QTimer::singleShot(0, this, [this, action] { whenDialogIsOpen(action); });
@@ -79,7 +79,7 @@ void tst_ConfDefWidgetQColor::sameColourWritesNothing()
     QVERIFY(!mFixture->store()->mChanged);
 }
 
-void tst_ConfDefWidgetQColor::invalidColourIsAColourToo()
+void tst_ConfDefWidgetQColor::invalidColourIsShownAndStoredToo()
 {
     mEditor->setColor(QColor());
     QVERIFY(!mValue.isValid());
@@ -98,7 +98,7 @@ void tst_ConfDefWidgetQColor::cancelledDialogWritesNothing()
     QVERIFY(!mFixture->store()->mChanged);
 }
 
-void tst_ConfDefWidgetQColor::pageMayGoWhileTheDialogIsOpen()
+void tst_ConfDefWidgetQColor::editorMayBeDeletedWhileTheDialogIsOpen()
 {
     clickAndThen([this](QColorDialog *) { delete mEditor; });
     QTRY_VERIFY(!mItem->editor);

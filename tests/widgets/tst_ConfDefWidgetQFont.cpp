@@ -24,14 +24,14 @@ private Q_SLOTS:
     }
     void cleanup() { mFixture.reset(); }
 
-    void buttonNamesTheFont();
+    void buttonShowsFamilyAndSize();
     void fontInPointsShowsNoPixels();
     void dialogShowsPixelsAsPoints();
-    void chosenSizeIsTakenAsPixels();
+    void chosenSizeIsStoredInPixels();
     void unchangedFontWritesNothing();
     void cancelledDialogWritesNothing_data();
     void cancelledDialogWritesNothing();
-    void pageMayGoWhileTheDialogIsOpen();
+    void editorMayBeDeletedWhileTheDialogIsOpen();
     void callbackMayDeleteTheEditor();
 
 private:
@@ -41,7 +41,7 @@ private:
         mButton = mEditor->findChild<QPushButton *>();
         QVERIFY(mFixture->show());
     }
-    /// Clicks the button and runs `action` on the font dialog, which is modal, once it is open.
+    /// Clicks the button and calls `action` with the modal font dialog when it is open.
     template<class Action> void clickAndThen(Action action)
     {
         bool done = false;
@@ -66,7 +66,7 @@ private:
     QFont mValue;
 };
 
-void tst_ConfDefWidgetQFont::buttonNamesTheFont()
+void tst_ConfDefWidgetQFont::buttonShowsFamilyAndSize()
 {
     edit();
     QCOMPARE(mButton->text(), QString("Sans, 16"));
@@ -97,7 +97,7 @@ void tst_ConfDefWidgetQFont::dialogShowsPixelsAsPoints()
     QCOMPARE(points, 16.0);
 }
 
-void tst_ConfDefWidgetQFont::chosenSizeIsTakenAsPixels()
+void tst_ConfDefWidgetQFont::chosenSizeIsStoredInPixels()
 {
     edit();
     clickAndThen([](QFontDialog *dialog) {
@@ -139,7 +139,7 @@ void tst_ConfDefWidgetQFont::cancelledDialogWritesNothing()
     QCOMPARE(log.texts(QtWarningMsg).filter("QFont::"), QStringList());
 }
 
-void tst_ConfDefWidgetQFont::pageMayGoWhileTheDialogIsOpen()
+void tst_ConfDefWidgetQFont::editorMayBeDeletedWhileTheDialogIsOpen()
 {
     edit();
     clickAndThen([this](QFontDialog *) { delete mEditor; });

@@ -15,7 +15,7 @@ const char sGreen[] = "QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt Quorv
 const char sGrey[] = "QPushButton{  \nmargin:2px;\nborder:0px; font: 23pt QuorviIconfont;\n"
                      "color: rgb(120, 129, 130);  \n}";
 
-/// Puts "de " before every text of the editor and the host.
+/// Translates every text of the editor and the host by prefixing it with "de ".
 class Prefixer : public QTranslator
 {
 public:
@@ -37,20 +37,20 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { clear(); }
 
-    void partsAndOrder();
+    void controlsAreInOrder();
     void captionIsALabel();
     void glyphIsNotCut();
 
-    void stateIsShown_data();
-    void stateIsShown();
+    void stateButtonShowsTheState_data();
+    void stateButtonShowsTheState();
     void registeredHotkeyIsShown();
-    void enabledChangedShowsTheStateAgain();
+    void enabledChangedUpdatesTheState();
 
     void recordedHotkeyIsStored();
-    void shortcutHasTheHotkeyBeforeTheStore();
+    void shortcutIsSetBeforeTheStore();
     void clearedHotkeyIsStored();
-    void hotkeyThatTheShortcutHoldsIsNotStored();
-    void refusedHotkeyIsNotStored();
+    void hotkeyThatTheShortcutAlreadyHasIsNotStored();
+    void hotkeyRejectedByTheFilterIsNotStored();
 
     void loadingShowsTheStoredHotkey();
     void failedButtonLoadsTheStoredHotkey();
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void toolTipAndNameFollowTheLanguage();
 };
 
-void tst_ConfDefWidgetQKeySequence::partsAndOrder()
+void tst_ConfDefWidgetQKeySequence::controlsAreInOrder()
 {
     makeItem(true);
     mValue = QKeySequence("Ctrl+Alt+A");
@@ -101,7 +101,7 @@ void tst_ConfDefWidgetQKeySequence::glyphIsNotCut()
     QVERIFY(mButton->height() >= mButton->sizeHint().height());
 }
 
-void tst_ConfDefWidgetQKeySequence::stateIsShown_data()
+void tst_ConfDefWidgetQKeySequence::stateButtonShowsTheState_data()
 {
     QTest::addColumn<QKeySequence>("stored");
     QTest::addColumn<bool>("enabled");
@@ -116,7 +116,7 @@ void tst_ConfDefWidgetQKeySequence::stateIsShown_data()
     QTest::newRow("disabled") << neverValid() << false << 0xe63a << sGrey << "Disabled." << false;
 }
 
-void tst_ConfDefWidgetQKeySequence::stateIsShown()
+void tst_ConfDefWidgetQKeySequence::stateButtonShowsTheState()
 {
     QFETCH(QKeySequence, stored);
     QFETCH(bool, enabled);
@@ -148,14 +148,14 @@ void tst_ConfDefWidgetQKeySequence::registeredHotkeyIsShown()
     QCOMPARE(mButton->styleSheet(), QString(sGreen));
     QCOMPARE(mButton->toolTip(), QString("Setup success."));
     QVERIFY(!mButton->isEnabled());
-    // Stored but empty comes first, whatever the shortcut says.
+    // An empty stored hotkey takes precedence over the state of the shortcut.
     store(QKeySequence());
     mEditor->refreshState();
     QCOMPARE(mButton->toolTip(), QString("Not set"));
     QCOMPARE(mButton->styleSheet(), QString(sRed));
 }
 
-void tst_ConfDefWidgetQKeySequence::enabledChangedShowsTheStateAgain()
+void tst_ConfDefWidgetQKeySequence::enabledChangedUpdatesTheState()
 {
     makeItem(true);
     mValue = neverValid();
@@ -183,7 +183,7 @@ void tst_ConfDefWidgetQKeySequence::recordedHotkeyIsStored()
     QCOMPARE(mButton->toolTip(), QString("Disabled."));
 }
 
-void tst_ConfDefWidgetQKeySequence::shortcutHasTheHotkeyBeforeTheStore()
+void tst_ConfDefWidgetQKeySequence::shortcutIsSetBeforeTheStore()
 {
     makeItem(true);
     QKeySequence held;
@@ -209,7 +209,7 @@ void tst_ConfDefWidgetQKeySequence::clearedHotkeyIsStored()
     QCOMPARE(mButton->toolTip(), QString("Not set"));
 }
 
-void tst_ConfDefWidgetQKeySequence::hotkeyThatTheShortcutHoldsIsNotStored()
+void tst_ConfDefWidgetQKeySequence::hotkeyThatTheShortcutAlreadyHasIsNotStored()
 {
     makeItem(true);
     mShortcut->setEnabled(false);
@@ -222,7 +222,7 @@ void tst_ConfDefWidgetQKeySequence::hotkeyThatTheShortcutHoldsIsNotStored()
     QCOMPARE(changedMark(mEditor), QString("0"));
 }
 
-void tst_ConfDefWidgetQKeySequence::refusedHotkeyIsNotStored()
+void tst_ConfDefWidgetQKeySequence::hotkeyRejectedByTheFilterIsNotStored()
 {
     makeItem(true);
     makeEditor();

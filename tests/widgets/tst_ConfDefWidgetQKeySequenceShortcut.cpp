@@ -13,18 +13,18 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { clear(); }
 
-    void missingEntryIsMade();
+    void missingShortcutPropertyIsCreated();
     void withoutShortcutNothingIsStored_data();
     void withoutShortcutNothingIsStored();
-    void withoutShortcutAStoredHotkeyHasNoState();
-    void entryThatWasTakenAwayLeavesTheState();
+    void withoutShortcutAStoredHotkeyShowsNoState();
+    void removingTheShortcutPropertyKeepsTheState();
 
     void shortcutIsNotOwned();
-    void shortcutMayBeDeletedMeanwhile();
-    void deletedShortcutHasNoState();
+    void shortcutMayBeDeletedWhileItIsShown();
+    void deletedShortcutShowsNoState();
     void shortcutMayBeAChildOfTheEditor();
-    void shortcutMayBeDeletedAndReplacedMeanwhile();
-    void shortcutMayBeReplacedMeanwhile();
+    void shortcutMayBeDeletedAndReplacedWhileItIsShown();
+    void shortcutMayBeReplacedWhileItIsShown();
 
     void callbackMayDeleteTheEditor_data();
     void callbackMayDeleteTheEditor();
@@ -33,12 +33,12 @@ private Q_SLOTS:
     void registrationMayDeleteTheShortcut();
     void callbackMayDeleteTheShortcut();
 
-    void storeMayLoseTheKeyMeanwhile();
-    void textThatNamesNoKeyIsShownAsFailed_data();
-    void textThatNamesNoKeyIsShownAsFailed();
+    void keyMayBeRemovedFromTheStoreWhileItIsShown();
+    void textThatIsNotAKeyIsShownAsFailed_data();
+    void textThatIsNotAKeyIsShownAsFailed();
 };
 
-void tst_ConfDefWidgetQKeySequenceShortcut::missingEntryIsMade()
+void tst_ConfDefWidgetQKeySequenceShortcut::missingShortcutPropertyIsCreated()
 {
     makeItem(false);
     {
@@ -60,7 +60,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::missingEntryIsMade()
 void tst_ConfDefWidgetQKeySequenceShortcut::withoutShortcutNothingIsStored_data()
 {
     QTest::addColumn<QVariant>("entry");
-    QTest::newRow("made by the editor") << QVariant();
+    QTest::newRow("created by the editor") << QVariant();
     QTest::newRow("null") << QVariant::fromValue<QxtGlobalShortcut *>(nullptr);
     QTest::newRow("text") << QVariant("Ctrl+K");
     QTest::newRow("another object") << QVariant::fromValue<QObject *>(this);
@@ -85,7 +85,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::withoutShortcutNothingIsStored()
     QCOMPARE(changedMark(mEditor), QString("0"));
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::withoutShortcutAStoredHotkeyHasNoState()
+void tst_ConfDefWidgetQKeySequenceShortcut::withoutShortcutAStoredHotkeyShowsNoState()
 {
     makeItem(false);
     mValue = QKeySequence("Ctrl+Alt+A");
@@ -101,7 +101,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::withoutShortcutAStoredHotkeyHasNoSta
     QCOMPARE(mButton->text(), QString());
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::entryThatWasTakenAwayLeavesTheState()
+void tst_ConfDefWidgetQKeySequenceShortcut::removingTheShortcutPropertyKeepsTheState()
 {
     makeItem(true);
     mValue = neverValid();
@@ -128,7 +128,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::shortcutIsNotOwned()
     QCOMPARE(mItem->properties.value("Shortcut").value<QxtGlobalShortcut *>(), shortcut.data());
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedMeanwhile()
+void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedWhileItIsShown()
 {
     makeItem(true);
     mValue = neverValid();
@@ -141,13 +141,13 @@ void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedMeanwhile()
     mEditor->refreshState();
     mEditor->loadConf();
     QCOMPARE(mValue, neverValid());
-    // The next visit of the page.
+    // The page is opened again.
     delete mEditor;
     makeEditor();
     QCOMPARE(mField->text(), QString("Ctrl+K, Ctrl+L"));
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::deletedShortcutHasNoState()
+void tst_ConfDefWidgetQKeySequenceShortcut::deletedShortcutShowsNoState()
 {
     makeItem(true);
     mValue = neverValid();
@@ -158,7 +158,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::deletedShortcutHasNoState()
     QCOMPARE(mButton->toolTip(), QString());
     QCOMPARE(mButton->accessibleName(), QString());
     QVERIFY(!mButton->isEnabled());
-    // Without a hotkey there is a state again.
+    // Without a stored hotkey the state is shown again.
     store(QKeySequence());
     mEditor->refreshState();
     QCOMPARE(mButton->toolTip(), QString("Not set"));
@@ -179,7 +179,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeAChildOfTheEditor()
     }
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedAndReplacedMeanwhile()
+void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedAndReplacedWhileItIsShown()
 {
     makeItem(true);
     makeEditor();
@@ -194,7 +194,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeDeletedAndReplacedMeanw
     QCOMPARE(mValue, QKeySequence("Ctrl+Alt+K"));
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeReplacedMeanwhile()
+void tst_ConfDefWidgetQKeySequenceShortcut::shortcutMayBeReplacedWhileItIsShown()
 {
     makeItem(true);
     makeEditor();
@@ -304,7 +304,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::callbackMayDeleteTheShortcut()
     QCOMPARE(changedMark(mEditor), QString("1"));
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::storeMayLoseTheKeyMeanwhile()
+void tst_ConfDefWidgetQKeySequenceShortcut::keyMayBeRemovedFromTheStoreWhileItIsShown()
 {
     makeItem(true);
     mValue = neverValid();
@@ -324,7 +324,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::storeMayLoseTheKeyMeanwhile()
     QVERIFY(log.texts(QtWarningMsg).size() + log.texts(QtCriticalMsg).size() > 0);
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::textThatNamesNoKeyIsShownAsFailed_data()
+void tst_ConfDefWidgetQKeySequenceShortcut::textThatIsNotAKeyIsShownAsFailed_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("words") << "Ctrl and some key";
@@ -334,7 +334,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::textThatNamesNoKeyIsShownAsFailed_da
     QTest::newRow("several unknown") << "Foo, Bar";
 }
 
-void tst_ConfDefWidgetQKeySequenceShortcut::textThatNamesNoKeyIsShownAsFailed()
+void tst_ConfDefWidgetQKeySequenceShortcut::textThatIsNotAKeyIsShownAsFailed()
 {
     QFETCH(QString, text);
     makeItem(true);
@@ -344,7 +344,7 @@ void tst_ConfDefWidgetQKeySequenceShortcut::textThatNamesNoKeyIsShownAsFailed()
     makeEditor();
     QVERIFY(mField->text().remove(", ").isEmpty());
     QCOMPARE(mButton->toolTip(), failedToolTip());
-    // It can be cleared, and another one set.
+    // It can be cleared, and another hotkey set.
     auto *clear = mField->findChild<QToolButton *>();
     QTRY_VERIFY(clear->isVisible());
     QTest::mouseClick(clear, Qt::LeftButton);

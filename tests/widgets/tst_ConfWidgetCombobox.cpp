@@ -9,7 +9,7 @@
 using MtConf::ConfItem;
 using MtConf::ConfWidgetCombobox;
 
-/// One value of a list.
+/// Editors that select one value of a list.
 class tst_ConfWidgetCombobox : public QObject, private ComboboxFixture
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ private Q_SLOTS:
     void init() { open(); }
     void cleanup() { close(); }
 
-    void boxFollowsTheProperty_data();
-    void boxFollowsTheProperty();
+    void kindOfBoxDependsOnTheProperty_data();
+    void kindOfBoxDependsOnTheProperty();
     void emptyListsShowNothing();
     void constructionLoadsNothing();
     void textIsSelected_data();
@@ -28,22 +28,22 @@ private Q_SLOTS:
     void intIsSelected();
     void chosenLabelStoresItsInt();
     void withoutValuesTheIndexIsStored();
-    void missingValuesAreIndices();
-    void storedEntryChosenAgainWritesNothing();
+    void missingValuesDefaultToIndexes();
+    void choosingTheStoredEntryWritesNothing();
     void wrongIndexDoesNothing_data();
     void wrongIndexDoesNothing();
-    void otherTypesLeaveTheBox();
-    void wheelIsRefused();
+    void valuesOfOtherTypesDoNotChangeTheBox();
+    void wheelIsIgnored();
 };
 
-void tst_ConfWidgetCombobox::boxFollowsTheProperty_data()
+void tst_ConfWidgetCombobox::kindOfBoxDependsOnTheProperty_data()
 {
     QTest::addColumn<bool>("multi");
-    QTest::newRow("without it one label is chosen") << false;
-    QTest::newRow("with it, even if false, labels are checked") << true;
+    QTest::newRow("without the property one label is selected") << false;
+    QTest::newRow("with the property, even if false, labels are checked") << true;
 }
 
-void tst_ConfWidgetCombobox::boxFollowsTheProperty()
+void tst_ConfWidgetCombobox::kindOfBoxDependsOnTheProperty()
 {
     QFETCH(bool, multi);
     ConfWidgetCombobox *editor = edit(intItem(), multi);
@@ -88,7 +88,7 @@ void tst_ConfWidgetCombobox::textIsSelected_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<int>("selected");
     QTest::newRow("a text of the list") << "B" << 1;
-    QTest::newRow("case counts") << "b" << 2;
+    QTest::newRow("case matters") << "b" << 2;
     QTest::newRow("the first of two equal ones") << "A" << 0;
     QTest::newRow("an unknown text selects the first") << "Z" << 0;
     QTest::newRow("an empty text selects the first") << "" << 0;
@@ -171,7 +171,7 @@ void tst_ConfWidgetCombobox::withoutValuesTheIndexIsStored()
     QCOMPARE(mInt, 2);
 }
 
-void tst_ConfWidgetCombobox::missingValuesAreIndices()
+void tst_ConfWidgetCombobox::missingValuesDefaultToIndexes()
 {
     edit(intItem())->setSelectItem({"A", "B", "C"}, {40});
     QCOMPARE(mBox->itemData(0), QVariant(40));
@@ -179,13 +179,13 @@ void tst_ConfWidgetCombobox::missingValuesAreIndices()
     QCOMPARE(mBox->itemData(2), QVariant(2));
 }
 
-void tst_ConfWidgetCombobox::storedEntryChosenAgainWritesNothing()
+void tst_ConfWidgetCombobox::choosingTheStoredEntryWritesNothing()
 {
     ConfWidgetCombobox *editor = edit(intItem());
     editor->setSelectItem({"A", "B"}, {});
     mFixture->store()->set<int>("Capture.Mode", 1);
     mFixture->store()->mChanged = false;
-    editor->setValueInt32(1); // shows what the store has already
+    editor->setValueInt32(1); // now shows the stored value
     QCOMPARE(mBox->currentIndex(), 1);
     QVERIFY(!mFixture->store()->mChanged);
     QCOMPARE(changedMark(editor), QString("0"));
@@ -202,7 +202,7 @@ void tst_ConfWidgetCombobox::wrongIndexDoesNothing_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("none") << -1;
-    QTest::newRow("behind the last") << 2;
+    QTest::newRow("after the last") << 2;
     QTest::newRow("largest") << INT_MAX;
 }
 
@@ -217,7 +217,7 @@ void tst_ConfWidgetCombobox::wrongIndexDoesNothing()
     QCOMPARE(mBox->currentIndex(), 1);
 }
 
-void tst_ConfWidgetCombobox::otherTypesLeaveTheBox()
+void tst_ConfWidgetCombobox::valuesOfOtherTypesDoNotChangeTheBox()
 {
     bool flag = true;
     ConfItem *item = mFixture->manager.addConfBool("Flag", &flag, "Capture", "Flag");
@@ -229,7 +229,7 @@ void tst_ConfWidgetCombobox::otherTypesLeaveTheBox()
     QCOMPARE(changedMark(editor), QString("0"));
 }
 
-void tst_ConfWidgetCombobox::wheelIsRefused()
+void tst_ConfWidgetCombobox::wheelIsIgnored()
 {
     edit(intItem())->setSelectItem({"A", "B"}, {});
     QWheelEvent event(QPointF(5, 5), mBox->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120),

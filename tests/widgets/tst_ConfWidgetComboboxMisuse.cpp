@@ -7,7 +7,7 @@
 using MtConf::ConfItem;
 using MtConf::ConfWidgetCombobox;
 
-/// Hosts that delete, refuse and overfill.
+/// Hosts that delete the editor in callbacks, revert changes, and add very many labels.
 class tst_ConfWidgetComboboxMisuse : public QObject, private ComboboxFixture
 {
     Q_OBJECT
@@ -17,16 +17,16 @@ private Q_SLOTS:
 
     void callbackMayDeleteTheEditor_data();
     void callbackMayDeleteTheEditor();
-    void callbackMayDeleteTheSlotsEditor();
-    void callbackMayRefuseTheChange();
+    void callbackMayDeleteTheEditorWhoseSlotIsCalled();
+    void callbackMayRevertTheChange();
     void callbackMayLoadTheEditorAgain_data();
     void callbackMayLoadTheEditorAgain();
     void keyMayBeRemovedWhileItIsShown_data();
     void keyMayBeRemovedWhileItIsShown();
     void callbackMayFillTheListAgain_data();
     void callbackMayFillTheListAgain();
-    void editorMayGoWhileItsListIsOpen_data();
-    void editorMayGoWhileItsListIsOpen();
+    void editorMayBeDeletedWhileItsListIsOpen_data();
+    void editorMayBeDeletedWhileItsListIsOpen();
     void tenThousandLabels_data();
     void tenThousandLabels();
 
@@ -75,7 +75,7 @@ void tst_ConfWidgetComboboxMisuse::callbackMayDeleteTheEditor()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-void tst_ConfWidgetComboboxMisuse::callbackMayDeleteTheSlotsEditor()
+void tst_ConfWidgetComboboxMisuse::callbackMayDeleteTheEditorWhoseSlotIsCalled()
 {
     ConfItem *item = intItem();
     ConfWidgetCombobox *editor = edit(item);
@@ -88,7 +88,7 @@ void tst_ConfWidgetComboboxMisuse::callbackMayDeleteTheSlotsEditor()
     QTRY_VERIFY(!box);
 }
 
-void tst_ConfWidgetComboboxMisuse::callbackMayRefuseTheChange()
+void tst_ConfWidgetComboboxMisuse::callbackMayRevertTheChange()
 {
     ConfItem *item = intItem();
     ConfWidgetCombobox *editor = edit(item);
@@ -171,12 +171,12 @@ void tst_ConfWidgetComboboxMisuse::callbackMayFillTheListAgain()
     QCOMPARE(multi ? checkBox(1)->text() : mBox->currentText(), QString("D"));
 }
 
-void tst_ConfWidgetComboboxMisuse::editorMayGoWhileItsListIsOpen_data()
+void tst_ConfWidgetComboboxMisuse::editorMayBeDeletedWhileItsListIsOpen_data()
 {
     bothKinds();
 }
 
-void tst_ConfWidgetComboboxMisuse::editorMayGoWhileItsListIsOpen()
+void tst_ConfWidgetComboboxMisuse::editorMayBeDeletedWhileItsListIsOpen()
 {
     QFETCH(bool, multi);
     ConfWidgetCombobox *editor = edit(intItem(), multi);

@@ -9,7 +9,7 @@
 using MtConf::ConfItem;
 using MtConf::ConfWidgetCombobox;
 
-/// Any number of flags of a list.
+/// Editors that select any number of flags of a list.
 class tst_ConfWidgetComboboxMulti : public QObject, private ComboboxFixture
 {
     Q_OBJECT
@@ -20,14 +20,14 @@ private Q_SLOTS:
     void flagsAreChecked_data();
     void flagsAreChecked();
     void clickedFlagsAreStored();
-    void rowOfTheOpenListIsStoredOnce();
-    void multiSelectionStoresTheSameValueToo();
-    void loadingFlagsLeavesCaptionAndStore();
+    void clickOnARowStoresOnce();
+    void multiSelectionStoresEvenAnUnchangedValue();
+    void loadingFlagsDoesNotChangeCaptionAndStore();
     void plainTextsInAMultiSelection();
     void multiSlotNeedsAMultiBox();
-    void bitsWithoutALabelGoWithTheFirstClick();
+    void bitsWithoutALabelAreClearedByTheFirstClick();
     void labelsOfTheSameBitAreCheckedTogetherWhenLoaded();
-    void secondListIsCheckedToo();
+    void labelsOfASecondListAreCheckedToo();
     void textItemKeepsItsText();
 };
 
@@ -39,11 +39,12 @@ void tst_ConfWidgetComboboxMulti::flagsAreChecked_data()
     const QList<int> bits{1, 2, 4};
     QTest::newRow("no bit") << bits << 0 << QList<int>();
     QTest::newRow("two bits") << bits << 5 << QList<int>{0, 2};
-    QTest::newRow("bits of no label") << bits << 0x72 << QList<int>{1};
+    QTest::newRow("bits without a label") << bits << 0x72 << QList<int>{1};
     QTest::newRow("all bits") << bits << -1 << QList<int>{0, 1, 2};
     QTest::newRow("the sign bit") << QList<int>{INT_MIN, INT_MAX, -1} << INT_MIN << QList<int>{0};
-    QTest::newRow("a label of two bits needs both") << QList<int>{3, 6, 1} << 3 << QList<int>{0, 2};
-    QTest::newRow("a label of no bit is always checked")
+    QTest::newRow("a label with two bits needs both")
+        << QList<int>{3, 6, 1} << 3 << QList<int>{0, 2};
+    QTest::newRow("a label without bits is always checked")
         << QList<int>{0, 1, 2} << 2 << QList<int>{0, 2};
     QTest::newRow("without values the index is the flag") << QList<int>() << 2 << QList<int>{0, 2};
 }
@@ -79,7 +80,7 @@ void tst_ConfWidgetComboboxMulti::clickedFlagsAreStored()
     QCOMPARE(mMulti->lineEdit()->text(), QString());
 }
 
-void tst_ConfWidgetComboboxMulti::rowOfTheOpenListIsStoredOnce()
+void tst_ConfWidgetComboboxMulti::clickOnARowStoresOnce()
 {
     edit(intItem(), true)->setSelectItem({"A", "B", "C"}, {1, 2, 4});
     int calls = 0;
@@ -92,7 +93,7 @@ void tst_ConfWidgetComboboxMulti::rowOfTheOpenListIsStoredOnce()
     QVERIFY(mBox->view()->isVisible());
 }
 
-void tst_ConfWidgetComboboxMulti::multiSelectionStoresTheSameValueToo()
+void tst_ConfWidgetComboboxMulti::multiSelectionStoresEvenAnUnchangedValue()
 {
     mInt = 1;
     ConfWidgetCombobox *editor = edit(intItem(), true);
@@ -107,7 +108,7 @@ void tst_ConfWidgetComboboxMulti::multiSelectionStoresTheSameValueToo()
     QVERIFY(mFixture->store()->mChanged);
 }
 
-void tst_ConfWidgetComboboxMulti::loadingFlagsLeavesCaptionAndStore()
+void tst_ConfWidgetComboboxMulti::loadingFlagsDoesNotChangeCaptionAndStore()
 {
     ConfWidgetCombobox *editor = edit(intItem(), true);
     editor->setSelectItem({"A", "B"}, {1, 2});
@@ -145,7 +146,7 @@ void tst_ConfWidgetComboboxMulti::multiSlotNeedsAMultiBox()
     QVERIFY(!mFixture->store()->mChanged);
 }
 
-void tst_ConfWidgetComboboxMulti::bitsWithoutALabelGoWithTheFirstClick()
+void tst_ConfWidgetComboboxMulti::bitsWithoutALabelAreClearedByTheFirstClick()
 {
     mInt = 0x71;
     edit(intItem(), true)->setSelectItem({"A", "B", "C"}, {1, 2, 4});
@@ -172,7 +173,7 @@ void tst_ConfWidgetComboboxMulti::labelsOfTheSameBitAreCheckedTogetherWhenLoaded
     QCOMPARE(mInt, 0);
 }
 
-void tst_ConfWidgetComboboxMulti::secondListIsCheckedToo()
+void tst_ConfWidgetComboboxMulti::labelsOfASecondListAreCheckedToo()
 {
     mInt = 6;
     ConfWidgetCombobox *editor = edit(intItem(), true);

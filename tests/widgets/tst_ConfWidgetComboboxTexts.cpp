@@ -11,7 +11,7 @@ using MtConf::ConfWidgetCombobox;
 
 namespace {
 
-/// Puts "de " before every text of the context "QObject", and only of that.
+/// Translates every text of the context "QObject", and no other, by prefixing it with "de ".
 class Prefixer : public QTranslator
 {
 public:
@@ -24,7 +24,7 @@ public:
 
 } // namespace
 
-/// The texts of the list, and their language.
+/// The texts of the list and their translation.
 class tst_ConfWidgetComboboxTexts : public QObject, private ComboboxFixture
 {
     Q_OBJECT

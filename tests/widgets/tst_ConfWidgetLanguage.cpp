@@ -12,7 +12,7 @@
 using MtConf::ConfItem;
 using MtConf::ConfWidgetLanguage;
 
-/// The editor.
+/// The language editor.
 class tst_ConfWidgetLanguage : public QObject
 {
     Q_OBJECT
@@ -22,18 +22,18 @@ private Q_SLOTS:
 
     void boxFillsTheEditor();
     void rowsAreNamesInTheirOwnLanguage();
-    void englishFileGetsARowOfItsOwn();
-    void unnamedLanguageMovesTheRowsAfterIt();
+    void englishFileAddsASecondEnglishRow();
+    void rowsAfterAnUnnamedLanguageStoreTheCodeBefore();
     void storedCodeIsShown_data();
     void storedCodeIsShown();
     void showingNeverWrites();
     void chosenLanguageIsStoredMarkedAndInstalled();
-    void clickOnARowChoosesIt();
+    void clickOnARowSelectsIt();
     void choosingTheStoredLanguageWritesNothing();
-    void slotSelectsTheRowThatIsNotShown();
+    void slotAlsoSelectsTheRow();
     void rowsOutsideTheListAreIgnored();
     void liveChangeRetranslatesTheEditor();
-    void changeIsAnnouncedWhenItsTranslatorsAreInstalled();
+    void changeIsAnnouncedAfterItsTranslatorsAreInstalled();
     void restoredDefaultIsInstalledAndAnnounced();
     void loadInstallsTheLanguageWithoutAChange();
     void callbackMayDeleteTheEditor();
@@ -50,7 +50,8 @@ private:
         mCombo = editor->findChild<QComboBox *>();
         return editor;
     }
-    /// A manager with a language, "auto", that notes a text each time that it announces a change.
+    /// Creates a manager with the language setting "auto". Appends the translation of a text to
+    /// `announced` each time that the manager announces a change.
     std::unique_ptr<MtConf::MtConfManage> declareLanguage(QStringList *announced)
     {
         clearStore();
@@ -68,7 +69,8 @@ private:
             result.append(mCombo->itemText(row));
         return result;
     }
-    /// Clicks into the open list; false while the list takes the click for that which opened it.
+    /// Clicks into the open list. Returns false as long as the list ignores the click because it
+    /// takes it for the one that opened it.
     static bool clickTaken(QAbstractItemView *view, const QPoint &position)
     {
         QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, position);
@@ -117,7 +119,7 @@ void tst_ConfWidgetLanguage::rowsAreNamesInTheirOwnLanguage()
     QVERIFY(qobject_cast<QListView *>(mCombo->view()));
 }
 
-void tst_ConfWidgetLanguage::englishFileGetsARowOfItsOwn()
+void tst_ConfWidgetLanguage::englishFileAddsASecondEnglishRow()
 {
     mFolder->addFiles({"en-us.qm"});
     makeEditor("en-us");
@@ -128,7 +130,7 @@ void tst_ConfWidgetLanguage::englishFileGetsARowOfItsOwn()
     QCOMPARE(mValue, QString("en-us"));
 }
 
-void tst_ConfWidgetLanguage::unnamedLanguageMovesTheRowsAfterIt()
+void tst_ConfWidgetLanguage::rowsAfterAnUnnamedLanguageStoreTheCodeBefore()
 {
     mFolder->addFiles({"de-de.qm", "ee-ee.qm", "fr-fr.qm", "sv-se.qm"});
     makeEditor("auto");
@@ -151,8 +153,8 @@ void tst_ConfWidgetLanguage::storedCodeIsShown_data()
     QTest::newRow("english") << "en-us" << 1;
     QTest::newRow("firstFile") << "de-de" << 2;
     QTest::newRow("lastFile") << "fr-fr" << 3;
-    QTest::newRow("fileHasGone") << "it-it" << 0;
-    QTest::newRow("caseCounts") << "FR-FR" << 0;
+    QTest::newRow("missingFile") << "it-it" << 0;
+    QTest::newRow("caseMatters") << "FR-FR" << 0;
     QTest::newRow("empty") << "" << 0;
 }
 
@@ -196,7 +198,7 @@ void tst_ConfWidgetLanguage::chosenLanguageIsStoredMarkedAndInstalled()
     QCOMPARE(changedMark(editor), QString("0"));
 }
 
-void tst_ConfWidgetLanguage::clickOnARowChoosesIt()
+void tst_ConfWidgetLanguage::clickOnARowSelectsIt()
 {
     mFolder->addFiles({"de-de.qm", "fr-fr.qm"});
     makeEditor("auto");
@@ -205,7 +207,7 @@ void tst_ConfWidgetLanguage::clickOnARowChoosesIt()
     QAbstractItemView *view = mCombo->view();
     QTRY_VERIFY(view->isVisible());
     const QRect row = view->visualRect(mCombo->model()->index(2, 0));
-    // The list takes no release before the mouse has moved in it.
+    // The list ignores a release before the mouse has moved in it.
     QTest::mouseMove(view->viewport(), row.center());
     QTRY_COMPARE(view->currentIndex().row(), 2);
     QTRY_VERIFY(clickTaken(view, row.center()));
@@ -224,7 +226,7 @@ void tst_ConfWidgetLanguage::choosingTheStoredLanguageWritesNothing()
     QCOMPARE(changedMark(editor), QString("untouched"));
 }
 
-void tst_ConfWidgetLanguage::slotSelectsTheRowThatIsNotShown()
+void tst_ConfWidgetLanguage::slotAlsoSelectsTheRow()
 {
     mFolder->addFiles({"fr-fr.qm"});
     ConfWidgetLanguage *editor = makeEditor("auto");
@@ -261,7 +263,7 @@ void tst_ConfWidgetLanguage::liveChangeRetranslatesTheEditor()
     QCOMPARE(mValue, QString("de-de"));
 }
 
-void tst_ConfWidgetLanguage::changeIsAnnouncedWhenItsTranslatorsAreInstalled()
+void tst_ConfWidgetLanguage::changeIsAnnouncedAfterItsTranslatorsAreInstalled()
 {
     mFolder->addFrenchAndGerman();
     const LogCapture log;
@@ -292,7 +294,7 @@ void tst_ConfWidgetLanguage::loadInstallsTheLanguageWithoutAChange()
     const LogCapture log;
     QStringList announced;
     const auto manager = declareLanguage(&announced);
-    mValue = "fr-fr"; // as a host may, before it loads
+    mValue = "fr-fr"; // a host may assign its variable before it loads
     manager->loadFromFile("missing.json");
     QCOMPARE(label(), QString("Langue"));
     QVERIFY(announced.isEmpty());

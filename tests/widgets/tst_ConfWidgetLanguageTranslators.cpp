@@ -12,7 +12,8 @@ using MtConf::ConfWidgetLanguage;
 
 namespace {
 
-// Libraries of macOS know which library each of their symbols comes from.
+// On macOS a library is bound to the library that defines each symbol, so the function of the test
+// program cannot replace the companion's.
 #ifdef Q_OS_MACOS
 constexpr bool sCanBePreferred = false;
 #else
@@ -23,8 +24,8 @@ QStringList sPreferred;
 
 } // namespace
 
-/// Stands in for the companion's function of that name: elsewhere the program's own symbols come
-/// first, and so the test says which languages the person prefers.
+/// Replaces the companion's function of the same name, so that the test sets the user's preferred
+/// languages: except on macOS, symbols of the program take precedence.
 QStringList getPreferredLanguages()
 {
     return sPreferred;
@@ -39,30 +40,30 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void filesLieInTheResourcesBesideTheExecutable();
+    void filesAreInTheResourcesFolderBesideTheExecutable();
     void supportedCodes_data();
     void supportedCodes();
     void unusualFileNames_data();
     void unusualFileNames();
-    void onlyReadableFilesCount();
+    void onlyReadableFilesAreListed();
     void filesAreLookedUpOnce();
     void usableCode_data();
     void usableCode();
     void fixedLanguageIgnoresTheSystem();
-    void autoIsNeverTheAnswer();
+    void autoIsNeverReturned();
     void bothTranslatorsAreInstalled();
     void autoInstallsThePreferredLanguage();
     void englishRemovesBothTranslators();
-    void anotherLanguageReplacesTheFirst();
+    void anotherLanguageReplacesTheCurrentOne();
     void sameRequestDoesNothing();
     void missingQtFileLeavesTheApplicationTranslated();
-    void brokenFileLeavesQtTranslated();
-    void failedLanguageIsTriedAgainAfterAnother();
-    void codeNamesOnlyFilesOfTheFolder_data();
-    void codeNamesOnlyFilesOfTheFolder();
+    void invalidFileLeavesQtTranslated();
+    void failedLanguageIsLoadedAgainAfterAnotherOne();
+    void codeCannotLeaveTheFolder_data();
+    void codeCannotLeaveTheFolder();
     void onlyTheFileOfTheCodeIsLoaded();
-    void everyTruncatedFileIsRefusedOrReadsSafely();
-    void listWithoutEnglishFallsBackToItsFirst();
+    void everyTruncatedFileIsRejectedOrReadSafely();
+    void listWithoutEnglishFallsBackToItsFirstCode();
 
 private:
     static QString label() { return QObject::tr("Language"); }
@@ -91,7 +92,7 @@ void tst_ConfWidgetLanguageTranslators::cleanup()
     mFolder.reset();
 }
 
-void tst_ConfWidgetLanguageTranslators::filesLieInTheResourcesBesideTheExecutable()
+void tst_ConfWidgetLanguageTranslators::filesAreInTheResourcesFolderBesideTheExecutable()
 {
     QCOMPARE(mDefaultPath, QString("/../Resources/language/"));
     QCOMPARE(mDefaultQtPath, QString("/../Resources/language_qt/"));
@@ -104,14 +105,14 @@ void tst_ConfWidgetLanguageTranslators::supportedCodes_data()
     const auto row = [](const char *name, const QStringList &files, const QStringList &codes) {
         QTest::newRow(name) << files << (QStringList{"auto", "en-us"} + codes);
     };
-    row("withoutFilesThereIsEnglish", {}, {});
-    row("filesFollowByName", {"sv-se.qm", "ar-eg.qm", "fr-fr.qm"}, {"ar-eg", "fr-fr", "sv-se"});
+    row("onlyEnglishWithoutFiles", {}, {});
+    row("filesAreSortedByName", {"sv-se.qm", "ar-eg.qm", "fr-fr.qm"}, {"ar-eg", "fr-fr", "sv-se"});
     row("codesAreLowerCase", {"DE-DE.qm", "zh-CN.qm"}, {"de-de", "zh-cn"});
-    row("nameEndsAtTheFirstStop", {"it-it.host.qm"}, {"it-it"});
-    row("englishFileComesTwice", {"en-us.qm"}, {"en-us"});
-    row("languagesWithoutANameCount", {"xx-yy.qm"}, {"xx-yy"});
-    row("otherFilesDoNotCount", {"fr-fr.ts", "readme", "de-de.qm.bak"}, {});
-    row("foldersDoNotCount", {"fr-fr.qm/file"}, {});
+    row("codeEndsAtTheFirstFullStop", {"it-it.host.qm"}, {"it-it"});
+    row("englishFileAddsEnglishAgain", {"en-us.qm"}, {"en-us"});
+    row("unknownLanguagesAreListed", {"xx-yy.qm"}, {"xx-yy"});
+    row("otherFilesAreIgnored", {"fr-fr.ts", "readme", "de-de.qm.bak"}, {});
+    row("foldersAreIgnored", {"fr-fr.qm/file"}, {});
 }
 
 void tst_ConfWidgetLanguageTranslators::supportedCodes()
@@ -126,17 +127,17 @@ void tst_ConfWidgetLanguageTranslators::supportedCodes()
 void tst_ConfWidgetLanguageTranslators::unusualFileNames_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("code"); // null when the file is not offered
+    QTest::addColumn<QString>("code"); // null if the file is ignored
     QTest::newRow("suffixAlone") << QByteArray(".qm") << QString();
-    QTest::newRow("twoStopsAndNoName") << QByteArray("..qm") << QString();
+    QTest::newRow("twoFullStopsWithoutName") << QByteArray("..qm") << QString();
     QTest::newRow("parentFolderAndSuffix") << QByteArray("...qm") << QString();
     QTest::newRow("hidden") << QByteArray(".fr-fr.qm") << QString();
-    QTest::newRow("manyStops") << QByteArray("a.b.c.qm") << QString("a");
+    QTest::newRow("severalFullStops") << QByteArray("a.b.c.qm") << QString("a");
     QTest::newRow("blanks") << QByteArray(" fr-fr .qm") << QString(" fr-fr ");
     QTest::newRow("lineBreak") << QByteArray("fr\nfr.qm") << QString("fr\nfr");
     QTest::newRow("backslashes") << QByteArray("..\\..\\x.qm") << QString();
     QTest::newRow("percentSign") << QByteArray("%1%2.qm") << QString("%1%2");
-    QTest::newRow("asLongAsNamesCanBe") << QByteArray(252, 'x') + ".qm" << QString(252, 'x');
+    QTest::newRow("maximumLength") << QByteArray(252, 'x') + ".qm" << QString(252, 'x');
     QTest::newRow("suffixInCapitals") << QByteArray("fr-fr.QM") << QString("fr-fr");
 #ifdef Q_OS_LINUX
     QTest::newRow("notUtf8") << QByteArray("fr\xff\xfe.qm") << QString();
@@ -164,14 +165,14 @@ void tst_ConfWidgetLanguageTranslators::unusualFileNames()
     QCOMPARE(label(), QString("Language"));
 }
 
-void tst_ConfWidgetLanguageTranslators::onlyReadableFilesCount()
+void tst_ConfWidgetLanguageTranslators::onlyReadableFilesAreListed()
 {
     mFolder->addFiles({"de-de.qm", "fr-fr.qm", "it-it.qm/file"});
     QVERIFY(QFile::link("nowhere", mFolder->filePath("es-es.qm")));
     QVERIFY(QFile::link(mFolder->filePath("de-de.qm"), mFolder->filePath("nl-nl.qm")));
     QVERIFY(QFile::setPermissions(mFolder->filePath("fr-fr.qm"), {}));
     QStringList codes{"auto", "en-us", "de-de", "nl-nl"};
-    if (QFileInfo(mFolder->filePath("fr-fr.qm")).isReadable()) // the superuser reads everything
+    if (QFileInfo(mFolder->filePath("fr-fr.qm")).isReadable()) // root can read every file
         codes.insert(3, "fr-fr");
     QCOMPARE(ConfWidgetLanguage::loadSupportLanguageCode(), codes);
 }
@@ -193,7 +194,7 @@ void tst_ConfWidgetLanguageTranslators::usableCode_data()
                                     {"zh-cn.qm"},
                                     {"en-gb.qm", "fr-fr.qm"},
                                     {"de-de.qm", "fr-fr.qm", "zh-cn.qm", "zh-cht.qm"}};
-    // One column for each set of files.
+    // One code for each set of files.
     const struct
     {
         QStringList preferred;
@@ -226,7 +227,7 @@ void tst_ConfWidgetLanguageTranslators::usableCode_data()
 void tst_ConfWidgetLanguageTranslators::usableCode()
 {
     if (!sCanBePreferred)
-        QSKIP("the system's languages cannot be replaced here");
+        QSKIP("the test cannot replace the system's languages on this platform");
     QFETCH(QStringList, preferred);
     QFETCH(QStringList, files);
     sPreferred = preferred;
@@ -246,7 +247,7 @@ void tst_ConfWidgetLanguageTranslators::fixedLanguageIgnoresTheSystem()
     QCOMPARE(ConfWidgetLanguage::getVaildLanguageCode("en-us"), QString("en-us"));
 }
 
-void tst_ConfWidgetLanguageTranslators::autoIsNeverTheAnswer()
+void tst_ConfWidgetLanguageTranslators::autoIsNeverReturned()
 {
     mFolder->addFiles({"auto.qm"});
     sPreferred = QStringList{"auto"};
@@ -266,7 +267,7 @@ void tst_ConfWidgetLanguageTranslators::bothTranslatorsAreInstalled()
 void tst_ConfWidgetLanguageTranslators::autoInstallsThePreferredLanguage()
 {
     if (!sCanBePreferred)
-        QSKIP("the system's languages cannot be replaced here");
+        QSKIP("the test cannot replace the system's languages on this platform");
     mFolder->addFrenchAndGerman();
     sPreferred = QStringList{"it_IT", "fr_FR", "de_DE"};
     const LogCapture log;
@@ -284,7 +285,7 @@ void tst_ConfWidgetLanguageTranslators::englishRemovesBothTranslators()
     QCOMPARE(cancel(), QString("Cancel"));
 }
 
-void tst_ConfWidgetLanguageTranslators::anotherLanguageReplacesTheFirst()
+void tst_ConfWidgetLanguageTranslators::anotherLanguageReplacesTheCurrentOne()
 {
     mFolder->addFrenchAndGerman();
     const LogCapture log;
@@ -322,7 +323,7 @@ void tst_ConfWidgetLanguageTranslators::missingQtFileLeavesTheApplicationTransla
              QStringList("Unable to load Qt office QTranslator :  \"" + path + '"'));
 }
 
-void tst_ConfWidgetLanguageTranslators::brokenFileLeavesQtTranslated()
+void tst_ConfWidgetLanguageTranslators::invalidFileLeavesQtTranslated()
 {
     mFolder->addFiles({"fr-fr.qm"});
     mFolder->addCatalogue("qt_fr-fr.qm");
@@ -333,7 +334,7 @@ void tst_ConfWidgetLanguageTranslators::brokenFileLeavesQtTranslated()
     QCOMPARE(log.texts(QtWarningMsg), QStringList("Unable to load QTranslator"));
 }
 
-void tst_ConfWidgetLanguageTranslators::failedLanguageIsTriedAgainAfterAnother()
+void tst_ConfWidgetLanguageTranslators::failedLanguageIsLoadedAgainAfterAnotherOne()
 {
     mFolder->addFiles({"fr-fr.qm"});
     mFolder->addCatalogue("qt_fr-fr.qm");
@@ -347,7 +348,7 @@ void tst_ConfWidgetLanguageTranslators::failedLanguageIsTriedAgainAfterAnother()
     QCOMPARE(label(), QString("Langue"));
 }
 
-void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder_data()
+void tst_ConfWidgetLanguageTranslators::codeCannotLeaveTheFolder_data()
 {
     QTest::addColumn<QString>("code");
     QTest::newRow("otherFolder") << "../other/fr-fr";
@@ -358,7 +359,7 @@ void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder_data()
     QTest::newRow("absolute") << "/fr-fr";
     QTest::newRow("withSuffix") << "fr-fr.qm";
     QTest::newRow("otherCase") << "FR-FR";
-    QTest::newRow("blankBehind") << "fr-fr ";
+    QTest::newRow("trailingBlank") << "fr-fr ";
     QTest::newRow("nullCharacter") << QString("fr-fr") + QChar(u'\0') + "x";
     QTest::newRow("resource") << ":/fr-fr";
     QTest::newRow("empty") << "";
@@ -368,7 +369,7 @@ void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder_data()
     QTest::newRow("long") << QString(100000, 'x');
 }
 
-void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder()
+void tst_ConfWidgetLanguageTranslators::codeCannotLeaveTheFolder()
 {
     mFolder->addFrenchAndGerman();
     for (const char *path : {"other/fr-fr.qm", "language/sub/fr-fr.qm", "x.qm"})
@@ -384,7 +385,7 @@ void tst_ConfWidgetLanguageTranslators::codeNamesOnlyFilesOfTheFolder()
 
 void tst_ConfWidgetLanguageTranslators::onlyTheFileOfTheCodeIsLoaded()
 {
-    // Names that Qt would try too, when the right ones are missing.
+    // If the file is missing, Qt would also try these names.
     mFolder->addFiles({"fr-fr.host.qm"});
     mFolder->copyCatalogue("fr-fr.qm", "language/fr-fr");
     mFolder->copyCatalogue("fr-fr.qm", "language/fr-fr.qm.qm");
@@ -397,7 +398,7 @@ void tst_ConfWidgetLanguageTranslators::onlyTheFileOfTheCodeIsLoaded()
     QCOMPARE(log.texts(QtWarningMsg).size(), 2);
 }
 
-void tst_ConfWidgetLanguageTranslators::everyTruncatedFileIsRefusedOrReadsSafely()
+void tst_ConfWidgetLanguageTranslators::everyTruncatedFileIsRejectedOrReadSafely()
 {
     mFolder->addCatalogue("fr-fr.qm");
     QFile file(mFolder->filePath("fr-fr.qm"));
@@ -418,7 +419,7 @@ void tst_ConfWidgetLanguageTranslators::everyTruncatedFileIsRefusedOrReadsSafely
     QVERIFY(refused > 0);
 }
 
-void tst_ConfWidgetLanguageTranslators::listWithoutEnglishFallsBackToItsFirst()
+void tst_ConfWidgetLanguageTranslators::listWithoutEnglishFallsBackToItsFirstCode()
 {
     mFolder->addFrenchAndGerman();
     ConfWidgetLanguage::mSupportLangCodes = QStringList{"de-de", "fr-fr"};

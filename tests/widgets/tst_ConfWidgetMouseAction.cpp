@@ -16,7 +16,7 @@ Q_DECLARE_METATYPE(Values)
 
 namespace {
 
-/// Puts the context before every text.
+/// Translates every text by prefixing it with its context.
 class Prefixer : public QTranslator
 {
 public:
@@ -41,25 +41,25 @@ private Q_SLOTS:
     void factoryReadsTheKindFromTheItem_data();
     void factoryReadsTheKindFromTheItem();
     void modifiersAreOffered();
-    void partsAndOrder();
+    void controlsAreInOrder();
 
     void storedValueIsShown_data();
     void storedValueIsShown();
-    void makingTheEditorStoresNothing();
+    void creatingTheEditorStoresNothing();
 
     void chosenActionIsStored();
     void chosenModifiersAreStored();
-    void everyGestureHasItsValue_data();
-    void everyGestureHasItsValue();
+    void chosenGestureStoresItsValue_data();
+    void chosenGestureStoresItsValue();
     void sameValueIsStoredAgain();
     void leftClickAloneIsNotStored();
     void leftClickWithAModifierIsStored();
-    void wheelIsRefused();
+    void wheelIsIgnored();
 
-    void loadingStoresAgain();
-    void loadingWhatIsShownStoresNothing();
-    void loadingWhatNoControlShowsMarksTheCaption();
-    void loadingAnActionThatIsNotOfferedStoresNone();
+    void loadingStoresTheValueAgain();
+    void loadingTheShownValueStoresNothing();
+    void loadingBitsThatNoControlShowsMarksTheCaption();
+    void loadingAnActionOfAnotherKindStoresNone();
 
     void textsHaveTheirContexts();
     void actionsFollowTheLanguage();
@@ -153,7 +153,7 @@ void tst_ConfWidgetMouseAction::modifiersAreOffered()
     QCOMPARE(flags, (Values{0x02000000, 0x04000000, 0x08000000, 0x10000000}));
 }
 
-void tst_ConfWidgetMouseAction::partsAndOrder()
+void tst_ConfWidgetMouseAction::controlsAreInOrder()
 {
     const Gesture *gesture = add("Zoom", 64, 0);
     const auto *layout = qobject_cast<QHBoxLayout *>(gesture->editor->layout());
@@ -192,9 +192,9 @@ void tst_ConfWidgetMouseAction::storedValueIsShown_data()
     QTest::newRow("left click alone") << 1 << 1 << Values{} << 1;
     QTest::newRow("an action of another kind") << 0x02000080 << 1 << Values{0} << -1;
     QTest::newRow("two actions") << 3 << 1 << Values{} << -1;
-    QTest::newRow("a bit without a meaning above") << 0x20000004 << 1 << Values{} << 3;
+    QTest::newRow("an unused higher bit") << 0x20000004 << 1 << Values{} << 3;
     QTest::newRow("all bits") << -1 << 1 << Values{0, 1, 2, 3} << -1;
-    QTest::newRow("the sign alone") << INT_MIN << 1 << Values{} << 0;
+    QTest::newRow("the sign bit alone") << INT_MIN << 1 << Values{} << 0;
 }
 
 void tst_ConfWidgetMouseAction::storedValueIsShown()
@@ -216,7 +216,7 @@ void tst_ConfWidgetMouseAction::storedValueIsShown()
     QCOMPARE(changedMark(gesture->editor), QString("0"));
 }
 
-void tst_ConfWidgetMouseAction::makingTheEditorStoresNothing()
+void tst_ConfWidgetMouseAction::creatingTheEditorStoresNothing()
 {
     Gesture *gesture = add("Zoom", 0x0e000004, 1);
     delete gesture->editor;
@@ -258,7 +258,7 @@ void tst_ConfWidgetMouseAction::chosenModifiersAreStored()
     QCOMPARE(changedMark(gesture->editor), QString("0"));
 }
 
-void tst_ConfWidgetMouseAction::everyGestureHasItsValue_data()
+void tst_ConfWidgetMouseAction::chosenGestureStoresItsValue_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("action");
@@ -278,7 +278,7 @@ void tst_ConfWidgetMouseAction::everyGestureHasItsValue_data()
     QTest::newRow("Middle Drag with Shift") << 2 << "Middle Drag" << QList<int>{0} << 0x02000200;
 }
 
-void tst_ConfWidgetMouseAction::everyGestureHasItsValue()
+void tst_ConfWidgetMouseAction::chosenGestureStoresItsValue()
 {
     QFETCH(int, kind);
     QFETCH(QString, action);
@@ -312,7 +312,7 @@ void tst_ConfWidgetMouseAction::leftClickAloneIsNotStored()
     QCOMPARE(gesture->value, 4);
     QCOMPARE(action(gesture), QString("Left Click"));
     QCOMPARE(stateClass(gesture), QString("ErrorIcon"));
-    // The way back to what is stored.
+    // Back to the stored action.
     gesture->actions->setCurrentText("Right Click");
     QCOMPARE(gesture->value, 4);
     QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
@@ -326,13 +326,13 @@ void tst_ConfWidgetMouseAction::leftClickWithAModifierIsStored()
     gesture->actions->setCurrentText("Left Click");
     QCOMPARE(gesture->value, 0x04000001);
     QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
-    // Without the modifier it is the left click alone.
+    // Without the modifier it is a left click alone.
     gesture->modifiers->itemClicked(1);
     QCOMPARE(gesture->value, 0x04000001);
     QCOMPARE(stateClass(gesture), QString("ErrorIcon"));
 }
 
-void tst_ConfWidgetMouseAction::wheelIsRefused()
+void tst_ConfWidgetMouseAction::wheelIsIgnored()
 {
     Gesture *gesture = add("Zoom", 4, 1);
     QVERIFY(mFixture->show());
@@ -347,7 +347,7 @@ void tst_ConfWidgetMouseAction::wheelIsRefused()
     QCOMPARE(action(gesture), QString("Right Click"));
 }
 
-void tst_ConfWidgetMouseAction::loadingStoresAgain()
+void tst_ConfWidgetMouseAction::loadingStoresTheValueAgain()
 {
     Gesture *gesture = add("Zoom", 4, 1);
     const Gesture *other = add("Pan", 0x0a000010, 1);
@@ -368,7 +368,7 @@ void tst_ConfWidgetMouseAction::loadingStoresAgain()
     QCOMPARE(stateClass(gesture), QString("WarningIcon"));
     QCOMPARE(stateClass(other), QString("WarningIcon"));
 
-    // The action alone changes: once.
+    // If only the action changes, the callback runs once.
     store(gesture, 0x0a000008);
     calls = 0;
     gesture->editor->loadConf();
@@ -376,7 +376,7 @@ void tst_ConfWidgetMouseAction::loadingStoresAgain()
     QCOMPARE(stateClass(other), QString("CorrectIcon"));
 }
 
-void tst_ConfWidgetMouseAction::loadingWhatIsShownStoresNothing()
+void tst_ConfWidgetMouseAction::loadingTheShownValueStoresNothing()
 {
     Gesture *gesture = add("Zoom", 0x02000004, 1);
     const Gesture *other = add("Pan", 8, 1);
@@ -386,13 +386,13 @@ void tst_ConfWidgetMouseAction::loadingWhatIsShownStoresNothing()
     store(other, 0x02000004);
     gesture->editor->loadConf();
     QCOMPARE(calls, 0);
-    // Nor does it look for conflicts.
+    // Conflicts are not checked either.
     QCOMPARE(stateClass(gesture), QString("CorrectIcon"));
     gesture->editor->refreshConflictState();
     QCOMPARE(stateClass(gesture), QString("WarningIcon"));
 }
 
-void tst_ConfWidgetMouseAction::loadingWhatNoControlShowsMarksTheCaption()
+void tst_ConfWidgetMouseAction::loadingBitsThatNoControlShowsMarksTheCaption()
 {
     Gesture *gesture = add("Zoom", 0x02000004, 1);
     store(gesture, 0x22000004); // with the modifier of the keypad
@@ -401,7 +401,7 @@ void tst_ConfWidgetMouseAction::loadingWhatNoControlShowsMarksTheCaption()
     QCOMPARE(changedMark(gesture->editor), QString("1"));
 }
 
-void tst_ConfWidgetMouseAction::loadingAnActionThatIsNotOfferedStoresNone()
+void tst_ConfWidgetMouseAction::loadingAnActionOfAnotherKindStoresNone()
 {
     Gesture *gesture = add("Zoom", 0x02000004, 1);
     store(gesture, 0x02000040);

@@ -12,20 +12,20 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { clear(); }
 
-    void stateIsShown_data();
-    void stateIsShown();
+    void stateButtonShowsTheState_data();
+    void stateButtonShowsTheState();
     void styleFollowsTheState();
 
     void gesturesConflict_data();
     void gesturesConflict();
-    void everyPairIsJudged();
+    void everyPairOfGesturesIsChecked();
     void firstConflictIsNamed();
-    void storeIsJudgedNotTheControls();
-    void namedConflictStays();
-    void changeRefreshesTheOthers();
+    void conflictsAreCheckedWithStoredValues();
+    void nameOfTheConflictIsKept();
+    void changeUpdatesTheOtherEditors();
 };
 
-void tst_ConfWidgetMouseActionConflict::stateIsShown_data()
+void tst_ConfWidgetMouseActionConflict::stateButtonShowsTheState_data()
 {
     QTest::addColumn<int>("value");
     QTest::addColumn<int>("kind");
@@ -44,7 +44,7 @@ void tst_ConfWidgetMouseActionConflict::stateIsShown_data()
     QTest::newRow("an unknown action") << 0x8000 << 1 << "CorrectIcon" << 0xe725 << "";
 }
 
-void tst_ConfWidgetMouseActionConflict::stateIsShown()
+void tst_ConfWidgetMouseActionConflict::stateButtonShowsTheState()
 {
     QFETCH(int, value);
     QFETCH(int, kind);
@@ -88,8 +88,8 @@ void tst_ConfWidgetMouseActionConflict::gesturesConflict_data()
     QTest::newRow("right drag and middle drag") << 256 << 512 << false;
     QTest::newRow("the same drag") << (sAlt | 512) << (sAlt | 512) << true;
     QTest::newRow("left click and left drag") << (sAlt | 1) << (sAlt | 128) << false;
-    QTest::newRow("a modifier that no one offers") << (0x20000000 | 4) << 4 << false;
-    QTest::newRow("that modifier in both") << (0x20000000 | 4) << (0x20000000 | 8) << true;
+    QTest::newRow("an unknown modifier in one") << (0x20000000 | 4) << 4 << false;
+    QTest::newRow("an unknown modifier in both") << (0x20000000 | 4) << (0x20000000 | 8) << true;
     QTest::newRow("both of a pair and one") << 12 << 8 << true;
     QTest::newRow("the sign bit") << (INT_MIN | 4) << (INT_MIN | 4) << true;
 }
@@ -109,10 +109,10 @@ void tst_ConfWidgetMouseActionConflict::gesturesConflict()
     QCOMPARE(two->state->toolTip(), conflict ? QString("Conflict with One") : QString());
 }
 
-/// Every gesture that can be chosen against every one that can be stored.
-void tst_ConfWidgetMouseActionConflict::everyPairIsJudged()
+/// Compares every gesture that can be selected with every gesture that can be stored.
+void tst_ConfWidgetMouseActionConflict::everyPairOfGesturesIsChecked()
 {
-    // Which button and movement a gesture takes, by name; a click and a double click are one.
+    // The button and movement that a gesture uses; a click and a double click use the same.
     const QMap<int, QString> takes = {{0, ""},
                                       {1, "left"},
                                       {2, "left"},
@@ -163,15 +163,15 @@ void tst_ConfWidgetMouseActionConflict::firstConflictIsNamed()
     QCOMPARE(one->state->toolTip(), QString("Conflict with Two"));
 }
 
-void tst_ConfWidgetMouseActionConflict::storeIsJudgedNotTheControls()
+void tst_ConfWidgetMouseActionConflict::conflictsAreCheckedWithStoredValues()
 {
     Gesture *one = add("One", 4, 1);
     one->actions->setCurrentText("Left Click");
     QCOMPARE(one->value, 4);
-    // What is in force is the right click.
+    // The stored action is still the right click.
     const Gesture *two = add("Two", 8, 1);
     QCOMPARE(two->state->toolTip(), QString("Conflict with One"));
-    // A left click alone that came from elsewhere counts like any other.
+    // A left click alone that the host has stored conflicts like any other action.
     store(one, 1);
     Gesture *three = add("Three", 2, 1);
     QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
@@ -181,7 +181,7 @@ void tst_ConfWidgetMouseActionConflict::storeIsJudgedNotTheControls()
     QCOMPARE(stateClass(two), QString("CorrectIcon"));
 }
 
-void tst_ConfWidgetMouseActionConflict::namedConflictStays()
+void tst_ConfWidgetMouseActionConflict::nameOfTheConflictIsKept()
 {
     Gesture *one = add("One", 4, 1);
     add("Two", 8, 1);
@@ -190,7 +190,7 @@ void tst_ConfWidgetMouseActionConflict::namedConflictStays()
     show(one, 64);
     QCOMPARE(stateClass(three), QString("WarningIcon"));
     QCOMPARE(three->state->toolTip(), QString("Conflict with One"));
-    // Once another state was shown the name is a new one.
+    // The name is updated after another state was shown.
     show(three, 16);
     QCOMPARE(stateClass(three), QString("CorrectIcon"));
     QCOMPARE(three->state->toolTip(), QString());
@@ -198,7 +198,7 @@ void tst_ConfWidgetMouseActionConflict::namedConflictStays()
     QCOMPARE(three->state->toolTip(), QString("Conflict with Two"));
 }
 
-void tst_ConfWidgetMouseActionConflict::changeRefreshesTheOthers()
+void tst_ConfWidgetMouseActionConflict::changeUpdatesTheOtherEditors()
 {
     const Gesture *one = add("One", sShift | 4, 1);
     Gesture *two = add("Two", 4, 1);

@@ -13,16 +13,16 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { clear(); }
 
-    void deletedEditorIsInNoConflict();
-    void listHoldsTheLiveEditors();
+    void deletedEditorCausesNoConflict();
+    void listContainsTheExistingEditors();
 
     void callbackMayDeleteTheEditor_data();
     void callbackMayDeleteTheEditor();
     void callbackMayDeleteAllEditors();
-    void storeMayLoseTheKeysMeanwhile();
+    void keysMayBeRemovedFromTheStoreWhileTheyAreShown();
 };
 
-void tst_ConfWidgetMouseActionLifetime::deletedEditorIsInNoConflict()
+void tst_ConfWidgetMouseActionLifetime::deletedEditorCausesNoConflict()
 {
     const Gesture *one = add("One", 4, 1);
     Gesture *two = add("Two", 4, 1);
@@ -34,7 +34,7 @@ void tst_ConfWidgetMouseActionLifetime::deletedEditorIsInNoConflict()
     QCOMPARE(stateClass(one), QString("CorrectIcon"));
 }
 
-void tst_ConfWidgetMouseActionLifetime::listHoldsTheLiveEditors()
+void tst_ConfWidgetMouseActionLifetime::listContainsTheExistingEditors()
 {
     Gesture *one = add("One", 4, 1);
     const Gesture *two = add("Two", 0, 0);
@@ -44,7 +44,7 @@ void tst_ConfWidgetMouseActionLifetime::listHoldsTheLiveEditors()
     delete one->editor;
     QCOMPARE(ConfWidgetMouseAction::sConflictList,
              (QList<ConfWidgetMouseAction *>{two->editor, three->editor}));
-    // The host may tamper with it.
+    // The host may change the public list.
     ConfWidgetMouseAction::sConflictList.append(two->editor);
     delete two->editor;
     QCOMPARE(ConfWidgetMouseAction::sConflictList, QList<ConfWidgetMouseAction *>{three->editor});
@@ -106,7 +106,7 @@ void tst_ConfWidgetMouseActionLifetime::callbackMayDeleteAllEditors()
     QCoreApplication::processEvents();
 }
 
-void tst_ConfWidgetMouseActionLifetime::storeMayLoseTheKeysMeanwhile()
+void tst_ConfWidgetMouseActionLifetime::keysMayBeRemovedFromTheStoreWhileTheyAreShown()
 {
     Gesture *one = add("One", sShift | 4, 1);
     const Gesture *two = add("Two", sShift | 8, 1);

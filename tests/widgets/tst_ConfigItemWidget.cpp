@@ -24,7 +24,7 @@ Q_DECLARE_METATYPE(Factory)
 
 namespace {
 
-/// The smallest editor: it counts how often it is loaded and lets the test write.
+/// A minimal editor that counts how often it is loaded and makes protected functions public.
 class PlainEditor : public ConfigItemWidget
 {
 public:
@@ -36,7 +36,7 @@ public:
     int loads = 0;
 };
 
-/// Translates every text into brackets.
+/// Translates every text by putting it in brackets.
 class BracketTranslator : public QTranslator
 {
 public:
@@ -47,8 +47,8 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-/// Notes how the widgets that have it are polished.
-class NotingStyle : public QProxyStyle
+/// Records how often widgets with this style are polished and unpolished.
+class RecordingStyle : public QProxyStyle
 {
 public:
     void polish(QWidget *widget) override
@@ -87,24 +87,24 @@ private Q_SLOTS:
     }
     void cleanup() { mFixture.reset(); }
 
-    void itemPointsToItsLiveEditor();
-    void olderEditorDoesNotForgetTheNewerOne();
-    void styleHookIsSet();
-    void labelIsMadeOnceBesideTheEditor();
+    void itemPointsToItsEditor();
+    void deletingAnOlderEditorKeepsTheNewerOne();
+    void styleSheetPropertyIsSet();
+    void labelIsCreatedOnceWithTheEditorsParent();
     void labelOfAnEditorWithoutParentHasNoParent();
     void nullTextGivesAnEmptyLabel();
     void changedMarkFollowsTheValue();
-    void captionIsPolishedAnewWithTheMark();
+    void captionIsPolishedAgainWhenItsMarkChanges();
     void refreshWithoutLabelDoesNothing();
-    void restoreDefaultLeavesTheControlAlone();
-    void retranslationReachesLabelsAndButtons();
-    void auxCallbackStaysSilent();
+    void restoreDefaultDoesNotChangeTheControl();
+    void retranslationUpdatesLabelsAndButtons();
+    void auxCallbackIsNeverCalled();
     void writingTheStoredValueWritesNothing();
-    void storingWritesAlsoTheStoredValue();
-    void editorIsWritingWhileCallbacksRun();
-    void editorDeletedByACallbackIsNotTouchedAgain();
-    void factoryWithoutAnItemMakesNothing_data();
-    void factoryWithoutAnItemMakesNothing();
+    void storeValueWritesEvenTheStoredValue();
+    void isWritingIsTrueWhileCallbacksRun();
+    void editorDeletedByACallbackIsNotAccessed();
+    void factoryWithoutAnItemReturnsNull_data();
+    void factoryWithoutAnItemReturnsNull();
 
 private:
     PlainEditor *editor() { return mFixture->edit<PlainEditor>(mItem); }
@@ -114,7 +114,7 @@ private:
     int mValue = 0;
 };
 
-void tst_ConfigItemWidget::itemPointsToItsLiveEditor()
+void tst_ConfigItemWidget::itemPointsToItsEditor()
 {
     QVERIFY(!mItem->editor);
     PlainEditor *made = editor();
@@ -123,7 +123,7 @@ void tst_ConfigItemWidget::itemPointsToItsLiveEditor()
     QVERIFY(!mItem->editor);
 }
 
-void tst_ConfigItemWidget::olderEditorDoesNotForgetTheNewerOne()
+void tst_ConfigItemWidget::deletingAnOlderEditorKeepsTheNewerOne()
 {
     PlainEditor *older = editor();
     PlainEditor *newer = editor();
@@ -131,12 +131,12 @@ void tst_ConfigItemWidget::olderEditorDoesNotForgetTheNewerOne()
     QCOMPARE(mItem->editor, newer);
 }
 
-void tst_ConfigItemWidget::styleHookIsSet()
+void tst_ConfigItemWidget::styleSheetPropertyIsSet()
 {
     QCOMPARE(editor()->property("ConfigItemQFrame"), QVariant("1"));
 }
 
-void tst_ConfigItemWidget::labelIsMadeOnceBesideTheEditor()
+void tst_ConfigItemWidget::labelIsCreatedOnceWithTheEditorsParent()
 {
     PlainEditor *made = editor();
     auto *label = qobject_cast<QLabel *>(made->label());
@@ -175,10 +175,10 @@ void tst_ConfigItemWidget::changedMarkFollowsTheValue()
     QCOMPARE(changedMark(made), QString("0"));
 }
 
-void tst_ConfigItemWidget::captionIsPolishedAnewWithTheMark()
+void tst_ConfigItemWidget::captionIsPolishedAgainWhenItsMarkChanges()
 {
     PlainEditor *made = editor();
-    NotingStyle style;
+    RecordingStyle style;
     made->label()->setStyle(&style);
     mFixture->store()->set<int>("General.Size", 5);
     style.notes.clear();
@@ -195,7 +195,7 @@ void tst_ConfigItemWidget::refreshWithoutLabelDoesNothing()
     QVERIFY(mFixture->parent.findChildren<QLabel *>().isEmpty());
 }
 
-void tst_ConfigItemWidget::restoreDefaultLeavesTheControlAlone()
+void tst_ConfigItemWidget::restoreDefaultDoesNotChangeTheControl()
 {
     PlainEditor *made = editor();
     mFixture->store()->set<int>("General.Size", 5);
@@ -204,7 +204,7 @@ void tst_ConfigItemWidget::restoreDefaultLeavesTheControlAlone()
     QCOMPARE(made->loads, 0);
 }
 
-void tst_ConfigItemWidget::retranslationReachesLabelsAndButtons()
+void tst_ConfigItemWidget::retranslationUpdatesLabelsAndButtons()
 {
     PlainEditor *made = editor();
     auto *label = qobject_cast<QLabel *>(made->label());
@@ -225,7 +225,7 @@ void tst_ConfigItemWidget::retranslationReachesLabelsAndButtons()
     QCOMPARE(label->text(), QString("Size"));
 }
 
-void tst_ConfigItemWidget::auxCallbackStaysSilent()
+void tst_ConfigItemWidget::auxCallbackIsNeverCalled()
 {
     int calls = 0;
     mItem->auxCallback = [&](QJsonValue, ConfItem *) { ++calls; };
@@ -244,13 +244,13 @@ void tst_ConfigItemWidget::writingTheStoredValueWritesNothing()
     QCOMPARE(mValue, 2);
 }
 
-void tst_ConfigItemWidget::storingWritesAlsoTheStoredValue()
+void tst_ConfigItemWidget::storeValueWritesEvenTheStoredValue()
 {
     QVERIFY(editor()->store(1));
     QVERIFY(mFixture->store()->mChanged);
 }
 
-void tst_ConfigItemWidget::editorIsWritingWhileCallbacksRun()
+void tst_ConfigItemWidget::isWritingIsTrueWhileCallbacksRun()
 {
     PlainEditor *made = editor();
     bool during = false;
@@ -262,7 +262,7 @@ void tst_ConfigItemWidget::editorIsWritingWhileCallbacksRun()
     QVERIFY(!made->isWriting());
 }
 
-void tst_ConfigItemWidget::editorDeletedByACallbackIsNotTouchedAgain()
+void tst_ConfigItemWidget::editorDeletedByACallbackIsNotAccessed()
 {
     PlainEditor *made = editor();
     mItem->setConfChangedCallback([&](const QString &, const ConfValue *) { delete made; });
@@ -271,7 +271,7 @@ void tst_ConfigItemWidget::editorDeletedByACallbackIsNotTouchedAgain()
     QCOMPARE(mValue, 2);
 }
 
-void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing_data()
+void tst_ConfigItemWidget::factoryWithoutAnItemReturnsNull_data()
 {
     QTest::addColumn<Factory>("factory");
     QTest::newRow("ConfDefWidgetBool") << Factory(&MtConf::ConfDefWidgetBool::CreatConfWidget);
@@ -286,7 +286,7 @@ void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing_data()
         << Factory(&MtConf::ConfWidgetMouseAction::CreatConfWidget);
 }
 
-void tst_ConfigItemWidget::factoryWithoutAnItemMakesNothing()
+void tst_ConfigItemWidget::factoryWithoutAnItemReturnsNull()
 {
     QFETCH(Factory, factory);
     const LogCapture log;

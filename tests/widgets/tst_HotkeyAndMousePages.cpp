@@ -16,7 +16,7 @@
 
 using MtConf::ConfItem;
 
-/// The editors of hotkeys and mouse actions on the pages of the settings window, with its sheet.
+/// Editors of hotkeys and mouse actions on pages of the settings window, with its style sheet.
 class tst_HotkeyAndMousePages : public QObject
 {
     Q_OBJECT
@@ -24,15 +24,15 @@ private Q_SLOTS:
     void init();
     void cleanup() { mFixture.reset(); }
 
-    void boxesStandInColumns_data();
-    void boxesStandInColumns();
-    void plusIsAsLargeAsTheCaption();
-    void allModifiersCanBeRead();
+    void controlsAreAlignedInColumns_data();
+    void controlsAreAlignedInColumns();
+    void plusHasTheFontSizeOfTheCaption();
+    void allModifiersAreReadable();
     void narrowWindowShowsTheWholeRow();
-    void longestActionCanBeRead();
+    void longestActionIsReadable();
 
-    void hotkeyStateIsAPlainIcon_data();
-    void hotkeyStateIsAPlainIcon();
+    void hotkeyStateIsAnIconWithoutFrame_data();
+    void hotkeyStateIsAnIconWithoutFrame();
     void failedHotkeyShowsTheFocus();
 
     void pageMayBeRebuiltWhileTheBoxIsOpen();
@@ -41,7 +41,7 @@ private Q_SLOTS:
 private:
     using Editor = MtConf::ConfWidgetMouseAction;
 
-    /// The parts of an editor, in their order.
+    /// Returns the controls of an editor in layout order.
     static QList<QWidget *> parts(const QWidget *editor)
     {
         QList<QWidget *> widgets;
@@ -88,7 +88,7 @@ void tst_HotkeyAndMousePages::init()
     item->properties.insert("Shortcut", QVariant::fromValue(mShortcut.get()));
 }
 
-void tst_HotkeyAndMousePages::boxesStandInColumns_data()
+void tst_HotkeyAndMousePages::controlsAreAlignedInColumns_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<bool>("mirrored");
@@ -98,7 +98,7 @@ void tst_HotkeyAndMousePages::boxesStandInColumns_data()
     }
 }
 
-void tst_HotkeyAndMousePages::boxesStandInColumns()
+void tst_HotkeyAndMousePages::controlsAreAlignedInColumns()
 {
     QFETCH(int, width);
     QFETCH(bool, mirrored);
@@ -117,12 +117,12 @@ void tst_HotkeyAndMousePages::boxesStandInColumns()
         }
     }
     QCOMPARE(first.at(0)->x() > first.at(2)->x(), mirrored);
-    // The actions have the room that the rest does not need.
+    // The box of actions takes the remaining width.
     QVERIFY(first.at(2)->width() > first.at(0)->width());
     QVERIFY(first.at(1)->width() < 40);
 }
 
-void tst_HotkeyAndMousePages::plusIsAsLargeAsTheCaption()
+void tst_HotkeyAndMousePages::plusHasTheFontSizeOfTheCaption()
 {
     QVERIFY(mFixture->open("Mouse"));
     Editor *editor = Editor::sConflictList.at(0);
@@ -131,7 +131,7 @@ void tst_HotkeyAndMousePages::plusIsAsLargeAsTheCaption()
     QCOMPARE(plus->alignment(), Qt::AlignCenter);
 }
 
-void tst_HotkeyAndMousePages::allModifiersCanBeRead()
+void tst_HotkeyAndMousePages::allModifiersAreReadable()
 {
     QVERIFY(mFixture->open("Mouse"));
     const auto *shown = parts(Editor::sConflictList.at(0)).at(0)->findChild<QLineEdit *>();
@@ -148,7 +148,7 @@ void tst_HotkeyAndMousePages::narrowWindowShowsTheWholeRow()
                  0);
 }
 
-void tst_HotkeyAndMousePages::longestActionCanBeRead()
+void tst_HotkeyAndMousePages::longestActionIsReadable()
 {
     QVERIFY(mFixture->open("Mouse"));
     WindowFixture::window()->resize(900, 700);
@@ -167,14 +167,14 @@ void tst_HotkeyAndMousePages::longestActionCanBeRead()
                  qPrintable(QString::number(widthOfText())));
 }
 
-void tst_HotkeyAndMousePages::hotkeyStateIsAPlainIcon_data()
+void tst_HotkeyAndMousePages::hotkeyStateIsAnIconWithoutFrame_data()
 {
     QTest::addColumn<bool>("dark");
     QTest::newRow("light") << false;
     QTest::newRow("dark") << true;
 }
 
-void tst_HotkeyAndMousePages::hotkeyStateIsAPlainIcon()
+void tst_HotkeyAndMousePages::hotkeyStateIsAnIconWithoutFrame()
 {
     QFETCH(bool, dark);
     QThemeCtrl::instance()->setTheme(dark ? QThemeCtrl::Theme::Dark : QThemeCtrl::Theme::Light);

@@ -10,7 +10,7 @@ using Symbols = QVector<xcb_keysym_t>;
 
 namespace {
 
-// X's names of the keys typed here.
+// X11 keysyms of the keys that the tests type.
 constexpr xcb_keysym_t sShiftL = 0xffe1;
 constexpr xcb_keysym_t sControlL = 0xffe3;
 constexpr xcb_keysym_t sAltL = 0xffe9;
@@ -24,7 +24,7 @@ constexpr xcb_keysym_t sF9 = 0xffc6;
 
 } // namespace
 
-/// Hotkeys typed on the keyboard of a real X server, in a window that has shortcuts itself.
+/// Hotkeys typed on the keyboard of a real X server, in a window that has its own shortcuts.
 class tst_HotkeysTyped : public HotkeyEditorFixture
 {
     Q_OBJECT
@@ -37,8 +37,8 @@ private Q_SLOTS:
     void typedKeysAreRecorded();
     void loneModifierIsRecordedOnRelease_data();
     void loneModifierIsRecordedOnRelease();
-    void twoModifiersAreNotAlone();
-    void tabLeadsToTheOtherField();
+    void twoModifiersAreNotRecorded();
+    void tabMovesTheFocusToTheOtherField();
     void recordedHotkeyWorksAtOnce();
     void clearedHotkeyIsFreeAtOnce();
     void hotkeyOfAnotherProgramFails();
@@ -80,8 +80,8 @@ void tst_HotkeysTyped::init()
 void tst_HotkeysTyped::cleanup()
 {
     if (mClient) {
-        mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, false);
-        mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, false);
+        mClient->setLock(XClient::sCapsLock, XCB_MOD_MASK_LOCK, false);
+        mClient->setLock(XClient::sNumLock, XCB_MOD_MASK_2, false);
     }
     clear();
     mClient.reset();
@@ -125,9 +125,9 @@ void tst_HotkeysTyped::typedKeysAreRecorded()
     QSignalSpy closed(mClose, &QShortcut::activated);
     QSignalSpy opened(mOpen, &QPushButton::clicked);
     mField->setFocus();
-    mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, row.contains("caps"));
-    mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, row.contains("num"));
-    // The locks are keys, and recorded like others.
+    mClient->setLock(XClient::sCapsLock, XCB_MOD_MASK_LOCK, row.contains("caps"));
+    mClient->setLock(XClient::sNumLock, XCB_MOD_MASK_2, row.contains("num"));
+    // Wait until the lock keys, which the field records too, have been processed.
     QTRY_COMPARE(mClient->modifiers() & 0x12,
                  (row.contains("caps") ? 0x02 : 0) | (row.contains("num") ? 0x10 : 0));
     mClient->type(typed);
@@ -152,7 +152,7 @@ void tst_HotkeysTyped::loneModifierIsRecordedOnRelease()
 {
     QFETCH(quint32, symbol);
     mClient->type({symbol});
-    mClient->type({sF9}); // has had its effect when this has
+    mClient->type({sF9}); // when F9 is recorded, the key before it has been processed
     QTRY_COMPARE(mField->text(), QString("F9"));
     mField->cleanSetting();
     mField->allowSingleModifier = true;
@@ -161,7 +161,7 @@ void tst_HotkeysTyped::loneModifierIsRecordedOnRelease()
     QTRY_COMPARE(mField->text(), text);
 }
 
-void tst_HotkeysTyped::twoModifiersAreNotAlone()
+void tst_HotkeysTyped::twoModifiersAreNotRecorded()
 {
     mField->allowSingleModifier = true;
     QSignalSpy changes(mField, &KeySequenceEdit::sigKeySequenceChanged);
@@ -171,7 +171,7 @@ void tst_HotkeysTyped::twoModifiersAreNotAlone()
     QCOMPARE(mField->text(), QString("F9"));
 }
 
-void tst_HotkeysTyped::tabLeadsToTheOtherField()
+void tst_HotkeysTyped::tabMovesTheFocusToTheOtherField()
 {
     QWidget::setTabOrder(mField, mOther);
     mClient->type({sTab});
@@ -192,7 +192,7 @@ void tst_HotkeysTyped::recordedHotkeyWorksAtOnce()
     mClient->type({sControlL, sF9});
     QTRY_COMPARE(activations.count(), 1);
     QCOMPARE(mField->text(), QString("Ctrl+F9"));
-    // Another one in its place.
+    // Record another hotkey in its place.
     mClient->type({sAltL, sF9});
     QTRY_COMPARE(mValue, QKeySequence("Alt+F9"));
     QVERIFY(mClient->canGrab(mClient->keyOf(sF9), XCB_MOD_MASK_CONTROL));
@@ -212,7 +212,7 @@ void tst_HotkeysTyped::clearedHotkeyIsFreeAtOnce()
 void tst_HotkeysTyped::hotkeyOfAnotherProgramFails()
 {
     const xcb_keycode_t key = mClient->keyOf(sF9);
-    // With Caps Lock only, so that the field still gets the key without it.
+    // Grab the key only with Caps Lock, so that the field still receives it without.
     QVERIFY(mClient->grab(key, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK));
     mClient->type({sControlL, sF9});
     QTRY_COMPARE(mValue, QKeySequence("Ctrl+F9"));
@@ -220,7 +220,7 @@ void tst_HotkeysTyped::hotkeyOfAnotherProgramFails()
     QVERIFY(!mShortcut->isValid());
     QCOMPARE(mButton->toolTip(), failedToolTip());
     QVERIFY(mButton->isEnabled());
-    // Once it is free, and set again, the state follows.
+    // When the key is free and the hotkey is set again, the state is updated.
     mClient->ungrab(key, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK);
     QVERIFY(mShortcut->setShortcut(mValue));
     QCOMPARE(mButton->toolTip(), QString("Setup success."));

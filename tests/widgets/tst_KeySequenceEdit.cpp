@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Puts "de " before every text of the field.
+/// Translates every text of the field by prefixing it with "de ".
 class Prefixer : public QTranslator
 {
 public:
@@ -31,11 +31,11 @@ private Q_SLOTS:
 
     void newFieldShowsItsSequence_data();
     void newFieldShowsItsSequence();
-    void newFieldRefusesNothing();
+    void newFieldAcceptsSimpleKeys();
     void sequenceIsRendered_data();
     void sequenceIsRendered();
 
-    void sameSequenceFromCodeEmitsNothing();
+    void settingTheSameSequenceEmitsNothing();
     void clearButtonClears();
     void clearingAnEmptyFieldEmitsNothing();
 
@@ -86,7 +86,7 @@ void tst_KeySequenceEdit::newFieldShowsItsSequence()
     QCOMPARE(opaque, QSet<QRgb>{qRgb(255, 85, 85)});
 }
 
-void tst_KeySequenceEdit::newFieldRefusesNothing()
+void tst_KeySequenceEdit::newFieldAcceptsSimpleKeys()
 {
     BoxWatcher boxes(clickOk);
     KeySequenceEdit edit(QKeySequence(Qt::Key_A), nullptr);
@@ -118,7 +118,7 @@ void tst_KeySequenceEdit::sequenceIsRendered_data()
     QTest::newRow("every keypad chord")
         << QKeySequence(Qt::KeypadModifier | Qt::Key_1, Qt::KeypadModifier | Qt::Key_Plus)
         << "Num 1, Num +";
-    QTest::newRow("the key NumLock") << QKeySequence(Qt::Key_NumLock) << "NumLock";
+    QTest::newRow("the NumLock key") << QKeySequence(Qt::Key_NumLock) << "NumLock";
     QTest::newRow("four chords") << QKeySequence(Qt::Key_A, Qt::Key_Space, Qt::CTRL | Qt::Key_B,
                                                  Qt::Key_Home)
                                  << "A, Space, Ctrl+B, Home";
@@ -130,7 +130,7 @@ void tst_KeySequenceEdit::sequenceIsRendered()
     QTEST(KeySequenceEdit::QKeySeqToStr(sequence), "text");
 }
 
-void tst_KeySequenceEdit::sameSequenceFromCodeEmitsNothing()
+void tst_KeySequenceEdit::settingTheSameSequenceEmitsNothing()
 {
     field(QKeySequence(Qt::Key_F1));
     QSignalSpy changes(mField, &KeySequenceEdit::sigKeySequenceChanged);

@@ -13,29 +13,29 @@ private Q_SLOTS:
 
     void pressedKeyIsRecorded_data();
     void pressedKeyIsRecorded();
-    void typingNeverEdits();
-    void keyThatSaysNothingIsNotRecorded_data();
-    void keyThatSaysNothingIsNotRecorded();
+    void typingReplacesTheSequence();
+    void keyWithoutMeaningIsNotRecorded_data();
+    void keyWithoutMeaningIsNotRecorded();
     void sameKeyAgainEmitsNothing();
     void disabledFieldRecordsNothing();
 
-    void filterIsAskedAndTaken();
-    void filterDropsTheSequence();
-    void filterIsNotAskedForTheSameSequence();
-    void filterIsNotAskedByCode();
+    void filterIsCalledAndMayAccept();
+    void filterMayRejectTheSequence();
+    void filterIsNotCalledForTheSameSequence();
+    void filterIsNotCalledForSetKeySequence();
     void filterMayReplaceItself();
     void filterMayDeleteTheField();
 
     void loneModifierIsRecorded_data();
     void loneModifierIsRecorded();
-    void loneModifierNeedsPermission();
-    void loneModifierIsForgottenWithAnotherKey();
-    void loneModifierIsForgottenWithAnotherModifierHeld();
-    void firstOfTwoModifiersIsNotAlone();
-    void releasedKeyThatIsNoModifierIsNotRecorded_data();
-    void releasedKeyThatIsNoModifierIsNotRecorded();
-    void loneModifierAgainEmitsNothing();
-    void filterIsAskedForALoneModifier();
+    void loneModifierIsRecordedOnlyIfAllowed();
+    void modifierIsNotAloneAfterAnotherKey();
+    void modifierIsNotAloneWhileAnotherIsHeld();
+    void modifierIsNotAloneAfterAnotherModifier();
+    void releasedKeyThatIsNotAModifierIsNotRecorded_data();
+    void releasedKeyThatIsNotAModifierIsNotRecorded();
+    void sameLoneModifierEmitsNothing();
+    void filterIsCalledForALoneModifier();
     void loneModifierIsSimple();
 };
 
@@ -77,14 +77,14 @@ void tst_KeySequenceEditRecording::pressedKeyIsRecorded()
     QVERIFY(mField->hasFocus());
 }
 
-void tst_KeySequenceEditRecording::typingNeverEdits()
+void tst_KeySequenceEditRecording::typingReplacesTheSequence()
 {
     field(QKeySequence(Qt::CTRL | Qt::Key_K));
     QTest::keyClicks(mField, "xyz");
     QCOMPARE(mField->text(), QString("Z"));
 }
 
-void tst_KeySequenceEditRecording::keyThatSaysNothingIsNotRecorded_data()
+void tst_KeySequenceEditRecording::keyWithoutMeaningIsNotRecorded_data()
 {
     QTest::addColumn<int>("key");
     QTest::newRow("Shift") << int(Qt::Key_Shift);
@@ -93,14 +93,14 @@ void tst_KeySequenceEditRecording::keyThatSaysNothingIsNotRecorded_data()
     QTest::newRow("Alt") << int(Qt::Key_Alt);
     QTest::newRow("none") << 0;
     QTest::newRow("unknown") << int(Qt::Key_unknown);
-    QTest::newRow("Super, which is Meta") << int(Qt::Key_Super_L);
-    QTest::newRow("Super on the right") << int(Qt::Key_Super_R);
+    QTest::newRow("left Super, which is Meta") << int(Qt::Key_Super_L);
+    QTest::newRow("right Super") << int(Qt::Key_Super_R);
     QTest::newRow("AltGr") << int(Qt::Key_AltGr);
     QTest::newRow("a dead accent") << int(Qt::Key_Dead_Acute);
     QTest::newRow("Compose") << int(Qt::Key_Multi_key);
 }
 
-void tst_KeySequenceEditRecording::keyThatSaysNothingIsNotRecorded()
+void tst_KeySequenceEditRecording::keyWithoutMeaningIsNotRecorded()
 {
     QFETCH(int, key);
     field(QKeySequence(Qt::CTRL | Qt::Key_K));
@@ -135,7 +135,7 @@ void tst_KeySequenceEditRecording::disabledFieldRecordsNothing()
     QCOMPARE(mField->text(), QString());
 }
 
-void tst_KeySequenceEditRecording::filterIsAskedAndTaken()
+void tst_KeySequenceEditRecording::filterIsCalledAndMayAccept()
 {
     field();
     QList<QPair<KeySequenceEdit *, QKeySequence>> asked;
@@ -150,7 +150,7 @@ void tst_KeySequenceEditRecording::filterIsAskedAndTaken()
     QCOMPARE(mField->text(), QString("Ctrl+K"));
 }
 
-void tst_KeySequenceEditRecording::filterDropsTheSequence()
+void tst_KeySequenceEditRecording::filterMayRejectTheSequence()
 {
     field(QKeySequence(Qt::Key_F1));
     QSignalSpy changes(mField, &KeySequenceEdit::sigKeySequenceChanged);
@@ -160,7 +160,7 @@ void tst_KeySequenceEditRecording::filterDropsTheSequence()
     QCOMPARE(changes.count(), 0);
 }
 
-void tst_KeySequenceEditRecording::filterIsNotAskedForTheSameSequence()
+void tst_KeySequenceEditRecording::filterIsNotCalledForTheSameSequence()
 {
     field(QKeySequence(Qt::CTRL | Qt::Key_K));
     bool asked = false;
@@ -169,7 +169,7 @@ void tst_KeySequenceEditRecording::filterIsNotAskedForTheSameSequence()
     QVERIFY(!asked);
 }
 
-void tst_KeySequenceEditRecording::filterIsNotAskedByCode()
+void tst_KeySequenceEditRecording::filterIsNotCalledForSetKeySequence()
 {
     field(QKeySequence(Qt::CTRL | Qt::Key_K));
     mField->keySequenceFilter = [](KeySequenceEdit *, QKeySequence) { return false; };
@@ -234,7 +234,7 @@ void tst_KeySequenceEditRecording::loneModifierIsRecorded()
     QCOMPARE(mField->keySequence()[0], key == Qt::Key_Super_L ? int(Qt::Key_Meta) : key);
 }
 
-void tst_KeySequenceEditRecording::loneModifierNeedsPermission()
+void tst_KeySequenceEditRecording::loneModifierIsRecordedOnlyIfAllowed()
 {
     field();
     QSignalSpy changes(mField, &KeySequenceEdit::sigKeySequenceChanged);
@@ -244,7 +244,7 @@ void tst_KeySequenceEditRecording::loneModifierNeedsPermission()
     QCOMPARE(changes.count(), 0);
 }
 
-void tst_KeySequenceEditRecording::loneModifierIsForgottenWithAnotherKey()
+void tst_KeySequenceEditRecording::modifierIsNotAloneAfterAnotherKey()
 {
     field();
     mField->allowSingleModifier = true;
@@ -254,7 +254,7 @@ void tst_KeySequenceEditRecording::loneModifierIsForgottenWithAnotherKey()
     QCOMPARE(mField->text(), QString("Shift+K"));
 }
 
-void tst_KeySequenceEditRecording::loneModifierIsForgottenWithAnotherModifierHeld()
+void tst_KeySequenceEditRecording::modifierIsNotAloneWhileAnotherIsHeld()
 {
     field();
     mField->allowSingleModifier = true;
@@ -264,7 +264,7 @@ void tst_KeySequenceEditRecording::loneModifierIsForgottenWithAnotherModifierHel
     QCOMPARE(mField->text(), QString());
 }
 
-void tst_KeySequenceEditRecording::firstOfTwoModifiersIsNotAlone()
+void tst_KeySequenceEditRecording::modifierIsNotAloneAfterAnotherModifier()
 {
     field();
     mField->allowSingleModifier = true;
@@ -275,7 +275,7 @@ void tst_KeySequenceEditRecording::firstOfTwoModifiersIsNotAlone()
     QCOMPARE(mField->text(), QString());
 }
 
-void tst_KeySequenceEditRecording::releasedKeyThatIsNoModifierIsNotRecorded_data()
+void tst_KeySequenceEditRecording::releasedKeyThatIsNotAModifierIsNotRecorded_data()
 {
     QTest::addColumn<int>("key");
     QTest::newRow("letter") << int(Qt::Key_A);
@@ -285,12 +285,12 @@ void tst_KeySequenceEditRecording::releasedKeyThatIsNoModifierIsNotRecorded_data
     QTest::newRow("none") << 0;
 }
 
-void tst_KeySequenceEditRecording::releasedKeyThatIsNoModifierIsNotRecorded()
+void tst_KeySequenceEditRecording::releasedKeyThatIsNotAModifierIsNotRecorded()
 {
     QFETCH(int, key);
     field();
     mField->allowSingleModifier = true;
-    // Lets releases through, but no presses.
+    // The filter accepts releases only.
     bool pressed = true;
     mField->keySequenceFilter = [&pressed](KeySequenceEdit *, QKeySequence) { return !pressed; };
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
@@ -300,7 +300,7 @@ void tst_KeySequenceEditRecording::releasedKeyThatIsNoModifierIsNotRecorded()
     QCOMPARE(mField->text(), QString());
 }
 
-void tst_KeySequenceEditRecording::loneModifierAgainEmitsNothing()
+void tst_KeySequenceEditRecording::sameLoneModifierEmitsNothing()
 {
     field(QKeySequence(Qt::Key_Shift));
     mField->allowSingleModifier = true;
@@ -313,7 +313,7 @@ void tst_KeySequenceEditRecording::loneModifierAgainEmitsNothing()
     QVERIFY(!asked);
 }
 
-void tst_KeySequenceEditRecording::filterIsAskedForALoneModifier()
+void tst_KeySequenceEditRecording::filterIsCalledForALoneModifier()
 {
     field();
     mField->allowSingleModifier = true;

@@ -17,17 +17,17 @@ private Q_SLOTS:
     void shortcutOfTheWindowIsRecorded();
     void shortcutIsRecordedInEveryContext_data();
     void shortcutIsRecordedInEveryContext();
-    void twoShortcutsOfTheSameKeyAreLeftAlone();
+    void ambiguousShortcutsAreNotActivated();
     void mnemonicIsRecorded_data();
     void mnemonicIsRecorded();
-    void altAloneDoesNotLeadToTheMenuBar();
+    void altAloneDoesNotActivateTheMenuBar();
     void editingKeysOfTheSystemAreRecorded();
     void dialogStaysOpenOnEscapeAndReturn();
 
-    void tabLeadsOutOfTheField();
+    void tabMovesTheFocusOutOfTheField();
     void tabWithAModifierIsRecorded_data();
     void tabWithAModifierIsRecorded();
-    void tabIsRecordedWithoutAnotherPlaceForTheFocus();
+    void tabIsRecordedIfNothingElseTakesTheFocus();
 };
 
 void tst_KeySequenceEditShortcuts::shortcutOfTheWindowIsRecorded()
@@ -63,7 +63,7 @@ void tst_KeySequenceEditShortcuts::shortcutIsRecordedInEveryContext()
     QFETCH(int, context);
     QFETCH(QString, keys);
     field();
-    // A shortcut of the field itself is the nearest that there can be.
+    // For Qt::WidgetShortcut the shortcut must belong to the field itself.
     QWidget *owner = context == Qt::WidgetShortcut ? mField : mParent.get();
     auto *shortcut = new QShortcut(QKeySequence(keys), owner);
     shortcut->setContext(Qt::ShortcutContext(context));
@@ -75,7 +75,7 @@ void tst_KeySequenceEditShortcuts::shortcutIsRecordedInEveryContext()
     QCOMPARE(activations.count(), 0);
 }
 
-void tst_KeySequenceEditShortcuts::twoShortcutsOfTheSameKeyAreLeftAlone()
+void tst_KeySequenceEditShortcuts::ambiguousShortcutsAreNotActivated()
 {
     field();
     QShortcut first(QKeySequence("Ctrl+S"), mParent.get());
@@ -115,7 +115,7 @@ void tst_KeySequenceEditShortcuts::mnemonicIsRecorded()
         menu->addAction("One");
         mParent->layout()->setMenuBar(bar);
     }
-    // That the mnemonic works, elsewhere.
+    // In another field the mnemonic works.
     mBefore->setFocus();
     QTest::keyClick(mParent->windowHandle(), Qt::Key_O, Qt::AltModifier);
     QTRY_VERIFY(clicks.count() == 1 || mAfter->hasFocus() || (menu && menu->isVisible()));
@@ -130,7 +130,7 @@ void tst_KeySequenceEditShortcuts::mnemonicIsRecorded()
     QVERIFY(!menu || !menu->isVisible());
 }
 
-void tst_KeySequenceEditShortcuts::altAloneDoesNotLeadToTheMenuBar()
+void tst_KeySequenceEditShortcuts::altAloneDoesNotActivateTheMenuBar()
 {
     field();
     auto *bar = new QMenuBar(mParent.get());
@@ -184,7 +184,7 @@ void tst_KeySequenceEditShortcuts::dialogStaysOpenOnEscapeAndReturn()
     QCOMPARE(clicks.count(), 0);
 }
 
-void tst_KeySequenceEditShortcuts::tabLeadsOutOfTheField()
+void tst_KeySequenceEditShortcuts::tabMovesTheFocusOutOfTheField()
 {
     field();
     QTest::keyClick(mField, Qt::Key_Tab);
@@ -219,7 +219,7 @@ void tst_KeySequenceEditShortcuts::tabWithAModifierIsRecorded()
     QVERIFY(mField->hasFocus());
 }
 
-void tst_KeySequenceEditShortcuts::tabIsRecordedWithoutAnotherPlaceForTheFocus()
+void tst_KeySequenceEditShortcuts::tabIsRecordedIfNothingElseTakesTheFocus()
 {
     field();
     mBefore->setEnabled(false);

@@ -12,19 +12,19 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { mParent.reset(); }
 
-    void simpleKeysAreRefused_data();
-    void simpleKeysAreRefused();
+    void simpleKeysAreRejected_data();
+    void simpleKeysAreRejected();
     void examplesOfSimpleKeys_data();
     void examplesOfSimpleKeys();
-    void simpleKeysAreTakenWhenAllowed();
+    void simpleKeysAreAcceptedIfAllowed();
     void severalChordsAreNeverSimple();
     void emptySequenceIsNeverSimple();
 
-    void refusalIsToldInABox();
-    void fieldMayGoWhileTheBoxIsOpen();
+    void rejectionIsShownInAMessageBox();
+    void fieldMayBeDeletedWhileTheMessageBoxIsOpen();
 };
 
-void tst_KeySequenceEditSimple::simpleKeysAreRefused_data()
+void tst_KeySequenceEditSimple::simpleKeysAreRejected_data()
 {
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<bool>("canBeSimple");
@@ -40,7 +40,7 @@ void tst_KeySequenceEditSimple::simpleKeysAreRefused_data()
     }
 }
 
-void tst_KeySequenceEditSimple::simpleKeysAreRefused()
+void tst_KeySequenceEditSimple::simpleKeysAreRejected()
 {
     QFETCH(int, modifiers);
     QFETCH(bool, canBeSimple);
@@ -51,7 +51,7 @@ void tst_KeySequenceEditSimple::simpleKeysAreRefused()
                   Qt::Key_Right, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Shift,
                   Qt::Key_Control, Qt::Key_Meta, Qt::Key_Alt, Qt::Key_CapsLock, Qt::Key_NumLock,
                   Qt::Key_ScrollLock,
-                  // Numbers without a name between Page Down and Shift.
+                  // Unnamed key codes between Page Down and Shift.
                   0x01000018, 0x01000019, 0x0100001a, 0x0100001b, 0x0100001c, 0x0100001d,
                   0x0100001e, 0x0100001f};
         const QByteArray printable = " !\"#$%&'()*+,-./0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ"
@@ -59,8 +59,8 @@ void tst_KeySequenceEditSimple::simpleKeysAreRefused()
         for (const char character : printable)
             simple.insert(character);
     }
-    // Every key up to the end of the first plane of Unicode, and every number near those that Qt
-    // has names for; with modifiers only where something could be simple.
+    // Every key of Unicode's Basic Multilingual Plane, and the range of Qt's named keys. With
+    // modifiers that no simple key has, a smaller range is enough.
     const int range = canBeSimple ? 0x10000 : 0x100;
     QList<int> keys;
     for (int key = 0; key < range; ++key)
@@ -117,7 +117,7 @@ void tst_KeySequenceEditSimple::examplesOfSimpleKeys()
     QCOMPARE(boxes.count, text.isEmpty() ? 1 : 0);
 }
 
-void tst_KeySequenceEditSimple::simpleKeysAreTakenWhenAllowed()
+void tst_KeySequenceEditSimple::simpleKeysAreAcceptedIfAllowed()
 {
     BoxWatcher boxes(clickOk);
     field();
@@ -146,7 +146,7 @@ void tst_KeySequenceEditSimple::emptySequenceIsNeverSimple()
     QCOMPARE(boxes.count, 0);
 }
 
-void tst_KeySequenceEditSimple::refusalIsToldInABox()
+void tst_KeySequenceEditSimple::rejectionIsShownInAMessageBox()
 {
     QString text;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
@@ -183,7 +183,7 @@ void tst_KeySequenceEditSimple::refusalIsToldInABox()
     QTRY_VERIFY(!opened);
 }
 
-void tst_KeySequenceEditSimple::fieldMayGoWhileTheBoxIsOpen()
+void tst_KeySequenceEditSimple::fieldMayBeDeletedWhileTheMessageBoxIsOpen()
 {
     QPointer<KeySequenceEdit> edit = field();
     BoxWatcher boxes([&edit](QMessageBox *) { delete edit; });

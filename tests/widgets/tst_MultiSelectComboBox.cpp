@@ -6,7 +6,7 @@
 
 #include <climits>
 
-/// The entries, and the input that the closed box refuses.
+/// The entries, and the input that the closed box ignores.
 class tst_MultiSelectComboBox : public QObject, private MultiSelectFixture
 {
     Q_OBJECT
@@ -15,10 +15,10 @@ private Q_SLOTS:
     void cleanup() { close(); }
 
     void newBoxIsEmptyAndReadOnly();
-    void userDataAreKeptAndFound();
+    void userDataIsStoredAndFound();
     void addItemsHaveNoUserData();
     void setCurrentTextChecksAndNeverUnchecks();
-    void setCurrentTextOfOneTextDoesNothing();
+    void setCurrentTextWithASingleStringDoesNothing();
     void resetSelectionUnchecksAll();
     void wrongIndexDoesNothing_data();
     void wrongIndexDoesNothing();
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void wheelChangesNothing();
     void keysDoNothing_data();
     void keysDoNothing();
-    void tabLeavesTheBox();
+    void tabMovesTheFocusOutOfTheBox();
 };
 
 void tst_MultiSelectComboBox::newBoxIsEmptyAndReadOnly()
@@ -49,7 +49,7 @@ void tst_MultiSelectComboBox::newBoxIsEmptyAndReadOnly()
     QVERIFY(!isOpen());
 }
 
-void tst_MultiSelectComboBox::userDataAreKeptAndFound()
+void tst_MultiSelectComboBox::userDataIsStoredAndFound()
 {
     mBox->addItem("A", 4);
     mBox->addItem("B", "text");
@@ -91,7 +91,7 @@ void tst_MultiSelectComboBox::setCurrentTextChecksAndNeverUnchecks()
     QCOMPARE(mBox->currentText(), (QStringList{"A", "B", "A"}));
 }
 
-void tst_MultiSelectComboBox::setCurrentTextOfOneTextDoesNothing()
+void tst_MultiSelectComboBox::setCurrentTextWithASingleStringDoesNothing()
 {
     mBox->addItems({"A", "B"});
     mBox->setItemChecked(0, true);
@@ -115,7 +115,7 @@ void tst_MultiSelectComboBox::wrongIndexDoesNothing_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("before the first") << -1;
-    QTest::newRow("behind the last") << 2;
+    QTest::newRow("after the last") << 2;
     QTest::newRow("smallest") << INT_MIN;
     QTest::newRow("largest") << INT_MAX;
 }
@@ -228,7 +228,7 @@ void tst_MultiSelectComboBox::keysDoNothing()
     QVERIFY(!isOpen());
 }
 
-void tst_MultiSelectComboBox::tabLeavesTheBox()
+void tst_MultiSelectComboBox::tabMovesTheFocusOutOfTheBox()
 {
     mBox->setFocus();
     QTest::keyClick(mWindow->windowHandle(), Qt::Key_Tab);

@@ -4,7 +4,7 @@
 
 #include <QSignalSpy>
 
-/// A real pointer on a real X server.
+/// The open list, with the pointer of a real X server.
 class tst_MultiSelectComboBoxPointer : public QObject, private MultiSelectFixture
 {
     Q_OBJECT
@@ -27,9 +27,9 @@ private Q_SLOTS:
     void arrowOpensAndReleaseOnItDoesNotClose();
     void clickOnTheTextClosesTheList();
     void clickOnTheTextRightAfterClosingDoesNotReopen();
-    void rowIsToggledByItsCheckBoxTextAndRest();
-    void releasedOutsideTheListTogglesNothing();
-    void hiddenBoxTakesItsListAlong();
+    void rowIsToggledByItsCheckBoxItsTextAndItsFreeSpace();
+    void releaseOutsideTheListTogglesNothing();
+    void hidingTheBoxHidesItsList();
 
 protected:
     bool eventFilter(QObject *, QEvent *event) override
@@ -46,7 +46,7 @@ private:
         QTRY_VERIFY(isOpen());
         QVERIFY(QTest::qWaitForWindowExposed(mBox->view()->window()));
     }
-    /// The middle of the text that stands beside the indicator.
+    /// Returns a point in the text next to the indicator of a row.
     QPoint labelPoint(int index) const { return indicatorPoint(index) + QPoint(18, 0); }
 
     std::unique_ptr<XPointer> mPointer;
@@ -99,7 +99,7 @@ void tst_MultiSelectComboBoxPointer::clickOnTheTextClosesTheList()
 
 void tst_MultiSelectComboBoxPointer::clickOnTheTextRightAfterClosingDoesNotReopen()
 {
-    // A machine that is too slow for one try does the next one faster.
+    // Repeat the clicks if the machine was too slow to click within 500 ms.
     for (int attempt = 0; attempt < 10; ++attempt) {
         QTRY_VERIFY(!isOpen());
         mBox->showPopup();
@@ -126,7 +126,7 @@ void tst_MultiSelectComboBoxPointer::clickOnTheTextRightAfterClosingDoesNotReope
     openByPointer();
 }
 
-void tst_MultiSelectComboBoxPointer::rowIsToggledByItsCheckBoxTextAndRest()
+void tst_MultiSelectComboBoxPointer::rowIsToggledByItsCheckBoxItsTextAndItsFreeSpace()
 {
     openByPointer();
     mPointer->click(indicatorPoint(1));
@@ -138,7 +138,7 @@ void tst_MultiSelectComboBoxPointer::rowIsToggledByItsCheckBoxTextAndRest()
     QVERIFY(isOpen());
 }
 
-void tst_MultiSelectComboBoxPointer::releasedOutsideTheListTogglesNothing()
+void tst_MultiSelectComboBoxPointer::releaseOutsideTheListTogglesNothing()
 {
     openByPointer();
     mPointer->moveTo(indicatorPoint(1));
@@ -150,7 +150,7 @@ void tst_MultiSelectComboBoxPointer::releasedOutsideTheListTogglesNothing()
     QCOMPARE(mText->text(), QString());
 }
 
-void tst_MultiSelectComboBoxPointer::hiddenBoxTakesItsListAlong()
+void tst_MultiSelectComboBoxPointer::hidingTheBoxHidesItsList()
 {
     connect(mBox, &MultiSelectComboBox::selectionChanged, mBox, &QWidget::hide);
     openByPointer();

@@ -14,22 +14,22 @@ private Q_SLOTS:
 
     void clickOnTheTextOpens();
     void clickOnACheckBoxTogglesOnceAndStaysOpen();
-    void clickOnTheRestOfARowTogglesOnceAndStaysOpen();
+    void clickBesideTheCheckBoxTogglesOnceAndStaysOpen();
     void clickOnAPlainRowChecksNothing();
     void clickOutsideCloses();
     void clickOnTheTextClosesAndDoesNotReopen();
-    void clickOnTheTextSoonAfterClosingDoesNotReopen();
-    void cursorDecidesWhetherTheListStaysOpen_data();
-    void cursorDecidesWhetherTheListStaysOpen();
+    void clickOnTheTextShortlyAfterClosingDoesNotReopen();
+    void listStaysOpenWhileTheCursorIsInIt_data();
+    void listStaysOpenWhileTheCursorIsInIt();
     void escapeClosesWhereverTheCursorIs();
-    void filterConsumesNothing();
+    void eventFilterConsumesNoMouseEvents();
     void rowsAreAsHighAsTheirCheckBoxes();
     void rowUnderTheCursorStaysReadable();
     void clearWhileTheListIsOpen();
-    void deletedWhileTheListIsOpen();
-    void deletedLaterByAReceiver();
-    void goneOrDisabledBoxClosesItsList_data();
-    void goneOrDisabledBoxClosesItsList();
+    void boxMayBeDeletedWhileTheListIsOpen();
+    void receiverMayDeleteTheBoxLater();
+    void hiddenOrDisabledBoxClosesItsList_data();
+    void hiddenOrDisabledBoxClosesItsList();
     void keyboardTogglesTheRowOfTheOpenList();
     void tenThousandEntries();
 };
@@ -60,7 +60,7 @@ void tst_MultiSelectComboBoxPopup::clickOnACheckBoxTogglesOnceAndStaysOpen()
     QVERIFY(isOpen());
 }
 
-void tst_MultiSelectComboBoxPopup::clickOnTheRestOfARowTogglesOnceAndStaysOpen()
+void tst_MultiSelectComboBoxPopup::clickBesideTheCheckBoxTogglesOnceAndStaysOpen()
 {
     mBox->addItems({"A", "B", "C"});
     const QSignalSpy spy(mBox, &MultiSelectComboBox::selectionChanged);
@@ -112,11 +112,11 @@ void tst_MultiSelectComboBoxPopup::clickOnTheTextClosesAndDoesNotReopen()
     QVERIFY(!isOpen());
 }
 
-void tst_MultiSelectComboBoxPopup::clickOnTheTextSoonAfterClosingDoesNotReopen()
+void tst_MultiSelectComboBoxPopup::clickOnTheTextShortlyAfterClosingDoesNotReopen()
 {
     mBox->addItems({"A", "B"});
     QDateTime closed;
-    // A machine that is too slow for one try does the next one faster.
+    // Repeat the click if the machine was too slow to click within 500 ms.
     for (int attempt = 0; attempt < 10; ++attempt) {
         mBox->showPopup();
         placeCursor(outsidePoint());
@@ -137,16 +137,16 @@ void tst_MultiSelectComboBoxPopup::clickOnTheTextSoonAfterClosingDoesNotReopen()
     QTRY_VERIFY(isOpen());
 }
 
-void tst_MultiSelectComboBoxPopup::cursorDecidesWhetherTheListStaysOpen_data()
+void tst_MultiSelectComboBoxPopup::listStaysOpenWhileTheCursorIsInIt_data()
 {
-    // The box is 240 x 30 pixels. Right and bottom bounds are beside the box and the list.
+    // The box is 240 x 30 pixels. The right and lower bounds are one pixel outside.
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("y");
     QTest::addColumn<bool>("belowList");
     QTest::addColumn<bool>("stays");
     QTest::newRow("first point") << 0 << 30 << false << true;
-    QTest::newRow("left of it") << -1 << 30 << false << false;
-    QTest::newRow("above it") << 0 << 29 << false << false;
+    QTest::newRow("left of the first point") << -1 << 30 << false << false;
+    QTest::newRow("above the first point") << 0 << 29 << false << false;
     QTest::newRow("right bound") << 240 << 30 << false << true;
     QTest::newRow("right of the bound") << 241 << 30 << false << false;
     QTest::newRow("lower bound") << 120 << 30 << true << true;
@@ -154,7 +154,7 @@ void tst_MultiSelectComboBoxPopup::cursorDecidesWhetherTheListStaysOpen_data()
     QTest::newRow("last point") << 240 << 30 << true << true;
 }
 
-void tst_MultiSelectComboBoxPopup::cursorDecidesWhetherTheListStaysOpen()
+void tst_MultiSelectComboBoxPopup::listStaysOpenWhileTheCursorIsInIt()
 {
     QFETCH(int, x);
     QFETCH(int, y);
@@ -177,7 +177,7 @@ void tst_MultiSelectComboBoxPopup::escapeClosesWhereverTheCursorIs()
     QTRY_VERIFY(!isOpen());
 }
 
-void tst_MultiSelectComboBoxPopup::filterConsumesNothing()
+void tst_MultiSelectComboBoxPopup::eventFilterConsumesNoMouseEvents()
 {
     mBox->addItems({"A"});
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
@@ -226,7 +226,7 @@ void tst_MultiSelectComboBoxPopup::clearWhileTheListIsOpen()
     QCOMPARE(mText->text(), QString());
 }
 
-void tst_MultiSelectComboBoxPopup::deletedWhileTheListIsOpen()
+void tst_MultiSelectComboBoxPopup::boxMayBeDeletedWhileTheListIsOpen()
 {
     mBox->addItems({"A", "B"});
     openByClick();
@@ -239,7 +239,7 @@ void tst_MultiSelectComboBoxPopup::deletedWhileTheListIsOpen()
     QVERIFY(mOther->hasFocus());
 }
 
-void tst_MultiSelectComboBoxPopup::deletedLaterByAReceiver()
+void tst_MultiSelectComboBoxPopup::receiverMayDeleteTheBoxLater()
 {
     mBox->addItems({"A", "B"});
     openByClick();
@@ -250,14 +250,14 @@ void tst_MultiSelectComboBoxPopup::deletedLaterByAReceiver()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-void tst_MultiSelectComboBoxPopup::goneOrDisabledBoxClosesItsList_data()
+void tst_MultiSelectComboBoxPopup::hiddenOrDisabledBoxClosesItsList_data()
 {
     QTest::addColumn<bool>("hide");
     QTest::newRow("hidden") << true;
     QTest::newRow("disabled") << false;
 }
 
-void tst_MultiSelectComboBoxPopup::goneOrDisabledBoxClosesItsList()
+void tst_MultiSelectComboBoxPopup::hiddenOrDisabledBoxClosesItsList()
 {
     QFETCH(bool, hide);
     mBox->addItems({"A", "B"});

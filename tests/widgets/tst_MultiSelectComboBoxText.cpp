@@ -8,7 +8,7 @@
 
 Q_DECLARE_METATYPE(std::function<void(QComboBox *)>)
 
-/// The text that the closed box shows, and the room that it asks for.
+/// The text that the closed box shows, and its size hints.
 class tst_MultiSelectComboBoxText : public QObject, private MultiSelectFixture
 {
     Q_OBJECT
@@ -18,15 +18,15 @@ private Q_SLOTS:
 
     void shownText_data();
     void shownText();
-    void shownTextFollowsTheEntriesOrder();
+    void shownTextFollowsTheOrderOfTheEntries();
     void everyRebuildEmitsSelectionChanged();
-    void setItemTextShowsWithoutASignal();
-    void manyTextsAtOnceShowWithoutASignal();
-    void manyChecksAtOnceEmitOnce();
-    void shownTextSurvivesWhatAComboBoxWrites_data();
-    void shownTextSurvivesWhatAComboBoxWrites();
-    void textStandsWhereLinesBegin();
-    void focusThatLeavesChangesNothing();
+    void setItemTextUpdatesTheTextWithoutASignal();
+    void manyChangedTextsUpdateTheTextWithoutASignal();
+    void manyChangedChecksEmitOnce();
+    void shownTextIsKeptWhenQComboBoxSetsAText_data();
+    void shownTextIsKeptWhenQComboBoxSetsAText();
+    void textIsAlignedToTheStartOfTheLine();
+    void losingTheFocusChangesNothing();
     void hintOfAnEmptyBox();
     void hintOfAllTexts_data();
     void hintOfAllTexts();
@@ -72,7 +72,7 @@ void tst_MultiSelectComboBoxText::shownText_data()
         << "0123456789abcdef;0123456789abcde..."
         << "0123456789abcdef;0123456789abcdef"
         << QStringList{"0123456789abcdef", "0123456789abcde..."};
-    QTest::newRow("texts behind the cut are missing")
+    QTest::newRow("texts after the cut are missing")
         << QStringList{"0123456789012345678901234567890", "B", "C"} << QList<int>{0, 1, 2}
         << "0123456789012345678901234567890;..."
         << "0123456789012345678901234567890;B;C"
@@ -93,7 +93,7 @@ void tst_MultiSelectComboBoxText::shownText()
     QCOMPARE(mText->cursorPosition(), 0);
 }
 
-void tst_MultiSelectComboBoxText::shownTextFollowsTheEntriesOrder()
+void tst_MultiSelectComboBoxText::shownTextFollowsTheOrderOfTheEntries()
 {
     mBox->addItems({"A", "B", "C"});
     mBox->setItemChecked(2, true);
@@ -123,7 +123,7 @@ void tst_MultiSelectComboBoxText::everyRebuildEmitsSelectionChanged()
     QCOMPARE(spy.count(), 7);
 }
 
-void tst_MultiSelectComboBoxText::setItemTextShowsWithoutASignal()
+void tst_MultiSelectComboBoxText::setItemTextUpdatesTheTextWithoutASignal()
 {
     mBox->addItems({"A", "B"});
     mBox->setItemChecked(0, true);
@@ -137,7 +137,7 @@ void tst_MultiSelectComboBoxText::setItemTextShowsWithoutASignal()
     QCOMPARE(spy.count(), 0);
 }
 
-void tst_MultiSelectComboBoxText::manyTextsAtOnceShowWithoutASignal()
+void tst_MultiSelectComboBoxText::manyChangedTextsUpdateTheTextWithoutASignal()
 {
     mBox->addItems({"A", "B", "C"});
     mBox->setCurrentText(QStringList{"A", "B", "C"});
@@ -150,7 +150,7 @@ void tst_MultiSelectComboBoxText::manyTextsAtOnceShowWithoutASignal()
     QCOMPARE(spy.count(), 0);
 }
 
-void tst_MultiSelectComboBoxText::manyChecksAtOnceEmitOnce()
+void tst_MultiSelectComboBoxText::manyChangedChecksEmitOnce()
 {
     mBox->addItems({"A", "B", "C"});
     const QSignalSpy spy(mBox, &MultiSelectComboBox::selectionChanged);
@@ -165,7 +165,7 @@ void tst_MultiSelectComboBoxText::manyChecksAtOnceEmitOnce()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites_data()
+void tst_MultiSelectComboBoxText::shownTextIsKeptWhenQComboBoxSetsAText_data()
 {
     using Action = std::function<void(QComboBox *)>;
     QTest::addColumn<Action>("action");
@@ -176,12 +176,12 @@ void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites_data()
         pixmap.fill(Qt::red);
         box->setItemIcon(0, pixmap);
     });
-    QTest::newRow("an edited text") << Action([](QComboBox *box) { box->setEditText("X"); });
-    QTest::newRow("its text as a property")
+    QTest::newRow("an edit text") << Action([](QComboBox *box) { box->setEditText("X"); });
+    QTest::newRow("its text property")
         << Action([](QComboBox *box) { box->setProperty("currentText", "X"); });
 }
 
-void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites()
+void tst_MultiSelectComboBoxText::shownTextIsKeptWhenQComboBoxSetsAText()
 {
     QFETCH(std::function<void(QComboBox *)>, action);
     mBox->addItems({"A", "B", "C"});
@@ -193,12 +193,12 @@ void tst_MultiSelectComboBoxText::shownTextSurvivesWhatAComboBoxWrites()
     QCOMPARE(spy.count(), 0);
 }
 
-void tst_MultiSelectComboBoxText::textStandsWhereLinesBegin()
+void tst_MultiSelectComboBoxText::textIsAlignedToTheStartOfTheLine()
 {
     const QString hebrew(QChar(0x5d0));
     mBox->addItems({"A", hebrew});
     const auto cursor = [this] {
-        mText->grab(); // the text is placed when it is painted
+        mText->grab(); // painting updates the position of the text
         return mText->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
     };
     const int middle = mText->width() / 2;
@@ -212,7 +212,7 @@ void tst_MultiSelectComboBoxText::textStandsWhereLinesBegin()
     }
 }
 
-void tst_MultiSelectComboBoxText::focusThatLeavesChangesNothing()
+void tst_MultiSelectComboBoxText::losingTheFocusChangesNothing()
 {
     mBox->addItems({"A", "B"});
     mBox->setItemChecked(1, true);
@@ -260,7 +260,7 @@ void tst_MultiSelectComboBoxText::hintsNeverChange()
     const QSize empty = mBox->sizeHint();
     mBox->addItems({"A long text that would need far more room", "B"});
     QCOMPARE(mBox->sizeHint(), empty);
-    // The minimum has a memory of its own, and has not been asked for yet.
+    // The minimum size hint is cached separately and has not been computed yet.
     const QSize minimum = mBox->minimumSizeHint();
     QVERIFY(minimum.width() > empty.width());
     mBox->clear();

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-/// The two controls inside a page that scrolls, turned over by a wheel.
+/// The mouse wheel over the two controls inside a page that scrolls.
 class tst_WheelControls : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ private Q_SLOTS:
         auto *layout = new QVBoxLayout(page);
         mSpinBox = new QSpinBoxDisableWheel(page);
         mSpinBox->setValue(50);
-        // As the editor sets it: by the policy of a plain spin box the wheel itself gives the
-        // focus.
+        // The policy that the editor sets. With the default policy the wheel would focus the spin
+        // box.
         mSpinBox->setFocusPolicy(Qt::StrongFocus);
         mComboBox = new ComboboxDisableWheel(page);
         mComboBox->addItems({"one", "two", "three"});
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void spinBoxWithFocusChanges();
     void comboBoxAlwaysScrollsThePage_data();
     void comboBoxAlwaysScrollsThePage();
-    void wheelHandedOverDirectlyIsLeftToOthers();
+    void wheelEventSentDirectlyIsIgnored();
 
 private:
     static void turnWheelOver(QWidget *widget)
@@ -49,7 +49,7 @@ private:
         const QPointF position(widget->rect().center());
         QWheelEvent event(position, widget->mapToGlobal(position.toPoint()), QPoint(),
                           QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        // Only an event that comes from outside travels on to the parents of a widget.
+        // Only spontaneous events are propagated to the parents of a widget.
         QSpontaneKeyEvent::setSpontaneous(&event);
         qApp->notify(widget, &event);
     }
@@ -94,14 +94,14 @@ void tst_WheelControls::comboBoxAlwaysScrollsThePage()
     QVERIFY(scrolled() > 0);
 }
 
-void tst_WheelControls::wheelHandedOverDirectlyIsLeftToOthers()
+void tst_WheelControls::wheelEventSentDirectlyIsIgnored()
 {
     mComboBox->setFocus();
     for (QWidget *widget : {static_cast<QWidget *>(mComboBox), static_cast<QWidget *>(mSpinBox)}) {
         const QPointF position(widget->rect().center());
         QWheelEvent event(position, widget->mapToGlobal(position.toPoint()), QPoint(),
                           QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        event.accept(); // as whoever filters events may find and send it
+        event.accept(); // an event filter may send an event that is already accepted
         static_cast<QObject *>(widget)->event(&event);
         QVERIFY(!event.isAccepted());
     }

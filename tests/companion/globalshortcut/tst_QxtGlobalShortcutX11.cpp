@@ -13,15 +13,19 @@
 
 using Symbols = QVector<xcb_keysym_t>;
 
-// X's names of the keys typed here.
-static constexpr xcb_keysym_t shiftL = 0xffe1;
-static constexpr xcb_keysym_t controlL = 0xffe3;
-static constexpr xcb_keysym_t altL = 0xffe9;
-static constexpr xcb_keysym_t superL = 0xffeb;
-static constexpr xcb_keysym_t f8 = 0xffc5;
-static constexpr xcb_keysym_t f9 = 0xffc6;
+namespace {
 
-/// Real keys on a real X server.
+// X11 keysyms of the keys that the tests type.
+constexpr xcb_keysym_t sShiftL = 0xffe1;
+constexpr xcb_keysym_t sControlL = 0xffe3;
+constexpr xcb_keysym_t sAltL = 0xffe9;
+constexpr xcb_keysym_t sSuperL = 0xffeb;
+constexpr xcb_keysym_t sF8 = 0xffc5;
+constexpr xcb_keysym_t sF9 = 0xffc6;
+
+} // namespace
+
+/// Global shortcuts with the keyboard of a real X server.
 class tst_QxtGlobalShortcutX11 : public QObject
 {
     Q_OBJECT
@@ -30,21 +34,21 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void aPressActivates_data();
-    void aPressActivates();
+    void pressingTheKeysActivates_data();
+    void pressingTheKeysActivates();
     void otherModifiersDoNotActivate();
-    void aHeldKeyActivatesOnce();
-    void aHeldKeyLeavesThePointerAlone();
-    void aKeyHeldByAnotherClientIsEnabledButNotValid();
-    void aPartlyHeldKeyIsGivenBackWhole();
-    void changeDisableAndDestroyRelease_data();
-    void changeDisableAndDestroyRelease();
-    void theSameKeyActivatesEveryObject();
-    void aRetryOfOneObjectServesAll();
-    void chordsOfTheSameKeysShareThem();
-    void deletionInTheHandlerIsHarmless();
-    void theHandlerMayDisableTheOther();
-    void theHandlerMayChangeTheOther();
+    void heldKeyActivatesOnce();
+    void heldKeyDoesNotFreezeThePointer();
+    void shortcutOfAKeyGrabbedByAnotherClientIsEnabledButNotValid();
+    void partlyOccupiedKeyIsReleasedCompletely();
+    void changingDisablingAndDestroyingReleasesTheKey_data();
+    void changingDisablingAndDestroyingReleasesTheKey();
+    void sameKeysActivateEveryShortcut();
+    void retryOfOneShortcutRegistersAll();
+    void equivalentChordsShareTheKeys();
+    void handlerMayDeleteShortcuts();
+    void handlerMayDisableAnotherShortcut();
+    void handlerMayChangeAnotherShortcut();
     void anotherThreadRegistersNothing();
     void impossibleShortcutsAreNotValid_data();
     void impossibleShortcutsAreNotValid();
@@ -75,30 +79,30 @@ void tst_QxtGlobalShortcutX11::init()
 void tst_QxtGlobalShortcutX11::cleanup()
 {
     if (mClient) {
-        mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, false);
-        mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, false);
+        mClient->setLock(XClient::sCapsLock, XCB_MOD_MASK_LOCK, false);
+        mClient->setLock(XClient::sNumLock, XCB_MOD_MASK_2, false);
     }
     mSentinel.reset();
     mClient.reset();
 }
 
-// Whatever was typed before has had its effect when this returns.
+// Waits until everything that was typed before has been processed.
 void tst_QxtGlobalShortcutX11::typeSentinel()
 {
     QSignalSpy activations(mSentinel.get(), &QxtGlobalShortcut::activated);
-    mClient->type({f8});
+    mClient->type({sF8});
     QTRY_COMPARE(activations.count(), 1);
 }
 
-// Whether nobody else holds the key, with any of the locks.
+// Returns whether no other client has grabbed F9 with any combination of the lock keys.
 bool tst_QxtGlobalShortcutX11::canGrabF9()
 {
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     return mClient->canGrab(key, 0x00) && mClient->canGrab(key, 0x02) && mClient->canGrab(key, 0x10)
            && mClient->canGrab(key, 0x12);
 }
 
-void tst_QxtGlobalShortcutX11::aPressActivates_data()
+void tst_QxtGlobalShortcutX11::pressingTheKeysActivates_data()
 {
     QTest::addColumn<int>("chord");
     QTest::addColumn<Symbols>("typed");
@@ -111,24 +115,28 @@ void tst_QxtGlobalShortcutX11::aPressActivates_data()
         int chord;
         Symbols typed;
     } keys[] = {
-        {"functionKey", Qt::Key_F9, {f9}},
-        {"letter", int(Qt::CTRL) + int(Qt::ALT) + Qt::Key_K, {controlL, altL, 'k'}},
+        {"functionKey", Qt::Key_F9, {sF9}},
+        {"letter", int(Qt::CTRL) + int(Qt::ALT) + Qt::Key_K, {sControlL, sAltL, 'k'}},
         {"allModifiers",
          int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::ALT) + int(Qt::META) + Qt::Key_K,
-         {controlL, shiftL, altL, superL, 'k'}},
-        {"shiftedDigit", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1, {controlL, shiftL, '1'}},
-        {"shiftedSymbol", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Exclam, {controlL, shiftL, '1'}},
-        {"symbolWithoutShift", int(Qt::CTRL) + Qt::Key_Exclam, {controlL, shiftL, '1'}},
-        {"symbolOfTwoKeys", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Less, {controlL, shiftL, ','}},
-        {"backtab", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Backtab, {controlL, shiftL, 0xff09}},
-        {"space", int(Qt::META) + Qt::Key_Space, {superL, ' '}},
-        {"arrow", int(Qt::ALT) + Qt::Key_Left, {altL, 0xff51}},
+         {sControlL, sShiftL, sAltL, sSuperL, 'k'}},
+        {"shiftedDigit", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1, {sControlL, sShiftL, '1'}},
+        {"shiftedSymbol",
+         int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Exclam,
+         {sControlL, sShiftL, '1'}},
+        {"symbolWithoutShift", int(Qt::CTRL) + Qt::Key_Exclam, {sControlL, sShiftL, '1'}},
+        {"symbolOfTwoKeys",
+         int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Less,
+         {sControlL, sShiftL, ','}},
+        {"backtab", int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Backtab, {sControlL, sShiftL, 0xff09}},
+        {"space", int(Qt::META) + Qt::Key_Space, {sSuperL, ' '}},
+        {"arrow", int(Qt::ALT) + Qt::Key_Left, {sAltL, 0xff51}},
         {"print", Qt::Key_Print, {0xff61}},
-        {"altPrint", int(Qt::ALT) + Qt::Key_SysReq, {altL, 0xff61}},
+        {"altPrint", int(Qt::ALT) + Qt::Key_SysReq, {sAltL, 0xff61}},
         {"mediaKey", Qt::Key_MediaPlay, {0x1008ff14}},
         {"keypadDigit", int(Qt::KeypadModifier) + Qt::Key_5, {0xffb5}},
-        {"keypadPlus", int(Qt::CTRL) + int(Qt::KeypadModifier) + Qt::Key_Plus, {controlL, 0xffab}},
-        {"keypadEnter", int(Qt::CTRL) + Qt::Key_Enter, {controlL, 0xff8d}},
+        {"keypadPlus", int(Qt::CTRL) + int(Qt::KeypadModifier) + Qt::Key_Plus, {sControlL, 0xffab}},
+        {"keypadEnter", int(Qt::CTRL) + Qt::Key_Enter, {sControlL, 0xff8d}},
     };
     for (const auto &key : keys) {
         QTest::addRow("%s", key.name) << key.chord << key.typed << false << false;
@@ -138,7 +146,7 @@ void tst_QxtGlobalShortcutX11::aPressActivates_data()
     }
 }
 
-void tst_QxtGlobalShortcutX11::aPressActivates()
+void tst_QxtGlobalShortcutX11::pressingTheKeysActivates()
 {
     QFETCH(int, chord);
     QFETCH(Symbols, typed);
@@ -152,8 +160,8 @@ void tst_QxtGlobalShortcutX11::aPressActivates()
     QVERIFY(shortcut.isValid());
     QCOMPARE(changes.count(), 1);
 
-    mClient->setLock(XClient::capsLock, XCB_MOD_MASK_LOCK, capsLock);
-    mClient->setLock(XClient::numLock, XCB_MOD_MASK_2, numLock);
+    mClient->setLock(XClient::sCapsLock, XCB_MOD_MASK_LOCK, capsLock);
+    mClient->setLock(XClient::sNumLock, XCB_MOD_MASK_2, numLock);
     QCOMPARE(mClient->modifiers(), quint16((capsLock ? 0x02 : 0) | (numLock ? 0x10 : 0)));
     mClient->type(typed);
     QTRY_COMPARE(activations.count(), 1);
@@ -165,31 +173,31 @@ void tst_QxtGlobalShortcutX11::otherModifiersDoNotActivate()
 {
     QxtGlobalShortcut shortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F9));
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    mClient->type({f9});
-    mClient->type({altL, f9});
-    mClient->type({controlL, shiftL, f9});
+    mClient->type({sF9});
+    mClient->type({sAltL, sF9});
+    mClient->type({sControlL, sShiftL, sF9});
     typeSentinel();
     QCOMPARE(activations.count(), 0);
 }
 
-void tst_QxtGlobalShortcutX11::aHeldKeyActivatesOnce()
+void tst_QxtGlobalShortcutX11::heldKeyActivatesOnce()
 {
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     QElapsedTimer held;
     held.start();
     mClient->send(key, true);
-    // Only a key that is really held is repeated, here after 0.7 seconds at the latest.
+    // The server repeats only a key that is really held, here after at most 0.7 seconds.
     QTRY_VERIFY(held.hasExpired(1000));
     mClient->send(key, false);
     typeSentinel();
     QCOMPARE(activations.count(), 1);
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_COMPARE(activations.count(), 2);
 }
 
-void tst_QxtGlobalShortcutX11::aHeldKeyLeavesThePointerAlone()
+void tst_QxtGlobalShortcutX11::heldKeyDoesNotFreezeThePointer()
 {
     QPushButton button;
     button.setGeometry(100, 100, 200, 100);
@@ -198,7 +206,7 @@ void tst_QxtGlobalShortcutX11::aHeldKeyLeavesThePointerAlone()
     QSignalSpy clicks(&button, &QPushButton::clicked);
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     const auto release = qScopeGuard([this, key] { mClient->send(key, false); });
     mClient->send(key, true);
     QTRY_COMPARE(activations.count(), 1);
@@ -206,9 +214,9 @@ void tst_QxtGlobalShortcutX11::aHeldKeyLeavesThePointerAlone()
     QTRY_COMPARE(clicks.count(), 1);
 }
 
-void tst_QxtGlobalShortcutX11::aKeyHeldByAnotherClientIsEnabledButNotValid()
+void tst_QxtGlobalShortcutX11::shortcutOfAKeyGrabbedByAnotherClientIsEnabledButNotValid()
 {
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     QVERIFY(mClient->grab(key, 0));
     QxtGlobalShortcut shortcut;
     QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
@@ -223,20 +231,20 @@ void tst_QxtGlobalShortcutX11::aKeyHeldByAnotherClientIsEnabledButNotValid()
     QVERIFY(shortcut.isValid());
     QCOMPARE(changes.count(), 1);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_COMPARE(activations.count(), 1);
 }
 
-void tst_QxtGlobalShortcutX11::aPartlyHeldKeyIsGivenBackWhole()
+void tst_QxtGlobalShortcutX11::partlyOccupiedKeyIsReleasedCompletely()
 {
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     QVERIFY(mClient->grab(key, XCB_MOD_MASK_2));
     QxtGlobalShortcut shortcut(mKeys);
     QVERIFY(!shortcut.isValid());
     QVERIFY(canGrabF9());
 }
 
-void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease_data()
+void tst_QxtGlobalShortcutX11::changingDisablingAndDestroyingReleasesTheKey_data()
 {
     QTest::addColumn<QString>("action");
     QTest::newRow("change") << QStringLiteral("change");
@@ -245,7 +253,7 @@ void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease_data()
     QTest::newRow("destroy") << QStringLiteral("destroy");
 }
 
-void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease()
+void tst_QxtGlobalShortcutX11::changingDisablingAndDestroyingReleasesTheKey()
 {
     QFETCH(QString, action);
     auto shortcut = std::make_unique<QxtGlobalShortcut>(mKeys);
@@ -262,7 +270,7 @@ void tst_QxtGlobalShortcutX11::changeDisableAndDestroyRelease()
     QVERIFY(canGrabF9());
 }
 
-void tst_QxtGlobalShortcutX11::theSameKeyActivatesEveryObject()
+void tst_QxtGlobalShortcutX11::sameKeysActivateEveryShortcut()
 {
     QxtGlobalShortcut first(mKeys);
     QxtGlobalShortcut second(mKeys);
@@ -270,22 +278,22 @@ void tst_QxtGlobalShortcutX11::theSameKeyActivatesEveryObject()
     QVERIFY(second.isValid());
     QSignalSpy firstActivations(&first, &QxtGlobalShortcut::activated);
     QSignalSpy secondActivations(&second, &QxtGlobalShortcut::activated);
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_COMPARE(secondActivations.count(), 1);
     QCOMPARE(firstActivations.count(), 1);
 
     first.setDisabled();
     QVERIFY(second.isValid());
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_COMPARE(secondActivations.count(), 2);
     QCOMPARE(firstActivations.count(), 1);
     second.setDisabled();
     QVERIFY(canGrabF9());
 }
 
-void tst_QxtGlobalShortcutX11::aRetryOfOneObjectServesAll()
+void tst_QxtGlobalShortcutX11::retryOfOneShortcutRegistersAll()
 {
-    const xcb_keycode_t key = mClient->keyOf(f9);
+    const xcb_keycode_t key = mClient->keyOf(sF9);
     QVERIFY(mClient->grab(key, 0));
     QxtGlobalShortcut first(mKeys);
     QxtGlobalShortcut second(mKeys);
@@ -298,7 +306,7 @@ void tst_QxtGlobalShortcutX11::aRetryOfOneObjectServesAll()
     QCOMPARE(secondChanges.count(), 1);
 }
 
-void tst_QxtGlobalShortcutX11::chordsOfTheSameKeysShareThem()
+void tst_QxtGlobalShortcutX11::equivalentChordsShareTheKeys()
 {
     auto symbol = std::make_unique<QxtGlobalShortcut>(QKeySequence(int(Qt::CTRL) + Qt::Key_Exclam));
     QxtGlobalShortcut digit(QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1));
@@ -306,13 +314,13 @@ void tst_QxtGlobalShortcutX11::chordsOfTheSameKeysShareThem()
     QVERIFY(digit.isValid());
     symbol.reset();
     QSignalSpy activations(&digit, &QxtGlobalShortcut::activated);
-    mClient->type({controlL, shiftL, '1'});
+    mClient->type({sControlL, sShiftL, '1'});
     QTRY_COMPARE(activations.count(), 1);
 }
 
-void tst_QxtGlobalShortcutX11::deletionInTheHandlerIsHarmless()
+void tst_QxtGlobalShortcutX11::handlerMayDeleteShortcuts()
 {
-    mSentinel.reset(); // so that the last object of all goes in its own handler
+    mSentinel.reset(); // so that the handler deletes the last shortcut of the program
     QPointer<QxtGlobalShortcut> first = new QxtGlobalShortcut(mKeys);
     QPointer<QxtGlobalShortcut> second = new QxtGlobalShortcut(mKeys);
     int calls = 0;
@@ -323,32 +331,32 @@ void tst_QxtGlobalShortcutX11::deletionInTheHandlerIsHarmless()
     };
     connect(first, &QxtGlobalShortcut::activated, this, deleteBoth);
     connect(second, &QxtGlobalShortcut::activated, this, deleteBoth);
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_VERIFY(!first && !second);
     QVERIFY(canGrabF9());
     QCOMPARE(calls, 1);
 }
 
-void tst_QxtGlobalShortcutX11::theHandlerMayDisableTheOther()
+void tst_QxtGlobalShortcutX11::handlerMayDisableAnotherShortcut()
 {
     QxtGlobalShortcut first(mKeys);
     QxtGlobalShortcut second(mKeys);
     connect(&first, &QxtGlobalShortcut::activated, &second, [&second] { second.setDisabled(); });
     QSignalSpy activations(&second, &QxtGlobalShortcut::activated);
-    mClient->type({f9});
+    mClient->type({sF9});
     typeSentinel();
     QVERIFY(!second.isEnabled());
     QCOMPARE(activations.count(), 0);
 }
 
-void tst_QxtGlobalShortcutX11::theHandlerMayChangeTheOther()
+void tst_QxtGlobalShortcutX11::handlerMayChangeAnotherShortcut()
 {
     QxtGlobalShortcut first(mKeys);
     QxtGlobalShortcut second(mKeys);
     connect(&first, &QxtGlobalShortcut::activated, &second,
             [&second] { second.setShortcut(QKeySequence(QStringLiteral("F7"))); });
     QSignalSpy activations(&second, &QxtGlobalShortcut::activated);
-    mClient->type({f9});
+    mClient->type({sF9});
     typeSentinel();
     QVERIFY(second.isValid());
     QCOMPARE(activations.count(), 0);
@@ -378,8 +386,8 @@ void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
                                                int(Qt::CTRL) + Qt::Key_F7);
     QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
     QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
-    QTest::newRow("keyThatThisKeyboardLacks") << QKeySequence(0x0424);
-    QTest::newRow("noSuchKeypadKey") << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A);
+    QTest::newRow("keyMissingOnThisKeyboard") << QKeySequence(0x0424);
+    QTest::newRow("keyMissingOnTheKeypad") << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A);
     QTest::newRow("allBits") << QKeySequence(-1);
 }
 
