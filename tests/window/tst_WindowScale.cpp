@@ -3,8 +3,8 @@
 
 #include <QGridLayout>
 
-/// Sizes at a number of dots per inch where rounding and truncating differ in every size:
-/// 95 dots per inch are a scale of 1.3194.
+/// Sizes at 95 dots per inch, a scale of 1.3194, where rounding and truncating differ for every
+/// size.
 class tst_WindowScale : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void cleanup() { mFixture.reset(); }
 
     void widthOfTheClassListIsRounded();
-    void placeOfTheClassIconsIsTruncated();
+    void sizeReservedForClassIconsIsTruncated();
     void classIconsAreTruncated();
     void spacingOfAGroupIsTruncated();
 
@@ -32,7 +32,7 @@ void tst_WindowScale::widthOfTheClassListIsRounded()
     QCOMPARE(mFixture->classList()->minimumWidth(), 264); // 200 * 95 / 72 = 263.9
 }
 
-void tst_WindowScale::placeOfTheClassIconsIsTruncated()
+void tst_WindowScale::sizeReservedForClassIconsIsTruncated()
 {
     mFixture->open();
     QCOMPARE(mFixture->classList()->iconSize(), QSize(36, 36)); // 28 * 95 / 72 = 36.9

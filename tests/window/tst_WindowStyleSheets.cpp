@@ -33,7 +33,7 @@ private Q_SLOTS:
     void windowsSheetNamesEverySelectorThatTheCodeSets();
     void windowsSheetUsesEveryNameOfTheTheme_data();
     void windowsSheetUsesEveryNameOfTheTheme();
-    void everyTextHasTheMainFontUnderACommonSheetWithoutFonts();
+    void everyTextHasTheMainFontIfTheCommonSheetSetsNone();
 
 private:
     static void addHostSheet() { Q_INIT_RESOURCE(HostSheet); }
@@ -45,7 +45,7 @@ private:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(sheet);
     }
-    /// The window's own sheet as it is built in, with its macros.
+    /// Returns the built-in style sheet of the window, with unexpanded macros.
     static QString windowsSheet()
     {
         QFile file(":/qss/ConfigurationWindow");
@@ -153,7 +153,7 @@ void tst_WindowStyleSheets::windowsSheetUsesEveryNameOfTheTheme()
     QVERIFY(windowsSheet().contains(macro));
 }
 
-void tst_WindowStyleSheets::everyTextHasTheMainFontUnderACommonSheetWithoutFonts()
+void tst_WindowStyleSheets::everyTextHasTheMainFontIfTheCommonSheetSetsNone()
 {
     QThemeCtrl *themes = QThemeCtrl::instance();
     const QString before = themes->value("FontMain");
