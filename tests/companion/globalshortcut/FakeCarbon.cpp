@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-// An event carries nothing but the hotkey that was pressed.
+// An event contains only the pressed hotkey.
 struct OpaqueEventRef
 {
     EventHotKeyID id;

@@ -5,8 +5,7 @@
 #include <memory>
 #include <vector>
 
-/// The system behind the stand-in for Carbon: what has been registered with it, and what it will
-/// answer.
+/// The state of the fake Carbon API: what is registered, and how its functions respond.
 class FakeCarbon
 {
 public:
@@ -19,15 +18,15 @@ public:
 
     static FakeCarbon &instance();
 
-    /// Sends the event of a hotkey to the installed handlers; noErr when one of them took it.
+    /// Sends a hotkey event to the installed handler; returns noErr if the handler accepts it.
     OSStatus press(EventHotKeyID id) const;
-    /// Presses the registered hotkey; eventNotHandledErr when there is none.
+    /// Presses a registered hotkey; returns eventNotHandledErr if there is none.
     OSStatus press(UInt32 code, UInt32 modifiers) const;
 
-    std::vector<std::unique_ptr<HotKey>> hotKeys; ///< registered now
-    int handlerFunctions = 0;                     ///< made and not disposed of
-    EventHandlerUPP handler = nullptr;            ///< installed now
+    std::vector<std::unique_ptr<HotKey>> hotKeys; ///< currently registered
+    int handlerFunctions = 0;                     ///< created and not yet disposed of
+    EventHandlerUPP handler = nullptr;            ///< currently installed
     void *handlerData = nullptr;
     bool refusesHandlers = false;
-    std::vector<HotKey> occupied; ///< registered by other programs; ids are of no account
+    std::vector<HotKey> occupied; ///< registered by other programs; their ids do not matter
 };

@@ -11,9 +11,9 @@ private Q_SLOTS:
     void chordBecomesKeyCodeAndModifiers();
     void unknownKeyHasNoCode_data();
     void unknownKeyHasNoCode();
-    void everyLetterAndDigitHasACodeOfItsOwn();
-    void modifierNamesMayBeThoseOnTheKeys_data();
-    void modifierNamesMayBeThoseOnTheKeys();
+    void everyLetterAndDigitHasAUniqueCode();
+    void controlAndMetaAreNotSwappedOnRequest_data();
+    void controlAndMetaAreNotSwappedOnRequest();
 };
 
 void tst_MacKeys::chordBecomesKeyCodeAndModifiers_data()
@@ -42,11 +42,11 @@ void tst_MacKeys::chordBecomesKeyCodeAndModifiers_data()
     row("f12", Qt::Key_F12, 0x6f, 0);
     row("f20", Qt::Key_F20, 0x5a, 0);
     row("arrow", Qt::Key_Up, 0x7e, 0);
-    row("arrowWithTheKeypadsModifier", int(Qt::KeypadModifier) + Qt::Key_Left, 0x7b, 0);
+    row("arrowWithKeypadModifier", int(Qt::KeypadModifier) + Qt::Key_Left, 0x7b, 0);
     row("keypadDigit", int(Qt::KeypadModifier) + Qt::Key_5, 0x57, 0);
     row("keypadNine", int(Qt::KeypadModifier) + Qt::Key_9, 0x5c, 0);
     row("keypadPlusNeedsNoShift", int(Qt::KeypadModifier) + Qt::Key_Plus, 0x45, 0);
-    row("enterIsTheKeypads", Qt::Key_Enter, 0x4c, 0);
+    row("enterIsOnTheKeypad", Qt::Key_Enter, 0x4c, 0);
     row("backtabIsShiftTab", Qt::Key_Backtab, 0x30, 0x200);
 }
 
@@ -68,7 +68,7 @@ void tst_MacKeys::unknownKeyHasNoCode_data()
     QTest::newRow("zero") << 0;
     QTest::newRow("unknown") << int(Qt::Key_unknown);
     QTest::newRow("modifierAlone") << int(Qt::SHIFT) + Qt::Key_Shift;
-    QTest::newRow("noSuchKeyOnTheKeyboard") << int(Qt::Key_F21);
+    QTest::newRow("keyMissingOnTheKeyboard") << int(Qt::Key_F21);
     QTest::newRow("letterOfAnotherAlphabet") << 0x0424;
     QTest::newRow("groupSwitch") << int(Qt::GroupSwitchModifier) + Qt::Key_A;
     QTest::newRow("allBits") << -1;
@@ -80,7 +80,7 @@ void tst_MacKeys::unknownKeyHasNoCode()
     QVERIFY(macKeyCombinations(chord, MacModifierNames::Swapped).isEmpty());
 }
 
-void tst_MacKeys::everyLetterAndDigitHasACodeOfItsOwn()
+void tst_MacKeys::everyLetterAndDigitHasAUniqueCode()
 {
     QSet<quint32> codes;
     for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
@@ -90,7 +90,7 @@ void tst_MacKeys::everyLetterAndDigitHasACodeOfItsOwn()
     QCOMPARE(codes.size(), 36);
 }
 
-void tst_MacKeys::modifierNamesMayBeThoseOnTheKeys_data()
+void tst_MacKeys::controlAndMetaAreNotSwappedOnRequest_data()
 {
     QTest::addColumn<int>("chord");
     QTest::addColumn<quint32>("modifiers");
@@ -100,7 +100,7 @@ void tst_MacKeys::modifierNamesMayBeThoseOnTheKeys_data()
     QTest::newRow("altIsOption") << int(Qt::ALT) + Qt::Key_A << 0x0800U;
 }
 
-void tst_MacKeys::modifierNamesMayBeThoseOnTheKeys()
+void tst_MacKeys::controlAndMetaAreNotSwappedOnRequest()
 {
     QFETCH(int, chord);
     const auto combinations = macKeyCombinations(chord, MacModifierNames::AsOnKeys);

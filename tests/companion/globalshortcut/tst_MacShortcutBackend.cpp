@@ -3,11 +3,15 @@
 #include "FakeCarbon.h"
 #include "support/TestMain.h"
 
-// Carbon's codes of the keys in use here.
-static constexpr UInt32 codeK = 0x28;
-static constexpr UInt32 codeOne = 0x12;
-static constexpr UInt32 command = 0x100;
-static constexpr UInt32 commandShift = 0x300;
+namespace {
+
+// Carbon's codes of the keys that the tests press.
+constexpr UInt32 sCodeK = 0x28;
+constexpr UInt32 sCodeOne = 0x12;
+constexpr UInt32 sCommand = 0x100;
+constexpr UInt32 sCommandShift = 0x300;
+
+} // namespace
 
 class tst_MacShortcutBackend : public QObject
 {
@@ -15,15 +19,15 @@ class tst_MacShortcutBackend : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void aPressActivates();
-    void theApplicationChoosesTheNamesOfTheModifiers();
-    void theSameKeysAreRegisteredOnce();
-    void chordsOfTheSameKeysAreRegisteredOnce();
-    void anOccupiedKeyIsEnabledButNotValid();
-    void changeDisableAndDestroyUnregister();
-    void deletionInTheHandlerIsHarmless();
-    void hotKeysOfOthersAreLeftToThem();
-    void withoutAHandlerNothingIsSupported();
+    void pressingTheKeysActivates();
+    void controlAndMetaAreNotSwappedIfTheApplicationAsks();
+    void sameKeysAreRegisteredOnce();
+    void equivalentChordsAreRegisteredOnce();
+    void shortcutOfAnOccupiedKeyIsEnabledButNotValid();
+    void changingDisablingAndDestroyingUnregisters();
+    void handlerMayDeleteShortcuts();
+    void eventsOfOtherHotKeysAreNotHandled();
+    void withoutAnEventHandlerNothingIsSupported();
 
 private:
     FakeCarbon &mCarbon = FakeCarbon::instance();
@@ -39,7 +43,7 @@ void tst_MacShortcutBackend::cleanup()
     mCarbon.occupied.clear();
 }
 
-void tst_MacShortcutBackend::aPressActivates()
+void tst_MacShortcutBackend::pressingTheKeysActivates()
 {
     QVERIFY(QxtGlobalShortcut::isSupported());
     QxtGlobalShortcut shortcut;
@@ -47,11 +51,11 @@ void tst_MacShortcutBackend::aPressActivates()
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
     QVERIFY(shortcut.setShortcut(mKeys));
     QCOMPARE(changes.count(), 1);
-    QCOMPARE(mCarbon.press(codeK, command), OSStatus(noErr));
+    QCOMPARE(mCarbon.press(sCodeK, sCommand), OSStatus(noErr));
     QTRY_COMPARE(activations.count(), 1);
 }
 
-void tst_MacShortcutBackend::theApplicationChoosesTheNamesOfTheModifiers()
+void tst_MacShortcutBackend::controlAndMetaAreNotSwappedIfTheApplicationAsks()
 {
     QCoreApplication::setAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
     const QxtGlobalShortcut asOnKeys(mKeys);
@@ -61,7 +65,7 @@ void tst_MacShortcutBackend::theApplicationChoosesTheNamesOfTheModifiers()
     QCOMPARE(mCarbon.hotKeys.front()->modifiers, UInt32(controlKey));
 }
 
-void tst_MacShortcutBackend::theSameKeysAreRegisteredOnce()
+void tst_MacShortcutBackend::sameKeysAreRegisteredOnce()
 {
     QxtGlobalShortcut first(mKeys);
     auto second = std::make_unique<QxtGlobalShortcut>(mKeys);
@@ -71,7 +75,7 @@ void tst_MacShortcutBackend::theSameKeysAreRegisteredOnce()
 
     QSignalSpy firstActivations(&first, &QxtGlobalShortcut::activated);
     QSignalSpy secondActivations(second.get(), &QxtGlobalShortcut::activated);
-    mCarbon.press(codeK, command);
+    mCarbon.press(sCodeK, sCommand);
     QTRY_COMPARE(secondActivations.count(), 1);
     QCOMPARE(firstActivations.count(), 1);
 
@@ -80,7 +84,7 @@ void tst_MacShortcutBackend::theSameKeysAreRegisteredOnce()
     QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
 }
 
-void tst_MacShortcutBackend::chordsOfTheSameKeysAreRegisteredOnce()
+void tst_MacShortcutBackend::equivalentChordsAreRegisteredOnce()
 {
     auto symbol = std::make_unique<QxtGlobalShortcut>(QKeySequence(int(Qt::CTRL) + Qt::Key_Exclam));
     QxtGlobalShortcut digit(QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1));
@@ -89,13 +93,13 @@ void tst_MacShortcutBackend::chordsOfTheSameKeysAreRegisteredOnce()
     symbol.reset();
     QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
     QSignalSpy activations(&digit, &QxtGlobalShortcut::activated);
-    mCarbon.press(codeOne, commandShift);
+    mCarbon.press(sCodeOne, sCommandShift);
     QTRY_COMPARE(activations.count(), 1);
 }
 
-void tst_MacShortcutBackend::anOccupiedKeyIsEnabledButNotValid()
+void tst_MacShortcutBackend::shortcutOfAnOccupiedKeyIsEnabledButNotValid()
 {
-    mCarbon.occupied.push_back({codeK, command, {}});
+    mCarbon.occupied.push_back({sCodeK, sCommand, {}});
     QxtGlobalShortcut shortcut(mKeys);
     QVERIFY(shortcut.isEnabled());
     QVERIFY(!shortcut.isValid());
@@ -103,14 +107,14 @@ void tst_MacShortcutBackend::anOccupiedKeyIsEnabledButNotValid()
     QVERIFY(shortcut.setShortcut(mKeys));
 }
 
-void tst_MacShortcutBackend::changeDisableAndDestroyUnregister()
+void tst_MacShortcutBackend::changingDisablingAndDestroyingUnregisters()
 {
     {
         QxtGlobalShortcut shortcut(mKeys);
         QVERIFY(shortcut.setShortcut(QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_1)));
         QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
-        QCOMPARE(mCarbon.hotKeys.front()->code, codeOne);
-        QCOMPARE(mCarbon.hotKeys.front()->modifiers, commandShift);
+        QCOMPARE(mCarbon.hotKeys.front()->code, sCodeOne);
+        QCOMPARE(mCarbon.hotKeys.front()->modifiers, sCommandShift);
         shortcut.setDisabled();
         QVERIFY(mCarbon.hotKeys.empty());
         shortcut.setEnabled();
@@ -119,15 +123,15 @@ void tst_MacShortcutBackend::changeDisableAndDestroyUnregister()
     QVERIFY(mCarbon.hotKeys.empty());
 }
 
-void tst_MacShortcutBackend::deletionInTheHandlerIsHarmless()
+void tst_MacShortcutBackend::handlerMayDeleteShortcuts()
 {
     QPointer<QxtGlobalShortcut> shortcut = new QxtGlobalShortcut(mKeys);
     connect(shortcut, &QxtGlobalShortcut::activated, shortcut, [shortcut] { delete shortcut; });
-    mCarbon.press(codeK, command);
+    mCarbon.press(sCodeK, sCommand);
     QTRY_VERIFY(!shortcut);
 }
 
-void tst_MacShortcutBackend::hotKeysOfOthersAreLeftToThem()
+void tst_MacShortcutBackend::eventsOfOtherHotKeysAreNotHandled()
 {
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
@@ -138,7 +142,7 @@ void tst_MacShortcutBackend::hotKeysOfOthersAreLeftToThem()
     QCOMPARE(activations.count(), 0);
 }
 
-void tst_MacShortcutBackend::withoutAHandlerNothingIsSupported()
+void tst_MacShortcutBackend::withoutAnEventHandlerNothingIsSupported()
 {
     mCarbon.refusesHandlers = true;
     QVERIFY(!QxtGlobalShortcut::isSupported());

@@ -3,38 +3,38 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
-/// What holds where no key can be registered.
+/// Global shortcuts on a platform where no key can be registered.
 class tst_QxtGlobalShortcut : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void nothingIsSupportedHere();
-    void isEnabledAndEmptyAtFirst();
-    void keepsTheShortcutThatItCannotRegister();
+    void isSupportedIsFalse();
+    void newShortcutIsEnabledAndEmpty();
+    void shortcutThatCannotBeRegisteredIsKept();
     void disablingAndEnablingEmitOnce();
-    void hostileShortcutsAreKeptAndNotValid_data();
-    void hostileShortcutsAreKeptAndNotValid();
-    void deletionInEnabledChangedIsHarmless();
+    void unusualShortcutsAreKeptAndNotValid_data();
+    void unusualShortcutsAreKeptAndNotValid();
+    void receiverOfEnabledChangedMayDeleteTheShortcut();
     void propertiesAreReadAndWritten();
-    void goesThroughAVariant();
+    void pointerIsStoredInAVariant();
 };
 
 void tst_QxtGlobalShortcut::initTestCase()
 {
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
-        QSKIP("for a platform without hotkeys");
+        QSKIP("only for platforms without hotkeys");
 }
 
-void tst_QxtGlobalShortcut::nothingIsSupportedHere()
+void tst_QxtGlobalShortcut::isSupportedIsFalse()
 {
     LogCapture log;
     QVERIFY(!QxtGlobalShortcut::isSupported());
     QCOMPARE(log.messages().size(), 0);
 }
 
-void tst_QxtGlobalShortcut::isEnabledAndEmptyAtFirst()
+void tst_QxtGlobalShortcut::newShortcutIsEnabledAndEmpty()
 {
     QObject parent;
     const auto *shortcut = new QxtGlobalShortcut(&parent);
@@ -44,7 +44,7 @@ void tst_QxtGlobalShortcut::isEnabledAndEmptyAtFirst()
     QCOMPARE(shortcut->shortcut(), QKeySequence());
 }
 
-void tst_QxtGlobalShortcut::keepsTheShortcutThatItCannotRegister()
+void tst_QxtGlobalShortcut::shortcutThatCannotBeRegisteredIsKept()
 {
     LogCapture log;
     const QKeySequence keys(QStringLiteral("Ctrl+Alt+K"));
@@ -77,7 +77,7 @@ void tst_QxtGlobalShortcut::disablingAndEnablingEmitOnce()
     QCOMPARE(changes.count(), 2);
 }
 
-void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid_data()
+void tst_QxtGlobalShortcut::unusualShortcutsAreKeptAndNotValid_data()
 {
     QTest::addColumn<QKeySequence>("keys");
     QTest::newRow("empty") << QKeySequence();
@@ -88,7 +88,7 @@ void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid_data()
     QTest::newRow("allBits") << QKeySequence(-1);
 }
 
-void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid()
+void tst_QxtGlobalShortcut::unusualShortcutsAreKeptAndNotValid()
 {
     QFETCH(QKeySequence, keys);
     QxtGlobalShortcut shortcut;
@@ -97,7 +97,7 @@ void tst_QxtGlobalShortcut::hostileShortcutsAreKeptAndNotValid()
     QVERIFY(!shortcut.isValid());
 }
 
-void tst_QxtGlobalShortcut::deletionInEnabledChangedIsHarmless()
+void tst_QxtGlobalShortcut::receiverOfEnabledChangedMayDeleteTheShortcut()
 {
     QPointer<QxtGlobalShortcut> shortcut = new QxtGlobalShortcut;
     connect(shortcut, &QxtGlobalShortcut::enabledChanged, this, [shortcut] { delete shortcut; });
@@ -116,7 +116,7 @@ void tst_QxtGlobalShortcut::propertiesAreReadAndWritten()
     QCOMPARE(shortcut.property("valid"), QVariant(false));
 }
 
-void tst_QxtGlobalShortcut::goesThroughAVariant()
+void tst_QxtGlobalShortcut::pointerIsStoredInAVariant()
 {
     QxtGlobalShortcut shortcut;
     const QVariant variant = QVariant::fromValue(&shortcut);

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// Hotkeys beside the application: before it, after it, and with the next one.
+/// Global shortcuts before the application exists, after it is destroyed, and with the next one.
 class tst_QxtGlobalShortcutLifetime : public QObject
 {
     Q_OBJECT
@@ -14,9 +14,9 @@ class tst_QxtGlobalShortcutLifetime : public QObject
 private Q_SLOTS:
     void initTestCase();
     void withoutApplicationNothingIsRegistered();
-    void anObjectOlderThanTheApplicationRegistersWhenAsked();
-    void theApplicationTakesRegistrationsWithIt();
-    void theNextApplicationRegistersAgain();
+    void shortcutOlderThanTheApplicationRegistersWhenSetAgain();
+    void destroyingTheApplicationUnregisters();
+    void nextApplicationRegistersAgain();
 
 private:
     static std::unique_ptr<QGuiApplication> makeApplication();
@@ -24,11 +24,15 @@ private:
     const QKeySequence mKeys{QStringLiteral("Ctrl+Alt+F9")};
 };
 
-// What can be registered is registered exactly where hotkeys work, on the offscreen platform never.
-static bool isWorkingPlatform()
+namespace {
+
+/// Returns whether hotkeys can be registered: on X11, but not on the offscreen platform.
+bool isWorkingPlatform()
 {
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
+
+} // namespace
 
 std::unique_ptr<QGuiApplication> tst_QxtGlobalShortcutLifetime::makeApplication()
 {
@@ -55,7 +59,7 @@ void tst_QxtGlobalShortcutLifetime::withoutApplicationNothingIsRegistered()
     QVERIFY(!shortcut.isValid());
 }
 
-void tst_QxtGlobalShortcutLifetime::anObjectOlderThanTheApplicationRegistersWhenAsked()
+void tst_QxtGlobalShortcutLifetime::shortcutOlderThanTheApplicationRegistersWhenSetAgain()
 {
     QxtGlobalShortcut shortcut(mKeys);
     const auto application = makeApplication();
@@ -63,7 +67,7 @@ void tst_QxtGlobalShortcutLifetime::anObjectOlderThanTheApplicationRegistersWhen
     QCOMPARE(shortcut.setShortcut(mKeys), isWorkingPlatform());
 }
 
-void tst_QxtGlobalShortcutLifetime::theApplicationTakesRegistrationsWithIt()
+void tst_QxtGlobalShortcutLifetime::destroyingTheApplicationUnregisters()
 {
     auto application = makeApplication();
     auto shortcut = std::make_unique<QxtGlobalShortcut>(mKeys);
@@ -79,7 +83,7 @@ void tst_QxtGlobalShortcutLifetime::theApplicationTakesRegistrationsWithIt()
     other.setDisabled();
 }
 
-void tst_QxtGlobalShortcutLifetime::theNextApplicationRegistersAgain()
+void tst_QxtGlobalShortcutLifetime::nextApplicationRegistersAgain()
 {
     auto application = makeApplication();
     QxtGlobalShortcut shortcut(mKeys);

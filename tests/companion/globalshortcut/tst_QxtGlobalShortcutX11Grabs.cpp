@@ -7,8 +7,7 @@
 #include <memory>
 #include <vector>
 
-/// What the X server holds for us: a key of everybody's that is never given back is a broken
-/// keyboard.
+/// Key grabs on the X server: a grab that is not released disables the key for all programs.
 class tst_QxtGlobalShortcutX11Grabs : public QObject
 {
     Q_OBJECT
@@ -17,18 +16,18 @@ private Q_SLOTS:
     void initTestCase();
     void init() { mClient = std::make_unique<XClient>(); }
     void cleanup() { mClient.reset(); }
-    void registeredKeyIsNoticed();
-    void aThousandCyclesLeaveNothing();
-    void allKeysOfManyAreGivenBack();
-    void everyOneOfManyActivatesItself();
-    void textThatNamesNoKeyTakesNothing_data();
-    void textThatNamesNoKeyTakesNothing();
-    void numberThatIsNoKeyTakesNothing_data();
-    void numberThatIsNoKeyTakesNothing();
-    void keyWithoutANameIsNotTaken();
+    void registeredKeyIsDetected();
+    void aThousandCyclesLeaveNoGrab();
+    void allKeysOfManyShortcutsAreReleased();
+    void eachOfManyShortcutsIsActivatedByItsKey();
+    void textThatIsNotAKeyGrabsNothing_data();
+    void textThatIsNotAKeyGrabsNothing();
+    void numberThatIsNotAKeyGrabsNothing_data();
+    void numberThatIsNotAKeyGrabsNothing();
+    void keyWithoutANameIsNotGrabbed();
 
 private:
-    /// Whether no other client holds any key, with any modifiers.
+    /// Returns whether no other client has grabbed any key with any modifiers.
     bool everyKeyIsFree() { return mClient->canGrab(XCB_GRAB_ANY, XCB_MOD_MASK_ANY); }
     static QVector<QKeySequence> manyKeys();
 
@@ -53,8 +52,8 @@ QVector<QKeySequence> tst_QxtGlobalShortcutX11Grabs::manyKeys()
     return keys;
 }
 
-// Without this the other tests would say nothing.
-void tst_QxtGlobalShortcutX11Grabs::registeredKeyIsNoticed()
+// The other tests rely on everyKeyIsFree() detecting a grab.
+void tst_QxtGlobalShortcutX11Grabs::registeredKeyIsDetected()
 {
     QVERIFY(everyKeyIsFree());
     QxtGlobalShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+Alt+Shift+F9")));
@@ -62,7 +61,7 @@ void tst_QxtGlobalShortcutX11Grabs::registeredKeyIsNoticed()
     QVERIFY(!everyKeyIsFree());
 }
 
-void tst_QxtGlobalShortcutX11Grabs::aThousandCyclesLeaveNothing()
+void tst_QxtGlobalShortcutX11Grabs::aThousandCyclesLeaveNoGrab()
 {
     const QVector<QKeySequence> keys = manyKeys();
     QxtGlobalShortcut lasting;
@@ -90,7 +89,7 @@ void tst_QxtGlobalShortcutX11Grabs::aThousandCyclesLeaveNothing()
     QVERIFY(everyKeyIsFree());
 }
 
-void tst_QxtGlobalShortcutX11Grabs::allKeysOfManyAreGivenBack()
+void tst_QxtGlobalShortcutX11Grabs::allKeysOfManyShortcutsAreReleased()
 {
     std::vector<std::unique_ptr<QxtGlobalShortcut>> shortcuts;
     for (const QKeySequence &keys : manyKeys()) {
@@ -98,7 +97,7 @@ void tst_QxtGlobalShortcutX11Grabs::allKeysOfManyAreGivenBack()
         shortcuts.push_back(std::make_unique<QxtGlobalShortcut>(keys));
         QVERIFY(shortcuts.back()->isValid());
     }
-    // Neither in the order in which they came nor against it.
+    // Release the keys neither in the order of registration nor in reverse.
     for (size_t i = 0; i < shortcuts.size(); i += 2)
         shortcuts[i]->setDisabled();
     QVERIFY(!everyKeyIsFree());
@@ -106,7 +105,7 @@ void tst_QxtGlobalShortcutX11Grabs::allKeysOfManyAreGivenBack()
     QVERIFY(everyKeyIsFree());
 }
 
-void tst_QxtGlobalShortcutX11Grabs::everyOneOfManyActivatesItself()
+void tst_QxtGlobalShortcutX11Grabs::eachOfManyShortcutsIsActivatedByItsKey()
 {
     constexpr int count = 12;
     constexpr xcb_keysym_t f1 = 0xffbe;
@@ -129,7 +128,7 @@ void tst_QxtGlobalShortcutX11Grabs::everyOneOfManyActivatesItself()
     QCOMPARE(order, expected);
 }
 
-void tst_QxtGlobalShortcutX11Grabs::textThatNamesNoKeyTakesNothing_data()
+void tst_QxtGlobalShortcutX11Grabs::textThatIsNotAKeyGrabsNothing_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("word") << "Nonsense";
@@ -139,11 +138,11 @@ void tst_QxtGlobalShortcutX11Grabs::textThatNamesNoKeyTakesNothing_data()
     QTest::newRow("keypad without a key") << "Num+";
     QTest::newRow("blanks") << "   ";
     QTest::newRow("several") << "Foo, Bar";
-    QTest::newRow("function key that is none") << "F99";
+    QTest::newRow("function key that does not exist") << "F99";
     QTest::newRow("control character") << QString(QChar(1));
 }
 
-void tst_QxtGlobalShortcutX11Grabs::textThatNamesNoKeyTakesNothing()
+void tst_QxtGlobalShortcutX11Grabs::textThatIsNotAKeyGrabsNothing()
 {
     QFETCH(QString, text);
     const QKeySequence keys = QKeySequence::fromString(text, QKeySequence::PortableText);
@@ -155,7 +154,7 @@ void tst_QxtGlobalShortcutX11Grabs::textThatNamesNoKeyTakesNothing()
     QVERIFY(everyKeyIsFree());
 }
 
-void tst_QxtGlobalShortcutX11Grabs::numberThatIsNoKeyTakesNothing_data()
+void tst_QxtGlobalShortcutX11Grabs::numberThatIsNotAKeyGrabsNothing_data()
 {
     QTest::addColumn<int>("chord");
     QTest::newRow("none") << 0;
@@ -167,10 +166,10 @@ void tst_QxtGlobalShortcutX11Grabs::numberThatIsNoKeyTakesNothing_data()
     QTest::newRow("keypad alone") << int(Qt::KeypadModifier);
     QTest::newRow("number without a name") << 0x01000018;
     QTest::newRow("all bits") << -1;
-    QTest::newRow("the sign alone") << std::numeric_limits<int>::min();
+    QTest::newRow("the sign bit alone") << std::numeric_limits<int>::min();
 }
 
-void tst_QxtGlobalShortcutX11Grabs::numberThatIsNoKeyTakesNothing()
+void tst_QxtGlobalShortcutX11Grabs::numberThatIsNotAKeyGrabsNothing()
 {
     QFETCH(int, chord);
     QxtGlobalShortcut shortcut;
@@ -178,9 +177,10 @@ void tst_QxtGlobalShortcutX11Grabs::numberThatIsNoKeyTakesNothing()
     QVERIFY(everyKeyIsFree());
 }
 
-void tst_QxtGlobalShortcutX11Grabs::keyWithoutANameIsNotTaken()
+void tst_QxtGlobalShortcutX11Grabs::keyWithoutANameIsNotGrabbed()
 {
-    // A dead accent, as on many keyboards of Europe: its text in a file would not be read again.
+    // A dead accent, as on many European keyboards: QKeySequence cannot parse its own text for it,
+    // so it could not be loaded from a file.
     const xcb_keycode_t key = mClient->emptyKey();
     mClient->setSymbols(key, {0xfe51, 0xfe51});
     {

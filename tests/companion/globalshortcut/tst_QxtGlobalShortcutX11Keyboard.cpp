@@ -7,9 +7,13 @@
 
 #include <memory>
 
-static constexpr xcb_keysym_t f9 = 0xffc6;
+namespace {
 
-/// The X server's keyboard changes under registered hotkeys.
+constexpr xcb_keysym_t sF9 = 0xffc6;
+
+} // namespace
+
+/// Changes of the X server's keyboard while hotkeys are registered.
 class tst_QxtGlobalShortcutX11Keyboard : public QObject
 {
     Q_OBJECT
@@ -18,13 +22,13 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void aKeyThatMovesIsFollowed();
-    void aKeyThatGoesAndReturnsIsToldOf();
-    void anotherLayoutIsFollowed();
-    void aLetterOfTheSecondLayoutIsFound();
+    void keyThatMovesIsGrabbedAgain();
+    void missingAndReturningKeyIsAnnounced();
+    void keyIsGrabbedAgainAfterALayoutChange();
+    void letterOfTheSecondLayoutIsFound();
     void numLockOnAnotherModifierIsFound();
-    void aPlainKeyKeepsWorkingWhenNumLockMoves();
-    void theServerThatGoesTakesTheKeysWithIt();
+    void keyWithoutModifiersWorksAfterNumLockMoves();
+    void shortcutIsNotValidAfterTheServerEnds();
 
 private:
     static int setLayout(const char *layout);
@@ -47,7 +51,7 @@ void tst_QxtGlobalShortcutX11Keyboard::initTestCase()
 void tst_QxtGlobalShortcutX11Keyboard::init()
 {
     mClient = std::make_unique<XClient>();
-    mKey = mClient->keyOf(f9);
+    mKey = mClient->keyOf(sF9);
     mEmptyKey = mClient->emptyKey();
     QVERIFY(mKey != 0 && mEmptyKey != 0);
     mSymbols = mClient->symbolsOf(mKey);
@@ -64,11 +68,11 @@ void tst_QxtGlobalShortcutX11Keyboard::cleanup()
     mClient.reset();
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::aKeyThatMovesIsFollowed()
+void tst_QxtGlobalShortcutX11Keyboard::keyThatMovesIsGrabbedAgain()
 {
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    mClient->setSymbols(mEmptyKey, {f9, f9});
+    mClient->setSymbols(mEmptyKey, {sF9, sF9});
     mClient->setSymbols(mKey, mNoSymbols);
     QTRY_VERIFY(!mClient->canGrab(mEmptyKey, 0));
     QTRY_VERIFY(mClient->canGrab(mKey, 0));
@@ -78,7 +82,7 @@ void tst_QxtGlobalShortcutX11Keyboard::aKeyThatMovesIsFollowed()
     QTRY_COMPARE(activations.count(), 1);
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::aKeyThatGoesAndReturnsIsToldOf()
+void tst_QxtGlobalShortcutX11Keyboard::missingAndReturningKeyIsAnnounced()
 {
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
@@ -96,7 +100,7 @@ int tst_QxtGlobalShortcutX11Keyboard::setLayout(const char *layout)
     return QProcess::execute(QStringLiteral("setxkbmap"), {QLatin1String(layout)});
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::anotherLayoutIsFollowed()
+void tst_QxtGlobalShortcutX11Keyboard::keyIsGrabbedAgainAfterALayoutChange()
 {
     if (setLayout("us") != 0)
         QSKIP("needs setxkbmap");
@@ -105,7 +109,7 @@ void tst_QxtGlobalShortcutX11Keyboard::anotherLayoutIsFollowed()
     QxtGlobalShortcut shortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_Z));
     QVERIFY(!mClient->canGrab(z, XCB_MOD_MASK_CONTROL));
     QVERIFY(mClient->canGrab(y, XCB_MOD_MASK_CONTROL));
-    QCOMPARE(setLayout("de"), 0); // where the two have changed places
+    QCOMPARE(setLayout("de"), 0); // swaps Y and Z
     QTRY_VERIFY(!mClient->canGrab(y, XCB_MOD_MASK_CONTROL));
     QVERIFY(mClient->canGrab(z, XCB_MOD_MASK_CONTROL));
     QVERIFY(shortcut.isValid());
@@ -113,9 +117,10 @@ void tst_QxtGlobalShortcutX11Keyboard::anotherLayoutIsFollowed()
     QTRY_VERIFY(!mClient->canGrab(z, XCB_MOD_MASK_CONTROL));
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::aLetterOfTheSecondLayoutIsFound()
+void tst_QxtGlobalShortcutX11Keyboard::letterOfTheSecondLayoutIsFound()
 {
-    // U+0424 by its old name, as keyboards have it; lower case only in the second layout.
+    // The second layout has the letter U+0424, in lower case first, with the legacy keysyms that
+    // keyboard layouts use.
     mClient->setSymbols(mEmptyKey, {'\\', '|', 0x6c6, 0x6e6});
     QxtGlobalShortcut shortcut;
     QTRY_VERIFY(shortcut.setShortcut(QKeySequence(int(Qt::CTRL) + 0x0424)));
@@ -130,7 +135,7 @@ void tst_QxtGlobalShortcutX11Keyboard::aLetterOfTheSecondLayoutIsFound()
 
 void tst_QxtGlobalShortcutX11Keyboard::numLockOnAnotherModifierIsFound()
 {
-    // From the fifth row of the map, Mod2, to the sixth, Mod3, which has no keys here.
+    // Move Num Lock from the fifth row of the map, Mod2, to the sixth, Mod3, which has no keys.
     const int keysPerModifier = mModifiers.size() / 8;
     QVector<xcb_keycode_t> moved = mModifiers;
     for (int i = 0; i < keysPerModifier; ++i)
@@ -139,12 +144,12 @@ void tst_QxtGlobalShortcutX11Keyboard::numLockOnAnotherModifierIsFound()
 
     QxtGlobalShortcut shortcut;
     QVERIFY(shortcut.setShortcut(mKeys));
-    // With the lock on the new modifier the key is ours, with the old modifier it is nobody's.
+    // The key is grabbed with Num Lock's new modifier, and free with the old one.
     QTRY_VERIFY(!mClient->canGrab(mKey, XCB_MOD_MASK_3));
     QTRY_VERIFY(mClient->canGrab(mKey, XCB_MOD_MASK_2));
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::aPlainKeyKeepsWorkingWhenNumLockMoves()
+void tst_QxtGlobalShortcutX11Keyboard::keyWithoutModifiersWorksAfterNumLockMoves()
 {
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
@@ -155,14 +160,14 @@ void tst_QxtGlobalShortcutX11Keyboard::aPlainKeyKeepsWorkingWhenNumLockMoves()
         moved[4 * keysPerModifier + i] = 0;
     QVERIFY(mClient->setModifierMap(moved));
     QTRY_VERIFY(mClient->canGrab(mKey, XCB_MOD_MASK_2));
-    mClient->type({f9});
+    mClient->type({sF9});
     QTRY_COMPARE(activations.count(), 1);
     QCOMPARE(changes.count(), 0);
 }
 
-void tst_QxtGlobalShortcutX11Keyboard::theServerThatGoesTakesTheKeysWithIt()
+void tst_QxtGlobalShortcutX11Keyboard::shortcutIsNotValidAfterTheServerEnds()
 {
-    // Another server than the one of the tests, which would end with it.
+    // A separate server: the test client could not survive the end of its own.
     QProcess server;
     server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1")});
     if (!server.waitForStarted())

@@ -31,19 +31,19 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("latinLetterWithoutUpperCase", Qt::Key_ssharp, 0xdf);
     row("multiplicationSign", Qt::Key_multiply, 0xd7);
     row("cyrillicByUnicode", 0x0424, 0x01000444);
-    row("cyrillicByItsOldName", 0x0424, 0x6c6);
-    row("cyrillicYoByItsOldName", 0x0401, 0x6a3);
-    row("greekByItsOldName", 0x0391, 0x7e1);
-    row("greekSigmaByItsOldName", 0x03a3, 0x7f2);
-    row("greekAlphaWithAccentByItsOldName", 0x03ac, 0x7b1);
-    row("ukrainianByItsOldName", 0x0406, 0x6a6);
-    row("arabicByItsOldName", 0x0628, 0x5c8);
-    row("latvianByItsOldName", 0x0112, 0x3ba);
-    row("czechByItsOldName", 0x011a, 0x1ec);
-    row("turkishByItsOldName", 0x011e, 0x2bb);
-    row("hebrewByItsOldName", 0x05d0, 0xce0);
+    row("cyrillicLegacyKeysym", 0x0424, 0x6c6);
+    row("cyrillicYoLegacyKeysym", 0x0401, 0x6a3);
+    row("greekLegacyKeysym", 0x0391, 0x7e1);
+    row("greekSigmaLegacyKeysym", 0x03a3, 0x7f2);
+    row("greekAlphaWithAccentLegacyKeysym", 0x03ac, 0x7b1);
+    row("ukrainianLegacyKeysym", 0x0406, 0x6a6);
+    row("arabicLegacyKeysym", 0x0628, 0x5c8);
+    row("latvianLegacyKeysym", 0x0112, 0x3ba);
+    row("czechLegacyKeysym", 0x011a, 0x1ec);
+    row("turkishLegacyKeysym", 0x011e, 0x2bb);
+    row("hebrewLegacyKeysym", 0x05d0, 0xce0);
     row("euro", 0x20ac, 0x010020ac);
-    row("beyondTheFirstPlane", 0x1f600, 0x0101f600);
+    row("beyondTheBasicPlane", 0x1f600, 0x0101f600);
     row("f1", Qt::Key_F1, 0xffbe);
     row("f12", Qt::Key_F12, 0xffc9);
     row("f35", Qt::Key_F35, 0xffe0);
@@ -51,7 +51,7 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("backspace", Qt::Key_Backspace, 0xff08);
     row("backtab", Qt::Key_Backtab, 0xfe20);
     row("return", Qt::Key_Return, 0xff0d);
-    row("enterIsTheKeypads", Qt::Key_Enter, 0xff8d);
+    row("enterIsOnTheKeypad", Qt::Key_Enter, 0xff8d);
     row("delete", Qt::Key_Delete, 0xffff);
     row("print", Qt::Key_Print, 0xff61);
     row("sysReqIsThePrintKey", Qt::Key_SysReq, 0xff61);
@@ -71,7 +71,7 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("mediaPlay", Qt::Key_MediaPlay, 0x1008ff14);
     row("mediaNext", Qt::Key_MediaNext, 0x1008ff17);
     row("mail", Qt::Key_LaunchMail, 0x1008ff19);
-    row("launchKeysRunTwoAhead", Qt::Key_Launch4, 0x1008ff42);
+    row("launchKeysAreOffsetByTwo", Qt::Key_Launch4, 0x1008ff42);
     row("lastLaunchKey", Qt::Key_LaunchH, 0x1008ff4f);
     row("hangul", Qt::Key_Hangul, 0xff31);
 }
@@ -98,7 +98,7 @@ void tst_X11KeySymbols::unknownKeyHasNoSymbol_data()
     QTest::newRow("altGrAlone") << int(Qt::Key_AltGr);
     QTest::newRow("deadAcute") << int(Qt::Key_Dead_Acute);
     QTest::newRow("phoneKey") << int(Qt::Key_Hangup);
-    QTest::newRow("notOnTheKeypad") << int(Qt::KeypadModifier) + Qt::Key_A;
+    QTest::newRow("keyMissingOnTheKeypad") << int(Qt::KeypadModifier) + Qt::Key_A;
     QTest::newRow("allBits") << -1;
 }
 

@@ -18,7 +18,7 @@ class tst_QIconfont : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void fontIsKnownByItsName();
+    void fontIsRegisteredByName();
     void fontHasAnOutline_data();
     void fontHasAnOutline();
     void glyphsAreDrawn_data();
@@ -26,22 +26,22 @@ private Q_SLOTS:
     void noTwoGlyphsLookAlike();
     void paintsWithATranslucentColour();
     void marginsStayEmpty();
-    void glyphStandsInTheMiddleOfWhatMarginsLeave();
+    void glyphIsCentredBetweenTheMargins();
     void negativeMarginsCountAsZero();
-    void glyphStandsOnWholePixels();
+    void glyphIsPlacedOnWholePixels();
     void iconIsSharpOnEveryScreen();
     void pixmapAddedForTheSelectedModeIsUsed();
-    void whatCannotBeDrawnIsNull_data();
-    void whatCannotBeDrawnIsNull();
+    void impossiblePixmapIsNull_data();
+    void impossiblePixmapIsNull();
     void unknownGlyphDrawsNothing_data();
     void unknownGlyphDrawsNothing();
     void largestSizeIsDrawn();
-    void marginsLargerThanTheSquareLeaveNothing_data();
-    void marginsLargerThanTheSquareLeaveNothing();
+    void marginsAsLargeAsTheSquareLeaveNothingToDraw_data();
+    void marginsAsLargeAsTheSquareLeaveNothingToDraw();
     void styleSheetFindsTheFont();
 
 private:
-    /// The rectangle of what is painted, in pixels of the image.
+    /// Returns the bounding rectangle of all painted pixels.
     static QRect ink(const QImage &image)
     {
         QRect rect;
@@ -55,7 +55,7 @@ private:
     }
 };
 
-void tst_QIconfont::fontIsKnownByItsName()
+void tst_QIconfont::fontIsRegisteredByName()
 {
     QVERIFY(QIconfont::load());
     QSignalSpy spy(qGuiApp, &QGuiApplication::fontDatabaseChanged);
@@ -85,7 +85,7 @@ void tst_QIconfont::fontHasAnOutline()
     QCOMPARE(raw.advancesForGlyphIndexes({index}).value(0).x(), qreal(1024));
 }
 
-// The sizes are those of the outlines in their square of 16, times four.
+// The sizes are those of the outlines in their 16 by 16 square, times four.
 void tst_QIconfont::glyphsAreDrawn_data()
 {
     QTest::addColumn<QChar>("glyph");
@@ -116,11 +116,11 @@ void tst_QIconfont::glyphsAreDrawn()
     const QColor color(200, 30, 60);
     const QImage image = QIconfont::Pixmap(glyph, color, 64).toImage();
     QCOMPARE(image.size(), QSize(64, 64));
-    // Edges between two pixels touch both.
+    // An edge between two pixels paints both.
     const QRect drawn = ink(image);
     QVERIFY(drawn.width() >= inkSize.width() && drawn.width() <= inkSize.width() + 2);
     QVERIFY(drawn.height() >= inkSize.height() && drawn.height() <= inkSize.height() + 2);
-    // In the middle to within a pixel.
+    // Centred to within one pixel.
     QVERIFY(qAbs(drawn.left() + drawn.right() - 63) <= 2);
     QVERIFY(qAbs(drawn.top() + drawn.bottom() - 63) <= 2);
     int solid = 0;
@@ -163,7 +163,7 @@ void tst_QIconfont::marginsStayEmpty()
     QCOMPARE(ink(image), QRect(4, 6, 32, 32));
 }
 
-void tst_QIconfont::glyphStandsInTheMiddleOfWhatMarginsLeave()
+void tst_QIconfont::glyphIsCentredBetweenTheMargins()
 {
     const auto drawn = [](const QMargins &margins) {
         return ink(QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 40, margins).toImage());
@@ -180,10 +180,10 @@ void tst_QIconfont::negativeMarginsCountAsZero()
     QCOMPARE(image.pixelColor(5, 20), QColor(Qt::black));
 }
 
-void tst_QIconfont::glyphStandsOnWholePixels()
+void tst_QIconfont::glyphIsPlacedOnWholePixels()
 {
-    // 23 pixels in the width and 24 in the height cannot be halved: the circle must not stand
-    // between two rows.
+    // 23 by 24 pixels are left for a circle of 23 pixels: it must not be placed between two rows of
+    // pixels.
     const QImage image =
         QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24, QMargins(1, 0, 0, 0)).toImage();
     QCOMPARE(ink(image), QRect(1, 0, 23, 23));
@@ -193,7 +193,7 @@ void tst_QIconfont::iconIsSharpOnEveryScreen()
 {
     const QIcon icon = QIconfont::Icon(QuorviGlyphs::Correct, Qt::black, 20);
     QCOMPARE(icon.availableSizes(), (QList<QSize>{{20, 20}, {40, 40}, {60, 60}}));
-    // A circle of its full size: nothing is scaled up.
+    // The circle fills the pixmap, so it is not a smaller one scaled up.
     QCOMPARE(ink(icon.pixmap(QSize(60, 60)).toImage()).size(), QSize(60, 60));
 }
 
@@ -208,7 +208,7 @@ void tst_QIconfont::pixmapAddedForTheSelectedModeIsUsed()
     QCOMPARE(colorOf(QIcon::Normal), QColor(Qt::black));
 }
 
-void tst_QIconfont::whatCannotBeDrawnIsNull_data()
+void tst_QIconfont::impossiblePixmapIsNull_data()
 {
     QTest::addColumn<QColor>("color");
     QTest::addColumn<int>("size");
@@ -221,7 +221,7 @@ void tst_QIconfont::whatCannotBeDrawnIsNull_data()
     QTest::newRow("invalid colour") << QColor() << 20;
 }
 
-void tst_QIconfont::whatCannotBeDrawnIsNull()
+void tst_QIconfont::impossiblePixmapIsNull()
 {
     QFETCH(QColor, color);
     QFETCH(int, size);
@@ -257,17 +257,17 @@ void tst_QIconfont::largestSizeIsDrawn()
     QVERIFY(!QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 1024).isNull());
 }
 
-void tst_QIconfont::marginsLargerThanTheSquareLeaveNothing_data()
+void tst_QIconfont::marginsAsLargeAsTheSquareLeaveNothingToDraw_data()
 {
     QTest::addColumn<QMargins>("margins");
     QTest::newRow("as large as the square") << QMargins(20, 20, 20, 20);
-    QTest::newRow("nothing left between them") << QMargins(10, 0, 10, 0);
+    QTest::newRow("no space left between them") << QMargins(10, 0, 10, 0);
     QTest::newRow("overlapping") << QMargins(15, 15, 15, 15);
     QTest::newRow("one side only") << QMargins(0, 0, 0, 21);
     QTest::newRow("largest int") << QMargins(INT_MAX, INT_MAX, INT_MAX, INT_MAX);
 }
 
-void tst_QIconfont::marginsLargerThanTheSquareLeaveNothing()
+void tst_QIconfont::marginsAsLargeAsTheSquareLeaveNothingToDraw()
 {
     QFETCH(QMargins, margins);
     const LogCapture log;

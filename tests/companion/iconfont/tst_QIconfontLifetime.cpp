@@ -7,14 +7,14 @@
 #include <QGuiApplication>
 #include <QtTest>
 
-/// QIconfont before there is an application, and in one application after the other.
+/// QIconfont before an application exists, and in several applications one after the other.
 class tst_QIconfontLifetime : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
     void everythingIsNullWithoutAnApplication();
-    void everythingIsNullInAProgramWithoutWindows();
+    void everythingIsNullInACoreApplication();
     void everyApplicationHasTheFont_data();
     void everyApplicationHasTheFont();
     void everythingIsNullAfterTheApplication();
@@ -50,7 +50,7 @@ void tst_QIconfontLifetime::everythingIsNullWithoutAnApplication()
     verifyAllIsNull();
 }
 
-void tst_QIconfontLifetime::everythingIsNullInAProgramWithoutWindows()
+void tst_QIconfontLifetime::everythingIsNullInACoreApplication()
 {
     const QCoreApplication application(mArgc, mArgv);
     verifyAllIsNull();
@@ -68,7 +68,7 @@ void tst_QIconfontLifetime::everyApplicationHasTheFont()
 {
     QFETCH(QChar, glyph);
     const QGuiApplication application(mArgc, mArgv);
-    // Painted at the left end of the circle.
+    // This pixel is at the left edge of the circle.
     const QPixmap pixmap = QIconfont::Pixmap(glyph, Qt::black, 40);
     QCOMPARE(pixmap.toImage().pixelColor(2, 20), QColor(Qt::black));
     QVERIFY(QFontDatabase().families().contains("QuorviIconfont"));
@@ -79,7 +79,7 @@ void tst_QIconfontLifetime::everythingIsNullAfterTheApplication()
     verifyAllIsNull();
 }
 
-// The tests make their applications themselves.
+// The tests create their applications themselves.
 QTEST_APPLESS_MAIN(tst_QIconfontLifetime)
 
 #include "tst_QIconfontLifetime.moc"

@@ -3,7 +3,7 @@
 #include <QIconfont/QIconfont.h>
 #include <QIconfont/QuorviGlyphs.h>
 
-/// QIconfont in an application whose screens all scale by two.
+/// QIconfont in an application whose screens have a device pixel ratio of 2.
 class tst_QIconfontScaled : public QObject
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ private Q_SLOTS:
     void screenScalesByTwo();
     void pixmapHasTwiceThePixels();
     void marginsAreLogicalPixels();
-    void iconAnswersWithThePixelsOfTheScreen();
+    void iconReturnsPixmapsInTheResolutionOfTheScreen();
     void iconForTheSelectedModeIsSharp();
 };
 
@@ -25,7 +25,7 @@ void tst_QIconfontScaled::pixmapHasTwiceThePixels()
     const QPixmap pixmap = QIconfont::Pixmap(QuorviGlyphs::Correct, Qt::black, 24);
     QCOMPARE(pixmap.devicePixelRatio(), 2.0);
     QCOMPARE(pixmap.size(), QSize(48, 48));
-    // The circle reaches the last pixels on all four sides.
+    // The circle reaches the outermost pixels.
     const QImage image = pixmap.toImage();
     QVERIFY(image.pixelColor(0, 24).alpha() > 0);
     QVERIFY(image.pixelColor(47, 24).alpha() > 0);
@@ -43,7 +43,7 @@ void tst_QIconfontScaled::marginsAreLogicalPixels()
     QCOMPARE(image.pixelColor(40, 24).alpha(), 0);
 }
 
-void tst_QIconfontScaled::iconAnswersWithThePixelsOfTheScreen()
+void tst_QIconfontScaled::iconReturnsPixmapsInTheResolutionOfTheScreen()
 {
     const QIcon icon = QIconfont::Icon(QuorviGlyphs::Correct, Qt::black, 24);
     const QPixmap pixmap = icon.pixmap(QSize(24, 24));

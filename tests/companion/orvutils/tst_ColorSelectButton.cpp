@@ -47,29 +47,29 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void firstColorIsInvalid();
-    void colorSetByCodeIsKeptExactlyAndNotAnnounced();
-    void pickedColorIsAnnounced();
+    void setColorKeepsTheExactColorAndEmitsNothing();
+    void pickedColorIsEmitted();
     void alphaCanBePicked();
     void cancelledDialogChangesNothing();
-    void acceptedSameColorIsNotAnnounced_data();
-    void acceptedSameColorIsNotAnnounced();
-    void blackCanBePickedInPlaceOfNone();
+    void acceptingTheSameColorEmitsNothing_data();
+    void acceptingTheSameColorEmitsNothing();
+    void blackCanBePickedInsteadOfNone();
     void keyOpensTheDialog_data();
     void keyOpensTheDialog();
     void dialogOfATopmostWindowIsNotNative_data();
     void dialogOfATopmostWindowIsNotNative();
-    void secondClickOpensNoSecondDialog();
+    void secondClickDoesNotOpenASecondDialog();
     void disabledButtonOpensNothing();
-    void buttonMayGoWhileItsDialogIsOpen();
+    void buttonCanBeDestroyedWhileItsDialogIsOpen();
     void slotMayDeleteTheButton();
-    void colorIsSaidInWords_data();
-    void colorIsSaidInWords();
-    void wordsFollowTheLanguage();
+    void toolTipAndDescriptionNameTheColor_data();
+    void toolTipAndDescriptionNameTheColor();
+    void textsFollowTheLanguage();
     void sizeFollowsTheFont();
     void swatchIsDrawn_data();
     void swatchIsDrawn();
-    void translucentColorStandsOnChequers();
-    void swatchStaysInsideTheContentOfAStyleSheet();
+    void translucentColorIsDrawnOnACheckerboard();
+    void swatchStaysInsideTheContentsRectOfAStyleSheet();
     void focusAndDisabledLookDiffer();
     void everySizeCanBeDrawn();
 
@@ -107,7 +107,7 @@ void tst_ColorSelectButton::firstColorIsInvalid()
     QVERIFY(!mButton->color().isValid());
 }
 
-void tst_ColorSelectButton::colorSetByCodeIsKeptExactlyAndNotAnnounced()
+void tst_ColorSelectButton::setColorKeepsTheExactColorAndEmitsNothing()
 {
     QSignalSpy spy(mButton, &ColorSelectButton::sigColorChanged);
     const QColor hue = QColor::fromHsv(120, 200, 100, 50);
@@ -119,7 +119,7 @@ void tst_ColorSelectButton::colorSetByCodeIsKeptExactlyAndNotAnnounced()
     QCOMPARE(spy.count(), 0);
 }
 
-void tst_ColorSelectButton::pickedColorIsAnnounced()
+void tst_ColorSelectButton::pickedColorIsEmitted()
 {
     mButton->setColor(Qt::red);
     QSignalSpy spy(mButton, &ColorSelectButton::sigColorChanged);
@@ -159,7 +159,7 @@ void tst_ColorSelectButton::cancelledDialogChangesNothing()
     QCOMPARE(mButton->color(), QColor(Qt::red));
 }
 
-void tst_ColorSelectButton::acceptedSameColorIsNotAnnounced_data()
+void tst_ColorSelectButton::acceptingTheSameColorEmitsNothing_data()
 {
     QTest::addColumn<QColor>("color");
     QTest::newRow("rgb") << QColor(1, 2, 3);
@@ -168,7 +168,7 @@ void tst_ColorSelectButton::acceptedSameColorIsNotAnnounced_data()
     QTest::newRow("cmyk") << QColor::fromCmyk(10, 20, 30, 40);
 }
 
-void tst_ColorSelectButton::acceptedSameColorIsNotAnnounced()
+void tst_ColorSelectButton::acceptingTheSameColorEmitsNothing()
 {
     QFETCH(QColor, color);
     mButton->setColor(color);
@@ -179,9 +179,9 @@ void tst_ColorSelectButton::acceptedSameColorIsNotAnnounced()
     QCOMPARE(mButton->color(), color);
 }
 
-void tst_ColorSelectButton::blackCanBePickedInPlaceOfNone()
+void tst_ColorSelectButton::blackCanBePickedInsteadOfNone()
 {
-    // An invalid colour is black to rgba().
+    // QColor::rgba() returns black for an invalid colour, too.
     QSignalSpy spy(mButton, &ColorSelectButton::sigColorChanged);
     QTest::mouseClick(mButton, Qt::LeftButton);
     dialogOf(*mButton)->setCurrentColor(Qt::black);
@@ -227,14 +227,14 @@ void tst_ColorSelectButton::dialogOfATopmostWindowIsNotNative()
     button->click();
     QCOMPARE(dialogOf(*button)->testOption(QColorDialog::DontUseNativeDialog), topmost);
 
-    // The next dialog follows the window as it is then.
+    // The next dialog depends on the window's current flags.
     delete dialogOf(*button);
     SetWindowTopmost(mWindow.get(), !topmost, OrvWindowTypeSettings);
     button->click();
     QCOMPARE(dialogOf(*button)->testOption(QColorDialog::DontUseNativeDialog), !topmost);
 }
 
-void tst_ColorSelectButton::secondClickOpensNoSecondDialog()
+void tst_ColorSelectButton::secondClickDoesNotOpenASecondDialog()
 {
     mButton->click();
     mButton->click();
@@ -249,7 +249,7 @@ void tst_ColorSelectButton::disabledButtonOpensNothing()
     QVERIFY(!dialogOf(*mButton));
 }
 
-void tst_ColorSelectButton::buttonMayGoWhileItsDialogIsOpen()
+void tst_ColorSelectButton::buttonCanBeDestroyedWhileItsDialogIsOpen()
 {
     QTest::mouseClick(mButton, Qt::LeftButton);
     const QPointer<QColorDialog> dialog = dialogOf(*mButton);
@@ -269,7 +269,7 @@ void tst_ColorSelectButton::slotMayDeleteTheButton()
     QTRY_VERIFY(!mButton);
 }
 
-void tst_ColorSelectButton::colorIsSaidInWords_data()
+void tst_ColorSelectButton::toolTipAndDescriptionNameTheColor_data()
 {
     QTest::addColumn<QColor>("color");
     QTest::addColumn<QString>("words");
@@ -278,7 +278,7 @@ void tst_ColorSelectButton::colorIsSaidInWords_data()
     QTest::newRow("invalid") << QColor() << QStringLiteral("None");
 }
 
-void tst_ColorSelectButton::colorIsSaidInWords()
+void tst_ColorSelectButton::toolTipAndDescriptionNameTheColor()
 {
     QFETCH(QColor, color);
     QFETCH(QString, words);
@@ -288,7 +288,7 @@ void tst_ColorSelectButton::colorIsSaidInWords()
     QCOMPARE(mButton->accessibleDescription(), words);
 }
 
-void tst_ColorSelectButton::wordsFollowTheLanguage()
+void tst_ColorSelectButton::textsFollowTheLanguage()
 {
     Nothing translator;
     QCoreApplication::installTranslator(&translator);
@@ -319,7 +319,7 @@ void tst_ColorSelectButton::swatchIsDrawn_data()
     QTest::addColumn<QColor>("seen");
     QTest::newRow("opaque") << QColor(10, 200, 30) << QColor(10, 200, 30);
     QTest::newRow("hsv") << QColor::fromHsv(240, 255, 255) << QColor(0, 0, 255);
-    QTest::newRow("strokeOfNone") << QColor() << QColor(220, 50, 47);
+    QTest::newRow("strokeForNone") << QColor() << QColor(220, 50, 47);
 }
 
 void tst_ColorSelectButton::swatchIsDrawn()
@@ -328,7 +328,7 @@ void tst_ColorSelectButton::swatchIsDrawn()
     QFETCH(QColor, seen);
     mButton->setColor(color);
     mButton->setFixedSize(80, 40);
-    // The stroke passes within a pixel of the centre.
+    // The stroke passes the centre at a distance of at most one pixel.
     const QImage image = picture();
     bool found = false;
     for (int y = 19; y <= 21; ++y)
@@ -336,7 +336,7 @@ void tst_ColorSelectButton::swatchIsDrawn()
     QVERIFY(found);
 }
 
-void tst_ColorSelectButton::translucentColorStandsOnChequers()
+void tst_ColorSelectButton::translucentColorIsDrawnOnACheckerboard()
 {
     mButton->setColor(QColor(0, 0, 0, 0));
     mButton->setFixedSize(80, 40);
@@ -348,7 +348,7 @@ void tst_ColorSelectButton::translucentColorStandsOnChequers()
     QCOMPARE(seen, expected);
 }
 
-void tst_ColorSelectButton::swatchStaysInsideTheContentOfAStyleSheet()
+void tst_ColorSelectButton::swatchStaysInsideTheContentsRectOfAStyleSheet()
 {
     mButton->setProperty("class", QStringLiteral("ColorSelectButton"));
     mWindow->setStyleSheet(QStringLiteral(".ColorSelectButton { min-width: 90px; padding: 5px; "

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Keeps the sequence of the last key pressed in it.
+/// Records the sequence of the last key press.
 class Recorder : public QWidget
 {
 public:
@@ -24,15 +24,15 @@ class tst_GetKeySequence : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eventBecomesOneChord_data();
-    void eventBecomesOneChord();
+    void keyEventIsConvertedToOneChord_data();
+    void keyEventIsConvertedToOneChord();
     void noKeyIsEmpty_data();
     void noKeyIsEmpty();
     void nullIsEmpty();
     void typedKeyIsRecorded();
 };
 
-void tst_GetKeySequence::eventBecomesOneChord_data()
+void tst_GetKeySequence::keyEventIsConvertedToOneChord_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -46,13 +46,14 @@ void tst_GetKeySequence::eventBecomesOneChord_data()
                                  << int(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier
                                         | Qt::MetaModifier)
                                  << 0x1f000034;
-    QTest::newRow("keypadKeepsItsMark") << int(Qt::Key_5) << int(Qt::KeypadModifier) << 0x20000035;
+    QTest::newRow("keypadModifierIsKept")
+        << int(Qt::Key_5) << int(Qt::KeypadModifier) << 0x20000035;
     QTest::newRow("groupSwitchIsDropped") << int(Qt::Key_A) << int(Qt::GroupSwitchModifier) << 0x41;
-    QTest::newRow("symbolStaysAsReported")
+    QTest::newRow("symbolIsKeptAsReported")
         << int(Qt::Key_Exclam) << int(Qt::ShiftModifier) << 0x02000021;
     QTest::newRow("shiftWithBacktabIsShiftWithTab")
         << int(Qt::Key_Backtab) << int(Qt::ShiftModifier | Qt::ControlModifier) << 0x07000001;
-    QTest::newRow("backtabAloneStays") << int(Qt::Key_Backtab) << 0 << 0x01000002;
+    QTest::newRow("backtabWithoutShiftIsKept") << int(Qt::Key_Backtab) << 0 << 0x01000002;
     QTest::newRow("shiftKeyAlone") << int(Qt::Key_Shift) << 0 << 0x01000020;
     QTest::newRow("controlKeyAlone") << int(Qt::Key_Control) << 0 << 0x01000021;
     QTest::newRow("metaKeyAlone") << int(Qt::Key_Meta) << 0 << 0x01000022;
@@ -62,7 +63,7 @@ void tst_GetKeySequence::eventBecomesOneChord_data()
     QTest::newRow("letterBeyondLatin") << 0x416 << int(Qt::ControlModifier) << 0x04000416;
 }
 
-void tst_GetKeySequence::eventBecomesOneChord()
+void tst_GetKeySequence::keyEventIsConvertedToOneChord()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
@@ -79,7 +80,7 @@ void tst_GetKeySequence::noKeyIsEmpty_data()
     QTest::newRow("zero") << 0;
     QTest::newRow("unknown") << int(Qt::Key_unknown);
     QTest::newRow("negative") << -1;
-    QTest::newRow("beyondEveryKey") << 0x7fffffff;
+    QTest::newRow("beyondAllKeys") << 0x7fffffff;
 }
 
 void tst_GetKeySequence::noKeyIsEmpty()

@@ -2,17 +2,17 @@
 
 #include "support/TestMain.h"
 
-/// The table of every keyboard on every platform.
+/// Key events of all platforms' keyboards, tested on every platform.
 class tst_KeyChord : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void pressedKeyBecomesAChord_data();
-    void pressedKeyBecomesAChord();
+    void pressedKeyIsConvertedToAChord_data();
+    void pressedKeyIsConvertedToAChord();
 };
 
-void tst_KeyChord::pressedKeyBecomesAChord_data()
+void tst_KeyChord::pressedKeyIsConvertedToAChord_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -27,7 +27,7 @@ void tst_KeyChord::pressedKeyBecomesAChord_data()
     };
     const int keypad = Qt::KeypadModifier;
     const int control = Qt::ControlModifier;
-    // What macOS reports for its arrow keys. On a PC the same event comes from the keypad.
+    // macOS reports its arrow keys like this. On a PC this event comes from the keypad.
     row("left", Qt::Key_Left, keypad, 0x21000012, 0x01000012);
     row("up", Qt::Key_Up, keypad, 0x21000013, 0x01000013);
     row("right", Qt::Key_Right, keypad, 0x21000014, 0x01000014);
@@ -49,7 +49,7 @@ void tst_KeyChord::pressedKeyBecomesAChord_data()
     same("unknown key", Qt::Key_unknown, keypad, 0);
 }
 
-void tst_KeyChord::pressedKeyBecomesAChord()
+void tst_KeyChord::pressedKeyIsConvertedToAChord()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);

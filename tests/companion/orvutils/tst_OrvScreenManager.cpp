@@ -11,10 +11,10 @@ class tst_OrvScreenManager : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void primaryScreenIsRecorded();
+    void primaryScreenHasTheValuesOfQt();
     void nullWidgetIsOnThePrimaryScreen();
     void widgetIsOnTheScreenOfItsWindow();
-    void windowBesideEveryScreenIsOnThePrimary();
+    void windowOutsideAllScreensIsOnThePrimaryScreen();
     void changesAreAnnounced();
 
 private:
@@ -25,7 +25,7 @@ private:
     }
 };
 
-void tst_OrvScreenManager::primaryScreenIsRecorded()
+void tst_OrvScreenManager::primaryScreenHasTheValuesOfQt()
 {
     const OrvScreen screen = OrvScreenManager::instance()->primaryScreen();
     compareWithPrimary(screen);
@@ -53,7 +53,7 @@ void tst_OrvScreenManager::widgetIsOnTheScreenOfItsWindow()
     compareWithPrimary(OrvScreenManager::instance()->widgetScreen(&child));
 }
 
-void tst_OrvScreenManager::windowBesideEveryScreenIsOnThePrimary()
+void tst_OrvScreenManager::windowOutsideAllScreensIsOnThePrimaryScreen()
 {
     QWidget window;
     window.setGeometry(-90000, -90000, 10, 10);
@@ -74,7 +74,7 @@ void tst_OrvScreenManager::changesAreAnnounced()
     QCOMPARE(spy.count(), 4);
     Q_EMIT qGuiApp->primaryScreenChanged(screen);
     QCOMPARE(spy.count(), 5);
-    // The screen was announced twice by now, and is still listened to once.
+    // The screen was added twice, but its changes are announced once.
     Q_EMIT screen->geometryChanged(QRect(0, 0, 20, 20));
     QCOMPARE(spy.count(), 6);
 }

@@ -17,7 +17,7 @@ private Q_SLOTS:
     void showsItsTextAsPlainText();
     void closesOnOk_data();
     void closesOnOk();
-    void survivesItsParentsDeathWhileOpen();
+    void parentMayBeDeletedWhileTheBoxIsOpen();
 };
 
 void tst_QMsgeBox::blocksTheParentsWindow()
@@ -65,7 +65,7 @@ void tst_QMsgeBox::closesOnOk()
     delete box;
 }
 
-void tst_QMsgeBox::survivesItsParentsDeathWhileOpen()
+void tst_QMsgeBox::parentMayBeDeletedWhileTheBoxIsOpen()
 {
     auto *const window = new QWidget;
     window->show();

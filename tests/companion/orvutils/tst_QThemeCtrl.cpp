@@ -20,7 +20,7 @@ QPalette systemPalette(bool dark)
 
 } // namespace
 
-/// The themes: choosing and following them, their names and values, their palettes.
+/// The themes: selecting them and following the system, their names, values and palettes.
 class tst_QThemeCtrl : public QObject
 {
     Q_OBJECT
@@ -31,20 +31,20 @@ private Q_SLOTS:
     void colorsAreReadable_data();
     void colorsAreReadable();
     void themesDiffer();
-    void chosenThemeIsShown();
-    void signalComesOnlyWhenTheLookChanges();
+    void selectedThemeIsApplied();
+    void signalIsEmittedOnlyIfTheLookChanges();
     void systemIsFollowed();
-    void systemIsNotFollowedWhileAThemeIsChosen();
-    void ownPaletteIsNoChangeOfTheSystem_data();
-    void ownPaletteIsNoChangeOfTheSystem();
-    void adjustedOwnPaletteIsNoChangeOfTheSystem();
+    void systemIsNotFollowedWhileAThemeIsSelected();
+    void applyingTheOwnPaletteIsNotASystemChange_data();
+    void applyingTheOwnPaletteIsNotASystemChange();
+    void applyingAnAdjustedOwnPaletteIsNotASystemChange();
     void slotMaySetThePaletteWhileTheSystemIsFollowed();
-    void slotMayChooseAnotherTheme();
-    void paletteIsMadeOfTheNames();
-    void valueCanBeAddedToOneThemeOrBoth();
+    void slotMaySelectAnotherTheme();
+    void paletteIsBuiltFromTheNames();
+    void valueCanBeSetForOneThemeOrBoth();
     void unknownNameHasNoValue();
-    void colorIsReadThroughMacros_data();
-    void colorIsReadThroughMacros();
+    void colorExpandsMacros_data();
+    void colorExpandsMacros();
 
 private:
     QThemeCtrl *mTheme = nullptr;
@@ -117,7 +117,7 @@ void tst_QThemeCtrl::themesDiffer()
     QVERIFY(luminance(mTheme->color(QStringLiteral("ColorBg0"))) < 0.05);
 }
 
-void tst_QThemeCtrl::chosenThemeIsShown()
+void tst_QThemeCtrl::selectedThemeIsApplied()
 {
     QCOMPARE(mTheme->theme(), Theme::System);
     QVERIFY(!mTheme->isDark());
@@ -129,7 +129,7 @@ void tst_QThemeCtrl::chosenThemeIsShown()
     QVERIFY(!mTheme->isDark());
 }
 
-void tst_QThemeCtrl::signalComesOnlyWhenTheLookChanges()
+void tst_QThemeCtrl::signalIsEmittedOnlyIfTheLookChanges()
 {
     QSignalSpy spy(mTheme, &QThemeCtrl::sigThemeChanged);
     mTheme->setTheme(Theme::Light);
@@ -157,7 +157,7 @@ void tst_QThemeCtrl::systemIsFollowed()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_QThemeCtrl::systemIsNotFollowedWhileAThemeIsChosen()
+void tst_QThemeCtrl::systemIsNotFollowedWhileAThemeIsSelected()
 {
     mTheme->setTheme(Theme::Light);
     QSignalSpy spy(mTheme, &QThemeCtrl::sigThemeChanged);
@@ -169,7 +169,7 @@ void tst_QThemeCtrl::systemIsNotFollowedWhileAThemeIsChosen()
     QCOMPARE(spy.count(), 1);
 }
 
-void tst_QThemeCtrl::ownPaletteIsNoChangeOfTheSystem_data()
+void tst_QThemeCtrl::applyingTheOwnPaletteIsNotASystemChange_data()
 {
     QTest::addColumn<bool>("systemIsDark");
     QTest::addColumn<Theme>("chosen");
@@ -177,7 +177,7 @@ void tst_QThemeCtrl::ownPaletteIsNoChangeOfTheSystem_data()
     QTest::newRow("lightOnADarkSystem") << true << Theme::Light;
 }
 
-void tst_QThemeCtrl::ownPaletteIsNoChangeOfTheSystem()
+void tst_QThemeCtrl::applyingTheOwnPaletteIsNotASystemChange()
 {
     QFETCH(bool, systemIsDark);
     QFETCH(Theme, chosen);
@@ -188,7 +188,7 @@ void tst_QThemeCtrl::ownPaletteIsNoChangeOfTheSystem()
     QCOMPARE(mTheme->isDark(), systemIsDark);
 }
 
-void tst_QThemeCtrl::adjustedOwnPaletteIsNoChangeOfTheSystem()
+void tst_QThemeCtrl::applyingAnAdjustedOwnPaletteIsNotASystemChange()
 {
     mTheme->setTheme(Theme::Dark);
     QPalette adjusted = mTheme->palette();
@@ -212,7 +212,7 @@ void tst_QThemeCtrl::slotMaySetThePaletteWhileTheSystemIsFollowed()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_QThemeCtrl::slotMayChooseAnotherTheme()
+void tst_QThemeCtrl::slotMaySelectAnotherTheme()
 {
     QObject host;
     connect(mTheme, &QThemeCtrl::sigThemeChanged, &host,
@@ -223,7 +223,7 @@ void tst_QThemeCtrl::slotMayChooseAnotherTheme()
     QCOMPARE(spy.count(), 2);
 }
 
-void tst_QThemeCtrl::paletteIsMadeOfTheNames()
+void tst_QThemeCtrl::paletteIsBuiltFromTheNames()
 {
     const QColor white(Qt::white);
     for (const Theme theme : {Theme::Light, Theme::Dark}) {
@@ -245,7 +245,7 @@ void tst_QThemeCtrl::paletteIsMadeOfTheNames()
     }
 }
 
-void tst_QThemeCtrl::valueCanBeAddedToOneThemeOrBoth()
+void tst_QThemeCtrl::valueCanBeSetForOneThemeOrBoth()
 {
     mTheme->setValue(Theme::Light, QStringLiteral("Own"), QStringLiteral("#010203"));
     mTheme->setValue(Theme::Dark, QStringLiteral("Own"), QStringLiteral("#040506"));
@@ -267,18 +267,18 @@ void tst_QThemeCtrl::unknownNameHasNoValue()
     QVERIFY(LogCapture::messages().isEmpty());
 }
 
-void tst_QThemeCtrl::colorIsReadThroughMacros_data()
+void tst_QThemeCtrl::colorExpandsMacros_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<QColor>("expected");
     QTest::newRow("hexadecimal") << QStringLiteral("#102030") << QColor(16, 32, 48);
     QTest::newRow("translucent") << QStringLiteral("#40102030") << QColor(16, 32, 48, 64);
-    QTest::newRow("byItsName") << QStringLiteral("blue") << QColor(0, 0, 255);
-    QTest::newRow("throughAnotherName") << QStringLiteral(" var(Target) ") << QColor(1, 1, 1);
-    QTest::newRow("noColor") << QStringLiteral("12px solid") << QColor();
+    QTest::newRow("svgName") << QStringLiteral("blue") << QColor(0, 0, 255);
+    QTest::newRow("macro") << QStringLiteral(" var(Target) ") << QColor(1, 1, 1);
+    QTest::newRow("notAColor") << QStringLiteral("12px solid") << QColor();
 }
 
-void tst_QThemeCtrl::colorIsReadThroughMacros()
+void tst_QThemeCtrl::colorExpandsMacros()
 {
     QFETCH(QString, value);
     QFETCH(QColor, expected);

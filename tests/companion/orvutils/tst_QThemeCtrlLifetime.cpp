@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// The singletons beside the application: before it, after it, and with the next one.
+/// The singletons before the application exists, after it is destroyed, and with the next one.
 class tst_QThemeCtrlLifetime : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class tst_QThemeCtrlLifetime : public QObject
 private Q_SLOTS:
     void initTestCase();
     void worksWithoutApplication();
-    void followsAnApplicationMadeLater();
+    void followsAnApplicationCreatedLater();
     void outlivesTheApplication();
     void followsTheNextApplication();
 
@@ -72,7 +72,7 @@ void tst_QThemeCtrlLifetime::worksWithoutApplication()
     QVERIFY(OrvScreenManager::instance()->screens().isEmpty());
 }
 
-void tst_QThemeCtrlLifetime::followsAnApplicationMadeLater()
+void tst_QThemeCtrlLifetime::followsAnApplicationCreatedLater()
 {
     const std::unique_ptr<QApplication> application = makeApplication();
     QThemeCtrl *const theme = QThemeCtrl::instance();
@@ -106,7 +106,7 @@ void tst_QThemeCtrlLifetime::followsTheNextApplication()
     watchASheet();
 }
 
-// Without the shared main: the applications come and go inside the tests.
+// Not with runTest(): the tests create and destroy their applications themselves.
 QTEST_APPLESS_MAIN(tst_QThemeCtrlLifetime)
 
 #include "tst_QThemeCtrlLifetime.moc"

@@ -5,27 +5,27 @@
 
 #include <limits>
 
-/// What becomes of sca(N) and var(Name) in the text of a sheet.
+/// The macros sca(N) and var(Name) in style sheets.
 class tst_QThemeCtrlMacros : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void expands_data();
-    void expands();
+    void macrosAreExpanded_data();
+    void macrosAreExpanded();
     void unusableScaleCountsAsOne_data();
     void unusableScaleCountsAsOne();
-    void unknownNameIsLeftOutAndReportedOnce();
-    void nameThatRefersToItselfStaysAndIsReportedOnce();
-    void textThatIsNoNumberStaysAndIsReportedOnce();
-    void valueThatMultipliesItselfStays();
-    void longChainOfNamesStays();
+    void unknownNameIsRemovedAndLoggedOnce();
+    void nameThatRefersToItselfIsKeptAndLoggedOnce();
+    void textThatIsNotANumberIsKeptAndLoggedOnce();
+    void exponentiallyGrowingValueIsNotExpanded();
+    void longChainOfNamesIsNotExpanded();
     void valueFollowsTheTheme();
-    void nestingOfAnyDepthIsRead_data();
-    void nestingOfAnyDepthIsRead();
-    void largeSheetIsRead_data();
-    void largeSheetIsRead();
+    void deepNestingIsExpanded_data();
+    void deepNestingIsExpanded();
+    void largeSheetIsExpanded_data();
+    void largeSheetIsExpanded();
 
 private:
     static QString expand(const QString &sheet, double scale)
@@ -52,7 +52,7 @@ void tst_QThemeCtrlMacros::initTestCase()
     set("Größe", "8");
 }
 
-void tst_QThemeCtrlMacros::expands_data()
+void tst_QThemeCtrlMacros::macrosAreExpanded_data()
 {
     QTest::addColumn<QString>("sheet");
     QTest::addColumn<double>("scale");
@@ -60,63 +60,63 @@ void tst_QThemeCtrlMacros::expands_data()
     const auto row = [](const char *name, const char *sheet, double scale, const char *expected) {
         QTest::newRow(name) << QString::fromUtf8(sheet) << scale << QString::fromUtf8(expected);
     };
-    row("nothingStaysNothing", "", 2, "");
-    row("textWithoutMacrosStays", "QLabel { color: rgb(1, 2, 3); }", 2,
+    row("emptyTextStaysEmpty", "", 2, "");
+    row("textWithoutMacrosIsKept", "QLabel { color: rgb(1, 2, 3); }", 2,
         "QLabel { color: rgb(1, 2, 3); }");
     row("numberIsScaled", "width: sca(10)px;", 1.5, "width: 15px;");
-    row("neighboursAreBothScaled", "sca(4) sca(8)sca(9)", 2, "8 1618");
+    row("adjacentMacrosAreScaled", "sca(4) sca(8)sca(9)", 2, "8 1618");
     row("halfIsRoundedUp", "sca(5)", 1.5, "8");
     row("lessThanHalfIsRoundedDown", "sca(7)", 1.33, "9");
     row("negativeHalfIsRoundedUp", "sca(-5)", 1.5, "-7");
     row("decimalIsScaled", "sca(0.5)px sca(.25)px sca(2.)px", 4, "2px 1px 8px");
-    row("plusSignIsTaken", "sca(+3)", 2, "6");
+    row("plusSignIsAccepted", "sca(+3)", 2, "6");
     row("smallNegativeIsPlainZero", "sca(-0.1)", 1, "0");
     row("blanksInsideAreSkipped", "sca(  4\t)px sca(\n4\n)px var( Radius )", 2, "8px 8px 6");
-    row("hugeNumberStopsAtTheLargestInteger", "sca(99999999999999999999)", 2, "2147483647");
-    row("hugeNegativeNumberStopsToo", "sca(-99999999999999999999)", 2, "-2147483647");
+    row("hugeNumberIsClamped", "sca(99999999999999999999)", 2, "2147483647");
+    row("hugeNegativeNumberIsClamped", "sca(-99999999999999999999)", 2, "-2147483647");
     row("nameIsReplaced", "border-radius: var(Radius)px;", 2, "border-radius: 6px;");
-    row("nameMayHoldAnyLetters", "var(Größe)", 2, "8");
+    row("nameMayContainAnyLetters", "var(Größe)", 2, "8");
     row("nameInsideANumberIsScaled", "sca(var(Radius))px", 2, "12px");
-    row("nameMayComeFromAName", "var(var(Name))", 2, "6");
-    row("numberInANameIsScaled", "padding: var(Padding);", 2, "padding: 6px;");
-    row("nameInANameIsReplaced", "border: var(Border);", 3, "border: 3px solid red;");
-    row("scaledTwiceIsScaledTwice", "sca(sca(3))", 2, "12");
-    row("valueWithAnOpenParenthesisHarmsNothing", "var(Broken)) sca(2)", 2, "rgb(1, 2) 4");
-    row("valueWithQuotesHarmsNothing", "font: var(Quoted) /* var(X) */ sca(2)", 2,
+    row("nameMayBeTheValueOfAName", "var(var(Name))", 2, "6");
+    row("numberInAValueIsScaled", "padding: var(Padding);", 2, "padding: 6px;");
+    row("nameInAValueIsReplaced", "border: var(Border);", 3, "border: 3px solid red;");
+    row("nestedScaleIsScaledTwice", "sca(sca(3))", 2, "12");
+    row("valueWithAnOpenParenthesisDoesNotAffectTheRest", "var(Broken)) sca(2)", 2, "rgb(1, 2) 4");
+    row("valueWithQuotesDoesNotAffectTheRest", "font: var(Quoted) /* var(X) */ sca(2)", 2,
         "font: \"Some Font\" /* var(X) */ 4");
     row("macroInsideAFunctionIsExpanded", "url(a/var(Radius)/sca(2))", 2, "url(a/6/4)");
     row("macroInAStringIsExpanded", "url(\":/icons/var(Radius).svg\")", 2,
         "url(\":/icons/6.svg\")");
     row("minusBeforeAMacroIsASign", "margin: -sca(4)px (-sca(4))", 2, "margin: -8px (-8)");
-    row("macroOnlyCountsAsAWholeWord",
-        "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)", 2,
+    row("macroMustBeAWholeWord", "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)", 2,
         "xsca(2) my-sca(2) --sca(2) _sca(2) 9sca(2) äsca(2) xvar(Edge)");
-    row("capitalsAreNoMacro", "SCA(2) Sca(2) VAR(Edge)", 2, "SCA(2) Sca(2) VAR(Edge)");
-    row("blankBeforeTheParenthesisIsNoMacro", "sca (2)", 2, "sca (2)");
-    row("commentStaysAsItIs", "/* sca(2) var(Nowhere) */ sca(2) /**/ sca(2)", 2,
+    row("capitalsAreNotAMacro", "SCA(2) Sca(2) VAR(Edge)", 2, "SCA(2) Sca(2) VAR(Edge)");
+    row("blankBeforeTheParenthesisIsNotAMacro", "sca (2)", 2, "sca (2)");
+    row("commentIsNotChanged", "/* sca(2) var(Nowhere) */ sca(2) /**/ sca(2)", 2,
         "/* sca(2) var(Nowhere) */ 4 /**/ 4");
-    row("commentWithoutEndStays", "sca(2) /* sca(2)", 2, "4 /* sca(2)");
-    row("slashStarInAStringIsNoComment", "url(\"a/*b\") sca(2) url('/*') sca(2)", 2,
+    row("unterminatedCommentIsNotChanged", "sca(2) /* sca(2)", 2, "4 /* sca(2)");
+    row("slashStarInAStringIsNotAComment", "url(\"a/*b\") sca(2) url('/*') sca(2)", 2,
         "url(\"a/*b\") 4 url('/*') 4");
     row("stringEndsWithItsLine", "url(\"broken\n/* sca(2) */ sca(2)", 2,
         "url(\"broken\n/* sca(2) */ 4");
-    row("escapedQuoteEndsNoString", "\"a\\\"/*\" sca(2)", 2, "\"a\\\"/*\" 4");
-    row("otherQuoteEndsNoString", "\"it's /*\" sca(2)", 2, "\"it's /*\" 4");
-    row("lastBackslashStays", "sca(2)\\", 2, "4\\");
-    row("openMacroStaysOpen", "sca(2", 2, "sca(2");
-    row("openMacroEndsWithItsRule", "width: sca(2; } A { color: rgb(1,2,3); width: sca(2)px }", 2,
-        "width: sca(2; } A { color: rgb(1,2,3); width: 4px }");
-    row("openNameSwallowsNothingOfTheNextRule", "width: var(Radius; } A { height: 3px) }", 2,
+    row("escapedQuoteDoesNotEndAString", "\"a\\\"/*\" sca(2)", 2, "\"a\\\"/*\" 4");
+    row("otherQuoteDoesNotEndAString", "\"it's /*\" sca(2)", 2, "\"it's /*\" 4");
+    row("trailingBackslashIsKept", "sca(2)\\", 2, "4\\");
+    row("unclosedMacroIsKept", "sca(2", 2, "sca(2");
+    row("unclosedMacroEndsWithItsRule", "width: sca(2; } A { color: rgb(1,2,3); width: sca(2)px }",
+        2, "width: sca(2; } A { color: rgb(1,2,3); width: 4px }");
+    row("unclosedNameDoesNotSwallowTheNextRule", "width: var(Radius; } A { height: 3px) }", 2,
         "width: var(Radius; } A { height: 3px) }");
-    row("openNameSwallowsNoString", "url(var(Radius, \"a\"))", 2, "url(var(Radius, \"a\"))");
-    row("strayParenthesesStay", ")) sca(2) ((", 2, ")) 4 ((");
-    row("functionInsideANumberStays", "sca(f(2)) sca(2)", 2, "sca(f(2)) 4");
-    row("numbersOfOtherFormsStay",
+    row("unclosedNameDoesNotSwallowAString", "url(var(Radius, \"a\"))", 2,
+        "url(var(Radius, \"a\"))");
+    row("strayParenthesesAreKept", ")) sca(2) ((", 2, ")) 4 ((");
+    row("functionInsideANumberIsKept", "sca(f(2)) sca(2)", 2, "sca(f(2)) 4");
+    row("numbersOfOtherFormsAreKept",
         "sca() sca(1e3) sca(0x10) sca(1 2) sca(1.2.3) sca(--1) sca(.) sca(inf)", 2,
         "sca() sca(1e3) sca(0x10) sca(1 2) sca(1.2.3) sca(--1) sca(.) sca(inf)");
 }
 
-void tst_QThemeCtrlMacros::expands()
+void tst_QThemeCtrlMacros::macrosAreExpanded()
 {
     QFETCH(QString, sheet);
     QFETCH(double, scale);
@@ -129,7 +129,7 @@ void tst_QThemeCtrlMacros::unusableScaleCountsAsOne_data()
     QTest::addColumn<double>("scale");
     QTest::newRow("zero") << 0.0;
     QTest::newRow("negative") << -2.0;
-    QTest::newRow("noNumber") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("notANumber") << std::numeric_limits<double>::quiet_NaN();
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
 }
 
@@ -139,7 +139,7 @@ void tst_QThemeCtrlMacros::unusableScaleCountsAsOne()
     QCOMPARE(expand(QStringLiteral("sca(7)"), scale), QStringLiteral("7"));
 }
 
-void tst_QThemeCtrlMacros::unknownNameIsLeftOutAndReportedOnce()
+void tst_QThemeCtrlMacros::unknownNameIsRemovedAndLoggedOnce()
 {
     LogCapture log;
     QCOMPARE(expand(QStringLiteral("a var(Nobody) b var(Nobody) var(Else)"), 1),
@@ -150,7 +150,7 @@ void tst_QThemeCtrlMacros::unknownNameIsLeftOutAndReportedOnce()
     QCOMPARE(LogCapture::texts(QtWarningMsg), expected);
 }
 
-void tst_QThemeCtrlMacros::nameThatRefersToItselfStaysAndIsReportedOnce()
+void tst_QThemeCtrlMacros::nameThatRefersToItselfIsKeptAndLoggedOnce()
 {
     QThemeCtrl *const theme = QThemeCtrl::instance();
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Loop"),
@@ -168,7 +168,7 @@ void tst_QThemeCtrlMacros::nameThatRefersToItselfStaysAndIsReportedOnce()
     QCOMPARE(LogCapture::texts(QtWarningMsg), expected);
 }
 
-void tst_QThemeCtrlMacros::textThatIsNoNumberStaysAndIsReportedOnce()
+void tst_QThemeCtrlMacros::textThatIsNotANumberIsKeptAndLoggedOnce()
 {
     LogCapture log;
     QCOMPARE(expand(QStringLiteral("sca(four) sca(four)"), 1),
@@ -177,9 +177,10 @@ void tst_QThemeCtrlMacros::textThatIsNoNumberStaysAndIsReportedOnce()
              QStringList{QStringLiteral("QThemeCtrl::handleQssFile not a number: four")});
 }
 
-void tst_QThemeCtrlMacros::valueThatMultipliesItselfStays()
+void tst_QThemeCtrlMacros::exponentiallyGrowingValueIsNotExpanded()
 {
-    // Every name stands for ten of the one before: the last would be 10^30 characters.
+    // Every name macrosAreExpanded to ten times the one before, so the last would have 10^30
+    // characters.
     QThemeCtrl *const theme = QThemeCtrl::instance();
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Ten0"), QStringLiteral("x"));
     for (int i = 1; i <= 30; ++i) {
@@ -196,7 +197,7 @@ void tst_QThemeCtrlMacros::valueThatMultipliesItselfStays()
                     QStringLiteral("QThemeCtrl::handleQssFile value too long or too deep: Ten4")));
 }
 
-void tst_QThemeCtrlMacros::longChainOfNamesStays()
+void tst_QThemeCtrlMacros::longChainOfNamesIsNotExpanded()
 {
     QThemeCtrl *const theme = QThemeCtrl::instance();
     theme->setValue(QThemeCtrl::Theme::System, QStringLiteral("Link0"), QStringLiteral("end"));
@@ -221,7 +222,7 @@ void tst_QThemeCtrlMacros::valueFollowsTheTheme()
     theme->setTheme(QThemeCtrl::Theme::Light);
 }
 
-void tst_QThemeCtrlMacros::nestingOfAnyDepthIsRead_data()
+void tst_QThemeCtrlMacros::deepNestingIsExpanded_data()
 {
     QTest::addColumn<QString>("opening");
     QTest::addColumn<QString>("core");
@@ -234,17 +235,17 @@ void tst_QThemeCtrlMacros::nestingOfAnyDepthIsRead_data()
                            << QString();
     QTest::newRow("notClosed") << scale << QStringLiteral("7") << QString()
                                << scale.repeated(100000) + QStringLiteral("7");
-    QTest::newRow("noNumber") << scale << QStringLiteral("!") << close
-                              << scale.repeated(100000) + QStringLiteral("!")
-                                     + close.repeated(100000);
-    QTest::newRow("blankApart") << QStringLiteral("sca(      ") << QStringLiteral("7") << close
-                                << QStringLiteral("7");
+    QTest::newRow("notANumber") << scale << QStringLiteral("!") << close
+                                << scale.repeated(100000) + QStringLiteral("!")
+                                       + close.repeated(100000);
+    QTest::newRow("blanksInside") << QStringLiteral("sca(      ") << QStringLiteral("7") << close
+                                  << QStringLiteral("7");
     QTest::newRow("plain") << QStringLiteral("(") << QStringLiteral("sca(7)") << close
                            << QString(100000, QLatin1Char('(')) + QStringLiteral("7")
                                   + close.repeated(100000);
 }
 
-void tst_QThemeCtrlMacros::nestingOfAnyDepthIsRead()
+void tst_QThemeCtrlMacros::deepNestingIsExpanded()
 {
     QFETCH(QString, opening);
     QFETCH(QString, core);
@@ -255,7 +256,7 @@ void tst_QThemeCtrlMacros::nestingOfAnyDepthIsRead()
     QVERIFY(expand(sheet, 1) == expected);
 }
 
-void tst_QThemeCtrlMacros::largeSheetIsRead_data()
+void tst_QThemeCtrlMacros::largeSheetIsExpanded_data()
 {
     QTest::addColumn<QString>("piece");
     QTest::addColumn<QString>("expectedPiece");
@@ -272,7 +273,7 @@ void tst_QThemeCtrlMacros::largeSheetIsRead_data()
                             << QString(QChar(0)) + QChar(0xd800);
 }
 
-void tst_QThemeCtrlMacros::largeSheetIsRead()
+void tst_QThemeCtrlMacros::largeSheetIsExpanded()
 {
     QFETCH(QString, piece);
     QFETCH(QString, expectedPiece);

@@ -13,7 +13,7 @@
 
 namespace {
 
-const char *const Sheet = "one.qss";
+constexpr char sSheet[] = "one.qss";
 
 void writeSheet(const char *name, const QByteArray &content)
 {
@@ -32,7 +32,7 @@ void replaceSheet(const char *name, const QByteArray &content)
 
 } // namespace
 
-/// Sheets read from files, and files watched.
+/// Style sheets read from files, and watching these files.
 class tst_QThemeCtrlSheets : public QObject
 {
     Q_OBJECT
@@ -40,21 +40,21 @@ class tst_QThemeCtrlSheets : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void sheetsAreJoinedInTheirOrderAndExpanded();
-    void unreadableSheetIsReportedAndTheOthersUsed_data();
-    void unreadableSheetIsReportedAndTheOthersUsed();
-    void noSheetAtAllClearsTheWidgets();
-    void encodingIsUtf8WithOrWithoutMark();
+    void sheetsAreJoinedInOrderAndExpanded();
+    void unreadableSheetIsLoggedAndTheOthersAreUsed_data();
+    void unreadableSheetIsLoggedAndTheOthersAreUsed();
+    void emptyListOfSheetsClearsTheStyle();
+    void encodingIsUtf8WithOrWithoutByteOrderMark();
     void resourceIsReadAndNotWatched();
-    void nullWidgetIsLeftAlone();
-    void sheetReallyStylesTheWidget();
+    void nullWidgetIsIgnored();
+    void sheetIsAppliedToTheWidget();
     void editedFileIsAnnouncedOnce();
     void fileReplacedByAnEditorIsStillWatched();
-    void fileReplacedBesideItsBackupIsStillWatched();
-    void removedFileAndItsReturnAreAnnounced();
+    void fileReplacedWithABackupIsStillWatched();
+    void removingAndRecreatingAFileIsAnnounced();
     void touchedFileWithTheSameContentIsNotAnnounced();
     void fileOfADeletedWidgetIsNoLongerWatched();
-    void fileNoLongerUsedIsNoLongerWatched();
+    void unusedFileIsNoLongerWatched();
     void slotMayApplyTheSheetAgainAndDeleteWidgets();
 
 private:
@@ -72,7 +72,7 @@ void tst_QThemeCtrlSheets::init()
     QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
     mLabel = std::make_unique<QLabel>();
     mChanges = std::make_unique<QSignalSpy>(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged);
-    writeSheet(Sheet, "QLabel { margin: sca(1)px }");
+    writeSheet(sSheet, "QLabel { margin: sca(1)px }");
 }
 
 void tst_QThemeCtrlSheets::cleanup()
@@ -81,7 +81,7 @@ void tst_QThemeCtrlSheets::cleanup()
     mLabel.reset();
 }
 
-void tst_QThemeCtrlSheets::sheetsAreJoinedInTheirOrderAndExpanded()
+void tst_QThemeCtrlSheets::sheetsAreJoinedInOrderAndExpanded()
 {
     writeSheet("two.qss", "QLabel { margin: sca(2)px }");
     apply(mLabel.get(), {QStringLiteral("two.qss"), QStringLiteral("./one.qss")});
@@ -90,7 +90,7 @@ void tst_QThemeCtrlSheets::sheetsAreJoinedInTheirOrderAndExpanded()
     QCOMPARE(mChanges->count(), 0);
 }
 
-void tst_QThemeCtrlSheets::unreadableSheetIsReportedAndTheOthersUsed_data()
+void tst_QThemeCtrlSheets::unreadableSheetIsLoggedAndTheOthersAreUsed_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("missing") << QStringLiteral("nowhere.qss");
@@ -98,28 +98,28 @@ void tst_QThemeCtrlSheets::unreadableSheetIsReportedAndTheOthersUsed_data()
     QTest::newRow("folder") << QStringLiteral(".");
     QTest::newRow("device") << QStringLiteral("/dev/zero");
     QTest::newRow("pipe") << QStringLiteral("pipe");
-    QTest::newRow("nothing") << QString();
+    QTest::newRow("emptyName") << QString();
 }
 
-void tst_QThemeCtrlSheets::unreadableSheetIsReportedAndTheOthersUsed()
+void tst_QThemeCtrlSheets::unreadableSheetIsLoggedAndTheOthersAreUsed()
 {
     QFETCH(QString, file);
     ::mkfifo("pipe", 0600);
     LogCapture log;
-    apply(mLabel.get(), {file, QLatin1String(Sheet)});
+    apply(mLabel.get(), {file, QLatin1String(sSheet)});
     QCOMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 2px }\n"));
     QCOMPARE(LogCapture::texts(QtWarningMsg),
              QStringList{QStringLiteral("QThemeCtrl::handleQssFile cannot read: ") + file});
 }
 
-void tst_QThemeCtrlSheets::noSheetAtAllClearsTheWidgets()
+void tst_QThemeCtrlSheets::emptyListOfSheetsClearsTheStyle()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
+    apply(mLabel.get(), {QLatin1String(sSheet)});
     apply(mLabel.get(), {});
     QCOMPARE(mLabel->styleSheet(), QString());
 }
 
-void tst_QThemeCtrlSheets::encodingIsUtf8WithOrWithoutMark()
+void tst_QThemeCtrlSheets::encodingIsUtf8WithOrWithoutByteOrderMark()
 {
     writeSheet("marked.qss", "\xef\xbb\xbfQLabel { font-family: \"\xe5\xae\x8b\" }");
     apply(mLabel.get(), {QStringLiteral("marked.qss")});
@@ -131,7 +131,7 @@ void tst_QThemeCtrlSheets::encodingIsUtf8WithOrWithoutMark()
 
 void tst_QThemeCtrlSheets::resourceIsReadAndNotWatched()
 {
-    // Qt's own resources are always there.
+    // A resource of Qt, which always exists.
     const QString resource = QStringLiteral(
         ":/qt-project.org/styles/commonstyle/images/left-32.png");
     QVERIFY(QFile::exists(resource));
@@ -141,14 +141,14 @@ void tst_QThemeCtrlSheets::resourceIsReadAndNotWatched()
     QVERIFY(!mLabel->styleSheet().isEmpty());
 }
 
-void tst_QThemeCtrlSheets::nullWidgetIsLeftAlone()
+void tst_QThemeCtrlSheets::nullWidgetIsIgnored()
 {
     LogCapture log;
     apply(nullptr, {QStringLiteral("nowhere.qss")});
     QVERIFY(LogCapture::messages().isEmpty());
 }
 
-void tst_QThemeCtrlSheets::sheetReallyStylesTheWidget()
+void tst_QThemeCtrlSheets::sheetIsAppliedToTheWidget()
 {
     QThemeCtrl::instance()->setValue(QThemeCtrl::Theme::System, QStringLiteral("Ground"),
                                      QStringLiteral("#123456"));
@@ -162,10 +162,10 @@ void tst_QThemeCtrlSheets::sheetReallyStylesTheWidget()
 void tst_QThemeCtrlSheets::editedFileIsAnnouncedOnce()
 {
     writeSheet("two.qss", "");
-    apply(mLabel.get(), {QLatin1String(Sheet), QStringLiteral("two.qss")});
+    apply(mLabel.get(), {QLatin1String(sSheet), QStringLiteral("two.qss")});
     QLabel other;
-    apply(&other, {QLatin1String(Sheet)});
-    writeSheet(Sheet, "QLabel { margin: 5px }");
+    apply(&other, {QLatin1String(sSheet)});
+    writeSheet(sSheet, "QLabel { margin: 5px }");
     writeSheet("two.qss", "QLabel { margin: 6px }");
     QTRY_COMPARE(mChanges->count(), 1);
     QCOMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 2px }\n\n"));
@@ -173,74 +173,74 @@ void tst_QThemeCtrlSheets::editedFileIsAnnouncedOnce()
 
 void tst_QThemeCtrlSheets::fileReplacedByAnEditorIsStillWatched()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
+    apply(mLabel.get(), {QLatin1String(sSheet)});
     for (int i = 1; i <= 3; ++i) {
-        replaceSheet(Sheet, "/* replaced " + QByteArray::number(i) + " */");
+        replaceSheet(sSheet, "/* replaced " + QByteArray::number(i) + " */");
         QTRY_COMPARE(mChanges->count(), i);
     }
-    writeSheet(Sheet, "/* written */");
+    writeSheet(sSheet, "/* written */");
     QTRY_COMPARE(mChanges->count(), 4);
 }
 
-void tst_QThemeCtrlSheets::fileReplacedBesideItsBackupIsStillWatched()
+void tst_QThemeCtrlSheets::fileReplacedWithABackupIsStillWatched()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
-    // The link keeps the old file alive, so that its removal is never told.
-    QCOMPARE(::link(Sheet, "backup"), 0);
-    replaceSheet(Sheet, "/* replaced */");
+    apply(mLabel.get(), {QLatin1String(sSheet)});
+    // The hard link keeps the old file alive, so its removal is not reported.
+    QCOMPARE(::link(sSheet, "backup"), 0);
+    replaceSheet(sSheet, "/* replaced */");
     QTRY_COMPARE(mChanges->count(), 1);
-    writeSheet(Sheet, "/* written */");
+    writeSheet(sSheet, "/* written */");
     QTRY_COMPARE(mChanges->count(), 2);
 }
 
-void tst_QThemeCtrlSheets::removedFileAndItsReturnAreAnnounced()
+void tst_QThemeCtrlSheets::removingAndRecreatingAFileIsAnnounced()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
-    QVERIFY(QFile::remove(QLatin1String(Sheet)));
+    apply(mLabel.get(), {QLatin1String(sSheet)});
+    QVERIFY(QFile::remove(QLatin1String(sSheet)));
     QTRY_COMPARE(mChanges->count(), 1);
-    writeSheet(Sheet, "QLabel { margin: sca(1)px }");
+    writeSheet(sSheet, "QLabel { margin: sca(1)px }");
     QTRY_COMPARE(mChanges->count(), 2);
 }
 
 void tst_QThemeCtrlSheets::touchedFileWithTheSameContentIsNotAnnounced()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
-    replaceSheet(Sheet, "QLabel { margin: sca(1)px }");
+    apply(mLabel.get(), {QLatin1String(sSheet)});
+    replaceSheet(sSheet, "QLabel { margin: sca(1)px }");
     QVERIFY(!mChanges->wait(400));
 }
 
 void tst_QThemeCtrlSheets::fileOfADeletedWidgetIsNoLongerWatched()
 {
-    apply(mLabel.get(), {QLatin1String(Sheet)});
+    apply(mLabel.get(), {QLatin1String(sSheet)});
     mLabel.reset();
-    writeSheet(Sheet, "QLabel { margin: 8px }");
+    writeSheet(sSheet, "QLabel { margin: 8px }");
     QVERIFY(!mChanges->wait(400));
 }
 
-void tst_QThemeCtrlSheets::fileNoLongerUsedIsNoLongerWatched()
+void tst_QThemeCtrlSheets::unusedFileIsNoLongerWatched()
 {
     writeSheet("two.qss", "");
-    apply(mLabel.get(), {QLatin1String(Sheet)});
+    apply(mLabel.get(), {QLatin1String(sSheet)});
     apply(mLabel.get(), {QStringLiteral("two.qss")});
-    writeSheet(Sheet, "QLabel { margin: 9px }");
+    writeSheet(sSheet, "QLabel { margin: 9px }");
     QVERIFY(!mChanges->wait(400));
 }
 
 void tst_QThemeCtrlSheets::slotMayApplyTheSheetAgainAndDeleteWidgets()
 {
     auto *const doomed = new QLabel;
-    apply(doomed, {QLatin1String(Sheet)});
-    apply(mLabel.get(), {QLatin1String(Sheet)});
+    apply(doomed, {QLatin1String(sSheet)});
+    apply(mLabel.get(), {QLatin1String(sSheet)});
     QObject host;
     QPointer<QLabel> guard = doomed;
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, &host, [this, guard] {
         delete guard;
-        apply(mLabel.get(), {QLatin1String(Sheet)});
+        apply(mLabel.get(), {QLatin1String(sSheet)});
     });
-    writeSheet(Sheet, "QLabel { margin: sca(10)px }");
+    writeSheet(sSheet, "QLabel { margin: sca(10)px }");
     QTRY_COMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 20px }\n"));
     QVERIFY(!guard);
-    writeSheet(Sheet, "QLabel { margin: sca(11)px }");
+    writeSheet(sSheet, "QLabel { margin: sca(11)px }");
     QTRY_COMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 22px }\n"));
 }
 

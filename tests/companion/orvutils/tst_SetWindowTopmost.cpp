@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Counts how often it is hidden.
+/// A window that counts how often it is hidden.
 class Window : public QWidget
 {
 public:
@@ -46,16 +46,16 @@ class tst_SetWindowTopmost : public QObject
 
 private Q_SLOTS:
     void settingsWindowHasTypeFour();
-    void nullIsLeftAlone();
-    void hintIsSetAndTakenBack_data();
-    void hintIsSetAndTakenBack();
+    void nullIsIgnored();
+    void hintIsSetAndCleared_data();
+    void hintIsSetAndCleared();
     void hiddenWindowStaysHidden();
-    void shownWindowStaysShownInItsPlace();
-    void stateIsKept_data();
-    void stateIsKept();
-    void childMeansItsWindow();
+    void shownWindowKeepsVisibilityAndGeometry();
+    void windowStateIsKept_data();
+    void windowStateIsKept();
+    void childSetsTheHintOfItsWindow();
     void otherHintsAreKept();
-    void windowManagerKeepsItAbove();
+    void windowManagerKeepsTheWindowAbove();
 };
 
 void tst_SetWindowTopmost::settingsWindowHasTypeFour()
@@ -63,13 +63,13 @@ void tst_SetWindowTopmost::settingsWindowHasTypeFour()
     QCOMPARE(int(OrvWindowTypeSettings), 4);
 }
 
-void tst_SetWindowTopmost::nullIsLeftAlone()
+void tst_SetWindowTopmost::nullIsIgnored()
 {
     SetWindowTopmost(nullptr, true, OrvWindowTypeNormal);
     SetWindowTopmost(nullptr, false, OrvWindowTypeSettings);
 }
 
-void tst_SetWindowTopmost::hintIsSetAndTakenBack_data()
+void tst_SetWindowTopmost::hintIsSetAndCleared_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("normal") << int(OrvWindowTypeNormal);
@@ -77,10 +77,10 @@ void tst_SetWindowTopmost::hintIsSetAndTakenBack_data()
     QTest::newRow("panel") << int(OrvWindowTypePanel);
     QTest::newRow("overlay") << int(OrvWindowTypeOverlay);
     QTest::newRow("settings") << int(OrvWindowTypeSettings);
-    QTest::newRow("noTypeAtAll") << 7;
+    QTest::newRow("unknownType") << 7;
 }
 
-void tst_SetWindowTopmost::hintIsSetAndTakenBack()
+void tst_SetWindowTopmost::hintIsSetAndCleared()
 {
     QFETCH(int, type);
     for (const bool created : {false, true}) {
@@ -110,7 +110,7 @@ void tst_SetWindowTopmost::hiddenWindowStaysHidden()
     QVERIFY(!window.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
-void tst_SetWindowTopmost::shownWindowStaysShownInItsPlace()
+void tst_SetWindowTopmost::shownWindowKeepsVisibilityAndGeometry()
 {
     Window window;
     window.setGeometry(140, 150, 300, 200);
@@ -129,15 +129,15 @@ void tst_SetWindowTopmost::shownWindowStaysShownInItsPlace()
     QCOMPARE(window.hidden, 0);
 }
 
-void tst_SetWindowTopmost::stateIsKept_data()
+void tst_SetWindowTopmost::windowStateIsKept_data()
 {
     QTest::addColumn<int>("state");
     QTest::newRow("minimised") << int(Qt::WindowMinimized);
     QTest::newRow("maximised") << int(Qt::WindowMaximized);
-    QTest::newRow("wholeScreen") << int(Qt::WindowFullScreen);
+    QTest::newRow("fullScreen") << int(Qt::WindowFullScreen);
 }
 
-void tst_SetWindowTopmost::stateIsKept()
+void tst_SetWindowTopmost::windowStateIsKept()
 {
     QFETCH(int, state);
     QWidget window;
@@ -152,7 +152,7 @@ void tst_SetWindowTopmost::stateIsKept()
     QVERIFY(window.isVisible());
 }
 
-void tst_SetWindowTopmost::childMeansItsWindow()
+void tst_SetWindowTopmost::childSetsTheHintOfItsWindow()
 {
     QWidget window;
     QWidget child(&window);
@@ -168,14 +168,14 @@ void tst_SetWindowTopmost::otherHintsAreKept()
     QCOMPARE(window.windowFlags(), Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
 }
 
-void tst_SetWindowTopmost::windowManagerKeepsItAbove()
+void tst_SetWindowTopmost::windowManagerKeepsTheWindowAbove()
 {
     const QString manager = QStandardPaths::findExecutable(QStringLiteral("openbox"));
     if (QGuiApplication::platformName() != QLatin1String("xcb") || manager.isEmpty()
         || QStandardPaths::findExecutable(QStringLiteral("xprop")).isEmpty())
         QSKIP("needs an X server, openbox and xprop");
-    // Windows shown while the manager starts, after it has already named itself, may never be
-    // mapped.
+    // Windows shown before the manager has finished starting may never be mapped. That it has
+    // published its name is not enough to know.
     QProcess process;
     process.start(manager,
                   {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),

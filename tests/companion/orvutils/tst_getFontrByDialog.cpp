@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Does something with the font dialog once it is open.
+/// Calls `act` with the font dialog when it is open.
 void whenOpen(const std::function<void(QFontDialog *)> &act)
 {
     QTimer::singleShot(0, qApp, [act] {
@@ -31,7 +31,7 @@ void press(QFontDialog *dialog, QDialogButtonBox::StandardButton button)
     QTest::mouseClick(box->button(button), Qt::LeftButton);
 }
 
-/// Types a size into the dialog, whose size field is the one with numbers in it.
+/// Types a size into the dialog's size field, which is the line edit that contains a number.
 void typeSize(QFontDialog *dialog, const QString &size)
 {
     const QList<QLineEdit *> fields = dialog->findChildren<QLineEdit *>();
@@ -63,13 +63,13 @@ class tst_getFontrByDialog : public QObject
 
 private Q_SLOTS:
     void cancelledDialogReturnsTheInitialFont();
-    void unchangedFontIsReturnedUntouched_data();
-    void unchangedFontIsReturnedUntouched();
+    void unchangedFontIsReturnedExactly_data();
+    void unchangedFontIsReturnedExactly();
     void chosenSizeIsReturnedInPoints();
     void regularStyleIsOfferedForARegularFont();
     void dialogHasTitleAndParent();
-    void parentMayGoWhileTheDialogIsOpen();
-    void dialogIsGoneAfterwards();
+    void parentMayBeDeletedWhileTheDialogIsOpen();
+    void dialogIsDeletedAfterwards();
 };
 
 void tst_getFontrByDialog::cancelledDialogReturnsTheInitialFont()
@@ -81,7 +81,7 @@ void tst_getFontrByDialog::cancelledDialogReturnsTheInitialFont()
     QCOMPARE(getFontrByDialog(someFont(), nullptr, QStringLiteral("Select font")), someFont());
 }
 
-void tst_getFontrByDialog::unchangedFontIsReturnedUntouched_data()
+void tst_getFontrByDialog::unchangedFontIsReturnedExactly_data()
 {
     QTest::addColumn<QFont>("font");
     QFont halves = someFont();
@@ -99,7 +99,7 @@ void tst_getFontrByDialog::unchangedFontIsReturnedUntouched_data()
     QTest::newRow("defaultFont") << QFont();
 }
 
-void tst_getFontrByDialog::unchangedFontIsReturnedUntouched()
+void tst_getFontrByDialog::unchangedFontIsReturnedExactly()
 {
     QFETCH(QFont, font);
     whenOpen([](QFontDialog *dialog) { press(dialog, QDialogButtonBox::Ok); });
@@ -148,7 +148,7 @@ void tst_getFontrByDialog::dialogHasTitleAndParent()
     QCOMPARE(parent, &window);
 }
 
-void tst_getFontrByDialog::parentMayGoWhileTheDialogIsOpen()
+void tst_getFontrByDialog::parentMayBeDeletedWhileTheDialogIsOpen()
 {
     auto *const window = new QWidget;
     window->show();
@@ -156,7 +156,7 @@ void tst_getFontrByDialog::parentMayGoWhileTheDialogIsOpen()
     QCOMPARE(getFontrByDialog(someFont(), window, QStringLiteral("Select font")), someFont());
 }
 
-void tst_getFontrByDialog::dialogIsGoneAfterwards()
+void tst_getFontrByDialog::dialogIsDeletedAfterwards()
 {
     QWidget window;
     whenOpen([](QFontDialog *dialog) { press(dialog, QDialogButtonBox::Ok); });

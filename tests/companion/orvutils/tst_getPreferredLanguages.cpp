@@ -10,9 +10,9 @@
 
 namespace {
 
-const char *const PrintSwitch = "--print-preferred-languages";
+constexpr char sPrintSwitch[] = "--print-preferred-languages";
 
-/// What a program started with these environment variables is told.
+/// Returns the preferred languages in a program started with these environment variables.
 QStringList languagesWith(const QString &language, const QString &locale)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -21,7 +21,7 @@ QStringList languagesWith(const QString &language, const QString &locale)
     environment.insert(QStringLiteral("LANGUAGE"), language);
     QProcess program;
     program.setProcessEnvironment(environment);
-    program.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintSwitch)});
+    program.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(sPrintSwitch)});
     program.waitForFinished();
     return QString::fromUtf8(program.readAllStandardOutput())
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -34,31 +34,31 @@ class tst_getPreferredLanguages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void mostPreferredComesFirst();
-    void languageOfTheLocaleIsKnown();
-    void noneComesTwice();
-    void thereIsAlwaysOne();
+    void mostPreferredLanguageIsFirst();
+    void languageOfTheLocaleIsFirst();
+    void noLanguageIsListedTwice();
+    void listIsNeverEmpty();
 };
 
-void tst_getPreferredLanguages::mostPreferredComesFirst()
+void tst_getPreferredLanguages::mostPreferredLanguageIsFirst()
 {
     const QStringList languages = languagesWith(QStringLiteral("fr:de"),
                                                 QStringLiteral("en_US.UTF-8"));
-    // Each may come in several forms: "fr", "fr-FR", "fr-Latn-FR".
+    // Each language may be listed in several forms: "fr", "fr-FR", "fr-Latn-FR".
     const int firstGerman = languages.indexOf(QRegularExpression(QStringLiteral("^de.*")));
     QVERIFY(firstGerman > 0);
     for (int i = 0; i < firstGerman; ++i)
         QCOMPARE(languages.at(i).left(2), QStringLiteral("fr"));
 }
 
-void tst_getPreferredLanguages::languageOfTheLocaleIsKnown()
+void tst_getPreferredLanguages::languageOfTheLocaleIsFirst()
 {
     const QStringList languages = languagesWith(QString(), QStringLiteral("zh_CN.UTF-8"));
     QVERIFY(!languages.isEmpty());
     QVERIFY2(languages.first().startsWith(QStringLiteral("zh")), qPrintable(languages.first()));
 }
 
-void tst_getPreferredLanguages::noneComesTwice()
+void tst_getPreferredLanguages::noLanguageIsListedTwice()
 {
     QStringList languages = languagesWith(QStringLiteral("de:de:en:de"),
                                           QStringLiteral("de_DE.UTF-8"));
@@ -66,15 +66,15 @@ void tst_getPreferredLanguages::noneComesTwice()
     QCOMPARE(languages.removeDuplicates(), 0);
 }
 
-void tst_getPreferredLanguages::thereIsAlwaysOne()
+void tst_getPreferredLanguages::listIsNeverEmpty()
 {
     QVERIFY(!getPreferredLanguages().isEmpty());
 }
 
 int main(int argc, char **argv)
 {
-    // The system's languages are read once in a program: each setting needs one of its own.
-    if (argc > 1 && std::strcmp(argv[1], PrintSwitch) == 0) {
+    // A program reads the system's languages once, so each environment needs its own process.
+    if (argc > 1 && std::strcmp(argv[1], sPrintSwitch) == 0) {
         const QStringList languages = getPreferredLanguages();
         for (const QString &language : languages)
             std::puts(qPrintable(language));

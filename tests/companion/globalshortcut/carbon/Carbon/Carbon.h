@@ -1,7 +1,7 @@
 #pragma once
 
-// The few types, constants and functions of Carbon that hotkeys take, with Apple's names and
-// values, so that the macOS backend compiles and runs elsewhere. FakeCarbon implements them.
+// The types, constants and functions of Carbon that hotkeys need, with Apple's names and values, so
+// that the macOS backend compiles and runs on other systems. FakeCarbon.cpp implements them.
 
 #include <cstddef>
 #include <cstdint>
