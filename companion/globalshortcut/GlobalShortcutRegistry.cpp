@@ -5,9 +5,13 @@
 #include <algorithm>
 #include <utility>
 
-// A bare pointer: hotkeys that are static objects of the host may be destroyed after every static
-// object of this library.
-static GlobalShortcutRegistry *sInstance = nullptr;
+namespace {
+
+// A raw pointer: hotkeys that are static objects of the host may be destroyed after all static
+// objects of this library.
+GlobalShortcutRegistry *sInstance = nullptr;
+
+} // namespace
 
 std::shared_ptr<GlobalShortcutRegistry> GlobalShortcutRegistry::instance()
 {

@@ -8,10 +8,12 @@
 #include <xcb/xkb.h>
 #undef explicit
 
+namespace {
+
 template<typename T> using XcbPointer = QScopedPointer<T, QScopedPointerPodDeleter>;
 
-// The given modifiers with the ignored ones on and off, in every way.
-static QVector<quint16> modifierStates(const KeyCombination &combination)
+/// The modifiers of `combination` with every subset of its ignored modifiers.
+QVector<quint16> modifierStates(const KeyCombination &combination)
 {
     QVector<quint16> states;
     // Steps down through all subsets of the bits of `ignored`.
@@ -21,6 +23,8 @@ static QVector<quint16> modifierStates(const KeyCombination &combination)
             return states;
     }
 }
+
+} // namespace
 
 X11ShortcutBackend::X11ShortcutBackend(Listener &listener)
     : mListener(listener), mConnection(xcb_connect(nullptr, nullptr))

@@ -8,17 +8,17 @@
 namespace {
 
 #ifdef Q_OS_MACOS
-constexpr double UsualDpi = 72;
+constexpr double sUsualDpi = 72;
 #else
-constexpr double UsualDpi = 96;
+constexpr double sUsualDpi = 96;
 #endif
 
 OrvScreen record(const QScreen *screen)
 {
     if (!screen)
-        return {QRect(), UsualDpi};
+        return {QRect(), sUsualDpi};
     const double dpi = screen->logicalDotsPerInch();
-    return {screen->geometry(), dpi > 0 ? dpi : UsualDpi};
+    return {screen->geometry(), dpi > 0 ? dpi : sUsualDpi};
 }
 
 } // namespace

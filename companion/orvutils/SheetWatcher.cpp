@@ -12,7 +12,7 @@
 namespace {
 
 // Longer than an editor's pause between removing a file and writing its successor.
-constexpr int StillMilliseconds = 100;
+constexpr int sStillMilliseconds = 100;
 
 } // namespace
 
@@ -28,7 +28,7 @@ QByteArray readSheet(const QString &file)
 SheetWatcher::SheetWatcher(QObject *parent) : QObject(parent)
 {
     mStill.setSingleShot(true);
-    mStill.setInterval(StillMilliseconds);
+    mStill.setInterval(sStillMilliseconds);
     connect(&mStill, &QTimer::timeout, this, &SheetWatcher::compareContents);
 }
 
