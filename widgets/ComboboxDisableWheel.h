@@ -4,8 +4,10 @@
 
 #include <QComboBox>
 
-/// A combo box that never changes by the mouse wheel, so that scrolling a page does not change its
-/// values by accident.
+/// A combo box that ignores the mouse wheel, so that scrolling a page does not change its value.
+///
+/// @see QSpinBoxDisableWheel
+/// @since 0.1
 class MALTO_EXPORT ComboboxDisableWheel : public QComboBox
 {
     Q_OBJECT
@@ -13,6 +15,6 @@ public:
     using QComboBox::QComboBox;
 
 protected:
-    /// Leaves the event to the page, which scrolls.
+    /// Ignores the event, so that the page scrolls.
     void wheelEvent(QWheelEvent *event) override;
 };

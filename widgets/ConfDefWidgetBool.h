@@ -6,16 +6,23 @@ class QCheckBox;
 
 namespace MtConf {
 
-/// Edits a switch in a check box, which is its own caption.
+/// Edits a `bool` with a check box. The check box is also the caption of the item.
+///
+/// @see MtConfManage::addConfBool
+/// @since 0.1
 class MALTO_EXPORT ConfDefWidgetBool : public ConfigItemWidget
 {
 public:
-    /// An editor of `item` inside `parent` that shows the stored value.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored value.
     ConfDefWidgetBool(ConfItem *item, QWidget *parent);
-    /// Makes the editor: the `WidgetCreator` of this class.
+    /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
+    /// Translates the text of the check box.
     void retranslateUi() override;
+    /// Checks the box if the stored value is true.
     void loadConf() override;
 
 private:

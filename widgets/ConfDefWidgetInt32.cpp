@@ -31,7 +31,7 @@ ConfigItemWidget *ConfDefWidgetInt32::CreatConfWidget(ConfItem *item, QWidget *p
 
 void ConfDefWidgetInt32::applyRange()
 {
-    // The maximum first: a minimum above it then raises it, instead of being lowered by it.
+    // Set the maximum first: a greater minimum then raises it instead of being lowered by it.
     const auto maximum = mItem->properties.constFind(QStringLiteral("MaxValue"));
     if (maximum != mItem->properties.constEnd())
         mSpinBox->setMaximum(maximum->toInt());
@@ -51,7 +51,7 @@ int ConfDefWidgetInt32::widthOfMaximum() const
 
 void ConfDefWidgetInt32::loadConf()
 {
-    // The caption is left alone: onValueChanged refreshes it when it writes.
+    // onValueChanged refreshes the caption when it writes a value.
     mSpinBox->setValue(readValue<int>());
 }
 

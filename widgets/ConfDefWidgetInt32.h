@@ -6,18 +6,25 @@ class QSpinBox;
 
 namespace MtConf {
 
-/// Edits an integer in a spin box. The item's properties "MaxValue" and "MinValue" set its range,
-/// 0 to 99 without them. A stored value outside the range shows as the nearest one inside, which is
-/// stored as soon as the box's number changes by it; one that shows as the number that the box
-/// starts with stays stored as it was.
+/// Edits an `int` with a spin box. The item's properties "MinValue" and "MaxValue" set the range;
+/// without them it is 0 to 99.
+///
+/// A stored value outside the range is shown clamped. The clamped value is stored too, unless the
+/// new spin box already shows that number.
+///
+/// @see MtConfManage::addConfInt32, QSpinBoxDisableWheel
+/// @since 0.1
 class MALTO_EXPORT ConfDefWidgetInt32 : public ConfigItemWidget
 {
 public:
-    /// An editor of `item` inside `parent` that shows the stored value.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored value.
     ConfDefWidgetInt32(ConfItem *item, QWidget *parent);
-    /// Makes the editor: the `WidgetCreator` of this class.
+    /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
+    /// Shows the stored value. Does not refresh the state of the caption.
     void loadConf() override;
 
 private:

@@ -6,20 +6,26 @@ class ColorSelectButton;
 
 namespace MtConf {
 
-/// Edits a colour by a button that shows it and opens the colour dialog.
+/// Edits a QColor with a button that shows the colour and opens a colour dialog.
+///
+/// @see MtConfManage::addConfQColor
+/// @since 0.1
 class MALTO_EXPORT ConfDefWidgetQColor : public ConfigItemWidget
 {
     Q_OBJECT
 public:
-    /// An editor of `item` inside `parent` that shows the stored value.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored value.
     ConfDefWidgetQColor(ConfItem *item, QWidget *parent);
-    /// Makes the editor: the `WidgetCreator` of this class.
+    /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
+    /// Shows the stored colour.
     void loadConf() override;
 
 public Q_SLOTS:
-    /// Stores `color`, if it is another one, and shows it.
+    /// Stores and shows `color` if it differs from the stored colour.
     void setColor(QColor color);
 
 private:

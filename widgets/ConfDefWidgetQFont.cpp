@@ -27,21 +27,21 @@ void ConfDefWidgetQFont::loadConf()
 {
     const QFont font = readValue<QFont>();
     mButton->setText(QStringLiteral("%1, %2").arg(font.family()).arg(font.pixelSize()));
-    // The name of the button, for screen readers, is that of the setting.
+    // The accessible name of the button is the label of the setting.
     mButton->setAccessibleDescription(mButton->text());
     refreshLabelState();
 }
 
 void ConfDefWidgetQFont::onFontClicked()
 {
-    // The dialog knows points only: it is shown the pixels as if they were points, and back.
+    // The dialog supports points only, so pixels are passed as points, in both directions.
     QFont font = readValue<QFont>();
     if (font.pixelSize() > 0)
         font.setPointSizeF(font.pixelSize());
     const QPointer<ConfDefWidgetQFont> self(this);
     QFont chosen = getFontrByDialog(font, this, QStringLiteral("Select font"));
-    // The page may have gone while the dialog was open. A font that was not touched stays as it is
-    // even if its size is in points.
+    // The page may have been deleted while the dialog was open. An unchanged font is not converted,
+    // so that a size in points is kept.
     if (!self || chosen == font)
         return;
     if (chosen.pointSizeF() >= 1)

@@ -6,21 +6,29 @@ class QPushButton;
 
 namespace MtConf {
 
-/// Edits a font by a button that names it and opens the font dialog. Sizes are pixels: the size
-/// number of the dialog is taken as pixels, a fraction cut off.
+/// Edits a QFont with a button that shows the font's family and pixel size and opens a font dialog.
+///
+/// The number that the dialog shows as the size is in pixels; fractions are truncated. A font that
+/// the user does not change keeps its size in points.
+///
+/// @see MtConfManage::addConfQFont
+/// @since 0.1
 class MALTO_EXPORT ConfDefWidgetQFont : public ConfigItemWidget
 {
     Q_OBJECT
 public:
-    /// An editor of `item` inside `parent` that shows the stored value.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored value.
     ConfDefWidgetQFont(ConfItem *item, QWidget *parent);
-    /// Makes the editor: the `WidgetCreator` of this class.
+    /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
+    /// Shows the stored font.
     void loadConf() override;
 
 public Q_SLOTS:
-    /// Stores `font`, if it is another one, and shows it.
+    /// Stores and shows `font` if it differs from the stored font.
     void setFont(QFont font);
 
 private:

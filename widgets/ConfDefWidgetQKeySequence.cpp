@@ -30,12 +30,12 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
     connect(mKeySequenceEdit, &KeySequenceEdit::sigKeySequenceChanged, this,
             &ConfDefWidgetQKeySequence::onKeySequenceChanged);
     connect(mStateButton, &QPushButton::clicked, this, &ConfDefWidgetQKeySequence::setHotKeyAgain);
-    // operator[] makes the entry where there is none: with it an item without a global shortcut
-    // shows on its button that no hotkey is set.
+    // operator[] inserts a missing property. refreshState() needs it to show "not set" for an item
+    // without a global shortcut.
     watchShortcut(mItem->properties[shortcutKey()].value<QxtGlobalShortcut *>());
     layout->addWidget(mKeySequenceEdit);
     layout->addWidget(mStateButton);
-    // A style sheet's min-height lets buttons shrink, which here would cut the glyph.
+    // With a min-height from a style sheet the button could shrink and cut off the glyph.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     mKeySequenceEdit->clearByDeleteKeys = sFullKeyboardAccess;
     mKeySequenceEdit->setAccessibleName(translatedText());
@@ -44,7 +44,8 @@ ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *pa
 
 ConfDefWidgetQKeySequence::~ConfDefWidgetQKeySequence()
 {
-    // A child of this widget goes with it, but later, when nothing of the editor is left.
+    // A shortcut that is a child of this widget is deleted after this destructor, when its signal
+    // can no longer call forgetShortcut().
     if (findChildren<QxtGlobalShortcut *>().contains(mShortcut))
         forgetShortcut(mShortcut);
     watchShortcut(nullptr);
@@ -66,13 +67,13 @@ void ConfDefWidgetQKeySequence::loadConf()
 void ConfDefWidgetQKeySequence::onKeySequenceChanged(QKeySequence sequence)
 {
     QxtGlobalShortcut *const hotkey = shortcut();
-    // A hotkey without a global shortcut would never work, so it is not stored either. And what the
-    // global shortcut holds already came from the host, which then stores it where it wants to.
+    // A hotkey without a global shortcut has no effect, so it is not stored. A sequence that the
+    // global shortcut already has was set by the host, which decides whether to store it.
     if (!hotkey || hotkey->shortcut() == sequence)
         return;
     const QPointer<ConfDefWidgetQKeySequence> self(this);
     hotkey->setShortcut(sequence);
-    // The host hears of both and may delete the editor.
+    // Both calls run code of the host, which may delete the editor.
     if (!self || !storeValue(sequence))
         return;
     refreshState();
@@ -111,7 +112,7 @@ void ConfDefWidgetQKeySequence::showState(const QChar &glyph, const QString &col
                        "color: rgb(%1);  \n}")
             .arg(color));
     mStateButton->setToolTip(toolTip);
-    // The glyph says nothing to a screen reader.
+    // A screen reader cannot read the glyph.
     mStateButton->setAccessibleName(toolTip);
 }
 
@@ -158,12 +159,12 @@ void ConfDefWidgetQKeySequence::watchShortcut(QxtGlobalShortcut *shortcut)
     connect(shortcut, &QObject::destroyed, this, &ConfDefWidgetQKeySequence::forgetShortcut);
 }
 
-void ConfDefWidgetQKeySequence::forgetShortcut(const QObject *gone)
+void ConfDefWidgetQKeySequence::forgetShortcut(const QObject *destroyed)
 {
-    // Reading the entry later would touch the deleted object. Only a pointer to an object that is
-    // still there may be looked at: here this one is, as far as a QObject.
+    // Reading the property later would access the deleted object. Here it is still a QObject, so
+    // the comparison as QObject * is safe.
     const auto entry = mItem->properties.find(shortcutKey());
-    if (entry != mItem->properties.end() && entry->value<QObject *>() == gone)
+    if (entry != mItem->properties.end() && entry->value<QObject *>() == destroyed)
         *entry = QVariant();
     refreshState();
 }

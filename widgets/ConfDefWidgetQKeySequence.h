@@ -10,48 +10,53 @@ class QxtGlobalShortcut;
 
 namespace MtConf {
 
-/// Edits the hotkey of an item, beside a button that shows whether it is registered with the
+/// Edits a hotkey. A button beside the field shows whether the hotkey is registered with the
 /// system.
 ///
-/// The host makes the item's `QxtGlobalShortcut` and puts it into the item's `properties` as
-/// "Shortcut" (`QVariant::fromValue(shortcut)`); the editor gives it each new hotkey and stores
-/// that. An item whose entry is missing, null or of another type has no global shortcut: what is
-/// recorded then is shown, but never stored.
+/// The host creates a `QxtGlobalShortcut` and sets it as the item's property "Shortcut"
+/// (`QVariant::fromValue(shortcut)`). The editor passes each new hotkey to this object and stores
+/// it. An item whose property is missing, null or of another type has no global shortcut; the
+/// editor then shows a recorded hotkey, but does not store it.
 ///
-/// The host may delete the shortcut while the editor is shown: the entry then becomes an invalid
-/// QVariant, so that no one finds the deleted object. It may put another one in its place, too.
+/// The host may delete or replace the shortcut while the editor exists. If the shortcut is deleted,
+/// the editor sets the property to an invalid QVariant, so that no dangling pointer remains.
+///
+/// @see MtConfManage::addConfQKeySequence, KeySequenceEdit
+/// @since 0.1
 class MALTO_EXPORT ConfDefWidgetQKeySequence : public ConfigItemWidget
 {
     Q_OBJECT
 public:
-    /// Makes the entry "Shortcut" of the item, as an invalid QVariant, where there is none.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored hotkey. Inserts an invalid QVariant as the property "Shortcut" if there is none.
     ConfDefWidgetQKeySequence(ConfItem *item, QWidget *parent);
     ~ConfDefWidgetQKeySequence() override;
-    /// Makes the editor: the `WidgetCreator` of this class.
+    /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
-    /// Hands the stored hotkey to the field. One that the global shortcut does not hold yet goes
-    /// on to `onKeySequenceChanged`.
+    /// Sets the stored hotkey in the field. If the field showed another one, the field emits
+    /// `sigKeySequenceChanged`, which calls `onKeySequenceChanged`.
     void loadConf() override;
 
 public Q_SLOTS:
-    /// Gives `sequence` to the global shortcut and stores it. Nothing happens without a global
-    /// shortcut, and when it holds `sequence` already.
+    /// Sets `sequence` in the global shortcut and stores it. Does nothing if there is no global
+    /// shortcut or if it already has this sequence.
     void onKeySequenceChanged(QKeySequence sequence);
-    /// Shows on the button whether the stored hotkey is not set, failed, registered or disabled.
-    /// Without a global shortcut only an empty hotkey is shown, as not set; any other has no state.
+    /// Shows the state of the stored hotkey on the button: not set, failed, registered or disabled.
+    /// Without a global shortcut an empty hotkey is shown as not set, and any other has no state.
     void refreshState();
-    /// Loads the stored hotkey again if the global shortcut is not valid.
+    /// Calls `loadConf` if the global shortcut is not valid.
     void setHotKeyAgain();
 
 protected:
-    /// Shows the state in the new language.
+    /// Translates the tool tip and the accessible texts when the language changes.
     void changeEvent(QEvent *event) override;
 
 private:
     QxtGlobalShortcut *shortcut();
     void watchShortcut(QxtGlobalShortcut *shortcut);
-    void forgetShortcut(const QObject *gone);
+    void forgetShortcut(const QObject *destroyed);
     void showState(const QChar &glyph, const QString &color, const QString &toolTip);
     void showNoState();
 

@@ -25,7 +25,7 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
         box->opensByKeyboard = sFullKeyboardAccess;
     } else {
         mComboBox = new ComboboxDisableWheel(this);
-        // Style sheets reach the rows of this view only, not those of the native one.
+        // Style sheets apply to the rows of this view, not to those of the default view.
         mComboBox->setView(new QListView(mComboBox));
         connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &ConfWidgetCombobox::setValueInt32);
@@ -55,7 +55,7 @@ void ConfWidgetCombobox::setSelectItem(QList<const char *> texts, QList<int> val
     {
         const QSignalBlocker blocker(mComboBox);
         auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
-        // Entries that are there already keep their place in the list of texts.
+        // Keep the texts aligned with entries that were added before.
         while (mItemTexts.size() < mComboBox->count())
             mItemTexts.append(nullptr);
         for (int i = 0; i < texts.size(); ++i) {
@@ -92,7 +92,7 @@ void ConfWidgetCombobox::loadConf()
 {
     const QSignalBlocker blocker(mComboBox);
     if (mMultiSelect) {
-        // The caption is left alone: onMultiSelectionChanged refreshes it when it writes.
+        // onMultiSelectionChanged refreshes the caption when it writes a value.
         loadChecks();
         return;
     }
@@ -109,7 +109,7 @@ void ConfWidgetCombobox::loadChecks()
 void ConfWidgetCombobox::loadSelection()
 {
     if (mItem->valueType == ConfValue::TyQString) {
-        // A text that is no longer offered shows as the first one that is.
+        // A text that is no longer offered selects the first entry.
         const int index = mComboBox->findData(readValue<QString>(), Qt::DisplayRole);
         mComboBox->setCurrentIndex(qMax(index, 0));
     } else if (mItem->valueType == ConfValue::TyInt32) {
@@ -122,7 +122,7 @@ void ConfWidgetCombobox::setValueInt32(int index)
     if (index < 0 || index >= mComboBox->count())
         return;
     if (mComboBox->currentIndex() != index) {
-        // This comes back here to store the value; a callback may delete the editor then.
+        // This calls setValueInt32 again, which stores the value. A callback may delete the editor.
         const QPointer<ConfWidgetCombobox> self(this);
         mComboBox->setCurrentIndex(index);
         if (!self)
@@ -140,7 +140,7 @@ void ConfWidgetCombobox::onMultiSelectionChanged()
     const auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox);
     if (!multi)
         return;
-    // Stored also when it is the same: the person has just chosen it, which stamps the time.
+    // Store an unchanged value too: the user has chosen it now, which updates its timestamp.
     if (storeValue(checkedFlags(multi)))
         refreshLabelState();
 }

@@ -9,39 +9,47 @@ class QComboBox;
 
 namespace MtConf {
 
-/// Chooses the value of an item from a list: a text from a list of texts, or an `int` from a list
-/// of labels.
+/// Edits a QString or an `int` with a combo box: the user selects one of several texts, or one of
+/// several labels with an `int` each.
 ///
-/// If the item's `properties` have the key "MultiSelect", whatever its value, any number of labels
-/// can be checked, and the item holds the bits of all of them; the ints of the labels are flags
-/// then. A list of texts in such an item has no check boxes and cannot be used.
+/// If the item has the property "MultiSelect", with any value, the user can check any number of
+/// labels. The `int` of each label is a flag, and the value is the bitwise OR of the checked ones.
+/// Texts are not supported in such an item: they have no check boxes.
 ///
-/// The editor shows nothing until one of the two `setSelectItem` has filled its list.
+/// The list is empty until one of the `setSelectItem` functions is called.
+///
+/// @see MtConfManage::addConfStrWithCombobox, MtConfManage::addConfInt32WithCombobox
+/// @since 0.1
 class MALTO_EXPORT ConfWidgetCombobox : public ConfigItemWidget
 {
     Q_OBJECT
 public:
-    /// An editor of `item` inside `parent`, with an empty list.
+    /// Creates an editor of `item`, which must not be null, with an empty list as a child of
+    /// `parent`.
     ConfWidgetCombobox(ConfItem *item, QWidget *parent);
-    /// Makes the editor, with an empty list.
+    /// Creates the editor with an empty list. Returns null, with the critical message
+    /// "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
-    /// Appends `texts`, which are values and are not translated, and shows the stored value.
+    /// Appends `texts` and shows the stored value. The texts are values and are not translated.
     void setSelectItem(QStringList texts);
-    /// Appends labels, which are translated in the context "QObject", and shows the stored value.
-    /// The i-th label stands for the i-th of `values`, or for i where there is none. `texts` are
-    /// literals of the host, used again at every change of language; a null one shows as an empty
-    /// text.
+    /// Appends the labels `texts` and shows the stored value. The labels are translated in the
+    /// context "QObject", again after each language change, so they must outlive the editor, as
+    /// literals do. A null label is shown as an empty text. `values` are the values of the labels;
+    /// a label without one has its index in `texts` as its value.
     void setSelectItem(QList<const char *> texts, QList<int> values);
 
+    /// Translates the caption and the labels.
     void retranslateUi() override;
+    /// Selects the entry of the stored value. An unknown text selects the first entry, an unknown
+    /// `int` none. With "MultiSelect" checks the labels whose flags the stored value contains.
     void loadConf() override;
 
 public Q_SLOTS:
-    /// Selects entry `index` of a list without check boxes and stores its value, if it is another
-    /// one. Nothing happens when there is no such entry.
+    /// Selects entry `index` of a list without check boxes and stores its value if it differs from
+    /// the stored one. Does nothing if there is no such entry.
     void setValueInt32(int index);
-    /// Stores the bits of all checked entries.
+    /// Stores the bitwise OR of the flags of all checked entries.
     void onMultiSelectionChanged();
 
 private:
@@ -49,7 +57,7 @@ private:
     void loadSelection();
 
     QComboBox *mComboBox = nullptr;
-    QList<const char *> mItemTexts; // by entry; null for a plain text
+    QList<const char *> mItemTexts; // by entry; null for a text that is not translated
     bool mMultiSelect = false;
 };
 

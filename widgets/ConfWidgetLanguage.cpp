@@ -17,21 +17,22 @@ namespace MtConf {
 
 namespace {
 
-const QLatin1String sFollowSystem("auto");
-const QLatin1String sEnglish("en-us");
+constexpr QLatin1String sFollowSystem("auto");
+constexpr QLatin1String sEnglish("en-us");
 
-/// Whether translators can be installed for `code`.
+/// Returns whether `code` is a supported language code other than "auto".
 bool isLanguage(const QStringList &supported, const QString &code)
 {
     return code != sFollowSystem && supported.contains(code);
 }
 
-/// False, with `translator` left out of the application, when `file` cannot be loaded.
+/// Loads `file` into `translator` and installs it. Returns false, with the translator removed from
+/// the application, if the file cannot be loaded.
 bool installFile(QTranslator *translator, const QString &file)
 {
-    // Qt asks a translator once for every time that it was installed.
+    // A translator that is installed twice would be asked twice.
     QCoreApplication::removeTranslator(translator);
-    // This file and no other: by default Qt tries shorter and shorter names as well.
+    // Load exactly this file: by default Qt also tries shorter file names.
     const QString none = QLatin1String("");
     if (!translator->load(file, none, none, none))
         return false;
@@ -50,7 +51,7 @@ ConfWidgetLanguage::ConfWidgetLanguage(ConfItem *item, QWidget *parent)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    // Style sheets reach the rows of this view only, not those of the native one.
+    // Style sheets apply to the rows of this view, not to those of the default view.
     mComboBox->setView(new QListView(mComboBox));
     mComboBox->addItems(displayNames());
     layout->addWidget(mComboBox);
@@ -68,8 +69,8 @@ QStringList ConfWidgetLanguage::loadSupportLanguageCode()
 {
     if (!mSupportLangCodes.isEmpty())
         return mSupportLangCodes;
-    // English is built in and needs no file. A host that ships one all the same gets a second row:
-    // every file has its row, whatever stands in the list already.
+    // English is built in and needs no file. Each file adds a row, so a host that installs an
+    // English file gets a second row for it.
     mSupportLangCodes << sFollowSystem << sEnglish;
     const QDir folder(QCoreApplication::applicationDirPath() + sLanguagePath);
     const QStringList files = folder.entryList({QStringLiteral("*.qm")},
@@ -86,7 +87,7 @@ QString ConfWidgetLanguage::getVaildLanguageCode(QString code)
         return code;
     const QStringList preferred = getPreferredLanguages();
     for (QString language : preferred) {
-        // macOS names Simplified Chinese by its script, translation files by its country.
+        // macOS identifies Simplified Chinese by its script, translation files by the country.
         if (language == QLatin1String("zh-Hans-CN"))
             language = QStringLiteral("zh-cn");
         language = language.toLower().replace(QLatin1Char('_'), QLatin1Char('-'));
@@ -98,8 +99,8 @@ QString ConfWidgetLanguage::getVaildLanguageCode(QString code)
 
 void ConfWidgetLanguage::installTranslator(QString code)
 {
-    // What was asked for, not what came of it: asking again for "auto" stays free, even when the
-    // system's language has changed meanwhile.
+    // The requested code, not the resolved one: a repeated request for "auto" returns at once, even
+    // if the system language has changed.
     static QString lastLangCode;
     if (code == lastLangCode)
         return;
@@ -107,7 +108,7 @@ void ConfWidgetLanguage::installTranslator(QString code)
 
     code = getVaildLanguageCode(code);
     qDebug() << "installTranslator: " << code;
-    // A list of the host's own may lack English.
+    // A host may have set a list without English.
     if (!mSupportLangCodes.contains(code))
         code = mSupportLangCodes.first();
 
@@ -137,7 +138,7 @@ void ConfWidgetLanguage::retranslateUi()
 
 void ConfWidgetLanguage::loadConf()
 {
-    // Showing a code whose file has gone must not replace it: the file may come back.
+    // A code whose file is missing is not overwritten: the file may be installed again.
     const QSignalBlocker blocker(mComboBox);
     const auto index = static_cast<int>(mSupportLangCodes.indexOf(readValue<QString>()));
     mComboBox->setCurrentIndex(qMax(0, index));
@@ -154,7 +155,7 @@ void ConfWidgetLanguage::onCurrentIndexChanged(int index)
         return;
     }
     const QPointer<ConfWidgetLanguage> self(this);
-    mComboBox->setCurrentIndex(index); // comes back here and writes
+    mComboBox->setCurrentIndex(index); // calls this function again, which stores the code
     if (self)
         refreshLabelState();
 }
@@ -164,8 +165,8 @@ QStringList ConfWidgetLanguage::displayNames()
     QStringList names;
     const QStringList codes = loadSupportLanguageCode();
     for (const QString &code : codes) {
-        // A row counts as the code of the same number in the list of codes, so a file of a language
-        // without a name moves the rows after it by one; hosts ship files of the table's languages.
+        // A row selects the code with the same index, so a file for a language without a name
+        // shifts the rows after it. Hosts install files for the languages of the table only.
         const QString name = code == sFollowSystem ? tr("Follow the system")
                                                    : LangCodeTable::displayName(code);
         if (!name.isEmpty())

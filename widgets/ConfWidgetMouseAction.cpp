@@ -29,7 +29,7 @@ struct MouseAction
 };
 
 constexpr int sAnyKind = -1;
-constexpr int sNoKind = -1; // no action but "None" has this kind
+constexpr int sNoKind = -1; // offers no action but "None"
 
 constexpr MouseAction sActions[] = {
     {sAnyKind, 0, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "None")},
@@ -45,8 +45,8 @@ constexpr MouseAction sActions[] = {
     {2, 512, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Middle Drag")},
 };
 
-/// What a gesture takes for itself: a double click begins with a click, so each of the two takes
-/// both.
+/// Returns `value` with both bits of a click and its double click if it has one of them: a double
+/// click starts with a click, so the two are in conflict.
 int conflictKey(int value)
 {
     for (const int clickAndDoubleClick : {3, 12, 48}) {
@@ -68,14 +68,14 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
     mModifierBox->addItem(QStringLiteral("⌘"), static_cast<int>(Qt::ControlModifier));
     mModifierBox->addItem(QStringLiteral("⌥"), static_cast<int>(Qt::AltModifier));
     mModifierBox->addItem(QStringLiteral("⌃"), static_cast<int>(Qt::MetaModifier));
-    // Style sheets reach the rows of this view only, not those of the native one.
+    // Style sheets apply to the rows of this view, not to those of the default view.
     mActionBox->setView(new QListView(mActionBox));
     addActions(kind);
     auto *plus = new QLabel(QStringLiteral("+"), this);
     plus->setAlignment(Qt::AlignCenter);
     mStateLabel->setProperty("class", QStringLiteral("CorrectIcon"));
     mStateLabel->setText(sCorrectGlyph);
-    // The label's style sheet names the icon font, which any use makes known.
+    // The style sheet of the label uses the icon font, which the first call of QIconfont loads.
     QIconfont::Icon(sCorrectGlyph, Qt::black, 1, QMargins());
 
     auto *layout = new QHBoxLayout(this);
@@ -90,7 +90,7 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
     mModifierBox->setAccessibleName(translatedText());
     mActionBox->setAccessibleName(translatedText());
 
-    // Connected after the first load, which so writes nothing back.
+    // Connect after the first load, so that it does not store the value again.
     loadConf();
     connect(mActionBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &ConfWidgetMouseAction::onCurrentIndexChanged);
@@ -127,8 +127,8 @@ void ConfWidgetMouseAction::addActions(int kind)
 void ConfWidgetMouseAction::loadConf()
 {
     const int stored = readValue<int>();
-    // Each control that changes stores what the controls show until then; the last one stores what
-    // was read here. A callback may delete the editor at each of them.
+    // Each change of a control stores what the controls show at that moment; the last one stores
+    // the value read here. Each of them may run a callback that deletes the editor.
     const QPointer<ConfWidgetMouseAction> self(this);
     const QVector<bool> checks = containedFlags(mModifierBox, stored);
     for (int i = 0; self && i < checks.size(); ++i)
@@ -145,17 +145,17 @@ void ConfWidgetMouseAction::onCurrentIndexChanged()
 {
     const int value = mActionBox->currentData().toInt() | checkedFlags(mModifierBox);
     mCurrentValue = value;
-    // The left click alone would take every click from the host: it is shown as an error, and what
-    // was stored before stays in force.
+    // A left click without modifiers would intercept every click in the host. It is shown as an
+    // error and the stored value is kept.
     if (value == sLeftClick || storeValue(value))
         refreshLabelState();
-    // The others are still there when a callback has deleted this editor.
+    // Update the other editors even if a callback has deleted this one.
     refreshAllConflictState();
 }
 
 void ConfWidgetMouseAction::refreshConflictState()
 {
-    // In the context of the hosts' labels, one of which the conflict names.
+    // The context "QObject" is that of the items' labels, one of which the conflict text contains.
     if (mCurrentValue == sLeftClick) {
         showState(QStringLiteral("ErrorIcon"), sErrorGlyph,
                   QObject::tr("Cannot set left-click separately"));
@@ -175,7 +175,7 @@ const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const
     for (const ConfWidgetMouseAction *other : qAsConst(sConflictList)) {
         if (other == this)
             continue;
-        // The stored value is the one in force; the controls may show a left click alone.
+        // The stored value counts: the controls may show a left click that is not stored.
         const int otherKey = conflictKey(other->readValue<int>());
         if ((otherKey & sActionBits) != 0 && otherKey == key)
             return other;
@@ -192,8 +192,8 @@ void ConfWidgetMouseAction::refreshAllConflictState()
 void ConfWidgetMouseAction::showState(const QString &styleClass, const QChar &glyph,
                                       const QString &toolTip)
 {
-    // Each state has its own glyph, so a label with the right one is left alone, with its tool tip:
-    // a conflict that moves on to another item keeps naming the first.
+    // Each state has its own glyph, so a label with the right glyph is not updated. If a conflict
+    // changes to another item, the tool tip therefore still names the first one.
     if (mStateLabel->text() == glyph)
         return;
     mStateLabel->setProperty("class", styleClass);

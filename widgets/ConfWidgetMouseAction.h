@@ -10,45 +10,54 @@ class QLabel;
 
 namespace MtConf {
 
-/// Edits a mouse gesture: an `int` with the bit of one mouse action in its low 16 bits and the
-/// `Qt::KeyboardModifier` bits of the held keys above.
+/// Edits a mouse gesture: an `int` with the bit of one mouse action in the low 16 bits and
+/// `Qt::KeyboardModifier` bits above.
 ///
-/// An icon beside the controls shows whether the gesture is in conflict with that of another editor
-/// that is shown, is the left click alone, which is not allowed, or is not set.
+/// An icon beside the controls shows the state of the gesture: correct, not set, in conflict with
+/// the gesture of another live editor, or a left click without modifiers, which is not allowed.
+///
+/// @see MtConfManage::addConfMouseAction
+/// @since 0.1
 class MALTO_EXPORT ConfWidgetMouseAction : public ConfigItemWidget
 {
     Q_OBJECT
 public:
-    /// `kind` tells which actions are offered beside "None": 0 the wheel, 1 the clicks, 2 the
-    /// drags; any other number none.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
+    /// stored value. `kind` selects the actions that are offered besides "None": 0 the wheel, 1
+    /// clicks, 2 drags, any other number none.
     ConfWidgetMouseAction(ConfItem *item, QWidget *parent, int kind);
-    /// Takes the kind from the item's property "Kind", an `int`; without it only "None" is offered.
+    /// Creates an editor whose kind is the item's property "Kind", an `int`. Without the property
+    /// only "None" is offered.
     ConfWidgetMouseAction(ConfItem *item, QWidget *parent);
     ~ConfWidgetMouseAction() override;
-    /// Creates the editor: the `WidgetCreator` of this class. The property "Kind" of `item` is the
-    /// kind, as in `item->properties["Kind"] = 1` for clicks. `MtConfManage::addConfMouseAction`
-    /// takes the kind as an argument instead and does not read the property.
+    /// Creates the editor; the `WidgetCreator` of this class. The kind is the property "Kind" of
+    /// `item`, so a host that uses this function sets it, for example
+    /// `item->properties["Kind"] = 1` for clicks. `MtConfManage::addConfMouseAction` takes the kind
+    /// as an argument instead and does not read the property. Returns null, with the critical
+    /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
-    /// Shows the stored value; an action that is not offered as no choice. Once the editor is made
-    /// every control that this changes calls `onCurrentIndexChanged`, which stores the value again.
+    /// Shows the stored value. If its action is not offered, no action is selected. Except during
+    /// construction, each change of a control calls `onCurrentIndexChanged`, which stores what the
+    /// controls show.
     void loadConf() override;
 
-    /// Shows the state of this gesture among those that the other editors have stored.
+    /// Updates the state icon. A conflict is a conflict with the stored value of another live
+    /// editor.
     void refreshConflictState();
-    /// The same for every editor that there is.
+    /// Updates the state icons of all live editors.
     static void refreshAllConflictState();
 
-    /// Every editor that there is, in the order in which they were made.
+    /// All live editors in the order of their construction.
     static QList<ConfWidgetMouseAction *> sConflictList;
 
 public Q_SLOTS:
-    /// Stores what the controls show, unless it is the left click alone, and shows the state of all
-    /// editors again.
+    /// Stores what the controls show, except a left click without modifiers, and updates the state
+    /// icons of all live editors.
     void onCurrentIndexChanged();
 
 protected:
-    /// Shows the actions in the new language.
+    /// Translates the actions when the language changes.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -4,12 +4,12 @@
 
 class QLineEdit;
 
-/// Keeps the placeholder of a line edit fainter than what is entered into it: a style sheet that
-/// sets the colour of the text sets the same one for the placeholder.
+/// Keeps the placeholder text of a line edit fainter than its text. A style sheet that sets the
+/// colour of the text also sets it for the placeholder.
 class FaintPlaceholder : public QObject
 {
 public:
-    /// Looks after `edit`, which owns it.
+    /// Watches `edit`, which becomes the owner.
     explicit FaintPlaceholder(QLineEdit *edit);
     bool eventFilter(QObject *watched, QEvent *event) override;
 

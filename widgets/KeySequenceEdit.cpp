@@ -17,11 +17,11 @@ namespace {
 
 bool isModifierKey(int key)
 {
-    // The four follow each other: Shift, Control, Meta, Alt.
+    // The four keys Shift, Control, Meta and Alt have consecutive codes.
     return (key & ~0x3) == Qt::Key_Shift;
 }
 
-/// The Meta key where it is called Super, as on most X servers.
+/// Returns whether `key` is the Meta key under the name Super, as on most X servers.
 bool isSuperKey(int key)
 {
     return key == Qt::Key_Super_L || key == Qt::Key_Super_R;
@@ -32,7 +32,7 @@ int keyOf(const QKeyEvent *event)
     return isSuperKey(event->key()) ? static_cast<int>(Qt::Key_Meta) : event->key();
 }
 
-/// Whether no text stands for `sequence`, as for AltGr: it would come back unknown from a file.
+/// Returns whether `sequence` has no text form, as AltGr: it could not be parsed from a file.
 bool isNameless(const QKeySequence &sequence)
 {
     const QString text = sequence.toString(QKeySequence::PortableText);
@@ -40,13 +40,13 @@ bool isNameless(const QKeySequence &sequence)
     return QtCompat::chordAt(read, 0) == Qt::Key_unknown;
 }
 
-/// Whether `sequence` is one key that people need for typing. The modifiers of a chord belong to
-/// its key code, so a key that is held with any of them is not simple.
+/// Returns whether `sequence` is a single key that is needed for typing. The code of a chord
+/// includes its modifiers, so a key with a modifier is not simple.
 bool isSimple(const QKeySequence &sequence)
 {
     if (sequence.isEmpty() || sequence.count() > 1)
         return false;
-    // A key is no rarer for standing on the keypad.
+    // Keys of the keypad are as simple as the other keys.
     const int key = QtCompat::chordAt(sequence, 0) & ~static_cast<int>(Qt::KeypadModifier);
     return (key >= Qt::Key_Escape && key <= Qt::Key_Delete)
            || (key >= Qt::Key_Left && key <= Qt::Key_ScrollLock)
@@ -83,7 +83,7 @@ QString KeySequenceEdit::QKeySeqToStr(const QKeySequence &sequence)
         text = QStringLiteral("⌃");
     else
         text = sequence.toString(QKeySequence::NativeText);
-    // Num is the keypad, not a key that is held.
+    // Num means the keypad, not a modifier key.
     return text.replace(QLatin1String("Num+"), QLatin1String("Num "));
 }
 
@@ -113,12 +113,12 @@ void KeySequenceEdit::refreshClearButton()
 bool KeySequenceEdit::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        // Keys that are shortcuts of the window are to be recorded, not carried out.
+        // Record keys that are shortcuts of the window instead of activating the shortcut.
         event->accept();
         return true;
     }
     if (event->type() == QEvent::KeyPress && isEnabled()) {
-        // Tab moves the focus also with Meta unless it gets around Qt.
+        // QWidget::event() would move the focus on Tab with Meta, so bypass it.
         auto *key = static_cast<QKeyEvent *>(event);
         if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
             keyPressEvent(key);
@@ -130,7 +130,7 @@ bool KeySequenceEdit::event(QEvent *event)
 
 void KeySequenceEdit::keyPressEvent(QKeyEvent *event)
 {
-    // The line edit never sees a key: typing records and does not edit.
+    // QLineEdit does not get any key: typing records a hotkey and does not edit the text.
     mLastKey = keyOf(event);
     if (isModifierKey(mLastKey) || mLastKey == 0 || mLastKey == Qt::Key_unknown)
         return;
@@ -145,8 +145,8 @@ void KeySequenceEdit::keyPressEvent(QKeyEvent *event)
 
 void KeySequenceEdit::keyReleaseEvent(QKeyEvent *event)
 {
-    // A modifier counts alone only when no other key was pressed after it and nothing is held now.
-    // Qt leaves out the one that is released, but not when it is called Super.
+    // A single modifier is recorded only if no other key was pressed after it and no modifier is
+    // pressed now. Qt clears the modifier of the released key, but not for Super.
     const Qt::KeyboardModifiers held = isSuperKey(event->key())
                                            ? event->modifiers() & ~Qt::MetaModifier
                                            : event->modifiers();
@@ -167,7 +167,7 @@ void KeySequenceEdit::record(const QKeySequence &sequence)
     if (sequence == mKeySequence)
         return;
     if (keySequenceFilter) {
-        // The filter is the host's: it may replace itself, and delete the editor.
+        // The filter is code of the host and may replace itself or delete the editor.
         const auto filter = keySequenceFilter;
         const QPointer<KeySequenceEdit> self(this);
         if (!filter(this, sequence) || !self)
@@ -178,7 +178,7 @@ void KeySequenceEdit::record(const QKeySequence &sequence)
 
 void KeySequenceEdit::refuse(const QKeySequence &sequence)
 {
-    // On the heap: the editor, and with it the box, may be deleted while the box is open.
+    // On the heap, because the editor, the parent of the box, may be deleted while it is open.
     const QPointer<QMsgeBox> box = new QMsgeBox(this);
     box->setText(tr("Shortkey [%1] is too simple.\nTo avoid conflicts with other functions and "
                     "prevent accidental activations, please set a more complex hotkey "

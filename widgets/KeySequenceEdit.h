@@ -7,60 +7,66 @@
 
 #include <functional>
 
-/// A field that records a hotkey: whatever keys are pressed while it has the focus are shown in it
-/// and told by `sigKeySequenceChanged`. A trailing button, there while a hotkey is set, clears it.
+/// A read-only line edit that records a hotkey. A key combination that is pressed while the field
+/// has the focus is shown in it and emitted with `sigKeySequenceChanged`. A trailing button clears
+/// the hotkey; it is visible while a hotkey is set.
 ///
-/// Every key is recorded, also those that the window knows as shortcuts, Escape, Return and
-/// Backspace. Only Tab and Shift+Tab are not: they lead out of the field, as everywhere, unless
-/// there is no other place for the focus. With Control, Alt or Meta they are recorded. A key that
-/// has no name, such as AltGr, is passed over: no file could hold it. The Super key counts as Meta.
+/// All keys are recorded, including Escape, Return, Backspace and the shortcuts of the window. Tab
+/// and Shift+Tab without another modifier move the focus instead, unless no other widget can take
+/// it. Keys without a name, such as AltGr, are ignored, because they cannot be saved. The Super key
+/// is recorded as Meta.
+///
+/// @see MtConf::ConfDefWidgetQKeySequence
+/// @since 0.1
 class MALTO_EXPORT KeySequenceEdit : public QLineEdit
 {
     Q_OBJECT
 public:
-    /// Shows `sequence`, however simple it is. Nothing is emitted.
+    /// Creates a field that shows `sequence`, even if it is a simple hotkey. Emits nothing.
     explicit KeySequenceEdit(QKeySequence sequence, QWidget *parent = nullptr);
 
-    /// The text that shows `sequence`: a modifier key alone as its glyph ("⇧" Shift, "⌘" Control,
-    /// "⌥" Alt, "⌃" Meta), anything else as the system writes it, but "Num " for "Num+".
+    /// Returns the text that is shown for `sequence`: a single modifier key as its glyph ("⇧"
+    /// Shift, "⌘" Control, "⌥" Alt, "⌃" Meta), any other sequence in the system's own form with
+    /// "Num " for "Num+".
     static QString QKeySeqToStr(const QKeySequence &sequence);
 
-    /// The recorded hotkey; empty when there is none.
+    /// Returns the recorded hotkey; empty if there is none.
     QKeySequence keySequence() const { return mKeySequence; }
 
-    /// When false, a single key that people type with (Escape to Delete, the arrows, the page keys,
-    /// modifier and lock keys, printable ASCII) is refused without a modifier.
+    /// Whether simple hotkeys are accepted: a single key without a modifier that is needed for
+    /// typing (Escape to Delete, arrow and page keys, modifier and lock keys, printable ASCII).
     bool allowSimpleHotkey = true;
-    /// When true, pressing and releasing one modifier key alone records that key.
+    /// Whether pressing and releasing a single modifier key records that key.
     bool allowSingleModifier = false;
-    /// When true, Backspace and Delete without a modifier clear the hotkey instead of being
-    /// recorded.
+    /// Whether Backspace and Delete without a modifier clear the hotkey instead of being recorded.
     bool clearByDeleteKeys = false;
-    /// Asked before a hotkey that was pressed is taken; false drops it. It may delete the editor.
+    /// Called before a pressed hotkey is accepted, if set. The hotkey is dropped if it returns
+    /// false. The filter may delete the editor.
     std::function<bool(KeySequenceEdit *, QKeySequence)> keySequenceFilter;
 
 public Q_SLOTS:
-    /// Takes `sequence`, if it is another one, and emits `sigKeySequenceChanged`. Where simple
-    /// hotkeys are not allowed, a message box says so and nothing changes; this function returns
-    /// when the box is closed, and the editor may be deleted by then.
+    /// Sets the hotkey and emits `sigKeySequenceChanged`, if `sequence` differs from the current
+    /// one. A simple hotkey that is not allowed is refused with a message box and changes nothing;
+    /// the function returns when the box is closed. The editor may have been deleted by then.
     void setKeySequence(QKeySequence sequence);
-    /// Takes the empty sequence.
+    /// Sets the empty sequence.
     void cleanSetting();
-    /// Shows the clear button exactly when a hotkey is set.
+    /// Makes the clear button visible if a hotkey is set, and hides it otherwise.
     void refreshClearButton();
 
 Q_SIGNALS:
-    /// The recorded hotkey is another one now. Whoever receives this may delete the editor.
+    /// Emitted after the hotkey has changed to `sequence`. A receiver may delete the editor.
     void sigKeySequenceChanged(QKeySequence sequence);
 
 protected:
-    /// Takes keys before the window's shortcuts and the focus do.
+    /// Receives keys before the window's shortcuts and the focus handling do.
     bool event(QEvent *event) override;
-    /// Records the key with the modifiers that are held.
+    /// Records the key with the pressed modifiers.
     void keyPressEvent(QKeyEvent *event) override;
-    /// Records a modifier key that was pressed and released alone, where that is allowed.
+    /// Records a modifier key that was pressed and released alone, if `allowSingleModifier` is
+    /// true.
     void keyReleaseEvent(QKeyEvent *event) override;
-    /// Shows the texts of the field in the new language.
+    /// Translates the texts when the language changes.
     void changeEvent(QEvent *event) override;
 
 private:

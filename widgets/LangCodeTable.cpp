@@ -13,7 +13,7 @@ struct Row
     const char32_t *name;
 };
 
-const Row sRows[] = {
+constexpr Row sRows[] = {
     {"auto", U"跟随系统"},
     {"zh-cn", U"简体中文"},
     {"zh-cht", U"繁體中文"},

@@ -4,12 +4,12 @@
 
 namespace MtConf {
 
-/// The languages that the language editor knows by name.
+/// The display names of the languages.
 class LangCodeTable
 {
 public:
-    /// The name of the language `code` ("fr-fr") in that language itself; null for a code that is
-    /// not in the table. Codes are lower-case.
+    /// Returns the name of the language `code`, a lower-case code such as "fr-fr", in that
+    /// language; null if the code is not in the table.
     static QString displayName(const QString &code);
 };
 

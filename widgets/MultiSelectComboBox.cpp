@@ -19,15 +19,15 @@
 
 namespace {
 
-const char sUserData[] = "UserData";
+constexpr char sUserData[] = "UserData";
 
-/// `text`, or its beginning and "..." when it is longer than `length` characters.
+/// Returns `text`, elided with "..." after `length` characters.
 QString elided(const QString &text, int length)
 {
     return text.size() > length ? text.left(length) + QLatin1String("...") : text;
 }
 
-/// Whether other combo boxes open at this key.
+/// Returns whether this key opens the list of other combo boxes.
 bool opensList(const QKeyEvent &event)
 {
     const int keys = event.key() | static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
@@ -35,8 +35,8 @@ bool opensList(const QKeyEvent &event)
            || keys == (static_cast<int>(Qt::AltModifier) | Qt::Key_Down);
 }
 
-/// Gives each row the height of its check box, which a list view does not ask by itself, and a
-/// background on which the check box can be read.
+/// Gives each row the height of its check box, which a list view does not consider, and a highlight
+/// on which the text of the check box is readable.
 class CheckBoxRowDelegate : public QStyledItemDelegate
 {
 public:
@@ -55,7 +55,7 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (!mList->indexWidget(index))
             return;
-        // A check box does not know that its row is highlighted, and keeps the colour of its text.
+        // A check box keeps its text colour when its row is highlighted.
         QColor tint = option->palette.color(QPalette::Highlight);
         tint.setAlphaF(0.25);
         option->palette.setColor(QPalette::Highlight, tint);
@@ -67,8 +67,8 @@ private:
 
 } // namespace
 
-/// The size hints of the box. Neither is ever computed again: a page of settings must not move
-/// under the person who checks an entry.
+/// The cached size hints of the box. They are computed once: a page of settings must not change its
+/// layout while the user checks entries.
 class MultiSelectComboBoxPrivate
 {
 public:
@@ -88,7 +88,8 @@ QSize MultiSelectComboBoxPrivate::recomputeSizeHint(QSize &cache) const
 {
     if (!cache.isValid()) {
         const QFontMetrics metrics = q->fontMetrics();
-        // All texts rather than the checked ones, so that checking needs no other width.
+        // All texts, not only the checked ones, so that checking an entry does not change the
+        // width.
         const int width = q->count() == 0
                               ? 7 * metrics.horizontalAdvance(QLatin1Char('x'))
                               : qMax(cache.width(), metrics.boundingRect(textToFit()).width());
@@ -124,7 +125,7 @@ MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
     setLineEdit(mLineEdit);
     connect(this, QOverload<int>::of(&QComboBox::activated), this,
             &MultiSelectComboBox::itemClicked);
-    // The combo box writes the text of its current row, which says nothing here.
+    // Undo what QComboBox does: it sets the text of its current row.
     connect(mLineEdit, &QLineEdit::textChanged, this, &MultiSelectComboBox::showText);
     alignText();
 }
@@ -135,8 +136,8 @@ void MultiSelectComboBox::addItem(const QString &text, const QVariant &userData)
 {
     auto *box = new QCheckBox(text, this);
     box->setProperty(sUserData, userData);
-    // The row itself has no text: it would be painted under the check box, and the combo box would
-    // take it for a completion of what the closed box shows.
+    // The row itself has no text: it would be painted under the check box, and QComboBox would use
+    // it to complete the shown text.
     auto *row = new QListWidgetItem(mListWidget);
     mListWidget->setItemWidget(row, box);
     connect(box, &QCheckBox::stateChanged, this, &MultiSelectComboBox::stateChanged);
@@ -211,7 +212,7 @@ void MultiSelectComboBox::setItemTexts(const QStringList &texts)
 
 QStringList MultiSelectComboBox::currentText() const
 {
-    // What is shown is what counts, also when it is cut: the whole text is in the tool tip.
+    // The shown text counts, even if it is elided. The whole text is in the tool tip.
     const QString shown = mLineEdit->text();
     return shown.isEmpty() ? QStringList() : shown.split(QLatin1Char(';'));
 }
@@ -267,7 +268,7 @@ QSize MultiSelectComboBox::minimumSizeHint() const
 
 void MultiSelectComboBox::hidePopup()
 {
-    // Qt closes the list whenever a row is chosen; while the cursor is on it, one wants to go on.
+    // QComboBox closes the list when a row is selected. Keep it open while the cursor is over it.
     const QPoint cursor = mapFromGlobal(QCursor::pos());
     if (cursor.x() >= 0 && cursor.x() <= width() && cursor.y() >= height()
         && cursor.y() <= height() + mListWidget->height())
@@ -279,8 +280,8 @@ void MultiSelectComboBox::hidePopup()
 bool MultiSelectComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == mLineEdit && event->type() == QEvent::MouseButtonRelease) {
-        // The click that closed the list is released here a moment later and must not open it
-        // again. A list that was never hidden is 0 milliseconds old.
+        // The release of the click that closed the list arrives here shortly after and must not
+        // open it again. The age is 0 if the list was never hidden.
         const qint64 age = mLastHideTime.msecsTo(QDateTime::currentDateTimeUtc());
         if (age < 1 || age > 499)
             showPopup();
@@ -312,14 +313,14 @@ void MultiSelectComboBox::showText()
 {
     if (mLineEdit->text() != mShownText)
         mLineEdit->setText(mShownText);
-    // A field that is too narrow shows the beginning, not the end.
+    // Show the beginning of a text that is too long for the field, not its end.
     mLineEdit->home(false);
 }
 
 void MultiSelectComboBox::alignText()
 {
-    // Line edits follow the direction of their text. The text of a combo box stands where lines
-    // begin in the language of the window.
+    // A line edit follows the direction of its text, but the text of a combo box is aligned with
+    // the layout direction of the window.
     const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
     mLineEdit->setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
@@ -343,20 +344,21 @@ void MultiSelectComboBox::changeEvent(QEvent *event)
 void MultiSelectComboBox::hideEvent(QHideEvent *event)
 {
     QComboBox::hideEvent(event);
-    // Also with the cursor on it: a list must not outlive the sight of its box.
+    // Even if the cursor is over the list, unlike this class's hidePopup(): the box is not visible
+    // any more.
     QComboBox::hidePopup();
 }
 
 void MultiSelectComboBox::wheelEvent(QWheelEvent *event)
 {
-    // The wheel would choose another row, which checks it. It stays here, unlike a wheel over the
-    // other combo boxes: a page that scrolled away would leave its open list behind.
+    // QComboBox would select another row, which toggles it. The event is not ignored as in other
+    // combo boxes, because scrolling the page would leave the open list behind.
     Q_UNUSED(event)
 }
 
 void MultiSelectComboBox::keyPressEvent(QKeyEvent *event)
 {
-    // Other keys would step through the rows, or add the shown text as a row of its own.
+    // With other keys QComboBox would change the current row or add the shown text as a row.
     if (opensByKeyboard && opensList(*event))
         showPopup();
 }

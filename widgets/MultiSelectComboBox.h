@@ -15,93 +15,98 @@ class QCheckBox;
 class QLineEdit;
 class QListWidget;
 
-/// A combo box whose rows are check boxes. Any number of them can be checked; the closed box shows
-/// the checked texts, and its list stays open while one clicks inside it. Hiding or disabling the
-/// box closes its list.
+/// A combo box whose entries are check boxes. Any number of them can be checked. The closed box
+/// shows the texts of the checked entries. The list stays open while the user clicks in it, and
+/// closes when the box is hidden or disabled.
 ///
-/// Several functions of QComboBox have others of the same name here that work on check boxes, so
-/// use the box through this class: rows that are added through a `QComboBox` pointer are plain
-/// ones, which count as entries but have no check box and cannot be checked. An index that does
-/// not exist, or that of a plain row, is never an error: nothing happens then.
+/// Some functions hide functions of QComboBox with the same name, so use the box through this
+/// class. Entries that are added through a `QComboBox` pointer count as entries, but have no check
+/// box and cannot be checked. A function does nothing if it gets the index of such an entry or an
+/// index that does not exist.
+///
+/// @see ComboboxDisableWheel
+/// @since 0.1
 class MALTO_EXPORT MultiSelectComboBox : public QComboBox
 {
     Q_OBJECT
 public:
-    /// A box without entries inside `parent`, which may be null and owns it.
+    /// Creates a box without entries as a child of `parent`, which may be null.
     explicit MultiSelectComboBox(QWidget *parent = nullptr);
     ~MultiSelectComboBox() override;
 
-    /// Appends an unchecked entry. `userData` is kept as the property "UserData" of its check box.
+    /// Appends an unchecked entry. `userData` becomes the property "UserData" of its check box.
     void addItem(const QString &text, const QVariant &userData = QVariant());
     /// Appends an unchecked entry without user data for each text.
     void addItems(const QStringList &texts);
-    /// Tells whether entry `index` is checked, and its user data; false and an invalid datum when
-    /// there is no such entry.
+    /// Sets `checked` to whether entry `index` is checked and `userData` to its user data; false
+    /// and an invalid QVariant if there is no such entry.
     void getItemData(int index, bool &checked, QVariant &userData) const;
-    /// The first entry whose user data equal `userData`, or -1.
+    /// Returns the index of the first entry whose user data equal `userData`, or -1.
     int findItemByUserData(const QVariant &userData) const;
     /// Checks or unchecks entry `index`.
     void setItemChecked(int index, bool checked);
-    /// Checks or unchecks each entry as `checked` says for its index; entries beyond it stay as
-    /// they are. Fast for many: the text is rebuilt and `selectionChanged` emitted once, if
-    /// anything has changed.
+    /// Checks or unchecks each entry according to its index in `checked`. Entries beyond its size
+    /// do not change. Rebuilds the text and emits `selectionChanged` once, if anything has changed.
     void setItemsChecked(const QVector<bool> &checked);
-    /// Gives entry `index` another text, also in the closed box. The selection is the same after
-    /// it: `selectionChanged` is not emitted.
+    /// Sets the text of entry `index`, in the list and in the closed box. Does not emit
+    /// `selectionChanged`.
     void setItemText(int index, const QString &text);
-    /// `setItemText` for the entries from the first on; an entry whose text is null keeps its own.
+    /// Sets the texts of the first entries as `setItemText` does. Entries whose text in `texts` is
+    /// null do not change.
     void setItemTexts(const QStringList &texts);
 
-    /// The parts between the ";" of the text that the closed box shows; empty when it shows none.
-    /// A text that is too long to be shown whole is cut here too: its last part ends with "...".
+    /// Returns the text that the closed box shows, split at ";"; empty if it shows no text. The
+    /// last part of an elided text ends with "...".
     QStringList currentText() const;
-    /// Checks every entry whose text is in `texts`; the others stay as they are.
+    /// Checks all entries whose text is in `texts`. Other entries do not change.
     void setCurrentText(const QStringList &texts);
-    /// Does nothing: one text does not tell which entries to check.
+    /// Does nothing.
     void setCurrentText(const QString &text);
-    /// Unchecks every entry.
+    /// Unchecks all entries.
     void ResetSelection();
-    /// The text that the closed box shows while nothing is checked.
+    /// Sets the text that the closed box shows while nothing is checked.
     void SetPlaceHolderText(const QString &text);
-    /// The number of entries.
+    /// Returns the number of entries.
     int count() const;
-    /// Removes all entries. `selectionChanged` is not emitted.
+    /// Removes all entries. Does not emit `selectionChanged`.
     void clear();
 
-    /// Computed at the first call, from the entries of that moment, and the same ever after.
+    /// Returns the size hint, in pixels. It is computed from the entries at the first call and does
+    /// not change afterwards.
     QSize sizeHint() const override;
-    /// Computed at the first call, from the entries of that moment, and the same ever after.
+    /// Returns the minimum size hint, in pixels. It is computed from the entries at the first call
+    /// and does not change afterwards.
     QSize minimumSizeHint() const override;
-    /// Closes the list, unless the mouse cursor is on it.
+    /// Closes the list, unless the mouse cursor is over it.
     void hidePopup() override;
-    /// Opens the list when a mouse button is released on the text.
+    /// Opens the list when a mouse button is released over the text.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// When true, Alt+Down, F4 and Space open the list, as in other combo boxes; Up and Down walk
-    /// through it, Return checks or unchecks an entry and closes it.
+    /// Whether Alt+Down, F4 and Space open the list, as they do in other combo boxes. In the list
+    /// Up and Down move between the entries, and Return toggles an entry and closes the list.
     bool opensByKeyboard = false;
 
 public Q_SLOTS:
-    /// Checks entry `index` if it is unchecked, and the other way round.
+    /// Toggles entry `index`.
     void itemClicked(int index);
-    /// Shows the texts of the checked entries, joined by ";" and cut after 32 characters, with all
-    /// of them in the tool tip, and emits `selectionChanged`.
+    /// Shows the texts of the checked entries, joined with ";" and elided after 32 characters, sets
+    /// the whole text as the tool tip and emits `selectionChanged`. `state` is not used.
     void stateChanged(int state);
 
 Q_SIGNALS:
-    /// Emitted whenever an entry has been checked or unchecked, by a person or by code. A receiver
-    /// that deletes the box does so by `deleteLater()`: the click is still on its way.
+    /// Emitted after an entry was checked or unchecked, by the user or by code. A receiver must
+    /// delete the box with `deleteLater()` only, because the box still handles the click.
     void selectionChanged();
 
 protected:
-    /// Closes the list of a box that is disabled, and follows the direction of the layout.
+    /// Closes the list when the box is disabled, and aligns the text with the layout direction.
     void changeEvent(QEvent *event) override;
     /// Closes the list.
     void hideEvent(QHideEvent *event) override;
-    /// Does nothing with the wheel, and keeps it from the page.
+    /// Accepts and discards the event, so that neither the box nor the page reacts to it.
     void wheelEvent(QWheelEvent *event) override;
-    /// Opens the list, where that is wanted. Does nothing else with keys: they would step through
-    /// the rows of the closed box.
+    /// Opens the list if `opensByKeyboard` is true and the key is one that opens it. Discards all
+    /// other keys.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

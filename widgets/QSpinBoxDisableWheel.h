@@ -4,8 +4,11 @@
 
 #include <QSpinBox>
 
-/// A spin box that the mouse wheel changes only while it has the keyboard focus; without it the
-/// wheel scrolls the page.
+/// A spin box whose value the mouse wheel changes only while the box has the keyboard focus.
+/// Without the focus the wheel scrolls the page.
+///
+/// @see ComboboxDisableWheel
+/// @since 0.1
 class MALTO_EXPORT QSpinBoxDisableWheel : public QSpinBox
 {
     Q_OBJECT
@@ -13,6 +16,6 @@ public:
     using QSpinBox::QSpinBox;
 
 protected:
-    /// Leaves the event to the page unless the box has the keyboard focus.
+    /// Ignores the event unless the box has the keyboard focus.
     void wheelEvent(QWheelEvent *event) override;
 };
