@@ -18,7 +18,7 @@
 
 #include <memory>
 
-/// One run of the program after the other, against real files in the working directory.
+/// Runs the demo several times one after the other, with real files in the working directory.
 class DemoFixture
 {
 public:
@@ -36,7 +36,7 @@ public:
     }
     Q_DISABLE_COPY(DemoFixture)
 
-    /// Ends the running session, if there is one, and starts the program again.
+    /// Ends the running session, if any, and starts a new one.
     void start(const QString &configFile = QString())
     {
         session.reset();
@@ -50,12 +50,12 @@ public:
     const Settings &settings() const { return session->settings(); }
     static MtConf::ConfigurationWindow *window() { return MtConf::ConfigurationWindow::instance(); }
 
-    /// Opens the settings window, or shows the page in it.
+    /// Shows the page in the settings window, and opens the window if necessary.
     bool open(const QString &page) const
     {
         return QTest::qWaitForWindowExposed(session->manager().ShowWindow(page));
     }
-    /// Closes the window as a person does, which saves.
+    /// Closes the window as a user does, which saves.
     static bool close()
     {
         window()->close();
@@ -97,7 +97,7 @@ public:
     {
         QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(10, box->height() / 2));
     }
-    /// Types over what the control holds.
+    /// Replaces the text of the control by typing.
     template<class Control> static void type(Control *control, const QString &text)
     {
         control->setFocus();

@@ -4,21 +4,21 @@
 #include <QImage>
 #include <QProcess>
 
-/// Runs the program itself, with arguments good and bad.
+/// Runs the demo program with valid and invalid arguments.
 class tst_DemoArguments : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void helpNamesEveryOption();
-    void wrongArgumentsGetAMessageAndNothingElse_data();
-    void wrongArgumentsGetAMessageAndNothingElse();
-    void unknownLanguageGetsTheListOfLanguages();
+    void helpListsEveryOption();
+    void invalidArgumentsOnlyPrintAMessage_data();
+    void invalidArgumentsOnlyPrintAMessage();
+    void unknownLanguagePrintsTheListOfLanguages();
     void picturesShowEveryPageInBothThemes();
     void picturesWriteNothingButPictures();
-    void picturesGrowWithTheScale();
+    void picturesAreScaled();
     void picturesShowTheConfiguration();
     void picturesShowTheLanguage();
-    void nothingCanBeOccupiedWithoutHotkeys();
+    void occupiedFailsOnAPlatformWithoutHotkeys();
 
 private:
     struct Run
@@ -49,7 +49,7 @@ private:
     }
 };
 
-void tst_DemoArguments::helpNamesEveryOption()
+void tst_DemoArguments::helpListsEveryOption()
 {
     const Run help = run({"--help"});
     QCOMPARE(help.exitCode, 0);
@@ -60,7 +60,7 @@ void tst_DemoArguments::helpNamesEveryOption()
     QVERIFY(!help.output.contains("--hold-key"));
 }
 
-void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse_data()
+void tst_DemoArguments::invalidArgumentsOnlyPrintAMessage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
@@ -73,16 +73,16 @@ void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse_data()
     QVERIFY(write("file", "x"));
     row("unknown option", {"--colour"}, "Unknown option 'colour'.");
     row("option without its value", {"--page"}, "Missing value after '--page'.");
-    row("word too many", {"more"}, "Unexpected argument \"more\"");
+    row("unexpected argument", {"more"}, "Unexpected argument \"more\"");
     row("unknown page", {"--page", "Sound"},
         "Unknown page \"Sound\"; there are: General, Appearance, Capture, Hotkeys, Mouse, Output, "
         "Profiles, System, Stored data");
     row("unknown theme", {"--theme", "pink"},
         "Unknown theme \"pink\"; there are: system, light, dark");
-    row("scale in words", {"--scale", "big"}, "Not a scale from 0.5 to 4: \"big\"");
+    row("scale that is a word", {"--scale", "big"}, "Not a scale from 0.5 to 4: \"big\"");
     row("scale too small", {"--scale", "0.4"}, "Not a scale from 0.5 to 4: \"0.4\"");
     row("scale too large", {"--scale=4.1"}, "Not a scale from 0.5 to 4: \"4.1\"");
-    row("scale that is no number", {"--scale", "nan"}, "Not a scale from 0.5 to 4: \"nan\"");
+    row("scale that is not a number", {"--scale", "nan"}, "Not a scale from 0.5 to 4: \"nan\"");
     row("empty scale", {"--scale", ""}, "Not a scale from 0.5 to 4: \"\"");
     row("missing configuration", {"--config", "none.json"},
         "Cannot read " + here + "/none.json: No such file or directory");
@@ -99,7 +99,7 @@ void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse_data()
     row("pictures into a file", {"--pictures", "file"}, "Cannot write into " + here + "/file");
 }
 
-void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse()
+void tst_DemoArguments::invalidArgumentsOnlyPrintAMessage()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, message);
@@ -109,7 +109,7 @@ void tst_DemoArguments::wrongArgumentsGetAMessageAndNothingElse()
     QCOMPARE(result.exitCode, 2);
 }
 
-void tst_DemoArguments::unknownLanguageGetsTheListOfLanguages()
+void tst_DemoArguments::unknownLanguagePrintsTheListOfLanguages()
 {
     const Run result = run({"--language", "xx-yy"});
     QCOMPARE(result.exitCode, 2);
@@ -153,7 +153,7 @@ void tst_DemoArguments::picturesWriteNothingButPictures()
     QVERIFY(!QFile::exists("ConfigurationWindowConfig.ini"));
 }
 
-void tst_DemoArguments::picturesGrowWithTheScale()
+void tst_DemoArguments::picturesAreScaled()
 {
     QCOMPARE(run({"--pictures", "one", "--scale", "1"}).exitCode, 0);
     QCOMPARE(run({"--pictures", "two", "--scale", "2"}).exitCode, 0);
@@ -178,7 +178,7 @@ void tst_DemoArguments::picturesShowTheLanguage()
     QVERIFY(QImage("english/mouse-light.png") != QImage("german/mouse-light.png"));
 }
 
-void tst_DemoArguments::nothingCanBeOccupiedWithoutHotkeys()
+void tst_DemoArguments::occupiedFailsOnAPlatformWithoutHotkeys()
 {
     const Run result = run({"--pictures", "occupied", "--occupied"});
     QVERIFY(result.errors.endsWith("malto-demo: No program can hold Ctrl+Alt+W here\n"));

@@ -24,7 +24,7 @@ constexpr xcb_keysym_t sW = 'w';
 
 } // namespace
 
-/// The whole way of a hotkey: recorded in the settings window, pressed in another program.
+/// Hotkeys from end to end: recorded in the settings window, and pressed in another program.
 class tst_DemoHotkeys : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,9 @@ private Q_SLOTS:
         if (!QxtGlobalShortcut::isSupported())
             QSKIP("needs an X server");
     }
-    void recordedHotkeyIsNoticedInOtherProgramsAndAfterARestart();
-    void hotkeyOfAnotherProgramIsShownAsFailedUntilThatEnds();
-    void holderEndsWithItsObject();
+    void recordedHotkeyWorksInOtherProgramsAndAfterARestart();
+    void hotkeyOfAnotherProgramIsShownAsFailedUntilItEnds();
+    void destroyingTheKeyHolderReleasesTheKey();
 
 private:
     static QxtGlobalShortcut *shortcut(const DemoFixture &demo, const char *group, const char *name)
@@ -52,7 +52,7 @@ private:
     }
 };
 
-void tst_DemoHotkeys::recordedHotkeyIsNoticedInOtherProgramsAndAfterARestart()
+void tst_DemoHotkeys::recordedHotkeyWorksInOtherProgramsAndAfterARestart()
 {
     const MessageLog log;
     DemoFixture demo;
@@ -97,7 +97,7 @@ void tst_DemoHotkeys::recordedHotkeyIsNoticedInOtherProgramsAndAfterARestart()
     QTRY_COMPARE(activated.count(), 1);
 }
 
-void tst_DemoHotkeys::hotkeyOfAnotherProgramIsShownAsFailedUntilThatEnds()
+void tst_DemoHotkeys::hotkeyOfAnotherProgramIsShownAsFailedUntilItEnds()
 {
     auto holder = std::make_unique<KeyHolder>(DEMO_PROGRAM, DemoArguments::occupiedKey());
     QVERIFY(holder->holds());
@@ -125,7 +125,7 @@ void tst_DemoHotkeys::hotkeyOfAnotherProgramIsShownAsFailedUntilThatEnds()
     QTRY_COMPARE(activated.count(), 1);
 }
 
-void tst_DemoHotkeys::holderEndsWithItsObject()
+void tst_DemoHotkeys::destroyingTheKeyHolderReleasesTheKey()
 {
     XClient other;
     const xcb_keycode_t key = other.keyOf(sF7);

@@ -45,25 +45,25 @@ class tst_DemoSession : public QObject
 private Q_SLOTS:
     void init() { QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::System); }
 
-    void valuesEditedByHandComeBackFromTheLocalFile();
+    void editedValuesAreRestoredFromTheLocalFile();
     void allDefaultsWriteNoLocalFile();
     void localFileThatCannotBeWrittenIsReported();
-    void configurationFileReachesVariablesAndSubItems();
-    void configurationFileIsKeptInTheLocalFileWhenTheWindowCloses();
-    void geometryOfTheWindowComesBack();
-    void styleSheetOnDiskGoesBeforeTheBuiltInOne();
+    void configurationFileSetsVariablesAndSubItems();
+    void closingTheWindowSavesTheConfigurationInTheLocalFile();
+    void geometryOfTheWindowIsRestored();
+    void styleSheetOnDiskReplacesTheBuiltInOne();
     void expertSettingsAppearWithTheirSwitch();
-    void recordedHotkeyComesBackAndIsTheProgramsOwn();
-    void mouseActionIsKeptForThisSystemOnly();
+    void recordedHotkeyIsRestoredAndSetInItsShortcut();
+    void mouseActionIsStoredPerOperatingSystem();
     void restoredPageStaysRestoredAfterARestart();
     void themeOfTheWindowIsStored();
-    void storedDataFollowTheVariables();
-    void profilesComeBackFromTheLocalFile();
+    void storedDataPageFollowsTheStore();
+    void profilesAreRestoredFromTheLocalFile();
     void endedSessionLeavesNothingInTheStore();
     void everyPageOpensByAClick();
 };
 
-void tst_DemoSession::valuesEditedByHandComeBackFromTheLocalFile()
+void tst_DemoSession::editedValuesAreRestoredFromTheLocalFile()
 {
     DemoFixture demo;
     demo.start();
@@ -129,7 +129,7 @@ void tst_DemoSession::localFileThatCannotBeWrittenIsReported()
     QVERIFY(QFile::exists(demo.localFile()));
 }
 
-void tst_DemoSession::configurationFileReachesVariablesAndSubItems()
+void tst_DemoSession::configurationFileSetsVariablesAndSubItems()
 {
     DemoFixture demo;
     QVERIFY(write("config.json", R"({
@@ -152,7 +152,7 @@ void tst_DemoSession::configurationFileReachesVariablesAndSubItems()
     QCOMPARE(changedMark(watermark), QStringLiteral("1"));
 }
 
-void tst_DemoSession::configurationFileIsKeptInTheLocalFileWhenTheWindowCloses()
+void tst_DemoSession::closingTheWindowSavesTheConfigurationInTheLocalFile()
 {
     DemoFixture demo;
     QVERIFY(write("config.json", R"({"General.Recent": 7})"));
@@ -162,13 +162,13 @@ void tst_DemoSession::configurationFileIsKeptInTheLocalFileWhenTheWindowCloses()
     QVERIFY(demo.close());
     demo.start();
     QCOMPARE(demo.settings().recentCaptures, 8);
-    // The configuration file itself is read only.
+    // The configuration file is only read, never written.
     QCOMPARE(readJson("config.json"), QJsonObject({{"General.Recent", 7}}));
     demo.start(QStringLiteral("config.json"));
     QCOMPARE(demo.settings().recentCaptures, 7);
 }
 
-void tst_DemoSession::geometryOfTheWindowComesBack()
+void tst_DemoSession::geometryOfTheWindowIsRestored()
 {
     DemoFixture demo;
     demo.start();
@@ -186,7 +186,7 @@ void tst_DemoSession::geometryOfTheWindowComesBack()
     QTRY_COMPARE(demo.window()->geometry(), place);
 }
 
-void tst_DemoSession::styleSheetOnDiskGoesBeforeTheBuiltInOne()
+void tst_DemoSession::styleSheetOnDiskReplacesTheBuiltInOne()
 {
     DemoFixture demo;
     demo.start();
@@ -227,7 +227,7 @@ void tst_DemoSession::expertSettingsAppearWithTheirSwitch()
     QCOMPARE(demo.settings().cacheSize, 512);
 }
 
-void tst_DemoSession::recordedHotkeyComesBackAndIsTheProgramsOwn()
+void tst_DemoSession::recordedHotkeyIsRestoredAndSetInItsShortcut()
 {
     const QKeySequence pressed(Qt::CTRL | Qt::SHIFT | Qt::Key_F8);
     DemoFixture demo;
@@ -256,7 +256,7 @@ void tst_DemoSession::recordedHotkeyComesBackAndIsTheProgramsOwn()
     QCOMPARE(shortcut->shortcut(), QKeySequence());
 }
 
-void tst_DemoSession::mouseActionIsKeptForThisSystemOnly()
+void tst_DemoSession::mouseActionIsStoredPerOperatingSystem()
 {
     DemoFixture demo;
     demo.start();
@@ -308,7 +308,7 @@ void tst_DemoSession::themeOfTheWindowIsStored()
     QVERIFY(QThemeCtrl::instance()->isDark());
 }
 
-void tst_DemoSession::storedDataFollowTheVariables()
+void tst_DemoSession::storedDataPageFollowsTheStore()
 {
     DemoFixture demo;
     demo.start();
@@ -323,7 +323,7 @@ void tst_DemoSession::storedDataFollowTheVariables()
     QTRY_VERIFY(text->toPlainText().contains("\"Profiles.Window\""));
 }
 
-void tst_DemoSession::profilesComeBackFromTheLocalFile()
+void tst_DemoSession::profilesAreRestoredFromTheLocalFile()
 {
     DemoFixture demo;
     demo.start();

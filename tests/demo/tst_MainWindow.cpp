@@ -14,13 +14,13 @@ class tst_MainWindow : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void variablesChangeInTheTableWhileTheyAreEdited();
-    void profilesAppearInTheTableAndGo();
+    void profilesAppearInAndDisappearFromTheTable();
     void logShowsMessagesOfEveryThread();
-    void endedLogGivesTheHandlerBack();
-    void endedLogLeavesALaterHandlerAlone();
-    void newLogWorksWhereTheHandlerOfAnEarlierOneWasBroughtBack();
-    void restoringAllReachesTheOpenSettingsWindow();
-    void closingClosesTheSettingsAndSaves();
+    void destroyedLogRestoresThePreviousHandler();
+    void destroyedLogKeepsAHandlerInstalledLater();
+    void newLogWorksIfTheHandlerOfAnEarlierLogIsReinstalled();
+    void restoringAllUpdatesTheOpenSettingsWindow();
+    void closingTheWindowClosesTheSettingsAndSaves();
 
 private:
     static QString cell(const MainWindow &window, const QString &key, int column)
@@ -53,7 +53,7 @@ void tst_MainWindow::variablesChangeInTheTableWhileTheyAreEdited()
     QCOMPARE(cell(window, "General.Tips", 2), QString());
 }
 
-void tst_MainWindow::profilesAppearInTheTableAndGo()
+void tst_MainWindow::profilesAppearInAndDisappearFromTheTable()
 {
     DemoFixture demo;
     demo.start();
@@ -82,7 +82,7 @@ void tst_MainWindow::logShowsMessagesOfEveryThread()
     QTRY_VERIFY(pane->toPlainText().contains("info  from the program"));
 }
 
-void tst_MainWindow::endedLogGivesTheHandlerBack()
+void tst_MainWindow::destroyedLogRestoresThePreviousHandler()
 {
     const QtMessageHandler earlier = [](QtMsgType, const QMessageLogContext &, const QString &) {};
     const QtMessageHandler before = qInstallMessageHandler(earlier);
@@ -93,7 +93,7 @@ void tst_MainWindow::endedLogGivesTheHandlerBack()
              reinterpret_cast<quintptr>(earlier));
 }
 
-void tst_MainWindow::endedLogLeavesALaterHandlerAlone()
+void tst_MainWindow::destroyedLogKeepsAHandlerInstalledLater()
 {
     const QtMessageHandler later = [](QtMsgType, const QMessageLogContext &, const QString &) {};
     QtMessageHandler before = nullptr;
@@ -107,7 +107,7 @@ void tst_MainWindow::endedLogLeavesALaterHandlerAlone()
              reinterpret_cast<quintptr>(later));
 }
 
-void tst_MainWindow::newLogWorksWhereTheHandlerOfAnEarlierOneWasBroughtBack()
+void tst_MainWindow::newLogWorksIfTheHandlerOfAnEarlierLogIsReinstalled()
 {
     const QtMessageHandler later = [](QtMsgType, const QMessageLogContext &, const QString &) {};
     const QtMessageHandler before = qInstallMessageHandler(later);
@@ -124,7 +124,7 @@ void tst_MainWindow::newLogWorksWhereTheHandlerOfAnEarlierOneWasBroughtBack()
     qInstallMessageHandler(before);
 }
 
-void tst_MainWindow::restoringAllReachesTheOpenSettingsWindow()
+void tst_MainWindow::restoringAllUpdatesTheOpenSettingsWindow()
 {
     DemoFixture demo;
     demo.start();
@@ -144,7 +144,7 @@ void tst_MainWindow::restoringAllReachesTheOpenSettingsWindow()
     QCOMPARE(demo.checkBox("General", "Tips")->property("changed").toString(), QStringLiteral("0"));
 }
 
-void tst_MainWindow::closingClosesTheSettingsAndSaves()
+void tst_MainWindow::closingTheWindowClosesTheSettingsAndSaves()
 {
     DemoFixture demo;
     demo.start();

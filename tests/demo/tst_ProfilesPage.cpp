@@ -14,14 +14,14 @@ private Q_SLOTS:
 
     void presetsAreListedByName();
     void addedProfileIsSelectedAndCanBeNamedAtOnce();
-    void nameErrorsAreShownAndRefused_data();
-    void nameErrorsAreShownAndRefused();
-    void nameOfItsOwnInOtherLettersIsTaken();
+    void invalidNamesAreRejectedWithAMessage_data();
+    void invalidNamesAreRejectedWithAMessage();
+    void caseOfTheOwnNameCanBeChanged();
     void editedValueIsStoredInTheProfile();
     void deletingTheLastProfileShowsAHint();
-    void restoredPresetsReplaceWhatAPersonAdded();
-    void changeFromOutsideKeepsTheNameThatIsBeingTyped();
-    void damagedProfileOfAFileCanBeNamedOrDeleted();
+    void restoringPresetsRemovesTheProfilesOfTheUser();
+    void changeFromOutsideKeepsTheNameBeingTyped();
+    void invalidProfileFromAFileCanBeRenamedOrDeleted();
 
 private:
     template<class Widget> Widget *child(const char *name) const
@@ -31,7 +31,7 @@ private:
     void click(const char *button) const
     {
         QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
-        QCoreApplication::processEvents(); // the page follows the store one turn later
+        QCoreApplication::processEvents(); // the page updates in the next event loop iteration
     }
     void clickRow(int row) const
     {
@@ -95,21 +95,21 @@ void tst_ProfilesPage::addedProfileIsSelectedAndCanBeNamedAtOnce()
                                    "Window"}));
 }
 
-void tst_ProfilesPage::nameErrorsAreShownAndRefused_data()
+void tst_ProfilesPage::invalidNamesAreRejectedWithAMessage_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("error");
-    QTest::newRow("nothing") << QString() << "A profile needs a name.";
+    QTest::newRow("empty") << QString() << "A profile needs a name.";
     QTest::newRow("blanks") << "   "
                             << "A profile needs a name.";
-    QTest::newRow("that of another") << "Window"
-                                     << "Another profile has this name.";
-    QTest::newRow("that of another in small letters") << " window "
-                                                      << "Another profile has this name.";
+    QTest::newRow("name of another profile") << "Window"
+                                             << "Another profile has this name.";
+    QTest::newRow("name of another profile in lower case") << " window "
+                                                           << "Another profile has this name.";
     QTest::newRow("41 letters") << QString(41, 'x') << "A name has 40 letters at most.";
 }
 
-void tst_ProfilesPage::nameErrorsAreShownAndRefused()
+void tst_ProfilesPage::invalidNamesAreRejectedWithAMessage()
 {
     QFETCH(QString, name);
     QFETCH(QString, error);
@@ -122,7 +122,7 @@ void tst_ProfilesPage::nameErrorsAreShownAndRefused()
     QCOMPARE(names(), QStringList({"Screen", "Thumbnail", "Window"}));
 }
 
-void tst_ProfilesPage::nameOfItsOwnInOtherLettersIsTaken()
+void tst_ProfilesPage::caseOfTheOwnNameCanBeChanged()
 {
     typeName(QStringLiteral("SCREEN"));
     QVERIFY(child<QLabel>("profileNameError")->isHidden());
@@ -156,7 +156,7 @@ void tst_ProfilesPage::deletingTheLastProfileShowsAHint()
     QCOMPARE(mDemo->session->profiles().keys(), QStringList());
 }
 
-void tst_ProfilesPage::restoredPresetsReplaceWhatAPersonAdded()
+void tst_ProfilesPage::restoringPresetsRemovesTheProfilesOfTheUser()
 {
     click("addProfile");
     clickRow(1);
@@ -166,7 +166,7 @@ void tst_ProfilesPage::restoredPresetsReplaceWhatAPersonAdded()
     QCOMPARE(names(), QStringList({"Screen", "Thumbnail", "Window"}));
 }
 
-void tst_ProfilesPage::changeFromOutsideKeepsTheNameThatIsBeingTyped()
+void tst_ProfilesPage::changeFromOutsideKeepsTheNameBeingTyped()
 {
     QVERIFY(QTest::qWaitForWindowActive(mDemo->window()));
     typeName(QStringLiteral("Scr"));
@@ -177,7 +177,7 @@ void tst_ProfilesPage::changeFromOutsideKeepsTheNameThatIsBeingTyped()
     QTRY_COMPARE(child<QLineEdit>("profileName")->text(), QStringLiteral("Thumbnail"));
 }
 
-void tst_ProfilesPage::damagedProfileOfAFileCanBeNamedOrDeleted()
+void tst_ProfilesPage::invalidProfileFromAFileCanBeRenamedOrDeleted()
 {
     QVERIFY(mDemo->close());
     QFile file(mDemo->localFile());

@@ -12,7 +12,7 @@
 
 using MtConf::ConfWidgetLanguage;
 
-/// A host whose build merges the library's texts with its own and with Qt's.
+/// A host whose build merges its own translations with those of the library and of Qt.
 class tst_TranslatedHost : public QObject
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ private Q_SLOTS:
     void cleanup();
 
     void everyMergedLanguageIsOffered();
-    void libraryAndQtSpeakTheLanguage_data();
-    void libraryAndQtSpeakTheLanguage();
+    void libraryAndQtAreTranslated_data();
+    void libraryAndQtAreTranslated();
     void britishEnglishSpellsQtsColours();
-    void hostSpeaksTheLanguage();
-    void hostsTranslationGoesBeforeTheLibrarys();
-    void arabicLaysTheWindowOutRightToLeft();
+    void hostIsTranslated();
+    void translationOfTheHostTakesPrecedence();
+    void arabicUsesARightToLeftLayout();
 };
 
 namespace {
@@ -36,7 +36,7 @@ QString translate(const char *context, const char *text)
     return QCoreApplication::translate(context, text);
 }
 
-/// Whether `left` lies on the left of `right` on the screen.
+/// Returns whether `left` is on the left of `right` on the screen.
 bool isLeftOf(const QWidget *left, const QWidget *right)
 {
     return left->mapToGlobal(left->rect().center()).x()
@@ -60,7 +60,7 @@ void tst_TranslatedHost::everyMergedLanguageIsOffered()
                           "tr-tr", "zh-cht", "zh-cn"}));
 }
 
-void tst_TranslatedHost::libraryAndQtSpeakTheLanguage_data()
+void tst_TranslatedHost::libraryAndQtAreTranslated_data()
 {
     QTest::addColumn<QString>("restore");
     QTest::addColumn<QString>("yes");
@@ -88,7 +88,7 @@ void tst_TranslatedHost::libraryAndQtSpeakTheLanguage_data()
     row("zh-cn", "恢复默认", "是(&Y)");
 }
 
-void tst_TranslatedHost::libraryAndQtSpeakTheLanguage()
+void tst_TranslatedHost::libraryAndQtAreTranslated()
 {
     const LogCapture log;
     ConfWidgetLanguage::installTranslator(QTest::currentDataTag());
@@ -108,7 +108,7 @@ void tst_TranslatedHost::britishEnglishSpellsQtsColours()
     QCOMPARE(translate("QColorDialog", "Select Color"), QString("Select Color"));
 }
 
-void tst_TranslatedHost::hostSpeaksTheLanguage()
+void tst_TranslatedHost::hostIsTranslated()
 {
     const LogCapture log;
     ConfWidgetLanguage::installTranslator("fr-fr");
@@ -117,7 +117,7 @@ void tst_TranslatedHost::hostSpeaksTheLanguage()
     QCOMPARE(translate("QObject", "Mirror the page"), QString("Mirror the page"));
 }
 
-void tst_TranslatedHost::hostsTranslationGoesBeforeTheLibrarys()
+void tst_TranslatedHost::translationOfTheHostTakesPrecedence()
 {
     const LogCapture log;
     ConfWidgetLanguage::installTranslator("fr-fr");
@@ -125,7 +125,7 @@ void tst_TranslatedHost::hostsTranslationGoesBeforeTheLibrarys()
              QString("Réglages de l’hôte"));
 }
 
-void tst_TranslatedHost::arabicLaysTheWindowOutRightToLeft()
+void tst_TranslatedHost::arabicUsesARightToLeftLayout()
 {
     bool mirror = false;
     MtConf::MtConfManage manager;

@@ -39,7 +39,7 @@ QList<Message> readMessages(const QString &path)
     return xml.hasError() ? QList<Message>() : messages;
 }
 
-/// The parts of a text that every translation keeps, however it orders them.
+/// Returns the parts of a text that every translation must keep, in any order.
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression part("%[0-9]+|\n|\\[|\\]");
@@ -50,8 +50,8 @@ QStringList fixedParts(const QString &text)
     return parts;
 }
 
-/// Whether a text may read as the English one does: names, units, and words that other languages
-/// share with English.
+/// Returns whether a translation may equal the English text: names, units, and words that other
+/// languages share with English.
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
@@ -63,7 +63,7 @@ bool isTrulyIdentical(const QString &file, const Message &message)
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
 
-/// The texts that lupdate finds.
+/// Returns the texts that lupdate finds.
 QList<Message> update(const QStringList &arguments, const QString &fresh)
 {
     QProcess script;
@@ -83,7 +83,7 @@ QStringList fullTexts(const QList<Message> &messages)
     return texts;
 }
 
-/// The keys that are marked in a text.
+/// Returns the mnemonic of a text.
 QString mnemonic(const QString &text)
 {
     static const QRegularExpression marked("&(\\w)",
@@ -102,19 +102,19 @@ private Q_SLOTS:
     void everyOfferedLanguageHasAFile();
     void everyTextOfTheSourcesIsTranslated_data() { everyFile("malto_*.ts"); }
     void everyTextOfTheSourcesIsTranslated();
-    void translationsKeepTheFormOfTheirSource_data() { everyFile("*.ts"); }
-    void translationsKeepTheFormOfTheirSource();
-    void nothingIsLeftInEnglish_data() { everyFile("*.ts"); }
-    void nothingIsLeftInEnglish();
-    void adviceNamesWhatTheDemoShows_data() { everyFile("malto_*.ts"); }
-    void adviceNamesWhatTheDemoShows();
-    void languagesWithoutQtTextsHaveTheSameOnes();
-    void keysOfADialogDiffer_data();
-    void keysOfADialogDiffer();
+    void translationsKeepPlaceholdersLineBreaksAndMnemonics_data() { everyFile("*.ts"); }
+    void translationsKeepPlaceholdersLineBreaksAndMnemonics();
+    void noTextIsLeftInEnglish_data() { everyFile("*.ts"); }
+    void noTextIsLeftInEnglish();
+    void adviceUsesTheTextsOfTheDemo_data() { everyFile("malto_*.ts"); }
+    void adviceUsesTheTextsOfTheDemo();
+    void languagesThatQtLacksTranslateTheSameQtTexts();
+    void mnemonicsOfADialogAreUnique_data();
+    void mnemonicsOfADialogAreUnique();
     void hostGetsAFileForEveryLanguageAndKeepsItsOwn();
 
 private:
-    /// One row for each file of the library that fits, and for each of the demo.
+    /// Adds a row for each file of the library that matches `pattern`, and for each of the demo.
     void everyFile(const QString &pattern) const
     {
         QTest::addColumn<QString>("file");
@@ -123,13 +123,13 @@ private:
             QTest::newRow(qPrintable(file)) << "translations/" + file;
         const QStringList demoFiles = mDemoFolder.entryList({"*.ts"});
         for (const QString &file : demoFiles)
-            QTest::newRow(qPrintable("demo's " + file)) << "demo/translations/" + file;
+            QTest::newRow(qPrintable("demo: " + file)) << "demo/translations/" + file;
     }
     static QList<Message> read(const QString &file)
     {
         return readMessages(MALTO_SOURCE_DIR "/" + file);
     }
-    /// The translation of `source` in a file.
+    /// Returns the translation of `source` in a file.
     static QString find(const QString &file, const QString &source)
     {
         const QList<Message> messages = read(file);
@@ -152,7 +152,7 @@ void tst_Translations::initTestCase()
     mSources = update({fresh}, fresh);
     mDemoSources = update({"--host", MALTO_SOURCE_DIR "/demo", "fresh"}, "fresh/de-de.ts");
     QVERIFY(mDemoSources.size() >= 100);
-    // The window's form, its questions and the editors.
+    // The texts of the window's form, its questions and the editors.
     QVERIFY(mSources.size() >= 8);
 }
 
@@ -186,7 +186,7 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
         QVERIFY2(translated.contains(text), qPrintable("run " + script + ": " + text));
 }
 
-void tst_Translations::translationsKeepTheFormOfTheirSource()
+void tst_Translations::translationsKeepPlaceholdersLineBreaksAndMnemonics()
 {
     QFETCH(QString, file);
     const QList<Message> messages = read(file);
@@ -200,7 +200,7 @@ void tst_Translations::translationsKeepTheFormOfTheirSource()
     }
 }
 
-void tst_Translations::nothingIsLeftInEnglish()
+void tst_Translations::noTextIsLeftInEnglish()
 {
     QFETCH(QString, file);
     const QList<Message> messages = read(file);
@@ -210,7 +210,7 @@ void tst_Translations::nothingIsLeftInEnglish()
     }
 }
 
-void tst_Translations::adviceNamesWhatTheDemoShows()
+void tst_Translations::adviceUsesTheTextsOfTheDemo()
 {
     QFETCH(QString, file);
     const QString code = file.section('_', -1).section('/', -1);
@@ -220,14 +220,14 @@ void tst_Translations::adviceNamesWhatTheDemoShows()
     QVERIFY(advice.contains('[' + find(demo, "Allow simple global hotkeys") + ']'));
 }
 
-void tst_Translations::languagesWithoutQtTextsHaveTheSameOnes()
+void tst_Translations::languagesThatQtLacksTranslateTheSameQtTexts()
 {
     const QStringList hindi = fullTexts(read("translations/qt_hi-in.ts"));
     QCOMPARE(fullTexts(read("translations/qt_sv-se.ts")), hindi);
     QVERIFY(hindi.contains("QPlatformTheme|&Yes"));
 }
 
-void tst_Translations::keysOfADialogDiffer_data()
+void tst_Translations::mnemonicsOfADialogAreUnique_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("context");
@@ -237,7 +237,7 @@ void tst_Translations::keysOfADialogDiffer_data()
     }
 }
 
-void tst_Translations::keysOfADialogDiffer()
+void tst_Translations::mnemonicsOfADialogAreUnique()
 {
     QFETCH(QString, file);
     QFETCH(QString, context);
@@ -267,7 +267,7 @@ void tst_Translations::hostGetsAFileForEveryLanguageAndKeepsItsOwn()
     QByteArray content = file.readAll();
     QVERIFY(content.contains("language=\"zh_TW\""));
 
-    // What is translated already stays, and what the host has deleted stays away.
+    // Existing translations are kept, and files that the host has deleted are not created again.
     QVERIFY(QFile::remove("host/texts/fr-fr.ts"));
     content.replace("<translation type=\"unfinished\"></translation>",
                     "<translation>顯示格線</translation>");
