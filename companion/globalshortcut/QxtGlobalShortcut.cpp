@@ -9,16 +9,20 @@
 
 #include <utility>
 
-// A text that names no key, as a file may hold, gives a sequence with an unknown key, and a key
-// that has no name of its own is lost by way of a file. Neither is for the system to see: on an X
-// server key 0 is the whole keyboard.
-static bool namesAKey(int chord)
+namespace {
+
+/// Returns whether the key of `chord` is a known key with a name. A text from a file may name no
+/// key and give an unknown key, and a key without a name cannot be saved. Neither may reach the
+/// system: on an X server key 0 grabs the whole keyboard.
+bool namesAKey(int chord)
 {
     const QString name = QKeySequence(keyOf(chord)).toString(QKeySequence::PortableText);
     const QKeySequence read = QKeySequence::fromString(name, QKeySequence::PortableText);
     const int key = QtCompat::chordAt(read, 0);
     return key != 0 && key != Qt::Key_unknown;
 }
+
+} // namespace
 
 // A QObject of its own beside the public one: what is queued for it dies with it.
 class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User

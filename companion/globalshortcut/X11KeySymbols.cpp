@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr X11KeyRow specialKeys[] = {
+constexpr X11KeyRow sSpecialKeys[] = {
     {Qt::Key_Escape, XK_Escape},
     {Qt::Key_Tab, XK_Tab},
     {Qt::Key_Backtab, XK_ISO_Left_Tab},
@@ -111,7 +111,7 @@ constexpr X11KeyRow specialKeys[] = {
     {Qt::Key_TouchpadToggle, XF86XK_TouchpadToggle},
 };
 
-constexpr X11KeyRow keypadKeys[] = {
+constexpr X11KeyRow sKeypadKeys[] = {
     {Qt::Key_Space, XK_KP_Space},
     {Qt::Key_Tab, XK_KP_Tab},
     {Qt::Key_Enter, XK_KP_Enter},
@@ -136,9 +136,7 @@ constexpr X11KeyRow keypadKeys[] = {
     {Qt::Key_Slash, XK_KP_Divide},
 };
 
-} // namespace
-
-template<size_t size> static QVector<xcb_keysym_t> lookUp(const X11KeyRow (&table)[size], int key)
+template<size_t size> QVector<xcb_keysym_t> lookUp(const X11KeyRow (&table)[size], int key)
 {
     const auto row = std::find_if(
         std::begin(table), std::end(table),
@@ -146,14 +144,16 @@ template<size_t size> static QVector<xcb_keysym_t> lookUp(const X11KeyRow (&tabl
     return row == std::end(table) ? QVector<xcb_keysym_t>() : QVector<xcb_keysym_t>{row->symbol};
 }
 
-static QVector<xcb_keysym_t> characterSymbols(int key)
+QVector<xcb_keysym_t> characterSymbols(int key)
 {
     const uint lower = QChar::toLower(static_cast<uint>(key));
     if (lower <= 0xff)
         return {lower};
     return QVector<xcb_keysym_t>{0x01000000 | lower}
-           + lookUp(x11OldSymbols, static_cast<int>(lower));
+           + lookUp(sX11OldSymbols, static_cast<int>(lower));
 }
+
+} // namespace
 
 QVector<xcb_keysym_t> x11KeySymbols(int chord)
 {
@@ -161,7 +161,7 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
     if (modifiersOf(chord) & Qt::KeypadModifier) {
         if (key >= Qt::Key_0 && key <= Qt::Key_9)
             return {static_cast<xcb_keysym_t>(XK_KP_0 + key - Qt::Key_0)};
-        return lookUp(keypadKeys, key);
+        return lookUp(sKeypadKeys, key);
     }
     if ((key >= 0x20 && key <= 0x7e) || (key >= 0xa0 && key <= 0x10ffff))
         return characterSymbols(key);
@@ -170,5 +170,5 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
     // Qt took the numbers of the keys for input methods from X.
     if (key >= Qt::Key_Multi_key && key <= Qt::Key_Hangul_Special)
         return {0xff00 | static_cast<xcb_keysym_t>(key & 0xff)};
-    return lookUp(specialKeys, key);
+    return lookUp(sSpecialKeys, key);
 }

@@ -13,7 +13,7 @@ struct X11KeyRow
 
 /// The keysyms of letters and signs that are older than Unicode and still on many keyboards, after
 /// <X11/keysymdef.h>, in the order of the characters.
-constexpr X11KeyRow x11OldSymbols[] = {
+constexpr X11KeyRow sX11OldSymbols[] = {
     {0x0101, XK_amacron},
     {0x0103, XK_abreve},
     {0x0105, XK_aogonek},

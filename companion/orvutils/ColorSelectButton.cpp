@@ -12,17 +12,17 @@
 
 namespace {
 
-constexpr qreal SwatchRadius = 3;
+constexpr qreal sSwatchRadius = 3;
 
 // A texture, so that the cells stay sharp at every device pixel ratio.
 QBrush chequers()
 {
-    constexpr int Cell = 4;
-    QImage cells(2 * Cell, 2 * Cell, QImage::Format_RGB32);
+    constexpr int cell = 4;
+    QImage cells(2 * cell, 2 * cell, QImage::Format_RGB32);
     cells.fill(Qt::white);
     QPainter painter(&cells);
-    painter.fillRect(Cell, 0, Cell, Cell, QColor(204, 204, 204));
-    painter.fillRect(0, Cell, Cell, Cell, QColor(204, 204, 204));
+    painter.fillRect(cell, 0, cell, cell, QColor(204, 204, 204));
+    painter.fillRect(0, cell, cell, cell, QColor(204, 204, 204));
     return QBrush(cells);
 }
 
@@ -123,7 +123,7 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
     painter->setOpacity(isEnabled() ? 1 : 0.35);
 
     QPainterPath outline;
-    outline.addRoundedRect(rect, SwatchRadius, SwatchRadius);
+    outline.addRoundedRect(rect, sSwatchRadius, sSwatchRadius);
     painter->save();
     painter->setClipPath(outline, Qt::IntersectClip);
     if (!mColor.isValid()) {
@@ -144,13 +144,13 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
     border.setAlphaF(0.35F);
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(border, 1));
-    painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), SwatchRadius, SwatchRadius);
+    painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), sSwatchRadius, sSwatchRadius);
     if (hasFocus()) {
         painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), SwatchRadius, SwatchRadius);
+        painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), sSwatchRadius, sSwatchRadius);
         painter->setPen(QPen(palette().color(QPalette::Base), 1));
-        painter->drawRoundedRect(rect.adjusted(2.5, 2.5, -2.5, -2.5), SwatchRadius - 1,
-                                 SwatchRadius - 1);
+        painter->drawRoundedRect(rect.adjusted(2.5, 2.5, -2.5, -2.5), sSwatchRadius - 1,
+                                 sSwatchRadius - 1);
     }
 }
 

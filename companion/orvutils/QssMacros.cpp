@@ -8,9 +8,9 @@ namespace {
 
 // No name or number is longer; a limit keeps the nested arguments of a hostile sheet from being
 // read over and over.
-constexpr int MaxArgumentLength = 256;
-constexpr int MaxValueLength = 4096;
-constexpr int MaxValueDepth = 64;
+constexpr int sMaxArgumentLength = 256;
+constexpr int sMaxValueLength = 4096;
+constexpr int sMaxValueDepth = 64;
 constexpr QLatin1String sScale("sca(", 4);
 constexpr QLatin1String sVariable("var(", 4);
 
@@ -123,7 +123,7 @@ QString QssMacros::expand(const QString &text)
 // stands for; leaves it as it is, and says so, when it stands for nothing.
 bool QssMacros::expandClosed(const Open &open, QString *out)
 {
-    if (open.kind == Kind::PlainParenthesis || out->size() - open.argument > MaxArgumentLength)
+    if (open.kind == Kind::PlainParenthesis || out->size() - open.argument > sMaxArgumentLength)
         return false;
     const QString argument = out->mid(open.argument).trimmed();
     bool ok = false;
@@ -164,11 +164,11 @@ QString QssMacros::resolved(const QString &name, bool *ok)
         return QString();
     }
     QString text;
-    if (mInProgress.size() < MaxValueDepth && value->size() <= MaxValueLength) {
+    if (mInProgress.size() < sMaxValueDepth && value->size() <= sMaxValueLength) {
         mInProgress.insert(name);
         text = expand(*value);
         mInProgress.remove(name);
-        *ok = text.size() <= MaxValueLength;
+        *ok = text.size() <= sMaxValueLength;
     }
     if (!*ok) {
         mReport(QStringLiteral("value too long or too deep: ") + name);
