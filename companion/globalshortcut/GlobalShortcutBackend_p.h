@@ -6,38 +6,40 @@
 
 #include <memory>
 
-/// What a system does for hotkeys. One implementation for each system; which of them `create()`
-/// makes is chosen in CMake, by the file that defines it.
+/// Registers hotkeys with the system. Each system has its own implementation; CMake chooses the
+/// file that defines `create()`.
 class GlobalShortcutBackend
 {
 public:
-    /// Who is told what the system reports. It does not delete the backend in these calls.
+    /// Receives what the system reports. Must not delete the backend in these calls.
     class Listener
     {
     public:
-        /// A registered key was pressed, with these modifiers; a held key's repeats are left out.
+        /// Called when a registered key was pressed with these modifiers. Not called for key
+        /// repeat.
         virtual void keyPressed(quint32 key, quint32 modifiers) = 0;
-        /// `combinations()` may answer differently now.
+        /// Called when the result of `combinations()` may have changed.
         virtual void keyboardChanged() = 0;
 
     protected:
         ~Listener() = default;
     };
 
-    /// The backend for the system and the Qt platform that the program runs on; never null.
-    /// `listener` outlives it. Needs the application object.
+    /// Creates the backend for the system and the Qt platform of the process; never null.
+    /// `listener` must outlive it. Needs the application object.
     static std::unique_ptr<GlobalShortcutBackend> create(Listener &listener);
 
     virtual ~GlobalShortcutBackend() = default;
 
-    /// Whether anything can be registered at all.
+    /// Returns whether hotkeys can be registered at all.
     virtual bool isSupported() const = 0;
-    /// Everything to register so that `chord` (a Qt::Key with Qt::KeyboardModifiers) is noticed;
-    /// empty when this keyboard cannot make it.
+    /// Returns all combinations that must be registered for `chord`, a Qt::Key with
+    /// Qt::KeyboardModifiers; empty if this keyboard cannot type it.
     virtual QVector<KeyCombination> combinations(int chord) const = 0;
-    /// Registers a combination that is not registered; false, and nothing is left of it, when
-    /// another program holds it.
+    /// Registers a combination that is not registered yet. Returns false, with nothing registered,
+    /// if another program has it.
     virtual bool grab(const KeyCombination &combination) = 0;
-    /// Gives back a combination that `grab` has registered. Others can have it on return.
+    /// Releases a combination that `grab` has registered. Other programs can register it as soon as
+    /// this function returns.
     virtual void ungrab(const KeyCombination &combination) = 0;
 };

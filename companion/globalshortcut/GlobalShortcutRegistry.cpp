@@ -69,8 +69,7 @@ void GlobalShortcutRegistry::keyPressed(quint32 key, quint32 modifiers)
     for (const auto &[chord, entry] : mEntries) {
         if (!std::any_of(entry.held.cbegin(), entry.held.cend(), isPressed))
             continue;
-        // Queued, so that whatever is deleted in answer is not in use here, and nothing reaches a
-        // user that is gone.
+        // Queued, so that a receiver may delete anything, and so that a deleted user is not called.
         for (User *user : entry.users) {
             const auto tell = [user, pressed = chord] { user->pressed(pressed); };
             QMetaObject::invokeMethod(user, tell, Qt::QueuedConnection);
@@ -81,7 +80,7 @@ void GlobalShortcutRegistry::keyPressed(quint32 key, quint32 modifiers)
 void GlobalShortcutRegistry::keyboardChanged()
 {
     std::map<int, bool> before;
-    // First everything that no longer fits is given back: what replaces it may overlap it.
+    // First release all outdated combinations: the new ones may overlap them.
     for (auto &[chord, entry] : mEntries) {
         before[chord] = !entry.held.isEmpty();
         if (entry.held != backend().combinations(chord))
@@ -99,7 +98,7 @@ GlobalShortcutBackend &GlobalShortcutRegistry::backend()
 {
     if (mBackend)
         return *mBackend;
-    // Not remembered: an application may still come.
+    // Not stored in mBackend: the application may be created later.
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return mNoBackend;
     mApplicationGone = QObject::connect(qApp, &QObject::destroyed, qApp,
@@ -116,7 +115,7 @@ void GlobalShortcutRegistry::applicationGone()
     mBackend.reset();
 }
 
-// Chords such as "Ctrl+!" and "Ctrl+Shift+1" are the same combination of keys.
+// Different chords may need the same combination, for example "Ctrl+!" and "Ctrl+Shift+1".
 bool GlobalShortcutRegistry::isHeld(const KeyCombination &combination) const
 {
     return std::any_of(mEntries.cbegin(), mEntries.cend(), [&combination](const auto &item) {

@@ -9,43 +9,44 @@
 #include <map>
 #include <memory>
 
-/// All chords that somebody wants, each registered with the system once. Lives as long as someone
-/// holds it. GUI thread only.
+/// All requested chords, each registered with the system once. Shared: the last owner deletes it.
+/// GUI thread only.
 class GlobalShortcutRegistry final : private GlobalShortcutBackend::Listener,
                                      public std::enable_shared_from_this<GlobalShortcutRegistry>
 {
 public:
-    /// Who wants a chord. Both calls come from the event loop, never from within `add` or `remove`.
+    /// Requests chords. The virtual functions are called from the event loop, never from `add` or
+    /// `remove`.
     class User : public QObject
     {
     public:
         using QObject::QObject;
-        /// `chord` was pressed, and was wanted at that time.
+        /// Called after `chord` was pressed, if this user had requested it at that time.
         virtual void pressed(int chord) = 0;
-        /// `isRegistered` changed, and not by this user's own call.
+        /// Called after `isRegistered` has changed, unless by a call of this user.
         virtual void registrationChanged() = 0;
     };
 
-    /// The one registry; made when there is none.
+    /// Returns the registry of the process; creates it if there is none.
     static std::shared_ptr<GlobalShortcutRegistry> instance();
 
     GlobalShortcutRegistry() = default;
     ~GlobalShortcutRegistry();
     Q_DISABLE_COPY(GlobalShortcutRegistry)
 
-    /// Whether chords can be registered here at all.
+    /// Returns whether chords can be registered at all.
     bool isSupported();
-    /// Adds a user of `chord`, and tries to register it when it is not.
+    /// Adds a user of `chord` and tries to register the chord if it is not registered.
     void add(int chord, User *user);
-    /// Takes the user away. With the last one the chord is given back.
+    /// Removes a user of `chord` and releases the chord with the last one.
     void remove(int chord, User *user);
-    /// Whether `chord` is registered.
+    /// Returns whether `chord` is registered.
     bool isRegistered(int chord) const;
 
 private:
     struct Entry
     {
-        QVector<KeyCombination> held; // all that make the chord, or none
+        QVector<KeyCombination> held; // all combinations of the chord, or none
         QVector<User *> users;
     };
 

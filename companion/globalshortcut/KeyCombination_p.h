@@ -2,15 +2,14 @@
 
 #include <QtGlobal>
 
-/// What a backend registers with the system: one key of the keyboard with modifiers, all in the
-/// system's own numbers.
+/// A key of the keyboard with modifiers, in the system's own codes, as a backend registers it.
 struct KeyCombination
 {
     quint32 key;       ///< the system's code of the key
-    quint32 modifiers; ///< the modifiers that must be held, the system's bits
-    quint32 ignored;   ///< modifiers that may be on or off, such as Num Lock; none of `modifiers`
+    quint32 modifiers; ///< the modifiers that must be pressed, as bits of the system
+    quint32 ignored;   ///< bits that do not matter, such as Num Lock; never bits of `modifiers`
 
-    /// Whether this key pressed with these modifiers is the combination.
+    /// Returns whether this key with these modifiers is the combination.
     bool matches(quint32 pressedKey, quint32 pressedModifiers) const
     {
         return pressedKey == key && (pressedModifiers & ~ignored) == modifiers;

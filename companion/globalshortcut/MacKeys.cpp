@@ -13,7 +13,7 @@ struct KeyRow
 {
     int key;
     quint32 code;
-    quint32 shift; // held to make the symbol
+    quint32 shift; // needed to type the symbol
 };
 
 constexpr KeyRow sMainKeys[] = {

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// "MtHk": tells our hotkeys from those that other code of the host registers.
+/// "MtHk": distinguishes our hotkeys from those that other code of the host registers.
 constexpr OSType sHotKeySignature = 0x4d74486b;
 
 /// Key code and modifiers fit into 16 bits each, so the number of a hotkey identifies both.

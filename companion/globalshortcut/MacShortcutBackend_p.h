@@ -7,11 +7,11 @@
 #include <map>
 #include <utility>
 
-/// Hotkeys of macOS, over Carbon's hotkey calls.
+/// Registers hotkeys with Carbon's hotkey functions, for macOS.
 class MacShortcutBackend : public GlobalShortcutBackend
 {
 public:
-    /// Installs a handler for hotkey events in the application.
+    /// Installs an event handler for hotkeys in the application.
     explicit MacShortcutBackend(Listener &listener);
     ~MacShortcutBackend() override;
     Q_DISABLE_COPY(MacShortcutBackend)

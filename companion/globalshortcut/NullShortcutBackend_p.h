@@ -2,7 +2,7 @@
 
 #include "GlobalShortcutBackend_p.h"
 
-/// For platforms without hotkeys (Wayland, offscreen and others): nothing is ever registered.
+/// For platforms without hotkeys, such as Wayland and offscreen: registers nothing.
 class NullShortcutBackend : public GlobalShortcutBackend
 {
 public:

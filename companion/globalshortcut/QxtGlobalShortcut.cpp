@@ -24,7 +24,7 @@ bool namesAKey(int chord)
 
 } // namespace
 
-// A QObject of its own beside the public one: what is queued for it dies with it.
+// A separate QObject, so that its queued calls are dropped when it is deleted.
 class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User
 {
 public:
@@ -40,7 +40,7 @@ public:
     {
         if (enabled && isValid() && shortcut == QKeySequence(mChord))
             return;
-        // The registry outlives the change: made anew it would connect to the system again.
+        // Keep the registry alive: a new one would connect to the system again.
         const auto registry = mRegistry;
         giveBack();
         if (!enabled || shortcut.count() != 1 || !isGuiThread())
@@ -53,7 +53,8 @@ public:
         mRegistry->add(mChord, this);
     }
 
-    // Returns isValid(), which the receivers cannot be asked for any more: they may delete us.
+    // Returns the value that isValid() has before the signal, because a receiver may delete this
+    // object.
     bool announce()
     {
         const bool valid = isValid();
@@ -67,7 +68,7 @@ public:
 
     void pressed(int chord) override
     {
-        // It may have been disabled or changed since the key was pressed.
+        // The hotkey may have been disabled or changed after the key was pressed.
         if (isValid() && chord == mChord)
             Q_EMIT q->activated();
     }

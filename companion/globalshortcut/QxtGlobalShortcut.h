@@ -7,15 +7,17 @@
 
 #include <memory>
 
-/// A hotkey that works while any application has the keyboard.
+/// A hotkey that works in every application, whichever has the keyboard focus.
 ///
-/// While it is enabled and its key combination is not empty the hotkey is registered with the
-/// system: `isValid()` tells whether that succeeded. Objects with the same key combination share
-/// one registration, and every one of them is activated; it is given back when the last of them is
+/// The hotkey is registered with the system while it is enabled and its key combination is not
+/// empty; `isValid()` returns whether this succeeded. Objects with the same key combination share
+/// one registration, and all of them are activated. It is released when the last of them is
 /// disabled, changed or destroyed.
 ///
-/// GUI thread only: in another thread, and without an application object, nothing is registered.
-/// When the application object goes all registrations go with it, without a signal.
+/// GUI thread only: nothing is registered in another thread or without an application object. When
+/// the application object is destroyed, all registrations are released without a signal.
+///
+/// @since 0.1
 class QXTGLOBALSHORTCUT_EXPORT QxtGlobalShortcut : public QObject
 {
     Q_OBJECT
@@ -24,43 +26,45 @@ class QXTGLOBALSHORTCUT_EXPORT QxtGlobalShortcut : public QObject
     Q_PROPERTY(bool valid READ isValid NOTIFY enabledChanged)
 
 public:
-    /// An enabled hotkey without a key combination. `parent` may be null.
+    /// Creates an enabled hotkey without a key combination. `parent` may be null.
     explicit QxtGlobalShortcut(QObject *parent = nullptr);
-    /// An enabled hotkey, registered at once as by `setShortcut(shortcut)`.
+    /// Creates an enabled hotkey and calls `setShortcut(shortcut)`.
     explicit QxtGlobalShortcut(const QKeySequence &shortcut, QObject *parent = nullptr);
     ~QxtGlobalShortcut() override;
 
-    /// Whether hotkeys can be registered here at all: on an X server (Qt platform "xcb") and on
-    /// macOS. False without an application object.
+    /// Returns whether hotkeys can be registered at all: on an X server (Qt platform "xcb") and on
+    /// macOS, unless the library was built with MALTO_GLOBAL_HOTKEYS=OFF. False without an
+    /// application object.
     static bool isSupported();
 
-    /// The key combination last set, whether or not it is registered.
+    /// Returns the key combination that was set last, whether it is registered or not.
     QKeySequence shortcut() const;
-    /// Gives the old key combination back and, when enabled, registers this one. The same
-    /// combination again tries a failed registration once more. Returns `isValid()`: false for an
-    /// empty sequence, for one of several chords, for a modifier key alone, for a key without a
-    /// name (such as the unknown key that a wrong text gives), for one that this keyboard has not
-    /// or that someone else holds, and while disabled; nothing is logged. Emits `enabledChanged`
-    /// when `isValid()` changes.
+    /// Releases the old key combination and registers `shortcut` if the hotkey is enabled. Setting
+    /// the same combination again retries a failed registration. Returns `isValid()`: false for an
+    /// empty sequence, a sequence of several chords, a single modifier key, a key without a name
+    /// (such as the unknown key that an invalid text gives), a key that this keyboard lacks or that
+    /// another program has registered, and while the hotkey is disabled. Logs nothing. Emits
+    /// `enabledChanged` if `isValid()` changes.
     bool setShortcut(const QKeySequence &shortcut);
 
-    /// Whether the hotkey is to be registered; true for a new object.
+    /// Returns whether the hotkey is to be registered; true for a new object.
     bool isEnabled() const;
-    /// Whether the hotkey is registered with the system right now.
+    /// Returns whether the hotkey is registered with the system.
     bool isValid() const;
 
 public Q_SLOTS:
-    /// Registers the hotkey, or gives it back. Emits `enabledChanged` on a change.
+    /// Registers the hotkey if `enabled` is true, and releases it otherwise. Emits `enabledChanged`
+    /// if `isEnabled()` or `isValid()` changes.
     void setEnabled(bool enabled = true);
-    /// The same the other way round.
+    /// Calls `setEnabled(!disabled)`.
     void setDisabled(bool disabled = true);
 
 Q_SIGNALS:
-    /// The keys were pressed: once for a press, however long they are held. Never emitted while
-    /// disabled. The object may be deleted by whoever receives this.
+    /// Emitted when the keys were pressed, once for each press, without key repeat. Never emitted
+    /// while the hotkey is disabled. A receiver may delete the object.
     void activated();
-    /// `isEnabled()` or `isValid()` changed; also when that came from outside, as when the
-    /// keyboard's map loses the key. The object may be deleted by whoever receives this.
+    /// Emitted after `isEnabled()` or `isValid()` has changed, also if the system caused this, for
+    /// example when a new keyboard mapping lacks the key. A receiver may delete the object.
     void enabledChanged();
 
 private:

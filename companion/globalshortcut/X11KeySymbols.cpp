@@ -22,7 +22,7 @@ constexpr X11KeyRow sSpecialKeys[] = {
     {Qt::Key_Delete, XK_Delete},
     {Qt::Key_Pause, XK_Pause},
     {Qt::Key_Print, XK_Print},
-    {Qt::Key_SysReq, XK_Print}, // the same key, held with Alt
+    {Qt::Key_SysReq, XK_Print}, // the same key with Alt
     {Qt::Key_Clear, XK_Clear},
     {Qt::Key_Home, XK_Home},
     {Qt::Key_End, XK_End},
@@ -68,7 +68,7 @@ constexpr X11KeyRow sSpecialKeys[] = {
     {Qt::Key_LaunchMail, XF86XK_Mail},
     {Qt::Key_LaunchMedia, XF86XK_AudioMedia},
     {Qt::Key_Calculator, XF86XK_Calculator},
-    // Qt's numbers of the launch keys have run two ahead of X's ever since Qt 4.
+    // Since Qt 4 the numbers of Qt's launch keys are greater by two than those of X.
     {Qt::Key_Launch0, XF86XK_MyComputer},
     {Qt::Key_Launch1, XF86XK_Calculator},
     {Qt::Key_Launch2, XF86XK_Launch0},
@@ -167,7 +167,7 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
         return characterSymbols(key);
     if (key >= Qt::Key_F1 && key <= Qt::Key_F35)
         return {static_cast<xcb_keysym_t>(XK_F1 + key - Qt::Key_F1)};
-    // Qt took the numbers of the keys for input methods from X.
+    // Qt took the codes of the keys for input methods from X.
     if (key >= Qt::Key_Multi_key && key <= Qt::Key_Hangul_Special)
         return {0xff00 | static_cast<xcb_keysym_t>(key & 0xff)};
     return lookUp(sSpecialKeys, key);

@@ -4,8 +4,8 @@
 
 #include <QVector>
 
-/// The keysyms that an X keyboard may have on the key of `chord`, a Qt::Key with
-/// Qt::KeyboardModifiers of which only Qt::KeypadModifier counts here. A letter's is the one of the
-/// lower case. Several where X has several names for one symbol; empty for a modifier key and for
-/// a key that X has no name for.
+/// Returns the keysyms that an X keyboard may have for the key of `chord`, a Qt::Key with
+/// Qt::KeyboardModifiers of which only Qt::KeypadModifier is used. For a letter it is the keysym of
+/// the lower case. There are several if X has several keysyms for one symbol, and none for a
+/// modifier key and for a key without a keysym.
 QVector<xcb_keysym_t> x11KeySymbols(int chord);

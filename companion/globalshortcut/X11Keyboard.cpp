@@ -24,7 +24,7 @@ void X11Keyboard::load(xcb_connection_t *connection)
 
     loadModifiers(connection);
     mAlt = modifierOf(XK_Alt_L) | modifierOf(XK_Alt_R);
-    // As Qt does for key events: "Meta" is the Windows key where Alt and Meta are one.
+    // As in Qt's key events: Meta is the Windows key if Alt and Meta are the same modifier.
     mMeta = modifierOf(XK_Meta_L) | modifierOf(XK_Meta_R);
     if (mMeta == 0 || mMeta == mAlt)
         mMeta = modifierOf(XK_Super_L) | modifierOf(XK_Super_R);
@@ -43,7 +43,7 @@ void X11Keyboard::loadModifiers(xcb_connection_t *connection)
     const int keysPerModifier = reply->keycodes_per_modifier;
     for (int i = 0; i < 8 * keysPerModifier; ++i) {
         if (keys[i] < mFirstKey)
-            continue; // an unused place
+            continue; // unused
         for (int column = 0; column < 4; ++column)
             mModifierSymbols[i / keysPerModifier].append(
                 xcb_key_symbols_get_keysym(mSymbols, keys[i], column));
@@ -60,7 +60,7 @@ quint32 X11Keyboard::modifierOf(xcb_keysym_t symbol) const
     return mask;
 }
 
-// False when the keyboard lacks one of the modifiers.
+// Returns false if the keyboard lacks one of the modifiers.
 bool X11Keyboard::findModifiers(int chord, quint32 *modifiers) const
 {
     const Qt::KeyboardModifiers held = modifiersOf(chord);
@@ -91,8 +91,8 @@ QVector<KeyCombination> X11Keyboard::combinations(int chord) const
     const QVector<xcb_keysym_t> symbols = x11KeySymbols(chord);
     if (!mSymbols || symbols.isEmpty() || !findModifiers(chord, &modifiers))
         return {};
-    // A second layout counts only for what the first one lacks: otherwise a symbol that both have
-    // would take two keys.
+    // The second layout is used only for symbols that the first one lacks; otherwise a symbol in
+    // both layouts would grab two keys.
     const QVector<KeyCombination> found = findInGroup(0, symbols, modifiers);
     return found.isEmpty() ? findInGroup(1, symbols, modifiers) : found;
 }
@@ -107,12 +107,12 @@ QVector<KeyCombination> X11Keyboard::findInGroup(int group, const QVector<xcb_ke
                 mSymbols, static_cast<xcb_keycode_t>(key), 2 * group + level);
             if (!symbols.contains(symbol))
                 continue;
-            // On the keypad Num Lock chooses the symbol, so there Shift says nothing.
+            // On the keypad Num Lock selects the symbol, so the level does not imply Shift.
             const bool shifted = level == 1 && !xcb_is_keypad_key(symbol);
             const quint32 shift = shifted ? quint32(XCB_MOD_MASK_SHIFT) : 0;
             const quint32 held = modifiers | shift;
             found.append({static_cast<quint32>(key), held, mIgnored & ~held});
-            break; // the same symbol again with Shift would be another chord
+            break; // the same symbol with Shift is another chord
         }
     }
     return found;

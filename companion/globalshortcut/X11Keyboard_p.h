@@ -6,20 +6,20 @@
 
 #include <QVector>
 
-/// The keyboard of an X server as it is now: which key has which symbol, and which of the eight
-/// modifiers means what.
+/// The current keyboard mapping of an X server: the symbols of the keys and the meaning of the
+/// eight modifiers.
 class X11Keyboard
 {
 public:
-    /// Nothing is known before the first `load`.
+    /// The mapping is empty before the first `load`.
     X11Keyboard() = default;
     ~X11Keyboard();
     Q_DISABLE_COPY(X11Keyboard)
 
-    /// Reads the keyboard's map from the server.
+    /// Reads the keyboard mapping from the server.
     void load(xcb_connection_t *connection);
-    /// Every key with modifiers that makes `chord`, a Qt::Key with Qt::KeyboardModifiers; Caps Lock
-    /// and Num Lock are ignored. Empty when this keyboard cannot make it.
+    /// Returns all combinations that type `chord`, a Qt::Key with Qt::KeyboardModifiers, with Caps
+    /// Lock and Num Lock ignored; empty if this keyboard cannot type it.
     QVector<KeyCombination> combinations(int chord) const;
 
 private:

@@ -11,8 +11,8 @@ struct X11KeyRow
     quint32 symbol;
 };
 
-/// The keysyms of letters and signs that are older than Unicode and still on many keyboards, after
-/// <X11/keysymdef.h>, in the order of the characters.
+/// The keysyms of letters and signs that are older than Unicode and still used by many keyboards,
+/// from <X11/keysymdef.h>, sorted by character.
 constexpr X11KeyRow sX11OldSymbols[] = {
     {0x0101, XK_amacron},
     {0x0103, XK_abreve},

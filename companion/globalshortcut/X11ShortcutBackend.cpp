@@ -3,7 +3,7 @@
 #include <QScopedPointer>
 #include <QSocketNotifier>
 
-// A member in this C header is called as a word that C++ keeps for itself.
+// This C header has a member whose name is a C++ keyword.
 #define explicit explicit_
 #include <xcb/xkb.h>
 #undef explicit
@@ -12,11 +12,11 @@ namespace {
 
 template<typename T> using XcbPointer = QScopedPointer<T, QScopedPointerPodDeleter>;
 
-/// The modifiers of `combination` with every subset of its ignored modifiers.
+/// Returns the modifiers of `combination` with every subset of its ignored modifiers.
 QVector<quint16> modifierStates(const KeyCombination &combination)
 {
     QVector<quint16> states;
-    // Steps down through all subsets of the bits of `ignored`.
+    // Enumerates all subsets of the bits of `ignored` in descending order.
     for (quint32 subset = combination.ignored;; subset = (subset - 1) & combination.ignored) {
         states.append(static_cast<quint16>(combination.modifiers | subset));
         if (subset == 0)
@@ -49,8 +49,8 @@ X11ShortcutBackend::~X11ShortcutBackend()
     xcb_disconnect(mConnection);
 }
 
-// With XKB the server tells of every change of the keyboard, and a held key is repeated as presses
-// without releases between them.
+// With XKB the server reports every change of the keyboard mapping, and key repeat consists of
+// presses without releases between them.
 void X11ShortcutBackend::startXkb()
 {
     const XcbPointer<xcb_xkb_use_extension_reply_t> use(xcb_xkb_use_extension_reply(
@@ -111,13 +111,13 @@ void X11ShortcutBackend::ungrab(const KeyCombination &combination)
         for (const quint16 state : states)
             xcb_ungrab_key(mConnection, static_cast<xcb_keycode_t>(combination.key), root, state);
     }
-    // An answer to anything shows that the server has come this far.
+    // The reply to any request shows that the server has processed the ones before it.
     const XcbPointer<xcb_get_input_focus_reply_t> answer(
         xcb_get_input_focus_reply(mConnection, xcb_get_input_focus(mConnection), nullptr));
     readEventsLater();
 }
 
-// Waiting for an answer also reads events, which the socket then no longer announces.
+// Waiting for a reply also reads events from the socket, which the notifier then does not report.
 void X11ShortcutBackend::readEventsLater()
 {
     QMetaObject::invokeMethod(
@@ -130,7 +130,7 @@ void X11ShortcutBackend::readEvents()
     while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(mConnection)})
         keyboardChanged |= handleEvent(*event);
     if (!isSupported()) {
-        // The server has gone; the socket would be readable for ever.
+        // The connection is broken, and the socket would remain readable.
         mNotifier->setEnabled(false);
         mListener.keyboardChanged();
     } else if (keyboardChanged) {
@@ -139,7 +139,7 @@ void X11ShortcutBackend::readEvents()
     }
 }
 
-// Returns whether it told of another map of the keyboard.
+// Returns whether the event reports a new keyboard mapping.
 bool X11ShortcutBackend::handleEvent(const xcb_generic_event_t &event)
 {
     const int type = event.response_type & 0x7f;
@@ -161,6 +161,6 @@ void X11ShortcutBackend::handleKeyPress(const xcb_key_press_event_t &event)
     if (event.detail == mHeldKey)
         return;
     mHeldKey = event.detail;
-    // Above the eight modifiers stand the pointer's buttons and the keyboard's layout.
+    // The bits above the eight modifiers are pointer buttons and the keyboard layout.
     mListener.keyPressed(event.detail, event.state & 0xffU);
 }

@@ -11,14 +11,15 @@
 
 class QSocketNotifier;
 
-/// Hotkeys of an X server: passive grabs on the root windows, over a connection of its own.
+/// Registers hotkeys as passive grabs on the root windows of an X server, with a separate
+/// connection.
 ///
-/// Its own, because the one of Qt ends with the application object and belongs to Qt in what it
-/// asks of the server; and because only private headers lead to it.
+/// Qt's connection is not used because it ends with the application object, because its settings
+/// belong to Qt and because it is accessible with private headers only.
 class X11ShortcutBackend : public GlobalShortcutBackend
 {
 public:
-    /// Connects to the display that DISPLAY names.
+    /// Connects to the display of the environment variable DISPLAY.
     explicit X11ShortcutBackend(Listener &listener);
     ~X11ShortcutBackend() override;
     Q_DISABLE_COPY(X11ShortcutBackend)
@@ -37,7 +38,7 @@ private:
 
     Listener &mListener;
     xcb_connection_t *const mConnection;
-    QObject mContext; // what is queued for it dies with the backend
+    QObject mContext; // its queued calls are dropped with the backend
     std::unique_ptr<QSocketNotifier> mNotifier;
     X11Keyboard mKeyboard;
     QVector<xcb_window_t> mRoots;

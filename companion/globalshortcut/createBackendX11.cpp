@@ -5,8 +5,8 @@
 
 std::unique_ptr<GlobalShortcutBackend> GlobalShortcutBackend::create(Listener &listener)
 {
-    // Under Wayland there may be an X server too, but it sees the keyboard only while one of its
-    // own windows has it.
+    // Under Wayland there may be an X server too, but it receives keys only while one of its
+    // windows has the focus.
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
         auto backend = std::make_unique<X11ShortcutBackend>(listener);
         if (backend->isSupported())

@@ -13,7 +13,7 @@
 
 namespace {
 
-// The font's own em square, in which its outlines have no rounding.
+// The em square of the font, in which the outlines are exact.
 constexpr int sEm = 1024;
 constexpr int sLargestScale = 3;
 
@@ -22,13 +22,13 @@ QString fontFile()
     return QStringLiteral(":/quorvi/QuorviIconfont.ttf");
 }
 
-// qGuiApp would take a QCoreApplication for one.
+// qGuiApp would cast a QCoreApplication without a check.
 QGuiApplication *application()
 {
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
 }
 
-// The plain constructor of QPixmap ends the program while there is no application.
+// The default constructor of QPixmap aborts if there is no application.
 QPixmap nullPixmap()
 {
     return QPixmap(static_cast<QPlatformPixmap *>(nullptr));
@@ -39,8 +39,8 @@ bool canDraw(const QColor &color, int size)
     return QIconfont::load() && color.isValid() && size > 0 && size <= QIconfont::MaximumSize;
 }
 
-/// The outline of a glyph in a square from (0, 0) to (sEm, sEm); empty if the font lacks it, as
-/// its glyph 0 is.
+/// Returns the outline of a glyph in the square from (0, 0) to (sEm, sEm); empty, as glyph 0 is, if
+/// the font lacks it.
 QPainterPath outline(const QChar &glyph)
 {
     static QHash<QChar, QPainterPath> sOutlines;
@@ -54,7 +54,8 @@ QPainterPath outline(const QChar &glyph)
     return path;
 }
 
-/// What the margins leave of a square of `size`, in pixels of a screen that scales by `scale`.
+/// Returns the rectangle inside the margins of a square of `size` logical pixels, in device pixels
+/// at the device pixel ratio `scale`.
 QRect inner(int size, const QMargins &margins, int scale)
 {
     const int left = qBound(0, margins.left(), size);
@@ -74,7 +75,7 @@ QPixmap draw(const QChar &glyph, const QColor &color, int size, const QMargins &
     if (side > 0) {
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
-        // Whole pixels of the screen: outlines that lie on the grid keep their sharp edges.
+        // Align with device pixels, so that edges on the grid of the font stay sharp.
         painter.translate(QPoint(rect.left() + (rect.width() - side) / 2,
                                  rect.top() + (rect.height() - side) / 2));
         painter.scale(qreal(side) / sEm, qreal(side) / sEm);
@@ -111,7 +112,7 @@ bool QIconfont::load()
 
 QString QIconfont::fontFamily()
 {
-    // A program may make one application after the other; each has its own fonts.
+    // A process may create several applications in succession; each has its own fonts.
     static QPointer<QGuiApplication> sLoadedFor;
     static QString sFamily;
     QGuiApplication *current = application();

@@ -12,38 +12,41 @@ class QString;
 
 /// Draws the glyphs of the icon font "QuorviIconfont" as icons and pixmaps.
 ///
-/// The font is built in, and known to the application under its name from the first call of any of
-/// these functions on: call `load` before texts or style sheets name the font (`font: 23pt
-/// QuorviIconfont`). `QuorviGlyphs.h` names the glyphs.
+/// The font is a resource of the library. The first call of any of these functions adds it to the
+/// application. Call `load` before texts or style sheets use the font (`font: 23pt
+/// QuorviIconfont`).
 ///
-/// Needs a `QGuiApplication`, and its thread: as long as there is none everything returned is null.
+/// Call the functions on the GUI thread. Without a `QGuiApplication` they return null values.
 /// Nothing is logged.
+///
+/// @see QuorviGlyphs
+/// @since 0.1
 class QICONFONT_EXPORT QIconfont
 {
 public:
-    /// The largest square that is drawn, in logical pixels; so an icon takes 56 MiB at most.
+    /// The largest size in logical pixels. It limits the memory of an icon to 56 MiB.
     static constexpr int MaximumSize = 1024;
 
-    /// The glyph in a square of `size` logical pixels, for screens that scale by one, two and
-    /// three: whatever smaller size is asked of the icon, no picture is scaled up. Pixmaps that the
-    /// caller adds to the icon for other modes are used for these.
+    /// Returns an icon of `glyph` in a square of `size` logical pixels, with pixmaps for the device
+    /// pixel ratios 1, 2 and 3, so that no pixmap is scaled up for smaller sizes. The caller may
+    /// add pixmaps for other modes to the icon.
     ///
-    /// The glyph is as large as fits into what `margins` (logical pixels, negative ones count as
-    /// zero) leave of the square, in the middle of that. Margins that leave nothing, and a glyph
-    /// that the font lacks, give a transparent icon. Null for an invalid colour, and for a size
-    /// that is not between 1 and `MaximumSize`.
+    /// The glyph is scaled to fit the rectangle inside `margins` (logical pixels; negative ones
+    /// count as zero) and centred in it. The icon is transparent if the rectangle is empty or the
+    /// font lacks the glyph. Returns a null icon if the colour is invalid or the size is not
+    /// between 1 and `MaximumSize`.
     static QIcon Icon(const QChar &glyph, const QColor &color, int size,
                       QMargins margins = QMargins());
 
-    /// The same as one pixmap, with the device pixel ratio of the application's finest screen
-    /// (rounded up, at most three).
+    /// Returns a pixmap of `glyph`, like Icon(), with the highest device pixel ratio of the
+    /// application's screens, rounded up and at most 3.
     static QPixmap Pixmap(const QChar &glyph, const QColor &color, int size,
                           QMargins margins = QMargins());
 
-    /// Makes the font known to the application, once; true when it is known.
+    /// Adds the font to the application, if that was not done yet. Returns whether it is available.
     static bool load();
 
-    /// The name of the font, "QuorviIconfont", which it is made known under; empty when it cannot
-    /// be.
+    /// Adds the font like load() and returns its family name, "QuorviIconfont"; empty if it is not
+    /// available.
     static QString fontFamily();
 };

@@ -2,9 +2,9 @@
 """Builds the icon font QuorviIconfont.ttf from the outlines beside this script.
 
     build_font.py          writes the font
-    build_font.py --check  exits with 1 when the font beside it is another one
+    build_font.py --check  exits with 1 if the font file differs from the one it would write
 
-Needs fontTools. The result depends on the outlines, this script and the release of fontTools only.
+Needs fontTools. The result depends only on the outlines, this script and the version of fontTools.
 """
 import io
 import pathlib
@@ -24,10 +24,10 @@ HERE = pathlib.Path(__file__).resolve().parent
 FONT = HERE / "QuorviIconfont.ttf"
 FAMILY = "QuorviIconfont"
 EM = 1024
-DESCENT = 128          # puts the middle of a glyph at the height of the middle of capitals
-OUTLINE_SIZE = 16      # the outlines' own square
+DESCENT = 128          # centres a glyph vertically on capital letters
+OUTLINE_SIZE = 16      # the side of the outlines' square
 MAX_ERROR = 0.5        # of the quadratic curves, in font units
-EPOCH = 3786825600     # 2024-01-01 in the font's count of seconds, so that builds are alike
+EPOCH = 3786825600     # 2024-01-01 in seconds of the font format, for reproducible builds
 
 GLYPHS = {
     0xE63A: "slash-circle-fill",          # disabled, nothing set
@@ -46,7 +46,7 @@ GLYPHS = {
 
 
 def draw(name, pen, transformation):
-    """Draws the outline of that name with the pen."""
+    """Draws the outline `name` with `pen`."""
     transformed = TransformPen(pen, transformation)
     for element in ElementTree.parse(HERE / "outlines" / f"{name}.svg").iter():
         if element.tag.endswith("path"):
@@ -54,11 +54,11 @@ def draw(name, pen, transformation):
 
 
 def glyph(name):
-    """The outline of that name, upright, all at one scale, in the middle of the em square."""
+    """Returns the outline `name`, upright, at the common scale, centred in the em square."""
     bounds = BoundsPen(None)
     draw(name, bounds, Identity)
     left, top, right, bottom = bounds.bounds
-    # An outline that reaches out of its square would be cut off at the em square's edges.
+    # An outline that exceeds its square is scaled down, or the em square would cut it off.
     scale = EM / max(OUTLINE_SIZE, right - left, bottom - top)
     x = EM / 2 - scale * (left + right) / 2
     y = EM / 2 - DESCENT + scale * (top + bottom) / 2
@@ -94,7 +94,7 @@ def main():
     if sys.argv[1:] == ["--check"]:
         if FONT.read_bytes() == font:
             return 0
-        return f"{FONT.name} is not what its outlines give with fontTools {fontTools.version}"
+        return f"{FONT.name} differs from what fontTools {fontTools.version} makes of its outlines"
     if len(sys.argv) > 1:
         return __doc__
     FONT.write_bytes(font)

@@ -14,7 +14,7 @@ namespace {
 
 constexpr qreal sSwatchRadius = 3;
 
-// A texture, so that the cells stay sharp at every device pixel ratio.
+// As a texture, the cells are sharp at every device pixel ratio.
 QBrush chequers()
 {
     constexpr int cell = 4;
@@ -26,7 +26,7 @@ QBrush chequers()
     return QBrush(cells);
 }
 
-/// Whether `widget` is in a window that stays on top, or in one that such a window owns.
+/// Returns whether `widget` is in a window that stays on top, or in a window with such a parent.
 bool staysOnTop(const QWidget *widget)
 {
     for (; widget; widget = widget->parentWidget()) {
@@ -40,7 +40,7 @@ bool staysOnTop(const QWidget *widget)
 
 ColorSelectButton::ColorSelectButton(QWidget *parent) : QPushButton(parent)
 {
-    // A default button is drawn larger in some styles, and Enter works here without.
+    // Some styles draw a default button larger. Enter works without it, see keyPressEvent().
     setAutoDefault(false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QPushButton::clicked, this, &ColorSelectButton::openDialog);
@@ -108,7 +108,7 @@ void ColorSelectButton::paintEvent(QPaintEvent *)
     option.icon = QIcon();
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
 
-    // A sheet that draws the button says with its padding where the swatch begins, and has no
+    // With a style sheet the padding of the button sets the place of the swatch, and there is no
     // margin.
     const int inset = style()->pixelMetric(QStyle::PM_ButtonMargin, &option, this) / 3;
     const QRect content = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
@@ -139,7 +139,8 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
     }
     painter->restore();
 
-    // Some of the text's colour shows on every ground, whatever the swatch's own colour.
+    // A border in the colour of texts is visible on every background, whatever the colour of the
+    // swatch.
     QColor border = palette().color(QPalette::WindowText);
     border.setAlphaF(0.35F);
     painter->setBrush(Qt::NoBrush);
@@ -161,10 +162,10 @@ void ColorSelectButton::openDialog()
         mDialog->activateWindow();
         return;
     }
-    // Not run in a loop of its own: the dialog is our child and simply goes when we go.
+    // No exec(): without a nested event loop the button may be deleted with the dialog, its child.
     mDialog = new QColorDialog(this);
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
-    // Before the colour: without the option the dialog drops the colour's alpha.
+    // Set the option before the colour; otherwise the dialog drops the alpha channel.
     mDialog->setOption(QColorDialog::ShowAlphaChannel);
     // The colour panel of macOS has a fixed level, below that of windows that stay on top. A Qt
     // dialog takes the level of its parent.
@@ -176,7 +177,7 @@ void ColorSelectButton::openDialog()
 
 void ColorSelectButton::onColorPicked(const QColor &color)
 {
-    // Compared as they look: the dialog turns every colour model into its own.
+    // Compare the RGBA values, because the dialog converts every colour model to its own.
     if (!color.isValid() || (mColor.isValid() && color.rgba() == mColor.rgba()))
         return;
     setColor(color);

@@ -8,45 +8,45 @@
 
 class QColorDialog;
 
-/// A button that shows a colour and, when clicked or on Space, Enter or Return, lets a person pick
-/// another in a colour dialog. A translucent colour stands on chequers, an invalid one is a red
-/// stroke through an empty ground. The tool tip and the accessible description say the colour in
-/// words:
-/// "#rrggbb", "#aarrggbb" for a translucent one, tr("None") for an invalid one.
+/// A button that shows a colour. A click, Space, Enter or Return opens a colour dialog. A
+/// translucent colour is drawn over a chequered background, an invalid colour as a red line through
+/// an empty swatch. The tool tip and the accessible description are the colour as text: "#rrggbb",
+/// "#aarrggbb" for a translucent colour, tr("None") for an invalid one.
 ///
-/// The dialog is the native one of the system, except in a window that stays on top: there it is
-/// Qt's own, because a native one may open behind that window.
+/// The dialog is the system's native one where Qt has one, except in a window that stays on top: a
+/// native dialog may open behind such a window, so Qt's own dialog is used there.
 ///
-/// In a style sheet the swatch fills the content rectangle, inside border and padding.
+/// With a style sheet the swatch fills the content rectangle, inside the border and padding.
 class ORVUTILS_EXPORT ColorSelectButton : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY sigColorChanged)
 
 public:
-    /// A button without a colour inside `parent`, which may be null and owns it.
+    /// Creates a button with an invalid colour as a child of `parent`, which may be null.
     explicit ColorSelectButton(QWidget *parent = nullptr);
 
-    /// The colour, exactly as it was set or picked; invalid at first.
+    /// Returns the colour exactly as it was set or picked; invalid at first.
     QColor color() const;
-    /// Shows `color`, which may be invalid. Emits nothing.
+    /// Sets and shows `color`, which may be invalid. Emits nothing.
     void setColor(const QColor &color);
 
-    /// Room for a swatch of 3.5 by 1.1 em, in pixels, with what the style puts around it.
+    /// Returns the size, in pixels, of a swatch of 3.5 by 1.1 em with the frame of the style.
     QSize sizeHint() const override;
-    /// The same as `sizeHint()`.
+    /// Returns `sizeHint()`.
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// A person picked a colour that looks different from the one shown; color() is it already.
+    /// Emitted after the user has picked a colour that looks different from the shown one.
+    /// `color()` is the new colour already.
     void sigColorChanged(const QColor &color);
 
 protected:
-    /// Describes the colour in the new language.
+    /// Translates the tool tip and the accessible description when the language changes.
     void changeEvent(QEvent *event) override;
-    /// Opens the dialog on Return and Enter as on Space.
+    /// Opens the dialog on Return and Enter, too.
     void keyPressEvent(QKeyEvent *event) override;
-    /// Draws the button of the style with the swatch inside.
+    /// Draws the button of the style with the swatch in it.
     void paintEvent(QPaintEvent *event) override;
 
 private:

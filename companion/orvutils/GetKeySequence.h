@@ -7,9 +7,12 @@
 class QKeyEvent;
 class QKeySequence;
 
-/// The key combination of an event as a sequence of one chord: its key with Shift, Control, Alt,
-/// Meta and the keypad mark as they were held; a modifier key is not held with itself. The key is
-/// the one that Qt reports, also for symbols typed with Shift; only Shift with Backtab becomes
-/// Shift with Tab, which is what is on the keyboard and what can be registered as a hotkey. Empty
-/// for null and for an event without a known key.
+/// Returns the key combination of `event` as a sequence of one chord: its key with the modifiers
+/// Shift, Control, Alt, Meta and Keypad of the event. Empty if `event` is null or has no known key.
+///
+/// The key is the one that Qt reports, also for symbols typed with Shift. Exceptions: a modifier
+/// key does not have its own modifier; Shift+Backtab becomes Shift+Tab, which can be registered as
+/// a hotkey; the arrow keys of macOS lose the keypad modifier, which that system reports for them.
+///
+/// @since 0.1
 ORVUTILS_EXPORT QKeySequence GetKeySequence(const QKeyEvent *event);

@@ -2,10 +2,10 @@
 
 #include <Qt>
 
-/// What the keypad of a keyboard consists of.
+/// Whether the keypad has arrow keys.
 enum class KeyboardKind {
-    Pc, ///< the keypad has arrow keys of its own
-    Mac ///< the keypad has no arrow keys, but the system reports the arrow keys as part of it
+    Pc, ///< the keypad has its own arrow keys
+    Mac ///< it has none, but the system reports the main arrow keys as keys of the keypad
 };
 
 /// Returns the chord of a pressed key as QKeySequence encodes it: `key`, a Qt::Key, combined with

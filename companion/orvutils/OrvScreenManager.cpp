@@ -25,7 +25,7 @@ OrvScreen record(const QScreen *screen)
 
 OrvScreenManager *OrvScreenManager::instance()
 {
-    // Never destroyed: windows kept in statics may still ask for it while the program ends.
+    // Never destroyed: static windows of the host may use it while the process exits.
     static OrvScreenManager *const sInstance = new OrvScreenManager;
     sInstance->followApplication();
     return sInstance;
@@ -77,7 +77,7 @@ void OrvScreenManager::followApplication()
 
 void OrvScreenManager::followScreen(QScreen *screen)
 {
-    // Unique: the first screens are announced too when the application is still starting up.
+    // Unique: while the application starts, screenAdded() is also emitted for the first screens.
     connect(screen, &QScreen::geometryChanged, this, &OrvScreenManager::sigScreensChanged,
             Qt::UniqueConnection);
     connect(screen, &QScreen::logicalDotsPerInchChanged, this, &OrvScreenManager::sigScreensChanged,

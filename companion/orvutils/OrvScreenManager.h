@@ -11,34 +11,40 @@ class QGuiApplication;
 class QScreen;
 class QWidget;
 
-/// What a window needs to know of a screen.
+/// The properties of a screen that windows need.
+///
+/// @since 0.1
 struct OrvScreen
 {
-    QRect rect; ///< its rectangle in the virtual desktop, pixels
-    double dpi; ///< its logical dots per inch, always positive
+    QRect rect; ///< the rectangle in the virtual desktop, in pixels
+    double dpi; ///< the logical dots per inch, always positive
 };
 
-/// The screens. GUI thread only. Where there is no screen at all, or no application yet, the record
-/// has an empty rectangle and 96 dots per inch (72 on macOS).
+/// Provides the properties of the screens. GUI thread only. If there is no screen or no
+/// application, the rectangle of a screen is empty and its dots per inch are 96 (72 on macOS).
+///
+/// @since 0.1
 class ORVUTILS_EXPORT OrvScreenManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The one manager. May be asked for before the application exists and after it is gone.
+    /// Returns the manager of the process. May be called before the application is created and
+    /// after it is destroyed.
     static OrvScreenManager *instance();
 
-    /// The screen that the window of `widget` is on; for a window not created yet, the one that its
-    /// centre lies on; otherwise, and for null, the primary screen.
+    /// Returns the screen of the window of `widget`. If the window has no native window yet,
+    /// returns the screen that contains its centre. Returns the primary screen if there is none and
+    /// if `widget` is null.
     OrvScreen widgetScreen(const QWidget *widget) const;
-    /// The primary screen.
+    /// Returns the primary screen.
     OrvScreen primaryScreen() const;
-    /// All screens, the primary one first.
+    /// Returns all screens, the primary screen first.
     QVector<OrvScreen> screens() const;
 
 Q_SIGNALS:
-    /// A screen came or went, another one is primary, or a rectangle or a dots-per-inch value
-    /// changed.
+    /// Emitted after a screen was added or removed, another screen became the primary one, or the
+    /// rectangle or the dots per inch of a screen changed.
     void sigScreensChanged();
 
 private:

@@ -3,7 +3,7 @@
 QMsgeBox::QMsgeBox(QWidget *parent) : QMessageBox(parent)
 {
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
-    // Texts carry names that a person typed; none of them is markup.
+    // Texts contain names that users have entered, so they are not markup.
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setStandardButtons(QMessageBox::Ok);

@@ -4,13 +4,15 @@
 
 #include <QMessageBox>
 
-/// A message box with the application's habits: it blocks the parent's window only (the application
-/// without a parent), shows plain text that can be selected and copied, and has an OK button.
+/// A message box with the defaults of the application: modal for the window of the parent, or for
+/// the application if there is no parent; plain text that can be selected; an OK button.
+///
+/// @since 0.1
 class ORVUTILS_EXPORT QMsgeBox : public QMessageBox
 {
     Q_OBJECT
 
 public:
-    /// `parent` may be null.
+    /// Creates a message box. `parent` may be null.
     explicit QMsgeBox(QWidget *parent = nullptr);
 };

@@ -13,7 +13,7 @@
 
 QThemeCtrl *QThemeCtrl::instance()
 {
-    // Never destroyed: windows kept in statics may still ask for it while the program ends.
+    // Never destroyed: static windows of the host may use it while the process exits.
     static QThemeCtrl *const sInstance = new QThemeCtrl;
     sInstance->followApplication();
     return sInstance;
@@ -126,8 +126,8 @@ QPalette QThemeCtrl::palette() const
     const QColor text = color(QStringLiteral("ColorFg0"));
     const QColor accent = color(QStringLiteral("ColorMain"));
     const QColor faint = color(QStringLiteral("ColorDisable"));
-    // Links are text, not a ground for white text: on dark they need more light than the accent
-    // has.
+    // The accent colour is a background for white text. As the colour of links it is too dark on a
+    // dark background.
     const QColor link = mDark ? accent.lighter(150) : accent;
 
     QPalette result(card, color(QStringLiteral("ColorBg0")));
@@ -155,8 +155,8 @@ void QThemeCtrl::followApplication()
     if (!application || application == mApplication)
         return;
     mApplication = application;
-    // The signal rather than an event filter: a filter on the application would see every event of
-    // every object, and the event is not sent before the event loop runs.
+    // Not an event filter: a filter on the application receives all events of all objects, and the
+    // event is not sent before the event loop runs.
     QtCompat::connectPaletteChanged(application, this, &QThemeCtrl::onApplicationPalette);
     onApplicationPalette(QGuiApplication::palette());
 }
@@ -172,7 +172,7 @@ void QThemeCtrl::onApplicationPalette(const QPalette &palette)
 
 bool QThemeCtrl::isOwnPalette(const QPalette &palette) const
 {
-    // By its two leading colours, so that a host may adjust the other roles.
+    // Compare only two colours, so that a host may change the other roles.
     const QString window = QStringLiteral("ColorBg0");
     const QString text = QStringLiteral("ColorFg0");
     for (const QMap<QString, QString> *theme : {&mLightValues, &mDarkValues}) {

@@ -14,78 +14,85 @@ class QPalette;
 class QWidget;
 class SheetWatcher;
 
-/// The theme controller: a light and a dark set of named colours and fonts, and the style sheets
-/// that are written in terms of them. GUI thread only.
+/// The theme controller: a light and a dark theme, each a set of named colours and fonts, and the
+/// style sheets that use these names. GUI thread only.
 ///
-/// A sheet may hold two macros, spelled exactly so and as whole words:
-/// - `sca(N)`: N, decimal or negative, times the scale, rounded half up to an integer;
-/// - `var(Name)`: the current theme's value of that name, which may itself hold macros.
+/// A sheet may contain two macros, in exactly this spelling and as whole words:
+/// - `sca(N)`: the number N, which may be decimal or negative, times the scale, rounded half up to
+///   an integer;
+/// - `var(Name)`: the value of Name in the current theme, which may contain macros.
 ///
-/// They nest (`sca(var(Radius))`) and allow blanks inside the parentheses. Comments are left alone.
+/// Macros can be nested (`sca(var(Radius))`), with spaces inside the parentheses. Macros in
+/// comments are not expanded.
 ///
-/// Names in both themes from the start: ColorBg0 (window), ColorBg1 and ColorBg1Border (card and
-/// its border), ColorBg2 (hovered), ColorBg3 and ColorBg3Border (input and its border), ColorFg0
-/// (text), ColorMain (accent, carries white text), ColorSuccess, ColorWarning, ColorFailed,
+/// Names that both themes define: ColorBg0 (window), ColorBg1 and ColorBg1Border (card and its
+/// border), ColorBg2 (hover), ColorBg3 and ColorBg3Border (input and its border), ColorFg0 (text),
+/// ColorMain (accent, a background for white text), ColorSuccess, ColorWarning, ColorFailed,
 /// ColorDisable and FontMain (a list of font families).
+///
+/// @since 0.1
 class ORVUTILS_EXPORT QThemeCtrl : public QObject
 {
     Q_OBJECT
 
 public:
-    /// System follows the application's palette.
+    /// The themes. System follows the application's palette.
     enum class Theme { System, Light, Dark };
     Q_ENUM(Theme)
 
-    /// The one controller. May be asked for before the application exists and after it is gone.
+    /// Returns the controller of the process. May be called before the application is created and
+    /// after it is destroyed.
     static QThemeCtrl *instance();
 
-    /// Gives `widget` the style sheet made of `files` (disk files or resources, UTF-8), one after
-    /// the other, with the macros expanded. `scale` is pixels per design unit; one that is not a
-    /// positive number counts as 1. A file that cannot be read is left out, with the warning
-    /// "QThemeCtrl::handleQssFile cannot read: " and its name. Nothing happens when `widget` is
-    /// null.
+    /// Sets the concatenated `files` (disk files or resources, UTF-8) with expanded macros as the
+    /// style sheet of `widget`. `scale` is in pixels per design unit; 1 is used if it is not a
+    /// positive number. A file that cannot be read is skipped with the warning
+    /// "QThemeCtrl::handleQssFile cannot read: " and its name. Does nothing if `widget` is null.
     ///
-    /// The sheet is not applied again on its own: call this from a slot of sigThemeChanged(). The
-    /// disk files are watched while the widget lives, and a change to one emits that signal.
+    /// The style sheet is not updated automatically: call this function from a slot of
+    /// sigThemeChanged(). Disk files are watched as long as the widget exists, and a change of one
+    /// emits that signal.
     void handleQssFile(QWidget *widget, const QStringList &files, double scale);
 
-    /// `sheet` with its macros expanded as handleQssFile() does it; takes time proportional to the
-    /// texts read and written. What cannot be expanded is reported by one warning each for the life
-    /// of the process, beginning "QThemeCtrl::handleQssFile " and ending with the name or text:
-    /// - "unknown name: ": the macro is left out;
+    /// Returns `sheet` with its macros expanded as handleQssFile() does it. The time is linear in
+    /// the size of input and output. A macro that cannot be expanded is logged as a warning, each
+    /// warning once per process. It starts with "QThemeCtrl::handleQssFile " and one of the
+    /// following texts and ends with the name or the argument:
+    /// - "unknown name: ": the macro is removed;
     /// - "name refers to itself: ", "value too long or too deep: " (an expanded value of more than
-    ///   4096 characters, or a chain of more than 64 names), "not a number: ": the macro stays.
+    ///   4096 characters, or a chain of more than 64 names), "not a number: ": the macro is kept.
     ///
-    /// A macro whose parenthesis is not closed before a quote, a brace or a semicolon stays
-    /// silently.
+    /// A macro whose parenthesis is not closed before a quote, brace or semicolon is kept without a
+    /// warning.
     QString expandMacros(const QString &sheet, double scale) const;
 
-    /// Chooses the theme; System at first. Emits sigThemeChanged() when the look changes by it.
+    /// Sets the theme; System by default. Emits sigThemeChanged() if isDark() changes.
     void setTheme(Theme theme);
-    /// The theme as chosen.
+    /// Returns the theme that was set.
     Theme theme() const;
-    /// Whether the theme that is shown, chosen or followed, is the dark one.
+    /// Returns whether the current theme, set or followed, is the dark one.
     bool isDark() const;
 
-    /// The value of `name` in the theme shown, as it was set (macros not expanded); empty for an
+    /// Returns the value of `name` in the current theme with its macros not expanded; empty for an
     /// unknown name.
     QString value(const QString &name) const;
-    /// The value of `name` as a colour; invalid unless it is, macros expanded, a colour name or
-    /// "#rgb", "#rrggbb" or "#aarrggbb".
+    /// Returns the value of `name` with its macros expanded as a colour; invalid unless it is a
+    /// colour name or has the form "#rgb", "#rrggbb" or "#aarrggbb".
     QColor color(const QString &name) const;
-    /// Adds or overrides a name in a theme, or in both for System. Emits nothing: sheets show it
-    /// when they are next handed to handleQssFile().
+    /// Sets the value of `name` in a theme, or in both themes for System. Emits nothing: sheets use
+    /// the value at their next handleQssFile().
     void setValue(Theme theme, const QString &name, const QString &value);
 
-    /// The shown theme's colours as a palette, so that a host's plain widgets and dialogs fit:
-    /// `qApp->setPalette(...)` with it at start-up and on sigThemeChanged(). Such a palette is
-    /// never mistaken for a change of the system's own. While the theme is System, set `QPalette()`
-    /// instead: an application with a palette of its own no longer hears of the system's changes.
+    /// Returns a palette of the colours of the current theme. Call `qApp->setPalette()` with it at
+    /// startup and on sigThemeChanged(), so that widgets and dialogs without a style sheet match
+    /// the theme. It is not mistaken for a change of the system's palette. While the theme is
+    /// System, set `QPalette()` instead: an application with its own palette does not receive
+    /// changes of the system's palette.
     QPalette palette() const;
 
 Q_SIGNALS:
-    /// The theme shown changed, or a watched sheet did: apply sheets, and icons drawn in theme
-    /// colours, again.
+    /// Emitted after the current theme or a watched sheet has changed. Apply style sheets and icons
+    /// in theme colours again.
     void sigThemeChanged();
 
 private:

@@ -6,8 +6,8 @@
 
 namespace {
 
-// No name or number is longer; a limit keeps the nested arguments of a hostile sheet from being
-// read over and over.
+// Longer than any name or number. The limit prevents nested arguments of a malicious sheet from
+// being read repeatedly.
 constexpr int sMaxArgumentLength = 256;
 constexpr int sMaxValueLength = 4096;
 constexpr int sMaxValueDepth = 64;
@@ -33,7 +33,7 @@ bool beginsWord(const QString &text, QString::size_type position)
         return false;
     if (before != QLatin1Char('-') || position == 1)
         return true;
-    // A lone hyphen is the sign of a negative length, otherwise it joins words.
+    // A single hyphen before a macro is the sign of a length; any other is part of a word.
     const QChar beforeHyphen = text.at(position - 2);
     return !isWordPart(beforeHyphen) && beforeHyphen != QLatin1Char('-');
 }
@@ -60,14 +60,14 @@ bool endsMacros(QChar c)
            || c == QLatin1Char('"') || c == QLatin1Char('\'');
 }
 
-// Where the comment that begins at `start` ends: behind its last character.
+// Returns the end of the comment that starts at `start`: the index after its last character.
 QString::size_type commentEnd(const QString &text, QString::size_type start)
 {
     const auto end = text.indexOf(QLatin1String("*/"), start + 2);
     return end < 0 ? text.size() : end + 2;
 }
 
-// The quote that is open behind `c`, when `quote` was open before it.
+// Returns the open quote after `c`, if `quote` is the open quote before it; null for none.
 QChar quoteAfter(QChar quote, QChar c)
 {
     if (c == QLatin1Char('\n') || c == quote)
@@ -119,8 +119,8 @@ QString QssMacros::expand(const QString &text)
     return out;
 }
 
-// Replaces the macro at the end of `out`, its closing parenthesis not yet written, by what it
-// stands for; leaves it as it is, and says so, when it stands for nothing.
+// Replaces the macro at the end of `out`, which lacks its closing parenthesis, by its expansion.
+// Returns false and does not change `out` if it is not expanded.
 bool QssMacros::expandClosed(const Open &open, QString *out)
 {
     if (open.kind == Kind::PlainParenthesis || out->size() - open.argument > sMaxArgumentLength)
@@ -137,7 +137,7 @@ QString QssMacros::scaled(const QString &argument, bool *ok) const
 {
     *ok = isDecimal(argument);
     if (!*ok) {
-        // Empty where an unknown name stood, which has been reported.
+        // Empty after an unknown name, which was reported already.
         if (!argument.isEmpty())
             mReport(QStringLiteral("not a number: ") + argument);
         return QString();

@@ -8,18 +8,20 @@
 
 #include <functional>
 
-/// Expands the macros of style sheets. One pass over the text with a stack of open macros, so that
-/// no nesting costs more than its length or runs deep in calls.
+/// Expands the macros of style sheets in one pass with a stack of open macros, so that nested
+/// macros need neither recursion nor more than linear time.
 class QssMacros
 {
 public:
-    /// Called with "unknown name: " and the name, and the like, at each occurrence.
+    /// Called for each macro that cannot be expanded, with a text such as "unknown name: " and the
+    /// name.
     using Report = std::function<void(const QString &problem)>;
 
-    /// `values` must outlive the object.
+    /// `values` are the values by name and must outlive the object; `scale` is the factor of
+    /// `sca()`.
     QssMacros(const QMap<QString, QString> &values, double scale, const Report &report);
 
-    /// `text` with its macros expanded.
+    /// Returns `text` with its macros expanded.
     QString expand(const QString &text);
 
 private:
@@ -27,8 +29,8 @@ private:
     struct Open
     {
         Kind kind;
-        QString::size_type start;    ///< where its text begins in the output
-        QString::size_type argument; ///< where its argument begins in the output
+        QString::size_type start;    ///< index in the output where the macro starts
+        QString::size_type argument; ///< index in the output where its argument starts
     };
 
     bool expandClosed(const Open &open, QString *out);

@@ -12,8 +12,8 @@ void SetWindowTopmost(QWidget *window, bool on, OrvWindowType)
     flags.setFlag(Qt::WindowStaysOnTopHint, on);
     if (flags == topLevel->windowFlags())
         return;
-    // QWidget::setWindowFlags() would hide the window. Setting its record and telling the window
-    // system apart from it leaves the window standing.
+    // QWidget::setWindowFlags() would hide the window, so set the flags of the widget and of the
+    // native window separately.
     topLevel->overrideWindowFlags(flags);
     if (QWindow *const handle = topLevel->windowHandle())
         handle->setFlag(Qt::WindowStaysOnTopHint, on);

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Longer than an editor's pause between removing a file and writing its successor.
+// Longer than the time between deleting and rewriting a file when a text editor saves it.
 constexpr int sStillMilliseconds = 100;
 
 } // namespace
@@ -47,7 +47,7 @@ void SheetWatcher::watchFiles()
     for (const Use &use : qAsConst(mUses)) {
         for (auto sheet = use.sheets.cbegin(); use.widget && sheet != use.sheets.cend(); ++sheet) {
             const QFileInfo file(sheet.key());
-            // The folder tells of a file that was put in the place of the one watched.
+            // Watch the folder too, because a replaced file is no longer watched.
             for (const QString &path : {file.filePath(), file.path()}) {
                 if (QFileInfo::exists(path))
                     paths.insert(path);
@@ -57,14 +57,13 @@ void SheetWatcher::watchFiles()
     if (!mFiles) {
         if (paths.isEmpty())
             return;
-        // The application's child: its notifiers must not outlive the application's event
-        // dispatcher.
+        // A child of the application, because its notifiers must not outlive the event dispatcher.
         mFiles = new QFileSystemWatcher(QCoreApplication::instance());
         const auto restart = [this] { mStill.start(); };
         connect(mFiles, &QFileSystemWatcher::fileChanged, this, restart);
         connect(mFiles, &QFileSystemWatcher::directoryChanged, this, restart);
     }
-    // All anew: a path may be known and still stand for a file that is no longer there.
+    // Add all paths again, because a watched path may belong to a file that was replaced.
     const QStringList old = mFiles->files() + mFiles->directories();
     if (!old.isEmpty())
         mFiles->removePaths(old);

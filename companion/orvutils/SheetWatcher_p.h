@@ -10,11 +10,11 @@
 class QFileSystemWatcher;
 class QWidget;
 
-/// The content of a style sheet, a regular file or a resource; null when it cannot be read. Pipes
-/// and devices are refused: reading one might never end.
+/// Returns the content of a style sheet, a regular file or a resource; null if it cannot be read.
+/// Pipes and devices are not read, because reading could block forever.
 QByteArray readSheet(const QString &file);
 
-/// Watches the sheets on disk that living widgets show.
+/// Watches the disk files of the style sheets that live widgets use.
 class SheetWatcher : public QObject
 {
     Q_OBJECT
@@ -22,11 +22,12 @@ class SheetWatcher : public QObject
 public:
     explicit SheetWatcher(QObject *parent);
 
-    /// From now on `widget` shows `sheets` (absolute path and content), and no others.
+    /// Sets the sheets that `widget` uses, by absolute path with their content.
     void watch(QWidget *widget, const QHash<QString, QByteArray> &sheets);
 
 Q_SIGNALS:
-    /// The content of at least one sheet in use has changed, and has been still for a moment.
+    /// Emitted after the content of one or more used sheets has changed and then not changed again
+    /// for 100 ms.
     void sheetsChanged();
 
 private:

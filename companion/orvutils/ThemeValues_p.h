@@ -3,8 +3,8 @@
 #include <QMap>
 #include <QString>
 
-/// The names of the light theme and their values.
+/// Returns the values of the light theme by name.
 QMap<QString, QString> lightThemeValues();
 
-/// The names of the dark theme and their values.
+/// Returns the values of the dark theme by name.
 QMap<QString, QString> darkThemeValues();

@@ -6,15 +6,15 @@
 
 QFont getFontrByDialog(const QFont &initial, QWidget *parent, const QString &title)
 {
-    // Without a style's name the dialog looks for "Normal", and takes any style where a family
-    // calls its upright regular one "Book" or "Roman".
+    // Without a style name the dialog selects the style "Normal", or an arbitrary one if the family
+    // has another name for it, such as "Book" or "Roman".
     QFont offered = initial;
     if (offered.styleName().isEmpty())
         offered.setStyleName(QFontInfo(initial).styleName());
     const QPointer<QFontDialog> dialog = new QFontDialog(offered, parent);
     dialog->setOption(QFontDialog::DontUseNativeDialog);
     dialog->setWindowTitle(title);
-    // What the dialog makes of the font: it rounds the size.
+    // The dialog rounds the size, so compare with the font that it shows.
     const QFont shown = dialog->currentFont();
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)

@@ -9,10 +9,12 @@
 class QString;
 class QWidget;
 
-/// Lets a person choose a font in a modal dialog with the given window title; `parent` may be null.
-/// Returns the chosen font, sized in points; `initial` untouched when the dialog is cancelled, when
-/// nothing in it was changed, and when the parent goes while the dialog is open.
+/// Opens a modal font dialog with the window title `title` and returns the chosen font with its
+/// size in points. Returns `initial` if the user cancels the dialog or changes nothing, and if the
+/// parent is deleted while the dialog is open. `parent` may be null.
 ///
-/// The dialog shows whole points. Who keeps fonts in pixels passes the pixels as points and takes
-/// the points of the result as pixels.
+/// The dialog shows integer point sizes. A caller with sizes in pixels passes the pixels as points
+/// and reads the points of the result as pixels.
+///
+/// @since 0.1
 ORVUTILS_EXPORT QFont getFontrByDialog(const QFont &initial, QWidget *parent, const QString &title);

@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
-/// The languages that the person prefers for texts according to the system, the most preferred
-/// first and each once, in the system's own forms ("zh-Hans-CN", "en_US", "de").
+/// Returns the user's preferred languages for texts from the system settings, the most preferred
+/// first, without duplicates, in the system's own form ("zh-Hans-CN", "en_US", "de").
+///
+/// @since 0.1
 ORVUTILS_EXPORT QStringList getPreferredLanguages();
