@@ -4,10 +4,10 @@
 
 namespace {
 
-constexpr int sBlock = 16;           // small, so that small files have several
-constexpr size_t sMaxForSubsets = 8; // of more changes, only telling selections are tried
+constexpr int sBlock = 16;           // small, so that even small files have several blocks
+constexpr size_t sMaxForSubsets = 8; // with more changes only some of the subsets are tried
 
-/// The selections of `count` changes that are tried: bit i stands for change i.
+/// Returns the subsets of `count` changes that are tried, as bit sets: bit i is change i.
 std::vector<quint64> selections(size_t count)
 {
     std::vector<quint64> result;

@@ -8,30 +8,30 @@
 #include <map>
 #include <vector>
 
-/// What a folder could hold after a loss of power. The model listens to the calls that a program
-/// makes, and knows which of their effects were forced onto the disk; of the others any part may
-/// have arrived: of a file's content every cut and every block by itself, of the folder's names the
-/// earlier ones before the later ones.
+/// Computes the possible contents of a folder after a loss of power. The model is told the file
+/// system calls of a program and knows which of their effects have been synced to the disk. Any
+/// part of the other effects may have reached the disk: every truncation and every block of a file
+/// independently of each other, and changes of the folder's entries in their order.
 class DiskModel
 {
 public:
     using Content = QByteArray;
-    using Folder = std::map<QByteArray, Content>; // by the names in it
+    using Folder = std::map<QByteArray, Content>; // contents by file name
 
-    /// A disk that holds `folder`, watched at the absolute path `path`.
+    /// Creates a model of a disk with the folder `path` (absolute), which contains `folder`.
     DiskModel(const QByteArray &path, const Folder &folder);
 
-    /// Takes note of a call that succeeds.
+    /// Records a successful call.
     void note(const Faults::Call &call);
 
-    /// Hands every folder that a loss of power could leave now to `check`.
+    /// Calls `check` with every possible content of the folder after a loss of power now.
     void eachLoss(const std::function<void(const Folder &)> &check) const;
 
-    /// The folder as programs see it, when the power stays.
+    /// Returns the content of the folder as programs see it without a loss of power.
     Folder visible() const;
 
 private:
-    /// A change of one file's content: a cut to `offset`, or a block written there.
+    /// A change of one file's content: a truncation to `offset`, or a block written there.
     struct Change
     {
         bool isCut;
@@ -43,7 +43,7 @@ private:
         Content onDisk;
         std::vector<Change> pending;
     };
-    using Names = std::map<QByteArray, int>; // number of the file by its name
+    using Names = std::map<QByteArray, int>; // index into mFiles by file name
     using NameChange = std::function<void(Names &)>;
 
     QByteArray nameOf(const QByteArray &path) const;

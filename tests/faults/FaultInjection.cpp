@@ -15,7 +15,7 @@ namespace {
 
 thread_local Scope *tScope = nullptr;
 
-/// The definition that would have been called without us.
+/// Returns the definition that would be called without this file.
 template<class Function> Function next(const char *name)
 {
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
@@ -33,7 +33,7 @@ QByteArray absolute(const char *path)
 
 } // namespace
 
-/// Lets calls through to a scope's hook.
+/// Passes calls to the hook of the current scope.
 struct Gate
 {
     static bool watches(const QByteArray &path)
@@ -52,7 +52,7 @@ struct Gate
 
     static bool isOpen() { return tScope && !tScope->mBusy; }
 
-    /// Makes a call on a path; `proceed` makes the real one.
+    /// Handles a call on a path; `proceed` makes the real call.
     template<class Proceed> static int onPath(Call call, Proceed proceed)
     {
         if (!isOpen() || !watches(call.path))
@@ -70,7 +70,7 @@ struct Gate
         return result;
     }
 
-    /// Makes a call on a descriptor; `proceed` makes the real one, of that many bytes.
+    /// Handles a call on a descriptor; `proceed` makes the real call with that number of bytes.
     template<class Proceed> static ssize_t onDescriptor(int descriptor, Call call, Proceed proceed)
     {
         if (!isOpen() || !tScope->mOpened.count(descriptor))

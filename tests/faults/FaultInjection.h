@@ -5,32 +5,32 @@
 #include <functional>
 #include <map>
 
-/// Stands between the test program and the operating system: the program defines the C library's
-/// file functions itself, and definitions of the program come before those of any library, so Qt's
-/// calls arrive here as well as ours.
+/// Intercepts the file system calls of the test program: the program defines the C library's file
+/// functions itself, and definitions of the program take precedence over those of all libraries, so
+/// calls by Qt are intercepted too.
 namespace Faults {
 
 enum class Kind { Open, Read, Write, Truncate, Sync, Rename, Unlink, Close };
 
-/// One call that is about to be made, on a path under the watched folder.
+/// A call on a path in the watched folder, before it is made.
 struct Call
 {
     Kind kind;
-    QByteArray path;            ///< absolute, also for calls on descriptors
-    QByteArray newPath;         ///< of Rename
-    int flags = 0;              ///< of Open
-    qint64 offset = 0;          ///< of Write, where in the file; of Truncate, the new length
-    const char *data = nullptr; ///< of Write
-    qint64 size = 0;            ///< of Read and Write, in bytes
+    QByteArray path;            ///< absolute, even for calls on descriptors
+    QByteArray newPath;         ///< for Rename
+    int flags = 0;              ///< for Open
+    qint64 offset = 0;          ///< for Write the position in the file, for Truncate the new length
+    const char *data = nullptr; ///< for Write
+    qint64 size = 0;            ///< for Read and Write, in bytes
 };
 
-/// What becomes of a call.
+/// How a call is handled.
 struct Answer
 {
     enum Action { Proceed, Fail, Partly, PartlyThenDie, Skip };
     Action action = Proceed;
-    int error = 0;   ///< of Fail: errno. A failing close closes all the same
-    qint64 size = 0; ///< of Partly and PartlyThenDie: how many bytes are read or written
+    int error = 0;   ///< for Fail: errno. A close that fails still closes the descriptor
+    qint64 size = 0; ///< for Partly and PartlyThenDie: the number of bytes to read or write
 };
 
 inline Answer proceed()
@@ -45,30 +45,30 @@ inline Answer partly(qint64 size)
 {
     return {Answer::Partly, 0, size};
 }
-/// Writes `size` bytes and ends the process.
+/// Writes `size` bytes and exits the process.
 inline Answer partlyThenDie(qint64 size)
 {
     return {Answer::PartlyThenDie, 0, size};
 }
-/// Reports success and does nothing.
+/// Reports success without making the call.
 inline Answer skip()
 {
     return {Answer::Skip, 0, 0};
 }
 
-/// What a process exits with that died by injection.
+/// Exit code of a process that the injection has ended.
 constexpr int sDeathCode = 99;
 
 using Hook = std::function<Answer(const Call &)>;
 
-/// Lets everything through, but does not wait for the disk: for what is done thousands of times.
+/// A hook that makes all calls except syncs: for tests with thousands of saves.
 inline Answer withoutWaiting(const Call &call)
 {
     return call.kind == Kind::Sync ? skip() : proceed();
 }
 
-/// Asks `hook` about every call of this thread on `folder` and what lies in it, while it lives.
-/// Calls that the hook itself makes are not asked about.
+/// During its lifetime, calls `hook` for every call of this thread on `folder` and its files,
+/// except for calls that the hook itself makes.
 class Scope
 {
 public:

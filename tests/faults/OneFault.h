@@ -6,8 +6,8 @@
 
 #include <cerrno>
 
-/// A call that goes wrong: the `nth` one (from 0) of `kind` on a path that ends with `suffix`, and
-/// with `lasting` all such calls after it.
+/// A failing call: the `nth` call (from 0) of `kind` on a path that ends with `suffix`; with
+/// `lasting`, all such calls after it fail too.
 struct OneFault
 {
     Faults::Kind kind = Faults::Kind::Open;
@@ -16,7 +16,7 @@ struct OneFault
     Faults::Answer answer;
     bool lasting = true;
 
-    /// A hook that injects this fault.
+    /// Returns a hook that injects this fault.
     Faults::Hook hook() const
     {
         return [fault = *this, count = 0](const Faults::Call &call) mutable {
@@ -30,19 +30,19 @@ struct OneFault
 };
 Q_DECLARE_METATYPE(OneFault)
 
-/// A fault of the file functions that lasts.
+/// Returns a lasting fault with this errno.
 inline OneFault failing(Faults::Kind kind, const char *suffix, int nth, int error)
 {
     return {kind, suffix, nth, Faults::fail(error), true};
 }
 
-/// A call that a signal interrupts once.
+/// Returns the fault of a call that is interrupted once by a signal.
 inline OneFault interrupted(Faults::Kind kind, const char *suffix, int nth = 0)
 {
     return {kind, suffix, nth, Faults::fail(EINTR), false};
 }
 
-/// A disk with room for `bytes` more bytes, whatever is removed meanwhile.
+/// Returns a hook for a disk with space for `bytes` more bytes. Removing files frees no space.
 inline Faults::Hook fullDisk(qint64 bytes)
 {
     return [left = bytes](const Faults::Call &call) mutable {

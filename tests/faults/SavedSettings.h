@@ -9,8 +9,8 @@
 #include <QFile>
 #include <QJsonObject>
 
-/// Two settings of a host, the store that owns them, and their local file in a folder of its own.
-/// What they hold is told by one number: setting `n` is stamped `n` hundred seconds.
+/// Two settings of a host, their store, and their local file in a separate folder. One number `n`
+/// determines both values and their timestamp, which is `n` hundred seconds.
 class SavedSettings
 {
 public:
@@ -26,7 +26,7 @@ public:
         store.reserveConf("text", &text);
     }
 
-    /// Makes the settings hold what number `n` (1 to 9) stands for.
+    /// Sets both settings to the values for number `n` (1 to 9).
     void change(int n)
     {
         const QDateTime time = QDateTime::fromSecsSinceEpoch(n * 100, Qt::UTC);
@@ -36,7 +36,7 @@ public:
         store.mConfMetas["text"].lastChangeTime = time;
     }
 
-    /// The number that the variables stand for; 0 for the defaults, -1 for a mixture.
+    /// Returns the number of the current values: 0 for the defaults, -1 for a mixture.
     int number() const
     {
         if (size == 0 && text == "none")
@@ -44,7 +44,7 @@ public:
         return text == QString("text %1").arg(size) ? size : -1;
     }
 
-    /// The local file's text for number `n`.
+    /// Returns the text of the local file for number `n`.
     static QByteArray fileText(int n)
     {
         return QByteArray("{\"size\":{\"t\":N00,\"v\":N},\"text\":{\"t\":N00,\"v\":\"text N\"}}")
@@ -63,7 +63,7 @@ public:
         return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
     }
 
-    /// What a save of this file says.
+    /// Returns the message that a successful save logs.
     static QString saved()
     {
         return "ConfStorage::saveToLocalConfFile() save to file:  \"box/local.json\"";
@@ -78,7 +78,8 @@ public:
                "\"box/local.json.save-journal\"";
     }
 
-    /// The number that the next run of the host finds, with or without the switch.
+    /// Loads the file as the next run of the host does, with and without `mSafeSave`, and returns
+    /// the number of the loaded values.
     static int nextRun()
     {
         const LogCapture log;
@@ -87,14 +88,14 @@ public:
         return settings.number();
     }
 
-    /// Saves while the calls for it are asked about.
+    /// Saves while `hook` handles the file system calls.
     void saveUnder(const Faults::Hook &hook)
     {
         const Faults::Scope faults(folder(), hook);
         store.saveToLocalConfFile();
     }
 
-    /// An empty folder for the file.
+    /// Creates an empty folder for the file.
     static void makeFolder()
     {
         QDir("box").removeRecursively();

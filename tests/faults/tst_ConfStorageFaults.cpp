@@ -10,7 +10,7 @@
 
 using namespace Faults;
 
-/// Saves and loads of the local file while the system fails.
+/// Saving and loading the local file with errors of the operating system.
 class tst_ConfStorageFaults : public QObject
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ private Q_SLOTS:
 
     void callsOfASave_data();
     void callsOfASave();
-    void saveReportsOnlyWhatOpeningShows_data();
-    void saveReportsOnlyWhatOpeningShows();
-    void fullDiskCutsTheFileAtEveryByte();
+    void plainSaveReportsOnlyErrorsOfOpening_data();
+    void plainSaveReportsOnlyErrorsOfOpening();
+    void plainSaveOnAFullDiskTruncatesTheFile();
     void readOnlyFolder_data();
     void readOnlyFolder();
     void fileSizeLimit_data();
@@ -34,8 +34,8 @@ private Q_SLOTS:
     void failedLoadIsAnEmptyConfiguration();
     void specialFiles_data();
     void specialFiles();
-    void danglingLinkIsSavedThrough_data();
-    void danglingLinkIsSavedThrough();
+    void saveCreatesTheTargetOfADanglingLink_data();
+    void saveCreatesTheTargetOfADanglingLink();
 };
 
 void tst_ConfStorageFaults::callsOfASave_data()
@@ -70,8 +70,8 @@ void tst_ConfStorageFaults::callsOfASave()
             const QString name = QString::fromUtf8(call.path);
             const int last = qMax(name.lastIndexOf('.'), name.lastIndexOf('/'));
             const QString text = names.value(call.kind) + " " + name.mid(last + 1);
-            // An earlier journal that was never finished is looked for, and reading goes on to the
-            // end, in as many calls as Qt likes.
+            // The save tries to remove an unfinished journal, and Qt may read to the end of the
+            // file in any number of calls.
             if (text != "unlink new" && (made.isEmpty() || made.last() != text))
                 made.append(text);
             return proceed();
@@ -82,7 +82,7 @@ void tst_ConfStorageFaults::callsOfASave()
     QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
 }
 
-void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows_data()
+void tst_ConfStorageFaults::plainSaveReportsOnlyErrorsOfOpening_data()
 {
     QTest::addColumn<OneFault>("fault");
     QTest::addColumn<QString>("message");
@@ -94,7 +94,7 @@ void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows_data()
         << failing(Kind::Open, ".json", 0, EACCES) << SavedSettings::openFailed() << true << before;
     QTest::newRow("read-only file system")
         << failing(Kind::Open, ".json", 0, EROFS) << SavedSettings::openFailed() << true << before;
-    QTest::newRow("no descriptor left")
+    QTest::newRow("no file descriptor left")
         << failing(Kind::Open, ".json", 0, EMFILE) << SavedSettings::openFailed() << true << before;
     QTest::newRow("disk error at opening")
         << failing(Kind::Open, ".json", 0, EIO) << SavedSettings::openFailed() << true << before;
@@ -112,7 +112,7 @@ void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows_data()
         << failing(Kind::Close, ".json", 0, EIO) << SavedSettings::saved() << false << after;
 }
 
-void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows()
+void tst_ConfStorageFaults::plainSaveReportsOnlyErrorsOfOpening()
 {
     QFETCH(OneFault, fault);
     QFETCH(QString, message);
@@ -132,7 +132,7 @@ void tst_ConfStorageFaults::saveReportsOnlyWhatOpeningShows()
     QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
 }
 
-void tst_ConfStorageFaults::fullDiskCutsTheFileAtEveryByte()
+void tst_ConfStorageFaults::plainSaveOnAFullDiskTruncatesTheFile()
 {
     const QByteArray whole = SavedSettings::fileText(2);
     for (int space = 0; space <= whole.size(); ++space) {
@@ -151,7 +151,7 @@ void tst_ConfStorageFaults::fullDiskCutsTheFileAtEveryByte()
         QCOMPARE(next.number(), space == whole.size() ? 2 : 0);
         QVERIFY(log.messages().isEmpty());
     }
-    qInfo("room for each of 0 to %d bytes", whole.size());
+    qInfo("disk space tried: 0 to %d bytes", whole.size());
 }
 
 void tst_ConfStorageFaults::readOnlyFolder_data()
@@ -166,7 +166,7 @@ void tst_ConfStorageFaults::readOnlyFolder_data()
 void tst_ConfStorageFaults::readOnlyFolder()
 {
     if (::geteuid() != 0)
-        QSKIP("only root can become somebody else, and come back");
+        QSKIP("only root can switch to another user and back");
     QFETCH(bool, safe);
     QFETCH(QString, message);
     QFETCH(int, saved);
@@ -222,7 +222,7 @@ void tst_ConfStorageFaults::failedLoadIsAnEmptyConfiguration_data()
         QTest::newRow(name) << fault << loaded;
     };
     row("no permission", failing(Kind::Open, ".json", 0, EACCES), 0);
-    row("vanished before opening", failing(Kind::Open, ".json", 0, ENOENT), 0);
+    row("removed before opening", failing(Kind::Open, ".json", 0, ENOENT), 0);
     row("interrupted opening", interrupted(Kind::Open, ".json"), 1);
     row("disk error", failing(Kind::Read, ".json", 0, EIO), 0);
     row("disk error halfway", {Kind::Read, ".json", 0, partly(30), false}, 1);
@@ -247,7 +247,7 @@ void tst_ConfStorageFaults::failedLoadIsAnEmptyConfiguration()
         QVERIFY(!settings.store.mChanged);
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(1));
     }
-    // A file that vanishes once it is open is read all the same.
+    // A file that is removed after it was opened is still read.
     SavedSettings settings(false);
     const Scope faults(SavedSettings::folder(), [](const Call &call) {
         if (call.kind == Kind::Read)
@@ -268,13 +268,13 @@ void tst_ConfStorageFaults::specialFiles_data()
     QTest::newRow("pipe, safe") << "pipe" << true << false;
     QTest::newRow("endless device") << "/dev/zero" << false << true;
     QTest::newRow("endless device, safe") << "/dev/zero" << true << false;
-    // What is written to a device is not checked either.
+    // A plain save does not notice that a device rejects the data.
     QTest::newRow("full device") << "/dev/full" << false << true;
     QTest::newRow("full device, safe") << "/dev/full" << true << false;
     QTest::newRow("folder") << "." << false << false;
     QTest::newRow("folder, safe") << "." << true << false;
-    QTest::newRow("circle of links") << "local.json" << false << false;
-    QTest::newRow("circle of links, safe") << "local.json" << true << false;
+    QTest::newRow("cyclic link") << "local.json" << false << false;
+    QTest::newRow("cyclic link, safe") << "local.json" << true << false;
 }
 
 void tst_ConfStorageFaults::specialFiles()
@@ -302,14 +302,14 @@ void tst_ConfStorageFaults::specialFiles()
     QVERIFY(QFileInfo(SavedSettings::path()).isSymLink());
 }
 
-void tst_ConfStorageFaults::danglingLinkIsSavedThrough_data()
+void tst_ConfStorageFaults::saveCreatesTheTargetOfADanglingLink_data()
 {
     QTest::addColumn<bool>("safe");
     QTest::newRow("plain") << false;
     QTest::newRow("safe") << true;
 }
 
-void tst_ConfStorageFaults::danglingLinkIsSavedThrough()
+void tst_ConfStorageFaults::saveCreatesTheTargetOfADanglingLink()
 {
     QFETCH(bool, safe);
     QVERIFY(QFile::remove(SavedSettings::path()));

@@ -11,9 +11,9 @@ using namespace Faults;
 
 namespace {
 
-/// Runs `work` in a process of its own that dies at its `nth` call (from 0) under the folder of the
-/// settings; before the call, or in the middle of it when it writes and `halfway` is set. Returns
-/// whether it died, as opposed to finishing its work.
+/// Runs `work` in a child process that is killed at its `nth` call (from 0) in the folder of the
+/// settings: before the call, or with `halfway` in the middle of a write. Returns whether the child
+/// was killed, as opposed to finishing its work.
 template<class Work> bool diesAtCall(int nth, bool halfway, Work work)
 {
     const pid_t child = ::fork();
@@ -50,14 +50,14 @@ void load()
     settings.store.loadLocalConfFile();
 }
 
-/// What the next run finds.
+/// Returns the number of the values that the next run loads.
 int nextRun()
 {
     const Scope healthy(SavedSettings::folder(), withoutWaiting);
     return SavedSettings::nextRun();
 }
 
-/// Leaves a cut file, and a journal of content 2.
+/// Leaves a truncated file, and a journal with content 2.
 void failToSave()
 {
     const LogCapture log;
@@ -70,21 +70,21 @@ void failToSave()
 
 } // namespace
 
-/// Programs that die while they save or load the local file.
+/// Programs that are killed while they save or load the local file.
 class tst_ConfStorageKills : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void safeSaveSurvivesDeathAtEveryCall_data();
     void safeSaveSurvivesDeathAtEveryCall();
-    void secondTrySurvivesDeathAtEveryCall();
+    void secondSaveSurvivesDeathAtEveryCall();
     void recoverySurvivesDeathAtEveryCall();
-    void plainSaveLeavesAFileThatLoads();
+    void plainSaveLeavesALoadableFile();
 };
 
 void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall_data()
 {
-    QTest::addColumn<int>("before"); // 0: there is no file yet
+    QTest::addColumn<int>("before"); // 0: no file exists yet
     QTest::addColumn<bool>("halfway");
     QTest::newRow("first save") << 0 << false;
     QTest::newRow("first save, halfway through a write") << 0 << true;
@@ -115,11 +115,11 @@ void tst_ConfStorageKills::safeSaveSurvivesDeathAtEveryCall()
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
         QCOMPARE(QDir("box").entryList(QDir::Files), QStringList("local.json"));
     }
-    qInfo("died at each of %d calls", calls - 1); // the last process finished its work
+    qInfo("killed at each of %d calls", calls - 1); // the last process finished its work
     QVERIFY2(calls > 15, qPrintable(QString::number(calls)));
 }
 
-void tst_ConfStorageKills::secondTrySurvivesDeathAtEveryCall()
+void tst_ConfStorageKills::secondSaveSurvivesDeathAtEveryCall()
 {
     for (const bool halfway : {false, true}) {
         int calls = 0;
@@ -132,7 +132,7 @@ void tst_ConfStorageKills::secondTrySurvivesDeathAtEveryCall()
             const int found = nextRun();
             QVERIFY2(found == 3 || (died && found == 2), qPrintable(QString::number(found)));
         }
-        qInfo("died at each of %d calls", calls - 1);
+        qInfo("killed at each of %d calls", calls - 1);
     }
 }
 
@@ -148,12 +148,12 @@ void tst_ConfStorageKills::recoverySurvivesDeathAtEveryCall()
             QCOMPARE(nextRun(), 2);
             QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
         }
-        qInfo("died at each of %d calls", calls - 1);
+        qInfo("killed at each of %d calls", calls - 1);
         QVERIFY2(calls > 10, qPrintable(QString::number(calls)));
     }
 }
 
-void tst_ConfStorageKills::plainSaveLeavesAFileThatLoads()
+void tst_ConfStorageKills::plainSaveLeavesALoadableFile()
 {
     for (const bool halfway : {false, true}) {
         int call = 0;
@@ -161,7 +161,7 @@ void tst_ConfStorageKills::plainSaveLeavesAFileThatLoads()
             SavedSettings::makeFolder();
             QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
             died = diesAtCall(call, halfway, [] { save(false, 2); });
-            // Until the switch is on, what was cut off is lost: an empty configuration.
+            // Without mSafeSave a truncated file is lost and loads as an empty configuration.
             const QByteArray content = SavedSettings::content();
             const int found = content == SavedSettings::fileText(1)   ? 1
                               : content == SavedSettings::fileText(2) ? 2

@@ -21,26 +21,26 @@ void putOnDisk(const Folder &folder)
     }
 }
 
-/// The number that a run finds in `folder`.
+/// Returns the number of the values that a run loads from `folder`.
 int numberIn(const Folder &folder)
 {
     putOnDisk(folder);
     SavedSettings settings(true);
-    // Waiting for the real disk would show nothing, and take minutes.
+    // Syncing the real disk would test nothing and take minutes.
     const Scope healthy(SavedSettings::folder(), withoutWaiting);
     settings.store.loadLocalConfFile();
     return settings.number();
 }
 
-/// Whether the call could have an effect on a disk.
+/// Returns whether the call can have an effect on the disk.
 bool matters(const Call &call)
 {
     return call.kind != Kind::Read && call.kind != Kind::Close;
 }
 
-/// Runs `work` on the folder of `disk`, which takes note of its calls. For the moment before each
-/// of them, and after the last, `pause` is called with `disk` as it was then. Calls that `ignored`
-/// skips have no effect on the disk.
+/// Runs `work` on the folder of `disk`, which records its calls. Then calls `pause` for the moment
+/// before each call and after the last one, with `disk` in its state at that moment. Calls that the
+/// hook `ignored` skips have no effect on the disk.
 void watch(
     DiskModel &disk, const std::function<void()> &work, const std::function<void()> &pause,
     Hook ignored = [](const Call &) { return proceed(); })
@@ -78,7 +78,7 @@ void load()
     settings.store.loadLocalConfFile();
 }
 
-/// How many states after a loss of power hold neither content 1 nor content 2.
+/// Returns the number of possible states after a loss of power with neither content 1 nor 2.
 int lossesOf(const DiskModel &disk)
 {
     int lost = 0;
@@ -101,25 +101,25 @@ Folder start(int number)
 
 } // namespace
 
-/// Safe saves when the power goes: what was not forced onto the disk may be there or not.
+/// Safe saves with a loss of power: any data that was not synced may be lost.
 class tst_ConfStoragePowerLoss : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void modelLosesWhatWasNotSynced();
-    void saveSurvives_data();
-    void saveSurvives();
-    void secondSaveSurvives_data();
-    void secondSaveSurvives();
-    void recoverySurvives_data();
-    void recoverySurvives();
+    void modelLosesDataThatWasNotSynced();
+    void saveSurvivesPowerLoss_data();
+    void saveSurvivesPowerLoss();
+    void secondSaveSurvivesPowerLoss_data();
+    void secondSaveSurvivesPowerLoss();
+    void recoverySurvivesPowerLoss_data();
+    void recoverySurvivesPowerLoss();
     void everySyncOfASaveIsNeeded_data();
     void everySyncOfASaveIsNeeded();
     void everySyncOfARecoveryIsNeeded_data();
     void everySyncOfARecoveryIsNeeded();
 };
 
-void tst_ConfStoragePowerLoss::modelLosesWhatWasNotSynced()
+void tst_ConfStoragePowerLoss::modelLosesDataThatWasNotSynced()
 {
     const QByteArray path = "/d";
     DiskModel disk(path, {{"a", "old"}});
@@ -135,7 +135,7 @@ void tst_ConfStoragePowerLoss::modelLosesWhatWasNotSynced()
     QCOMPARE(look(), (std::vector<Folder>{{{"a", "old"}}}));
     call(Kind::Truncate, "a", 0, {});
     call(Kind::Write, "a", 0, "ne");
-    // Nothing arrived, the cut, the text, both.
+    // Nothing has reached the disk, or the truncation, or the text, or both.
     QCOMPARE(look(),
              (std::vector<Folder>{{{"a", "old"}}, {{"a", ""}}, {{"a", "ned"}}, {{"a", "ne"}}}));
     QCOMPARE(disk.visible(), (Folder{{"a", "ne"}}));
@@ -147,14 +147,14 @@ void tst_ConfStoragePowerLoss::modelLosesWhatWasNotSynced()
     QCOMPARE(look(), (std::vector<Folder>{{}}));
 }
 
-void tst_ConfStoragePowerLoss::saveSurvives_data()
+void tst_ConfStoragePowerLoss::saveSurvivesPowerLoss_data()
 {
     QTest::addColumn<int>("before");
     QTest::newRow("first save") << 0;
     QTest::newRow("later save") << 1;
 }
 
-void tst_ConfStoragePowerLoss::saveSurvives()
+void tst_ConfStoragePowerLoss::saveSurvivesPowerLoss()
 {
     QFETCH(int, before);
     std::optional<LogCapture> log(std::in_place);
@@ -167,7 +167,7 @@ void tst_ConfStoragePowerLoss::saveSurvives()
     };
     watch(
         disk, [] { save(2); }, [&] { disk.eachLoss(check); });
-    // What was reported as saved stays saved.
+    // After the save was reported as successful, nothing is lost.
     disk.eachLoss([&](const Folder &folder) {
         QCOMPARE(numberIn(folder), 2);
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
@@ -177,14 +177,14 @@ void tst_ConfStoragePowerLoss::saveSurvives()
     QVERIFY2(losses > 100, qPrintable(QString::number(losses)));
 }
 
-void tst_ConfStoragePowerLoss::secondSaveSurvives_data()
+void tst_ConfStoragePowerLoss::secondSaveSurvivesPowerLoss_data()
 {
     QTest::addColumn<int>("second");
     QTest::newRow("to new content") << 3;
     QTest::newRow("back to the first content") << 1;
 }
 
-void tst_ConfStoragePowerLoss::secondSaveSurvives()
+void tst_ConfStoragePowerLoss::secondSaveSurvivesPowerLoss()
 {
     QFETCH(int, second);
     const LogCapture log;
@@ -200,14 +200,14 @@ void tst_ConfStoragePowerLoss::secondSaveSurvives()
     disk.eachLoss([&](const Folder &folder) { QCOMPARE(numberIn(folder), second); });
 }
 
-void tst_ConfStoragePowerLoss::recoverySurvives_data()
+void tst_ConfStoragePowerLoss::recoverySurvivesPowerLoss_data()
 {
     QTest::addColumn<bool>("powerLost");
-    QTest::newRow("after the program died") << false;
+    QTest::newRow("after the program was killed") << false;
     QTest::newRow("after a loss of power") << true;
 }
 
-void tst_ConfStoragePowerLoss::recoverySurvives()
+void tst_ConfStoragePowerLoss::recoverySurvivesPowerLoss()
 {
     QFETCH(bool, powerLost);
     std::optional<LogCapture> log(std::in_place);
@@ -224,7 +224,7 @@ void tst_ConfStoragePowerLoss::recoverySurvives()
             QVERIFY2(found == 1 || found == 2, qPrintable(QString::number(found)));
         };
         watch(recovering, load, [&] { recovering.eachLoss(check); });
-        // What a run has shown to the host is still there after it.
+        // Values that a run has loaded are not lost after it.
         if (expected == 2)
             recovering.eachLoss([](const Folder &folder) { QCOMPARE(numberIn(folder), 2); });
     };
@@ -248,7 +248,7 @@ void tst_ConfStoragePowerLoss::everySyncOfASaveIsNeeded_data()
     QTest::addColumn<int>("nth");
     QTest::newRow("of the journal") << QByteArray(".new") << 0;
     QTest::newRow("of the folder") << QByteArray("/box") << 0;
-    QTest::newRow("of the cut") << QByteArray(".json") << 0;
+    QTest::newRow("of the truncation") << QByteArray(".json") << 0;
     QTest::newRow("of the text") << QByteArray(".json") << 1;
 }
 
@@ -269,7 +269,7 @@ void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded_data()
     QTest::addColumn<QByteArray>("suffix");
     QTest::addColumn<int>("nth");
     QTest::newRow("of the folder") << QByteArray("/box") << 0;
-    QTest::newRow("of the file that was whole, or of the cut") << QByteArray(".json") << 0;
+    QTest::newRow("of the complete file, or of the truncation") << QByteArray(".json") << 0;
     QTest::newRow("of the text") << QByteArray(".json") << 1;
 }
 
@@ -292,7 +292,7 @@ void tst_ConfStoragePowerLoss::everySyncOfARecoveryIsNeeded()
 
 int main(int argc, char **argv)
 {
-    // A real disk under the model would only be waited for.
+    // The model replaces the disk, so the files can be in memory, which is faster.
     if (qEnvironmentVariableIsEmpty("TMPDIR") && QFileInfo("/dev/shm").isWritable())
         qputenv("TMPDIR", "/dev/shm");
     return runTest<tst_ConfStoragePowerLoss>(argc, argv);

@@ -12,7 +12,7 @@
 
 using namespace Faults;
 
-/// Loads of the configuration file while the system fails.
+/// Loading the configuration file with errors of the operating system.
 class tst_ConfigFileFaults : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ private Q_SLOTS:
     }
     void cleanup() { clearStore(); }
 
-    void failedLoadLeavesEverything_data();
-    void failedLoadLeavesEverything();
+    void failedLoadChangesNothing_data();
+    void failedLoadChangesNothing();
     void specialFilesCannotBeOpened_data();
     void specialFilesCannotBeOpened();
 
@@ -38,7 +38,7 @@ private:
     static QString openFailed() { return "can't open config file \"box/conf.json\""; }
 };
 
-void tst_ConfigFileFaults::failedLoadLeavesEverything_data()
+void tst_ConfigFileFaults::failedLoadChangesNothing_data()
 {
     QTest::addColumn<OneFault>("fault");
     QTest::addColumn<bool>("loaded");
@@ -48,7 +48,7 @@ void tst_ConfigFileFaults::failedLoadLeavesEverything_data()
         QTest::newRow(name) << fault << loaded << message;
     };
     row("no permission", {Kind::Open, "conf.json", 0, fail(EACCES)}, false, openFailed());
-    row("vanished after it was looked for", {Kind::Open, "conf.json", 0, fail(ENOENT)}, false,
+    row("removed after it was found", {Kind::Open, "conf.json", 0, fail(ENOENT)}, false,
         openFailed());
     row("disk error at opening", {Kind::Open, "conf.json", 0, fail(EIO)}, false, openFailed());
     row("interrupted opening", {Kind::Open, "conf.json", 0, fail(EINTR), false}, true);
@@ -58,7 +58,7 @@ void tst_ConfigFileFaults::failedLoadLeavesEverything_data()
     row("disk error at closing", {Kind::Close, "conf.json", 0, fail(EIO)}, true);
 }
 
-void tst_ConfigFileFaults::failedLoadLeavesEverything()
+void tst_ConfigFileFaults::failedLoadChangesNothing()
 {
     QFETCH(OneFault, fault);
     QFETCH(bool, loaded);

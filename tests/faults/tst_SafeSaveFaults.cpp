@@ -17,8 +17,7 @@ const QString sFileFailed =
 const QString sRecoveredInMemory = "ConfStorage::loadLocalConfFile() recovered from journal, write "
                                    "failed:  \"box/local.json\"";
 
-/// Leaves a file with content 1, and a journal that says that 2 was to come. Returns whether the
-/// journal is there.
+/// Leaves a file with content 1, and a journal for content 2. Returns whether the journal exists.
 bool interruptSave()
 {
     SavedSettings settings(true);
@@ -30,7 +29,7 @@ bool interruptSave()
 
 } // namespace
 
-/// Safe saves, and recoveries from them, while the system fails.
+/// Safe saves and their recovery with errors of the operating system.
 class tst_SafeSaveFaults : public QObject
 {
     Q_OBJECT
@@ -46,15 +45,15 @@ private Q_SLOTS:
     void fullDiskLosesNothing();
     void failedRecoveryKeepsTheJournal_data();
     void failedRecoveryKeepsTheJournal();
-    void journalIsAsReadableAsTheFile_data();
-    void journalIsAsReadableAsTheFile();
+    void journalHasThePermissionsOfTheFile_data();
+    void journalHasThePermissionsOfTheFile();
 };
 
 void tst_SafeSaveFaults::safeSaveReportsEveryFault_data()
 {
     QTest::addColumn<OneFault>("fault");
     QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("loaded"); // what a run that follows the failure finds
+    QTest::addColumn<int>("loaded"); // number of the values that the next run loads
     const auto row = [](const char *name, const OneFault &fault, const QString &message,
                         int loaded) { QTest::newRow(name) << fault << message << loaded; };
     row("no permission", failing(Kind::Open, ".json", 0, EACCES), sOpenFailed, 1);
@@ -65,21 +64,20 @@ void tst_SafeSaveFaults::safeSaveReportsEveryFault_data()
     row("disk error at the journal", failing(Kind::Write, ".new", 0, EIO), sJournalFailed, 1);
     row("interrupted writing of the journal", interrupted(Kind::Write, ".new"), sSaved, 2);
     row("journal one byte at a time", {Kind::Write, ".new", 0, partly(1)}, sSaved, 2);
-    row("journal does not reach the disk", failing(Kind::Sync, ".new", 0, EIO), sJournalFailed, 1);
+    row("journal cannot be synced", failing(Kind::Sync, ".new", 0, EIO), sJournalFailed, 1);
     row("interrupted sync of the journal", interrupted(Kind::Sync, ".new"), sSaved, 2);
     row("disk error at closing the journal", failing(Kind::Close, ".new", 0, EIO), sSaved, 2);
-    row("journal cannot be put in place", failing(Kind::Rename, ".new", 0, EACCES), sJournalFailed,
-        1);
+    row("journal cannot be renamed", failing(Kind::Rename, ".new", 0, EACCES), sJournalFailed, 1);
     row("folder cannot be opened", failing(Kind::Open, "/box", 0, EACCES), sJournalFailed, 2);
     row("interrupted opening of the folder", interrupted(Kind::Open, "/box"), sSaved, 2);
-    row("folder does not reach the disk", failing(Kind::Sync, "/box", 0, EIO), sJournalFailed, 2);
-    row("folders cannot be synced", failing(Kind::Sync, "/box", 0, EINVAL), sSaved, 2);
-    row("file cannot be cut", failing(Kind::Truncate, ".json", 0, EIO), sFileFailed, 2);
-    row("cut does not reach the disk", failing(Kind::Sync, ".json", 0, EIO), sFileFailed, 2);
+    row("disk error at syncing the folder", failing(Kind::Sync, "/box", 0, EIO), sJournalFailed, 2);
+    row("syncing folders is not supported", failing(Kind::Sync, "/box", 0, EINVAL), sSaved, 2);
+    row("file cannot be truncated", failing(Kind::Truncate, ".json", 0, EIO), sFileFailed, 2);
+    row("truncation cannot be synced", failing(Kind::Sync, ".json", 0, EIO), sFileFailed, 2);
     row("disk error at writing", failing(Kind::Write, ".json", 0, EIO), sFileFailed, 2);
     row("interrupted writing", interrupted(Kind::Write, ".json"), sSaved, 2);
     row("one byte at a time", {Kind::Write, ".json", 0, partly(1)}, sSaved, 2);
-    row("text does not reach the disk", failing(Kind::Sync, ".json", 1, EIO), sFileFailed, 2);
+    row("text cannot be synced", failing(Kind::Sync, ".json", 1, EIO), sFileFailed, 2);
     row("interrupted sync", interrupted(Kind::Sync, ".json", 1), sSaved, 2);
     row("journal cannot be removed", failing(Kind::Unlink, ".save-journal", 0, EACCES), sSaved, 2);
     row("disk error at closing", failing(Kind::Close, ".json", 0, EIO), sSaved, 2);
@@ -131,9 +129,9 @@ void tst_SafeSaveFaults::fullDiskLosesNothing()
             QCOMPARE(settings.store.mChanged, !whole);
             if (!journalled)
                 QCOMPARE(SavedSettings::content(), SavedSettings::fileText(1));
-            // Another try on the full disk does no harm.
+            // A second save on the full disk loses nothing either.
             settings.store.saveToLocalConfFile();
-            // Nor does a run that finds the disk still full.
+            // Neither does the next run while the disk is still full.
             QCOMPARE(SavedSettings::nextRun(), journalled ? 2 : 1);
         }
         QCOMPARE(settings.number(), 2);
@@ -144,7 +142,7 @@ void tst_SafeSaveFaults::fullDiskLosesNothing()
         QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
         QCOMPARE(QDir("box").entryList(QDir::Files), QStringList("local.json"));
     }
-    qInfo("room for each of 0 to %d bytes", journalSize + fileSize);
+    qInfo("disk space tried: 0 to %d bytes", journalSize + fileSize);
 }
 
 void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal_data()
@@ -161,12 +159,11 @@ void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal_data()
     row("file cannot be opened", failing(Kind::Open, ".json", 0, EACCES), 2, sRecoveredInMemory);
     row("file cannot be opened again", failing(Kind::Open, ".json", 1, EACCES), 2,
         sRecoveredInMemory);
-    row("file cannot be cut", failing(Kind::Truncate, ".json", 0, EIO), 2, sRecoveredInMemory);
+    row("file cannot be truncated", failing(Kind::Truncate, ".json", 0, EIO), 2,
+        sRecoveredInMemory);
     row("disk error at writing", failing(Kind::Write, ".json", 0, EIO), 2, sRecoveredInMemory);
-    row("text does not reach the disk", failing(Kind::Sync, ".json", 1, EIO), 2,
-        sRecoveredInMemory);
-    row("folder does not reach the disk", failing(Kind::Sync, "/box", 0, EIO), 2,
-        sRecoveredInMemory);
+    row("text cannot be synced", failing(Kind::Sync, ".json", 1, EIO), 2, sRecoveredInMemory);
+    row("folder cannot be synced", failing(Kind::Sync, "/box", 0, EIO), 2, sRecoveredInMemory);
 }
 
 void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal()
@@ -190,15 +187,15 @@ void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal()
     QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
 }
 
-void tst_SafeSaveFaults::journalIsAsReadableAsTheFile_data()
+void tst_SafeSaveFaults::journalHasThePermissionsOfTheFile_data()
 {
     QTest::addColumn<int>("mode");
     QTest::newRow("private") << 0600;
     QTest::newRow("shared with a group") << 0660;
-    QTest::newRow("read by all") << 0644;
+    QTest::newRow("readable by all") << 0644;
 }
 
-void tst_SafeSaveFaults::journalIsAsReadableAsTheFile()
+void tst_SafeSaveFaults::journalHasThePermissionsOfTheFile()
 {
     QFETCH(int, mode);
     QCOMPARE(::chmod(qPrintable(SavedSettings::path()), mode_t(mode)), 0);
