@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Turns the bytes of an input into decisions. At the end of the input every decision is the first.
+/// Converts the bytes of an input into choices. After the end of the input every byte is 0.
 class ByteReader
 {
 public:
@@ -16,9 +16,9 @@ public:
     int below(int count) { return byte() % count; }
     bool flag() { return byte() & 1; }
     QString oneOf(const QStringList &choices) { return choices.at(below(choices.size())); }
-    /// Up to `most` bytes as UTF-8, broken sequences and all.
+    /// Returns up to `most` bytes as UTF-8, including invalid sequences.
     QString text(int most);
-    /// Any JSON, nested at most `depth` deep.
+    /// Returns any JSON value, nested at most `depth` deep.
     QJsonValue json(int depth);
     QByteArray rest();
 

@@ -20,7 +20,7 @@ void startFuzzing()
     static int sCount = 1;
     static char sName[] = "fuzz";
     static char *sArguments[] = {sName, nullptr};
-    // Never destroyed: the fuzzer leaves by exit() from within a run.
+    // Never destroyed: the fuzzer calls exit() during a run.
     new QApplication(sCount, sArguments);
 }
 
@@ -28,7 +28,7 @@ void expect(bool holds, const char *what, const QByteArray &found, const QByteAr
 {
     if (holds)
         return;
-    std::fprintf(stderr, "does not hold: %s\nfound:    %s\nexpected: %s\n", what, found.constData(),
+    std::fprintf(stderr, "failed: %s\nfound:    %s\nexpected: %s\n", what, found.constData(),
                  expected.constData());
     std::abort();
 }
@@ -41,7 +41,7 @@ bool isReadBack(const QKeySequence &keys)
 QString scratchFolder()
 {
     static const QTemporaryDir sFolder;
-    expect(sFolder.isValid(), "a scratch folder can be made");
+    expect(sFolder.isValid(), "a scratch folder can be created");
     return sFolder.path();
 }
 

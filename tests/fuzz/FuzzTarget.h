@@ -7,32 +7,34 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The target: called with one input after the other, by the fuzzer or by the replay.
+/// The fuzz target. The fuzzer or the replay calls it with one input after the other.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// Once per process: an application on the offscreen platform, the C locale, and a silent log.
+/// Creates an application on the offscreen platform, with the C locale and without log output. Does
+/// nothing when called again.
 void startFuzzing();
 
-/// Ends the process, after printing the rest, when something does not hold.
+/// If `holds` is false, prints the other arguments and aborts the process.
 void expect(bool holds, const char *what, const QByteArray &found = QByteArray(),
             const QByteArray &expected = QByteArray());
 
-/// A folder of this process alone, in the system's one for temporary files.
+/// Returns a temporary folder of this process.
 QString scratchFolder();
 
-/// Makes the file hold `content`.
+/// Replaces the content of a file.
 void writeScratchFile(const QString &path, const QByteArray &content);
 
-/// Whether Qt reads what it writes of a hotkey; it does not of keys without a name, for one.
+/// Returns whether Qt can parse its own text for `keys`. It cannot for keys without a name, for
+/// example.
 bool isReadBack(const QKeySequence &keys);
 
-/// `data` as bytes, without a copy.
+/// Returns `data` as a byte array without copying it.
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
 {
     return QByteArray::fromRawData(reinterpret_cast<const char *>(data), static_cast<int>(size));
 }
 
-/// `data` as text in UTF-8, to its end: QString::fromUtf8(QByteArray) stops at a zero byte.
+/// Returns all of `data` as UTF-8 text. QString::fromUtf8(QByteArray) would stop at a zero byte.
 inline QString textOf(const std::uint8_t *data, std::size_t size)
 {
     return QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));

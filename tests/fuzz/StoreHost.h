@@ -10,7 +10,7 @@
 #include <variant>
 #include <vector>
 
-/// What a host declares: enough to declare it again in another store.
+/// The declarations of a host, which can be repeated in another store.
 struct StoreDeclarations
 {
     struct Setting
@@ -23,14 +23,14 @@ struct StoreDeclarations
     {
         QString prefix;
         quint32 flags;
-        bool reserves; ///< the creator does its work
+        bool reserves; ///< whether the creator reserves the key
     };
     std::vector<Setting> settings;
     std::vector<Family> families;
     QMap<QString, QJsonValue> presets;
 };
 
-/// A host of its own store, with a variable for each setting and for each dynamic key.
+/// A host with its own store, and a variable for each setting and each dynamic key.
 class StoreHost
 {
 public:
@@ -41,17 +41,17 @@ public:
     explicit StoreHost(const StoreDeclarations &declarations);
     Q_DISABLE_COPY(StoreHost)
 
-    /// The local file's text.
+    /// Returns the text of the local file.
     QByteArray dump() const;
-    /// What the variables of the settings hold now, by key.
+    /// Returns the current values of the settings' variables, by key.
     std::map<QString, Variable> variables() const;
-    /// The JSON of every value in the store.
+    /// Returns the JSON of every value in the store.
     QJsonObject values() const;
     bool isDeclared(const QString &key) const;
 
     ConfStorage store;
-    QMap<QString, int> calls;              ///< how often each key's callback was called
-    std::function<void(QString)> onChange; ///< called by each of them
+    QMap<QString, int> calls;              ///< number of callback calls, by key
+    std::function<void(QString)> onChange; ///< called by every callback
 
 private:
     void install(const QString &key);
@@ -62,7 +62,7 @@ private:
     std::vector<ConfStorage::DynamicConfClass> mClasses;
 };
 
-/// Loads `text` into hosts with these declarations and holds what comes of it against what loading
-/// promises.
+/// Loads `document` into hosts with these declarations and checks the documented properties of
+/// loading.
 void checkLoading(const StoreDeclarations &declarations, const QJsonObject &document,
                   ConfStorage::LoadConfType type);

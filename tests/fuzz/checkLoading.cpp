@@ -11,7 +11,7 @@ QByteArray jsonText(const QJsonObject &object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-/// The key that a member of a configuration is meant for; null for another system's.
+/// Returns the key of a member of a configuration, or null if it belongs to another system.
 QString storeKey(const QString &member)
 {
     const int mark = member.lastIndexOf('#');
@@ -45,7 +45,7 @@ void expectDeclaredKeysOnly(const StoreHost &host)
         expect(host.isDeclared(it.key()), "no unknown key has a record", it.key().toUtf8());
     const auto &removed = host.store.mRemovedDynamicConfs;
     for (auto it = removed.begin(); it != removed.end(); ++it)
-        expect(host.isDeclared(it.key()), "no unknown key counts as removed", it.key().toUtf8());
+        expect(host.isDeclared(it.key()), "no unknown key has a tombstone", it.key().toUtf8());
 }
 
 void expectNamedVariablesOnly(const std::map<QString, StoreHost::Variable> &before,
@@ -57,15 +57,16 @@ void expectNamedVariablesOnly(const std::map<QString, StoreHost::Variable> &befo
     for (const auto &[key, variable] : after) {
         if (variable == before.at(key))
             continue;
-        expect(named.contains(key), "a variable changes under its key only", key.toUtf8());
-        // Of dynamic keys the class says whether they are local, not the record.
+        expect(named.contains(key), "a variable changes only if its key is loaded", key.toUtf8());
+        // For dynamic keys the class decides whether they are local, not the record.
         const bool local = host.store.mConfMetas.value(key).flags & ConfStorage::FlagLocalOnly;
         expect(!local || host.store.findDynamicConfClass(key) || type == ConfStorage::LoadLocal,
-               "a local setting stays local", key.toUtf8());
+               "a shared load does not change local-only settings", key.toUtf8());
     }
 }
 
-/// JSON null makes a dynamic key with an empty object, and empties it when it is there.
+/// Ignores values that are null: JSON null creates a missing dynamic key with an empty object, but
+/// unbinds an existing one.
 void expectSameValues(const QJsonObject &found, const QJsonObject &expected)
 {
     for (auto it = found.begin(); it != found.end(); ++it)
@@ -76,11 +77,11 @@ void expectSameValues(const QJsonObject &found, const QJsonObject &expected)
 void expectNothingFromLoadingAgain(StoreHost &host, const QJsonObject &document,
                                    ConfStorage::LoadConfType type)
 {
-    // An entry without a time is a change made now, each time that it is loaded: then only the
-    // values stay.
+    // An entry without a timestamp is a new change each time it is loaded. Then only the values
+    // must be the same.
     const bool timed = everyEntryHasItsTime(document);
-    // Of two members that name one key the second may see what the first made, and the first,
-    // loaded again, what the second made. No dump holds two.
+    // If two members have the same key, the result of the first may depend on the second when they
+    // are loaded again. A dump never contains two.
     if (namedKeys(document).size() != document.size())
         return;
     const QByteArray dumped = host.dump();
@@ -102,24 +103,24 @@ bool isReadBack(const ConfValue &value)
     return value.mType != ConfValue::TyQKeySequence || ::isReadBack(value.get<QKeySequence>());
 }
 
-/// What of a dump `other`, declared in the same way, can take over.
+/// Returns the part of the dump that `other`, with the same declarations, can load.
 QJsonObject portablePart(const StoreHost &host, const StoreHost &other)
 {
-    // As the file has it: JSON numbers there know no negative zero.
+    // Convert to text and back, as a file does: JSON text has no negative zero.
     QJsonObject dump = QJsonDocument::fromJson(host.dump()).object();
     const ConfStorage &store = host.store;
     for (auto it = store.mConfValues.begin(); it != store.mConfValues.end(); ++it) {
         const bool isDynamic = store.findDynamicConfClass(it.key());
-        // A dynamic key without a preset that was restored has no value left to create it from. One
-        // that JSON null emptied is created with an empty object, and one that was set to just its
-        // preset is created as the preset.
+        // Dynamic keys that another store creates differently: a restored one without a preset is
+        // dumped without a value, one unbound by JSON null is created with an empty object, and one
+        // set to exactly its preset is created as the preset.
         const ConfStorage::ConfMeta meta = store.mConfMetas.value(it.key());
         const bool isDefault = meta.flags & ConfStorage::FlagIsDefault;
         const bool isPreset = store.mPresetDynamicConfs.contains(it.key());
         const bool isLost = isDefault ? !isPreset : isPreset && *it == meta.defaultValue;
         const bool isEmpty = it->mType == ConfValue::TyNone;
-        // A setting among the keys of a dynamic class that was removed and created again is an
-        // object, and has the flags of the class.
+        // An ordinary setting with the prefix of a dynamic class, if removed and created again, is
+        // an object with the flags of the class.
         const auto declared = other.store.mConfValues.constFind(it.key());
         const quint32 declaredFlags = other.store.mConfMetas.value(it.key()).flags;
         const bool isReplaced = declared != other.store.mConfValues.constEnd()
@@ -134,7 +135,8 @@ QJsonObject portablePart(const StoreHost &host, const StoreHost &other)
     return dump;
 }
 
-/// "#" in a key is the store's, and text that is no Unicode has no form in a file.
+/// Returns whether a key contains "#", which the store reserves, or text that is not valid Unicode,
+/// which a file cannot contain.
 bool hasKeysThatFilesCannotName(const StoreHost &host)
 {
     const QStringList keys = host.store.mConfValues.keys() + host.store.mRemovedDynamicConfs.keys();
@@ -150,7 +152,8 @@ void checkLoading(const StoreDeclarations &declarations, const QJsonObject &docu
 {
     StoreHost host(declarations);
     const auto before = host.variables();
-    expect(host.store.loadConf(document, type) == document.size(), "loading counts the members");
+    expect(host.store.loadConf(document, type) == document.size(),
+           "loading returns the number of members");
     expectDeclaredKeysOnly(host);
     expectNamedVariablesOnly(before, host, document, type);
     expectNothingFromLoadingAgain(host, document, type);
@@ -160,8 +163,8 @@ void checkLoading(const StoreDeclarations &declarations, const QJsonObject &docu
     StoreHost other(declarations);
     const QJsonObject portable = portablePart(host, other);
     expect(other.store.loadConf(QString::fromUtf8(jsonText(portable)), ConfStorage::LoadLocal),
-           "what was dumped can be read", jsonText(portable));
+           "a dump can be loaded", jsonText(portable));
     const QByteArray again = jsonText(QJsonDocument::fromJson(other.dump()).object());
-    expect(again == jsonText(portable), "a dump loaded and dumped again is the same", again,
+    expect(again == jsonText(portable), "a dump is the same after loading and dumping", again,
            jsonText(portable));
 }

@@ -1,4 +1,4 @@
-// One value from JSON: the first byte chooses the type, the rest is the JSON.
+// Loads one value from JSON. The first byte selects the type, the rest is the JSON text.
 #include "FuzzTarget.h"
 
 #include <MaltoConfiguration/store/ConfValue.h>
@@ -14,13 +14,13 @@ QByteArray text(const QJsonValue &value)
     return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
 }
 
-/// As a file gives it back.
+/// Returns the value after writing it to JSON text and parsing it.
 QJsonValue throughText(const QJsonValue &value)
 {
     return QJsonDocument::fromJson(text(value)).array().at(0);
 }
 
-/// What is promised about the plain types: the value itself, or the type's zero.
+/// Checks the result for a plain type: the value itself, or the default value of the type.
 void expectPlainValue(const QJsonValue &json, int loaded)
 {
     const double number = json.toDouble();
@@ -34,7 +34,7 @@ void expectPlainValue(const QJsonValue &json, qreal loaded)
 }
 void expectPlainValue(const QJsonValue &json, bool loaded)
 {
-    expect(loaded == json.toBool(), "a switch is read exactly");
+    expect(loaded == json.toBool(), "a boolean is read exactly");
 }
 void expectPlainValue(const QJsonValue &json, const QString &loaded)
 {
@@ -42,16 +42,16 @@ void expectPlainValue(const QJsonValue &json, const QString &loaded)
 }
 void expectPlainValue(const QJsonValue &json, const QColor &loaded)
 {
-    expect(loaded.isValid() == (json.toString() != "None"), "only None is no colour");
+    expect(loaded.isValid() == (json.toString() != "None"), "only None is an invalid colour");
 }
 void expectPlainValue(const QJsonValue &, const QFont &loaded)
 {
     const double size = qMax<double>(loaded.pixelSize(), loaded.pointSizeF());
-    expect(size >= 0.1 && size <= 4096, "a font can be shown", loaded.toString().toUtf8());
+    expect(size >= 0.1 && size <= 4096, "a font size is in range", loaded.toString().toUtf8());
 }
 void expectPlainValue(const QJsonValue &, const QKeySequence &loaded)
 {
-    expect(loaded.count() <= 4, "a hotkey has four keys at most");
+    expect(loaded.count() <= 4, "a hotkey has at most four chords");
 }
 void expectPlainValue(const QJsonValue &json, const QJsonObject &loaded)
 {
@@ -87,7 +87,8 @@ template<class T> void check(const QJsonValue &json)
     ConfValue again = ConfValue::owned(T());
     again.loadFromJsonValue(throughText(bound.toJsonValue()));
     const QByteArray rewritten = text(throughText(again.toJsonValue()));
-    expect(rewritten == written, "a value written and read is the same", rewritten, written);
+    expect(rewritten == written, "a value is the same after writing and reading", rewritten,
+           written);
 }
 
 } // namespace
@@ -99,7 +100,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         return 0;
     const QByteArray json = bytesOf(data + 1, size - 1);
     const QJsonDocument document = QJsonDocument::fromJson('[' + json + ']');
-    // Most inputs are no JSON; then they are a text, as fonts, colours and keys are.
+    // Most inputs are not JSON. They are then loaded as strings, like fonts, colours and keys.
     const QJsonValue value = document.array().size() == 1 ? document.array().at(0)
                                                           : QJsonValue(textOf(data + 1, size - 1));
     switch (data[0] % 9) {

@@ -1,4 +1,4 @@
-// The content of a configuration file, as a person might have written it.
+// The content of a configuration file, which a user may have written by hand.
 #include "FuzzTarget.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -13,7 +13,8 @@ namespace {
 
 using Calls = QMap<QString, int>;
 
-/// A host of the process's store. Declared once; its keys are bound anew for every input.
+/// A host that uses the store of the process. Its items are declared once; their keys are reserved
+/// again for every input.
 class Host
 {
 public:
@@ -62,7 +63,7 @@ private:
     QKeySequence keys;
 };
 
-/// The callbacks that a file is to set off: the names between full stops, written out.
+/// Returns the callbacks that a file must call, from a table of all possible keys.
 Calls expectedCalls(const QJsonObject &members)
 {
     static const QMap<QString, QString> sItems{
@@ -84,7 +85,8 @@ Calls expectedCalls(const QJsonObject &members)
     return calls;
 }
 
-/// Line ends are converted, byte order marks obeyed and broken text mended before the JSON is read.
+/// Returns whether decoding does not change the content: no line endings to convert, no byte order
+/// mark and no invalid UTF-8.
 bool isReadAsItStands(const QByteArray &content)
 {
     QTextCodec::ConverterState state;
@@ -115,7 +117,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     expect(ConfStorage::instance()->mConfValues.size() == 6, "no unknown key has a value");
     expect(ConfStorage::instance()->mConfMetas.size() == 6, "no unknown key has a record");
 
-    // Loading again: each key is a change once more, to the value that it has.
+    // When the file is loaded again, each key is changed again, to the same value.
     const QByteArray dumped =
         QJsonDocument(ConfStorage::instance()->dumpConf(ConfStorage::DumpChangedOnly)).toJson();
     sHost->manager._loadFromFile(sPath);

@@ -1,4 +1,5 @@
-// The bytes decide what the host declares, what it loads, and how its callbacks behave.
+// The bytes select the declarations of the host, the document to load, and the behaviour of the
+// callbacks.
 #include "ByteReader.h"
 #include "FuzzTarget.h"
 #include "StoreHost.h"
@@ -68,7 +69,7 @@ QJsonObject randomDocument(ByteReader &bytes)
     return document;
 }
 
-/// A callback that uses the store in the middle of a load, whatever for.
+/// A re-entrant callback: it calls a random function of the store during a load.
 void meddle(StoreHost &host, ByteReader &bytes, const QJsonObject &document, const QString &key)
 {
     ConfStorage &store = host.store;

@@ -1,4 +1,4 @@
-// Text that claims to be a dumped configuration, loaded by a host with a setting of every kind.
+// Any text as a dumped configuration, loaded by a host with every kind of setting.
 #include "FuzzTarget.h"
 #include "StoreHost.h"
 
@@ -33,17 +33,17 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     StoreHost host(sDeclarations);
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     const bool loaded = host.store.loadConf(text, ConfStorage::LoadLocal);
-    expect(loaded == document.isObject(), "an object loads, and nothing else does");
+    expect(loaded == document.isObject(), "an object is loaded, and nothing else");
     if (!loaded) {
-        expect(host.dump() == "{}" && host.calls.isEmpty(), "what does not load leaves no trace");
+        expect(host.dump() == "{}" && host.calls.isEmpty(), "a failed load changes nothing");
         return 0;
     }
-    // The text is mostly read without a document.
+    // A plain dump is loaded from its text without a QJsonDocument; the result must be the same.
     StoreHost parsed(sDeclarations);
     parsed.store.loadConf(document.object(), ConfStorage::LoadLocal);
     expect(host.values() == parsed.values() && host.variables() == parsed.variables(),
-           "text and object hold the same");
-    expect(host.calls == parsed.calls, "text and object are told of in the same way");
+           "text and object give the same values");
+    expect(host.calls == parsed.calls, "text and object call the same callbacks");
 
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadLocal);
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadShared);

@@ -1,4 +1,4 @@
-// The text of a dump, read by our own reader and by Qt's.
+// Any text as a dump, parsed by the library's own parser and by Qt's.
 #include "FuzzTarget.h"
 #include "support/PlainDumpCheck.h"
 
@@ -6,6 +6,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     startFuzzing();
     const QByteArray text(reinterpret_cast<const char *>(data), static_cast<int>(size));
-    expect(!isMistaken(text), "what our own reader takes means the same to Qt's", text);
+    expect(!isMistaken(text), "both parsers produce the same values", text);
     return 0;
 }

@@ -1,4 +1,4 @@
-// Texts with macros: the first byte chooses the scale, the rest is the text.
+// Style sheets with macros. The first byte selects the scale, the rest is the text.
 #include "FuzzTarget.h"
 
 #include <MaltoConfiguration/window/replaceSCAWithScaledValue.h>
@@ -12,7 +12,7 @@ namespace {
 constexpr double sScales[] = {1, 1.5, 2,    0.75,
                               0, -3,  1e30, std::numeric_limits<double>::quiet_NaN()};
 
-/// How long the "SCA(n)" that begins at `start` is; 0 where there is none.
+/// Returns the length of the macro "SCA(n)" at `start`, or 0 if there is none.
 int macroLength(const QString &text, int start)
 {
     if (text.mid(start, 4) != "SCA(")
@@ -28,12 +28,13 @@ QString scaledText(const QString &macro, float scale)
     const float product = static_cast<float>(macro.mid(4, macro.size() - 5).toInt()) * scale;
     if (!(std::fabs(product) < 2147483000.f))
         return "0";
-    // qRound's rule.
+    // Round like qRound().
     return QString::number(product >= 0 ? static_cast<int>(product + 0.5f)
                                         : -static_cast<int>(-product + 0.5f));
 }
 
-/// Character by character: what is written is read again only behind the length of the macro.
+/// A model of replaceSCAWithScaledValue(), character by character: after a replacement it continues
+/// at the start of the macro plus the macro's length.
 QString replacedModel(QString text, float scale)
 {
     for (int at = 0; at < text.size();) {
@@ -54,13 +55,13 @@ void checkTheme(const QString &sheet, double scale)
     const QThemeCtrl *theme = QThemeCtrl::instance();
     const QString expanded = theme->expandMacros(sheet, scale);
     if (!sheet.contains("sca(") && !sheet.contains("var("))
-        expect(expanded == sheet, "a sheet without macros stays", expanded.toUtf8());
-    // A name is worth 4096 characters at most, and takes six.
-    expect(expanded.size() <= sheet.size() * 700, "a sheet does not explode");
+        expect(expanded == sheet, "a sheet without macros is unchanged", expanded.toUtf8());
+    // A name expands to at most 4096 characters, and its macro has at least six.
+    expect(expanded.size() <= sheet.size() * 700, "the size of a sheet is limited");
 
     const QString plain = "a { width: 7px; } /* sca(9) var(ColorMain) */ \"x\"";
     expect(theme->expandMacros(plain + "}\n" + sheet, scale).startsWith(plain),
-           "what stands before stays");
+           "text without macros before a sheet is unchanged");
     const bool usable = std::isfinite(scale) && scale > 0;
     if (!usable)
         expect(expanded == theme->expandMacros(sheet, 1), "an impossible scale counts as 1");
@@ -70,7 +71,7 @@ void checkTheme(const QString &sheet, double scale)
         expect(theme->expandMacros(sheet + rule, scale)
                    .endsWith("\n}b { width: " + value + "px; color: " + theme->value("ColorMain")
                              + "; }"),
-               "a rule behind anything is expanded",
+               "a rule after any sheet is expanded",
                theme->expandMacros(sheet + rule, scale).toUtf8());
     }
 }

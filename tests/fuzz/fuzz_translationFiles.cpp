@@ -1,4 +1,4 @@
-// Names of files in the folder of translations, one a line, and below an empty line a stored code.
+// File names in the folder of translations, one per line, and after an empty line a stored code.
 #include "FuzzTarget.h"
 
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
@@ -17,17 +17,17 @@ namespace {
 
 constexpr int sMostFiles = 4;
 
-/// An empty folder of translations, in the place where they are looked for.
+/// Creates an empty folder of translations and sets it as the folder to search.
 QByteArray translationsFolder()
 {
     const QString folder = scratchFolder() + "/language/";
-    expect(QDir().mkpath(folder), "a folder can be made");
+    expect(QDir().mkpath(folder), "a folder can be created");
     const QDir program(QCoreApplication::applicationDirPath());
     ConfWidgetLanguage::sLanguagePath = '/' + program.relativeFilePath(folder) + '/';
     return QFile::encodeName(folder);
 }
 
-/// Those of the files that could be made.
+/// Creates the files and returns the names of those that could be created.
 QByteArrayList makeFiles(const QByteArray &folder, const QByteArrayList &names)
 {
     QByteArrayList made;
@@ -48,7 +48,7 @@ QStringList expectedCodes(const QByteArrayList &files)
     QStringList codes;
     for (const QByteArray &file : files) {
         const QString name = QFile::decodeName(file);
-        // Hidden files are no translations, and neither is what no text can name.
+        // Hidden files are ignored, and files whose name cannot be decoded.
         if (!name.startsWith('.') && name.endsWith(".qm", Qt::CaseInsensitive)
             && QFile::encodeName(name) == file)
             codes.append(name.left(name.indexOf('.')).toLower());
@@ -80,10 +80,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
            expectedCodes(files).join('|').toUtf8());
 
     const QString valid = ConfWidgetLanguage::getVaildLanguageCode(stored);
-    expect(valid != "auto" && codes.contains(valid), "a stored code leads to a usable one",
+    expect(valid != "auto" && codes.contains(valid), "a stored code resolves to a usable one",
            valid.toUtf8());
     if (stored != "auto" && codes.contains(stored))
-        expect(valid == stored, "a usable code stays", valid.toUtf8(), stored.toUtf8());
+        expect(valid == stored, "a usable code is kept", valid.toUtf8(), stored.toUtf8());
     ConfWidgetLanguage::installTranslator(stored);
     return 0;
 }

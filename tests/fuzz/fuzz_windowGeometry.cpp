@@ -1,5 +1,5 @@
-// The content of the file in which the settings window keeps its place: the input as it is, or
-// behind a "~" the pieces that its bytes choose.
+// The content of the settings window's geometry file: the input itself, or after a "~" the pieces
+// of text that its bytes select.
 #include "ByteReader.h"
 #include "FuzzTarget.h"
 
@@ -12,7 +12,8 @@
 
 namespace {
 
-/// The rectangle of a file that holds nothing else, as the window writes it.
+/// Reads the rectangle of a file as the window writes it, with nothing else in it. Returns false
+/// for any other content.
 bool readPlain(const QByteArray &content, QRect *geometry)
 {
     static const QRegularExpression sPlain("\\A\\[General\\]\nGeometry=@Rect\\((-?\\d{1,5}) "
@@ -24,7 +25,7 @@ bool readPlain(const QByteArray &content, QRect *geometry)
     return match.hasMatch();
 }
 
-/// Text around the values that end the process, which plain mutation seldom hits.
+/// Composes text around the values that would end the process, which random mutation rarely finds.
 QByteArray composed(const QByteArray &choices)
 {
     static const QByteArray sPieces[] = {"x=",
@@ -81,7 +82,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     startFuzzing();
     const bool pieces = size > 0 && data[0] == '~';
     const QByteArray content = pieces ? composed(bytesOf(data + 1, size - 1)) : bytesOf(data, size);
-    // QSettings remembers files by their names, so each input gets one of its own.
+    // QSettings caches files by name, so each input gets its own file name.
     static qint64 sCount = 0;
     const QString path = scratchFolder() + '/' + QString::number(++sCount) + ".ini";
     writeScratchFile(path, content);
@@ -94,12 +95,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     if (readPlain(content, &plain))
         expect(saved.found && saved.geometry == plain, "a plain geometry is read exactly");
 
-    // Writing takes ten times as long as reading; one input in eight will do.
+    // Writing takes ten times as long as reading, so only one input in eight is written.
     if (size % 8 == 0) {
         const QRect geometry(static_cast<int>(size), 2, 30, 40);
         file.write(geometry);
         const WindowGeometryFile::Saved written = file.read();
-        expect(written.found && written.geometry == geometry, "what is written is read");
+        expect(written.found && written.geometry == geometry, "a written geometry is read back");
     }
     QFile::remove(path);
     return 0;

@@ -1,4 +1,5 @@
-// Runs a fuzz target over the files of folders: what the fuzzer has found stays found.
+// Runs a fuzz target with the files of folders, so that inputs found by the fuzzer are tested
+// again.
 #include "FuzzTarget.h"
 
 #include <QDir>
@@ -19,7 +20,7 @@ int main(int argc, char **argv)
                 return 1;
             }
             const QByteArray input = file.readAll();
-            // Printed first, so that the last name before a crash is the input's.
+            // Printed before the call, so that the last name before a crash is that of the input.
             std::printf("%s\n", qPrintable(name));
             std::fflush(stdout);
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),

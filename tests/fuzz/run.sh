@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and runs each of them, one after the other, from what is in its corpus:
+# Builds the fuzz targets and runs them one after the other, each starting with its corpus:
 #   ./check [qt5|qt6] fuzz [seconds for each target] [libFuzzer option...]
-# A second argument such as -runs=1000000 ends a target earlier. What breaks a target is kept in
-# build-fuzz/findings; put it into the target's corpus, where every test run repeats it.
+# A second argument such as -runs=1000000 ends a target earlier. Inputs that fail are kept in
+# build-fuzz/findings. Copy them into the target's corpus, so that every test run repeats them.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . cmake/prepare.sh
@@ -23,9 +23,10 @@ dictionary_of() {
     esac
 }
 
-# Leaks are looked for where the corpora are replayed, with the list of those that are not ours.
+# Leaks are checked by the replay tests, with a list of known leaks in system libraries.
 export ASAN_OPTIONS=detect_leaks=0
-# In memory where there is some, and removed here: the fuzzer ends its processes without goodbye.
+# Use a file system in memory if available. It is removed here, because the fuzzer exits its processes
+# without cleaning up.
 memory=/tmp
 [ ! -w /dev/shm ] || memory=/dev/shm
 TMPDIR=$(mktemp -d "$memory/malto-fuzz-XXXXXX")
@@ -37,7 +38,7 @@ failed=0
 printf '%-20s %12s %8s %8s  %s\n' target executions seconds inputs result
 for folder in tests/fuzz/corpus/*/; do
     name=$(basename "$folder")
-    # What is found on the way stays out of the repository, and is where the next run begins.
+    # New inputs are kept outside of the repository; the next run starts with them.
     grown=$built/corpus/$name
     log=$built/$name.log
     mkdir -p "$grown"

@@ -1,10 +1,10 @@
-"""Finds the places where a C++ source can be broken in a small way, by text alone."""
+"""Generates mutants of a C++ source: small changes of its text that should make a test fail."""
 
 import hashlib
 import re
 from collections import namedtuple
 
-# `start` and `end` are offsets in the source; what stands between is replaced by `after`.
+# `start` and `end` are offsets in the source; the text between them is replaced by `after`.
 Mutant = namedtuple("Mutant", "key file line start end before after kind")
 
 SWAPS = {
@@ -17,7 +17,7 @@ SWAPS = {
 IF = re.compile(r"\b(?:else )?if \((?!const auto|auto|const \w+ \*|int \w+ =)")
 NUMBER = re.compile(r"(?<![\w.\"#])\d+(?:\.\d+)?(?![\w.])")
 BOOLEAN = re.compile(r"\b(true|false)\b")
-# A statement of one line that calls something or assigns to something that exists already.
+# A one-line statement that calls a function or assigns to an existing variable.
 CALL = re.compile(r"^\s+((?!return\b|delete\b|throw\b|case\b|using\b|namespace\b)"
                   r"[\w:]+(?:(?:->|\.|::)\w+|\([^;]*?\)|\[[^;]*?\])*\([^;]*\);)$", re.M)
 ASSIGNMENT = re.compile(r"^\s+(\*?[\w.>\[\]()-]+ (?:=|\|=|&=|\+=|-=) [^;]*;)$", re.M)
@@ -25,7 +25,7 @@ STEP = re.compile(r"(?<!\+)\+\+(?!\+)|(?<!-)--(?!-)")
 
 
 def blanked(source):
-    """The source with comments, and the insides of literals and preprocessor lines, made blank."""
+    """Returns the source with comments, preprocessor lines and the content of literals blanked."""
     def blank(match):
         text = match.group(0)
         if text[0] in "\"'" and len(text) > 2:
@@ -36,7 +36,7 @@ def blanked(source):
 
 
 def matching(text, opening):
-    """The offset of the parenthesis that closes the one at `opening`."""
+    """Returns the offset of the parenthesis that closes the one at `opening`, or -1."""
     depth = 0
     for offset in range(opening, len(text)):
         depth += {"(": 1, ")": -1}.get(text[offset], 0)
@@ -75,7 +75,7 @@ def replacements(source):
 
 
 def mutants_of(name, source):
-    """All mutants of a file in the order of the text. Their keys survive changes elsewhere in it."""
+    """Returns all mutants of a file in text order. Their keys do not depend on other lines."""
     lines = source.split("\n")
     seen = {}
     result = []

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Breaks the library in many small ways, one at a time, and reports what no test notices.
+"""Mutation test: applies many small changes to the library, one at a time, and reports those that
+make no test fail.
 
-Works on a private copy of the tree; goes on where it was stopped. Each broken source is rebuilt and
-tried against the tests named after it, then those of its folder, then those of the folders that use
-it, until one fails. A test that hangs or crashes has noticed; a source that no longer compiles does
-not count and is replaced by another one.
+Works on a private copy of the tree and can be stopped and resumed. Each mutant is built and run with
+the tests named after its source, then the tests of its folder, then the tests of the folders that use
+it, until one fails. A test that hangs or crashes counts as failed. A mutant that does not compile
+does not count and is replaced by another one.
 """
 
 import argparse
@@ -21,11 +22,11 @@ from mutants import mutants_of
 
 ROOT = Path(__file__).resolve().parents[2]
 FOLDERS = ("store", "manage", "widgets")
-# Whose tests see a folder's code: its own first, then those of the folders that use it.
+# The folders whose tests cover a folder's code: its own first, then the folders that use it.
 TEST_FOLDERS = {"store": ("store", "manage"),
                 "manage": ("manage", "window", "widgets"),
                 "widgets": ("widgets", "window")}
-TEXT_SHARE = 0.3  # of the changed texts enter the draw: there are many, all alike
+TEXT_SHARE = 0.3  # share of the text mutants that is drawn from: they are many and similar
 
 
 def tracked_files():
@@ -35,7 +36,7 @@ def tracked_files():
 
 
 def chosen(seed, count):
-    """For each file its mutants in the order in which they are tried, and how many of them."""
+    """Returns for each file its mutants in the order in which they are tried, and their number."""
     drawn = {}
     for folder in FOLDERS:
         for path in sorted((ROOT / folder).glob("*.cpp")):
@@ -52,7 +53,7 @@ def chosen(seed, count):
 
 
 class Tests:
-    """The test programs of the private copy, and how long each takes when nothing is broken."""
+    """The test programs of the private copy, and the duration of each without a mutant."""
 
     def __init__(self, build, work):
         listing = subprocess.run(["ctest", "--show-only=json-v1"], cwd=build, check=True,
@@ -67,7 +68,7 @@ class Tests:
         self.times = json.loads(self.times_file.read_text()) if self.times_file.exists() else {}
 
     def relevant(self, source):
-        """Names of the tests that may notice a change in `source`, the closest first."""
+        """Returns the names of the tests that cover `source`, the closest first."""
         folder, stem = source.split("/")[0], Path(source).stem
         names = []
         for test_folder in TEST_FOLDERS[folder]:
@@ -82,10 +83,10 @@ class Tests:
         return names + ["x11." + name for name in names[:1] if "x11." + name in self.commands]
 
     def passes(self, name, limit):
-        """Whether the test passes. It is stopped at its first failure and at the time limit."""
+        """Returns whether the test passes. Stops it at its first failure or at the time limit."""
         command, environment, folder = self.commands[name]
         variables = dict(os.environ, **dict(item.split("=", 1) for item in environment))
-        # A session of its own, so that an X server that the test started goes with it.
+        # Run it in its own session, so that an X server that it starts is stopped with it.
         process = subprocess.Popen(command, env=variables, cwd=folder, stdout=subprocess.PIPE,
                                    stderr=subprocess.STDOUT, errors="replace",
                                    start_new_session=True)
@@ -104,13 +105,13 @@ class Tests:
         return not failed and process.returncode == 0
 
     def measure(self, names):
-        """Runs the tests on the unbroken library; all must pass."""
+        """Runs the tests without a mutant; all must pass."""
         for name in names:
             if name in self.times:
                 continue
             start = time.monotonic()
             if not self.passes(name, 600):
-                sys.exit("%s fails although nothing is broken" % name)
+                sys.exit("%s fails without a mutant" % name)
             self.times[name] = time.monotonic() - start
             self.times_file.write_text(json.dumps(self.times, indent=1, sort_keys=True))
 
@@ -133,7 +134,7 @@ class Copy:
         self.log = work / "build.log"
         self.tree.mkdir(parents=True, exist_ok=True)
         names = "\n".join(tracked_files())
-        # By content: what a mutant left behind, and what git touched, is told by nothing else.
+        # Compare by content: modification times do not tell whether a mutant was left in a file.
         subprocess.run(["rsync", "-a", "--checksum", "--no-times", "--files-from=-",
                         str(ROOT), str(self.tree)], input=names, text=True, check=True)
 
@@ -146,7 +147,7 @@ class Copy:
         folders = sorted({folder for group in TEST_FOLDERS.values() for folder in group})
         targets = ["tests/%s/all" % folder for folder in folders]
         if not self.compiles(targets):
-            sys.exit("the unbroken tree does not build: see %s" % self.log)
+            sys.exit("the tree does not build without a mutant: see %s" % self.log)
 
     def compiles(self, targets):
         with open(self.log, "w") as log:
@@ -154,11 +155,11 @@ class Copy:
                                   stderr=log).returncode == 0
 
     def breaks(self, mutant):
-        """Writes the broken source; false when it does not build."""
+        """Applies the mutant and builds it. Returns whether it compiles."""
         source = (ROOT / mutant.file).read_text()
         broken = source[:mutant.start] + mutant.after + source[mutant.end:]
         (self.tree / mutant.file).write_text(broken)
-        # Sources that the library does not export are compiled into the test named after them.
+        # Sources of classes that are not exported are compiled into the test named after them.
         folder, stem = mutant.file.split("/")[0], Path(mutant.file).stem
         test = "tst_%s" % stem
         has_test = (ROOT / "tests" / folder / (test + ".cpp")).exists()
@@ -169,10 +170,10 @@ class Copy:
 
 
 class Results:
-    """What is known so far: one JSON object in each line of a file."""
+    """The results so far, in a file with one JSON object per line."""
 
     def __init__(self, path, forgotten):
-        """`forgotten` are the files whose survivors are to be tried again."""
+        """Survivors in the files `forgotten` are dropped, so that they are tried again."""
         self.path = path
         self.rows = {}
         if path.exists():
@@ -193,7 +194,7 @@ class Results:
 
 
 def equivalents():
-    """Keys of mutants that change nothing that can be seen, from survivors.md."""
+    """Returns the keys of equivalent mutants, which change no visible behaviour, from survivors.md."""
     path = Path(__file__).with_name("survivors.md")
     if not path.exists():
         return set()
@@ -202,7 +203,7 @@ def equivalents():
 
 
 def tried(mutant, copy, tests, results):
-    """Breaks, builds and tests; true when the mutant counts."""
+    """Builds and tests the mutant. Returns whether it counts."""
     if not copy.breaks(mutant):
         results.add(mutant, "uncompiled", "")
         return False
@@ -213,7 +214,8 @@ def tried(mutant, copy, tests, results):
 
 
 def try_all(drawn, quota, copy, tests, results):
-    """One break in each file, then the next one in each: stopped early, all files were looked at."""
+    """Tries one mutant of each file, then the next one of each, so that an early stop covers all
+    files."""
     waiting = {name: iter(mutants) for name, mutants in drawn.items()}
     done = dict.fromkeys(drawn, 0)
     while waiting:
@@ -246,7 +248,7 @@ def report(drawn, quota, results):
         print("%s:%d: `%s` became `%s` (%s, %s)" % (mutant.file, mutant.line, mutant.before,
                                                    mutant.after, mutant.kind, mutant.key))
     total = killed + len(survivors)
-    print("%d of %d breaks noticed (%.1f %%); %d more change nothing (survivors.md); "
+    print("%d of %d mutants killed (%.1f %%); %d more are equivalent (survivors.md); "
           "%d of %d drawn are not tried yet"
           % (killed, total, 100.0 * killed / max(total, 1), excused,
              sum(quota.values()) - total - excused, sum(quota.values())))
@@ -255,12 +257,12 @@ def report(drawn, quota, results):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--work", type=Path, default=ROOT / "build-mutation",
-                        help="folder of the private copy and the results")
-    parser.add_argument("--count", type=int, default=240, help="how many breaks, about")
-    parser.add_argument("--seed", type=int, default=1, help="which breaks")
-    parser.add_argument("--only", default="", help="sources whose name contains this")
+                        help="folder for the private copy and the results")
+    parser.add_argument("--count", type=int, default=240, help="approximate number of mutants")
+    parser.add_argument("--seed", type=int, default=1, help="seed of the random selection")
+    parser.add_argument("--only", default="", help="only sources whose name contains this text")
     parser.add_argument("--retry", action="store_true", help="try the survivors again")
-    parser.add_argument("--report", action="store_true", help="only report what is known")
+    parser.add_argument("--report", action="store_true", help="only report the known results")
     options = parser.parse_args()
 
     options.work.mkdir(parents=True, exist_ok=True)

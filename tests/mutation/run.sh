@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Breaks the library in small ways and reports what no test notices: tests/mutation/run.sh [options].
-# Takes an hour or more and goes on where it was stopped. Options: tests/mutation/mutate.py --help
+# Runs the mutation test, which reports changes of the library that make no test fail:
+# tests/mutation/run.sh [options]. Takes an hour or more and can be stopped and resumed. Options:
+# tests/mutation/mutate.py --help
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . cmake/prepare.sh
