@@ -38,8 +38,8 @@ function(malto_install_library target module description folder)
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()
 
-# malto_install_export_header(<header>): a header that the build has made.
-function(malto_install_export_header header)
+# malto_install_generated_header(<header>): a header that the build has made.
+function(malto_install_generated_header header)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${MALTO_INCLUDE_DIR}/${header}
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)

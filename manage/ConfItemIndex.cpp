@@ -18,7 +18,7 @@ bool isInFiles(const ConfItem &item)
 /// The full name of the item that the member is meant for; null when it is for none.
 QString fullNameOf(const QString &memberName)
 {
-    const int separators = memberName.count(sSeparator);
+    const auto separators = memberName.count(sSeparator);
     if (separators != 1 && separators != 2)
         return QString();
     const bool isLastEmpty = separators == 2 && memberName.endsWith(sSeparator);
@@ -34,7 +34,7 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
         return nullptr;
     if (isStale())
         rebuild();
-    int index = mFirst.value(fullName, -1);
+    Index index = mFirst.value(fullName, -1);
     // A swap inside the list makes and destroys no item; it shows only here.
     if (index >= 0
         && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
@@ -54,7 +54,7 @@ void ConfItemIndex::rebuild()
 {
     mFirst.clear();
     mFirst.reserve(mItems.size());
-    for (int i = mItems.size() - 1; i >= 0; --i) {
+    for (Index i = mItems.size() - 1; i >= 0; --i) {
         if (isInFiles(mItems.at(i)))
             mFirst.insert(mItems.at(i).getFullName(), i);
     }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <MaltoConfiguration/ItemList.h>
+
 #include <QHash>
-#include <QList>
 #include <QString>
 
 namespace MtConf {
@@ -15,20 +16,22 @@ class ConfItem;
 class ConfItemIndex
 {
 public:
-    explicit ConfItemIndex(const QList<ConfItem> &items) : mItems(items) {}
+    explicit ConfItemIndex(const ItemList<ConfItem> &items) : mItems(items) {}
 
     /// The first item whose two or three names `memberName` joins by ".", or null. A third name may
     /// be empty.
     const ConfItem *find(const QString &memberName);
 
 private:
+    using Index = ItemList<ConfItem>::size_type;
+
     bool isStale() const;
     void rebuild();
 
-    const QList<ConfItem> &mItems;
-    QHash<QString, int> mFirst; // by full name
+    const ItemList<ConfItem> &mItems;
+    QHash<QString, Index> mFirst; // by full name
     const void *mData = nullptr;
-    int mSize = -1;
+    Index mSize = -1;
     quint64 mRevision = 0;
 };
 

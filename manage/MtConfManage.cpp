@@ -9,13 +9,13 @@ namespace MtConf {
 namespace {
 
 /// The element's address. Reached without detaching the list: that would move every element.
-template<class T> T *addressAt(const QList<T> &list, int index)
+template<class T> T *addressAt(const ItemList<T> &list, typename ItemList<T>::size_type index)
 {
     return const_cast<T *>(&list.at(index));
 }
 
 /// The first element that `matches`, or null.
-template<class T, class Predicate> T *findFirst(const QList<T> &list, Predicate matches)
+template<class T, class Predicate> T *findFirst(const ItemList<T> &list, Predicate matches)
 {
     const auto found = std::find_if(list.cbegin(), list.cend(), matches);
     return found != list.cend() ? const_cast<T *>(&*found) : nullptr;
@@ -23,7 +23,7 @@ template<class T, class Predicate> T *findFirst(const QList<T> &list, Predicate 
 
 /// Appends without letting the addresses of the elements so far dangle.
 template<class T>
-T *appendKeepingAddresses(QList<T> &list, const T &element, QList<QList<T>> &shared)
+T *appendKeepingAddresses(ItemList<T> &list, const T &element, QList<ItemList<T>> &shared)
 {
     if (!list.isDetached())
         shared.append(list);

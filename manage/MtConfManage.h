@@ -1,5 +1,6 @@
 #pragma once
 
+#include <MaltoConfiguration/ItemList.h>
 #include <MaltoConfiguration/malto_export.h>
 #include <MaltoConfiguration/manage/ConfItem.h>
 #include <MaltoConfiguration/manage/MajorConfItem.h>
@@ -141,8 +142,8 @@ public:
     /// open window shows them from its next change of theme on.
     void setIconMap(QMap<QString, QChar> &map);
 
-    QList<ConfItem> items;                      ///< every item, in declaration order
-    QList<MajorConfItem> majorItems;            ///< the classes, in order of first mention
+    ItemList<ConfItem> items;                   ///< every item, in declaration order
+    ItemList<MajorConfItem> majorItems;         ///< the classes, in order of first mention
     QString confFilePath;                       ///< the file last given to `_loadFromFile`
     ConfItem *languageItem = nullptr;           ///< the language setting, if one was declared
     std::function<void()> restoreAllHook;       ///< called first by `restoreAllDefault`
@@ -159,8 +160,8 @@ private:
 
     // Lists that somebody held a copy of when the next element came, kept so that pointers to their
     // elements do not dangle.
-    QList<QList<ConfItem>> mSharedItems;
-    QList<QList<MajorConfItem>> mSharedMajorItems;
+    QList<ItemList<ConfItem>> mSharedItems;
+    QList<ItemList<MajorConfItem>> mSharedMajorItems;
 };
 
 } // namespace MtConf

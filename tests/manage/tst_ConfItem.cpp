@@ -2,11 +2,13 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <MaltoConfiguration/ItemList.h>
 #include <MaltoConfiguration/manage/ConfItem.h>
 
 #include <QJsonObject>
 
 using MtConf::ConfItem;
+using MtConf::ItemList;
 
 class tst_ConfItem : public QObject
 {
@@ -235,7 +237,7 @@ void tst_ConfItem::restoreDefault_restoresSubItemsToo()
 void tst_ConfItem::restoreDefault_survivesACallbackThatRemovesTheItem()
 {
     int value = 1, subValue = 2;
-    QList<ConfItem> items{item(&value, "Size")};
+    ItemList<ConfItem> items{item(&value, "Size")};
     items.first().subConfs.insert(QStringLiteral("sub"), item(&subValue, "Sub"));
     store()->set<int>(QStringLiteral("General.Size"), 5);
     store()->set<int>(QStringLiteral("General.Sub"), 5);

@@ -16,6 +16,7 @@
 
 using MtConf::ConfigItemWidget;
 using MtConf::ConfItem;
+using MtConf::ItemList;
 using MtConf::MtConfManage;
 
 class tst_MtConfManage : public QObject
@@ -245,7 +246,7 @@ void tst_MtConfManage::itemAddressesStayValidWhileTheHostHasACopyOfTheList()
     int a = 0, b = 0;
     ConfItem *first = manager->addConfInt32("a", &a, "M", "a");
     {
-        const QList<ConfItem> copy = manager->items;
+        const ItemList<ConfItem> copy = manager->items;
         manager->addConfInt32("b", &b, "M", "b");
         QCOMPARE(copy.size(), 1);
     }
@@ -415,7 +416,7 @@ void tst_MtConfManage::lookupsDoNotDetachASharedList()
     MtConfManage *manager = makeManager();
     int a = 0;
     ConfItem *item = manager->addConfInt32("a", &a, "M", "a");
-    const QList<ConfItem> copy = manager->items;
+    const ItemList<ConfItem> copy = manager->items;
     QCOMPARE(manager->getItemByName("M", "a", ""), item);
     QCOMPARE(manager->getConfItemList("M"), QList<ConfItem *>{item});
     manager->restoreAllDefault();

@@ -11,6 +11,7 @@
 #include <utility>
 
 using MtConf::ConfItem;
+using MtConf::ItemList;
 using MtConf::MtConfManage;
 
 class tst_MtConfManageFile : public QObject
@@ -325,7 +326,7 @@ void tst_MtConfManageFile::itemRenamedByACallbackToContainAFullStopIsNotFound()
 void tst_MtConfManageFile::listSwappedByACallbackIsReadAgain()
 {
     int a = 0, y = 0, z = 0;
-    QList<ConfItem> others{ConfItem(&a, "General", "x", ""), ConfItem(&z, "General", "z", "")};
+    ItemList<ConfItem> others{ConfItem(&a, "General", "x", ""), ConfItem(&z, "General", "z", "")};
     declare(&a, "a")->setConfChangedCallback(
         [&](const QString &, const ConfValue *) { mManager->items.swap(others); });
     declare(&y, "y");
