@@ -1,19 +1,20 @@
 #!/usr/bin/env bash
-# The way of a stranger, on a Debian 12 with nothing on it: install the packages, copy the README's
-# program and its CMake file, build, run, and look at the picture of its window.
-#   stranger.sh [<folder for the packages and the picture>]
+# What a new user does on a bare Debian 12: installs the packages, copies the README's program and its
+# CMake file, builds and runs it. Takes a picture of its window.
+#   ./check [qt5|qt6] stranger [<folder for the picture>]
 # Linux only: needs root, debootstrap and the network; takes some minutes.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-out=$(realpath -m "${1:-build-package}")
 . cmake/prepare.sh
+packages=$(build_folder package)
+out=$(realpath -m "${1:-$packages}")
 
 install_missing "${BUILD_PACKAGES[@]}" debootstrap dpkg-dev file lintian
-[ -f build-package/build.ninja ] || cmake --preset package >&2
-cmake --build build-package >&2
-rm -f build-package/*.deb
-(cd build-package && cpack -G DEB >&2)
-lintian --allow-root --fail-on error build-package/*.deb >&2
+configure package
+build package
+rm -f "$packages"/*.deb
+(cd "$packages" && cpack -G DEB >&2)
+lintian --allow-root --fail-on error "$packages"/*.deb >&2
 
 root=$(mktemp -d)
 trap 'umount "$root/proc" 2>/dev/null || true; rm -rf "$root"' EXIT
@@ -21,9 +22,9 @@ debootstrap --variant=minbase bookworm "$root" >&2
 cp -r /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/" # the proxies of this machine
 mount -t proc proc "$root/proc" 2>/dev/null || true
 mkdir "$root/stranger"
-cp build-package/*.deb "$root/stranger"
+cp "$packages"/*.deb "$root/stranger"
 
-# The blocks of the README, as a reader copies them.
+# The blocks of the README.
 block() { # <language> <text on its first line>
     awk -v fence="\`\`\`$1" -v first="$2" '
         $0 == fence { getline; inside = index($0, first) == 1 }
@@ -51,7 +52,7 @@ xvfb-run -a -s '-screen 0 1400x900x24' sh -ec '
     while import -window root window.png && [ "$(identify -format %k window.png)" -lt 50 ]; do :; done
     kill $!'
 END
-# Nothing of this machine but the way to the network.
+# The environment of this machine stays out, apart from its proxies.
 env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root http_proxy="${http_proxy:-}" \
     https_proxy="${https_proxy:-}" chroot "$root" sh /stranger/go >&2
 mkdir -p "$out"
