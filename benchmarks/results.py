@@ -3,7 +3,7 @@
 import json
 import sys
 
-# How many times the bare cost each work may cost at most.
+# The highest ratio of each cost to the bare cost.
 GOALS = {
     "readVariable": 1.0,
     "getInt": 1.3,

@@ -1,14 +1,13 @@
-# What `cmake --install` puts in place: a runtime part, which programs need, and a development part,
-# with which they are built. Everything finds everything else from where it lies, so that the
-# installed tree can be moved.
+# Installs two components: Runtime, which programs need, and Development, which is needed to build them.
+# All paths are relative, so that the installed tree can be moved.
 include(CMakePackageConfigHelpers)
 
 set(MALTO_DATA_DIR ${CMAKE_INSTALL_DATADIR}/MaltoConfiguration)
 set(MALTO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/MaltoConfiguration)
 
 # malto_install_library(<target> <pkg-config name> <description> <folder of headers> <entry>...):
-# the library, its entry in the CMake package, its pkg-config file, and its headers, each entry of
-# the current source folder as include/<folder>/<entry>.
+# installs the library, its target for the CMake package, its pkg-config file, and its headers: each
+# entry of the current source folder as include/<folder>/<entry>.
 function(malto_install_library target module description folder)
     set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
     install(TARGETS ${target} EXPORT MaltoConfigurationTargets
@@ -38,14 +37,14 @@ function(malto_install_library target module description folder)
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()
 
-# malto_install_generated_header(<header>): a header that the build has made.
+# malto_install_generated_header(<header>): installs a header that the build generates.
 function(malto_install_generated_header header)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${MALTO_INCLUDE_DIR}/${header}
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)
 endfunction()
 
-# The CMake package itself, and the data that hosts work with.
+# Installs the CMake package, and the translations, style sheets and font that hosts may use.
 function(malto_install_package)
     install(EXPORT MaltoConfigurationTargets NAMESPACE MaltoConfiguration::
         DESTINATION ${MALTO_CMAKE_DIR} COMPONENT Development)

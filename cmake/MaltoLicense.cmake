@@ -1,4 +1,4 @@
-# What the packages say about the licence, made of MALTO_LICENSE and LICENSE.
+# Sets what the packages say about the licence, from MALTO_LICENSE and LICENSE.
 set(MALTO_LICENSE_FILE ${PROJECT_SOURCE_DIR}/LICENSE)
 
 # For the copyright file of the Debian packages.
@@ -16,7 +16,7 @@ elseif(EXISTS ${MALTO_LICENSE_FILE} AND NOT MALTO_LICENSE)
 elseif(MALTO_LICENSE)
     set(MALTO_LICENSE_NAME ${MALTO_LICENSE})
     file(READ ${MALTO_LICENSE_FILE} MALTO_LICENSE_TEXT)
-    # Debian's format: lines begin with a space, empty lines are a full stop.
+    # In Debian's format each line begins with a space, and an empty line is a full stop.
     string(STRIP "${MALTO_LICENSE_TEXT}" MALTO_LICENSE_TEXT)
     string(REGEX REPLACE "[ \t\r]*\n" "\n " MALTO_LICENSE_TEXT " ${MALTO_LICENSE_TEXT}")
     string(REGEX REPLACE "\n (\n|$)" "\n .\\1" MALTO_LICENSE_TEXT "${MALTO_LICENSE_TEXT}")

@@ -35,7 +35,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION}-1), qtbase5-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "qttools5-dev, qttools5-dev-tools, qttranslations5-l10n")
 
-# What every Debian package tells about itself. Elsewhere than below /usr nobody looks for it.
+# The changelog and the copyright file of each Debian package. Other installations do not need them.
 find_program(MALTO_GZIP gzip)
 if(MALTO_GZIP AND CMAKE_INSTALL_PREFIX STREQUAL /usr)
     set(folder ${PROJECT_BINARY_DIR}/packaging)

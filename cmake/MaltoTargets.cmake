@@ -1,8 +1,8 @@
-# How every target of the project is made: one include tree, one set of warnings and definitions.
+# Functions that create the targets of the project, with one include tree and one set of warnings.
 
-# Headers are reached by the same lines from the build tree, from an installed package and from a
-# host's tree, whatever the checkout is called: <MaltoConfiguration/store/ConfStorage.h>. In the
-# build tree links make that so.
+# The same include lines, such as <MaltoConfiguration/store/ConfStorage.h>, work in the build tree,
+# with an installed package and in a host's tree, whatever the name of the checkout. The build tree
+# has a folder of symbolic links for this.
 set(MALTO_INCLUDE_DIR ${CMAKE_CURRENT_BINARY_DIR}/include)
 
 # malto_include_tree(<name> <entry>...): each entry of the current source folder appears as
@@ -15,13 +15,13 @@ function(malto_include_tree name)
     endforeach()
 endfunction()
 
-# What clang alone objects to: Qt's QSKIP, the way Qt 5 writes keys (Qt::CTRL + Qt::Key_A), and the
-# links of the include tree, which it takes for typing errors.
+# Only clang warns about QSKIP, about Qt::CTRL + Qt::Key_A in Qt 5, and about the links of the
+# include tree.
 set(MALTO_CLANG_WARNINGS -Wno-gnu-zero-variadic-macro-arguments -Wno-enum-enum-conversion
     -Wno-nonportable-include-path)
 
-# malto_own_code(<target> [CASTS]): warnings and strict Qt definitions for our own sources; never
-# passed on to a host. With CASTS literals may become QStrings by themselves, as tests like it.
+# malto_own_code(<target> [CASTS]): enables warnings and strict Qt definitions for the project's
+# sources, not for a host's. CASTS allows implicit conversions of literals to QString, for tests.
 function(malto_own_code target)
     set_target_properties(${target} PROPERTIES
         AUTOMOC ON AUTOUIC ON AUTORCC ON
@@ -31,7 +31,7 @@ function(malto_own_code target)
     if(NOT "CASTS" IN_LIST ARGN)
         target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     endif()
-    # What the two Qts write differently.
+    # For private headers that hide the differences between Qt 5 and Qt 6.
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/compat/qt${MALTO_QT_MAJOR})
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
@@ -39,7 +39,8 @@ function(malto_own_code target)
         $<$<BOOL:${MALTO_DEVELOPER}>:-Werror>)
 endfunction()
 
-# A shared library of the project: own code, hidden symbols, the include tree.
+# malto_library(<target>): makes a target a shared library of the project, with hidden symbols and
+# the include tree.
 function(malto_library target)
     malto_own_code(${target})
     set_target_properties(${target} PROPERTIES
@@ -49,8 +50,8 @@ function(malto_library target)
         $<BUILD_INTERFACE:${MALTO_INCLUDE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endfunction()
 
-# malto_companion(<name> <folder> <option> <header>): the target MaltoConfiguration::<name>, from
-# our folder or, with the option on, from a library of that name that the system already has.
+# malto_companion(<name> <folder> <option> <header>): defines MaltoConfiguration::<name>, built from
+# the folder or, if the option is on, imported from an installed library of that name.
 function(malto_companion name folder option header)
     option(${option} "Link an installed lib${name} instead of building ${folder}" OFF)
     if(NOT ${option})

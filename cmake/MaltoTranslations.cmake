@@ -10,24 +10,24 @@
 #   <folder of the executable>/../Resources/language/<code>.qm
 #   <folder of the executable>/../Resources/language_qt/qt_<code>.qm
 #
-# In a macOS bundle that is its Resources folder. The files are made with the target and follow
-# every change of a .ts file.
+# In a macOS bundle this is its Resources folder. The files are built with the target, and again
+# after a change of a .ts file.
 #
-#   TS_DIR       the host's .ts files, named by the code alone: fr-fr.ts. Where both translate the
-#                same text, the host's translation is taken.
+#   TS_DIR       the host's .ts files, each named after its code: fr-fr.ts. Where both translate the
+#                same text, the host's translation is used.
 #   LANGUAGES    the codes to offer. By default those of the .ts files in TS_DIR, or without TS_DIR
 #                all languages of the library. English, "en-us", is built in and never listed.
 #   DESTINATION  a folder to use instead of <folder of the executable>/../Resources.
 #
-# Call it in the CMakeLists.txt that makes the target. It needs Qt's linguist tools; Qt's own texts
-# come from the translations that Qt has installed (Debian: qttranslations5-l10n). A language for
-# which there are none is left out with a message, and its standard buttons stay English.
+# Call it in the CMakeLists.txt that defines the target. It needs Qt's linguist tools; Qt's own
+# texts come from the translations that Qt has installed (Debian: qttranslations5-l10n). A language
+# for which there are none is left out with a message, and its standard buttons stay English.
 
 if(NOT DEFINED MALTO_TRANSLATIONS_DIR)
     get_filename_component(MALTO_TRANSLATIONS_DIR
                            ${CMAKE_CURRENT_LIST_DIR}/../translations ABSOLUTE)
 endif()
-# Functions are known to the whole project, plain variables of a subfolder are not.
+# The functions can be called in any folder, where the variables of this one are not set.
 set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR ${MALTO_TRANSLATIONS_DIR})
 set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR ${MALTO_QT_MAJOR})
 
@@ -67,8 +67,8 @@ function(malto_add_translations target)
         endif()
     endforeach()
 
-    # As sources the files are made with the target; as what it is linked from they have it linked,
-    # and themselves copied, again after a change.
+    # As sources, the files are built with the target. As link dependencies, they cause it to be
+    # linked again after a change, and so themselves to be copied again.
     target_sources(${target} PRIVATE ${catalogues})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${catalogues})
     foreach(part language language_qt)
@@ -78,8 +78,8 @@ function(malto_add_translations target)
     endforeach()
 endfunction()
 
-# malto_add_catalogue(<qm> <source>...): makes one .qm of several .ts or .qm files. The last one
-# that translates a text is the one that counts.
+# malto_add_catalogue(<qm> <source>...): merges several .ts or .qm files into one .qm. If several
+# translate a text, the last one wins.
 function(malto_add_catalogue catalogue)
     _malto_find_linguist_tools()
     get_filename_component(folder ${catalogue} DIRECTORY)
@@ -103,7 +103,7 @@ macro(_malto_find_linguist_tools)
     endif()
 endmacro()
 
-# The codes of the .ts files in ts_dir, or of the library's own when that is empty.
+# Returns the codes of the .ts files in ts_dir, or of the library's own if ts_dir is empty.
 function(_malto_languages result own_dir ts_dir)
     if(ts_dir)
         file(GLOB files RELATIVE ${ts_dir} CONFIGURE_DEPENDS ${ts_dir}/*.ts)
@@ -115,8 +115,8 @@ function(_malto_languages result own_dir ts_dir)
     set(${result} ${files} PARENT_SCOPE)
 endfunction()
 
-# Qt's own texts in a language: those that Qt has installed, over the most visible ones, which the
-# library keeps for languages that Qt lacks.
+# Returns the catalogues of Qt's own texts in a language: the library's, which has the most visible
+# texts for languages that Qt lacks, and the installed ones, which win.
 function(_malto_qt_sources result own_dir code)
     get_property(qt_major GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR)
     get_target_property(qmake Qt${qt_major}::qmake IMPORTED_LOCATION)

@@ -3,8 +3,8 @@
 
 say() { printf '%s\n' "$*" >&2; }
 
-# choose_qt <argument>: true when the argument names a Qt, qt5 or qt6, which is then built with, in
-# folders of its own. The choice is in the environment, for the presets and for other scripts.
+# choose_qt <argument>: if the argument is qt5 or qt6, chooses this Qt and its build folders, and
+# returns true. The choice is exported, for the presets and for scripts that this one calls.
 choose_qt() {
     case $1 in
         qt5 | qt6) export MALTO_QT_FOLDER=-$1 ;;
@@ -13,7 +13,7 @@ choose_qt() {
     set_qt_packages
 }
 
-# Qt's packages are asked for separately: nobody needs those of both.
+# Sets the package lists, which have the packages of the chosen Qt only.
 set_qt_packages() {
     case ${MALTO_QT_FOLDER:-} in
         -qt5) qt_major=5 ;;
@@ -36,7 +36,7 @@ set_qt_packages() {
     BENCHMARK_PACKAGES=(libbenchmark-dev python3 ${KCONFIG_PACKAGES[@]+"${KCONFIG_PACKAGES[@]}"})
 }
 
-# Homebrew phases Qt 5 out.
+# Qt 6 on macOS, because Homebrew phases Qt 5 out.
 default_qt() {
     if [ "$(uname)" = Darwin ]; then echo 6; else echo 5; fi
 }
@@ -51,8 +51,8 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# Installs those of the given packages that the system lacks, with its own package manager. On macOS
-# these are always the same.
+# install_missing <Debian package>...: installs those that are not installed yet. On macOS it
+# installs MACOS_PACKAGES instead.
 install_missing() {
     local package
     if [ "$(uname)" = Darwin ]; then
@@ -64,7 +64,7 @@ install_missing() {
         done
         return
     fi
-    command -v dpkg-query >/dev/null || return 0 # another Linux: CMake says what it misses
+    command -v dpkg-query >/dev/null || return 0 # another Linux: CMake names what is missing
     local missing=
     for package in "$@"; do
         dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' \
@@ -78,10 +78,10 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
-# Texts of every language pass through the console and the file system.
+# File names and output contain texts in every language.
 [ -n "${LC_ALL:-}${LANG:-}" ] || export LC_ALL=C.UTF-8
 
-# build_folder <preset>: where the preset builds with the chosen Qt, as CMakePresets.json says.
+# build_folder <preset>: prints the build folder, as CMakePresets.json defines it for the chosen Qt.
 build_folder() {
     case $1 in
         default) printf 'build%s' "${MALTO_QT_FOLDER:-}" ;;
@@ -89,14 +89,15 @@ build_folder() {
     esac
 }
 
-# configure <preset> [<CMake option>...]: every time, so that what was missing the last time is found.
+# configure <preset> [<CMake option>...]: configures every time, because packages that were missing
+# the last time may be installed by now.
 configure() {
     local preset=$1
     shift
-    # On the build servers warnings are errors; a newer compiler elsewhere must not stop the build.
+    # Warnings are errors on build servers only: elsewhere a newer compiler may have new ones.
     [ "${CI:-}" != true ] || set -- "$@" -DMALTO_DEVELOPER=ON
     if [ "$(uname)" = Darwin ]; then
-        # Homebrew links only its newest Qt to where it is found. The tests of the packages look, too.
+        # Exported, because the tests of the packages also search for Qt.
         local qt
         qt=$(brew --prefix "$macos_qt")
         export CMAKE_PREFIX_PATH="$qt${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"

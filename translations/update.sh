@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
-# Brings .ts files up to date with the texts in the sources: new texts come in unfinished, texts
-# that are gone leave.
+# Updates .ts files with the texts in the sources: adds new texts as unfinished and removes those
+# that are not used any more.
 #
 #   update.sh                            all files of the library
 #   update.sh FILE.ts...                 these, with the texts of the library
 #   update.sh --host SOURCES TS_FOLDER   a host's, with the texts of the folder SOURCES: the files
-#                                        <code>.ts that are in TS_FOLDER, or when there are none,
-#                                        new ones for all languages of the library
+#                                        <code>.ts in TS_FOLDER or, if there are none, new ones for
+#                                        all languages of the library
 #
-# LUPDATE names another lupdate.
+# The environment variable LUPDATE names another lupdate.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 
-# lupdate learns the name spaces of the classes, and with them the right contexts, from the headers,
-# and so must find these by the project's include lines.
+# lupdate takes the contexts of the texts from the namespaces in the headers, so it must find these
+# by the project's include lines.
 include=$(mktemp -d)
 trap 'rm -rf "$include"' EXIT
 ln -s "$root" "$include/MaltoConfiguration"
@@ -35,7 +35,8 @@ if [ "${1-}" = --host ]; then
         files=()
         for own in "$root"/translations/malto_*.ts; do
             file=$folder/${own##*/malto_}
-            # lupdate would guess the language from the file's name, and not always rightly.
+            # With a header, because lupdate guesses the language from the file name, sometimes
+            # wrongly.
             { sed '/^<context>/,$d' "$own"; echo '</TS>'; } >"$file"
             files+=("$file")
         done

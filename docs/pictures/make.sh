@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the pictures of the editors, docs/pictures/editors/*.png, again.
+# Draws the pictures of the editors again: docs/pictures/editors/*.png.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . cmake/prepare.sh

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Takes the README's pictures of the settings window again: docs/pictures/window*.png and window.gif.
+# Takes the README's pictures of the settings window again: docs/pictures/window*.png and
+# window.gif.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . cmake/prepare.sh

@@ -11,7 +11,7 @@ draw() {
 }
 
 white='#ffffff'
-grey='#8a919c' # seen well on the light and on the dark ground
+grey='#8a919c' # visible on light and dark backgrounds
 
 draw check "$white" 'polyline 14,34 27,47 50,19'
 draw partly "$white" 'line 16,32 48,32'

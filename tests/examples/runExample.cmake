@@ -1,4 +1,4 @@
-# Runs PROGRAM in the new folder FOLDER: it succeeds, and what it prints matches PATTERN.
+# Runs PROGRAM in the new folder FOLDER. It must succeed, and its output must match PATTERN.
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
 execute_process(COMMAND ${PROGRAM} WORKING_DIRECTORY ${FOLDER}

@@ -1,4 +1,4 @@
-# Fails when a file includes a header of a folder that stands above its own.
+# Fails if a file includes a header of a higher folder:
 #   store <- manage <- widgets <- manage/MtConfManageDeclare.cpp <- window
 
 set(forbidden_store "MaltoConfiguration/(manage|widgets|window)/|OrvUtils/|QIconfont/|<Q(Widget|Application|Label)>")
@@ -13,7 +13,7 @@ foreach(folder store manage widgets window companion)
          ${SOURCE_DIR}/${folder}/*.mm)
     foreach(file IN LISTS files)
         get_filename_component(name ${file} NAME)
-        # The one way up to the editors: declarations name the default editor of each type.
+        # The only exception: declarations create the default editor of each type.
         if(name STREQUAL "MtConfManageDeclare.cpp")
             continue()
         endif()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the consumer against the project in one of three ways, and runs it. With "readme" it builds the
-# README's program against the installed package; with "preset" it looks at what the presets for installing
-# would build.
+# Builds the consumer against the project in one of three ways, and runs it. With "readme" it builds
+# the README's program against the installed package; with "preset" it looks at what the presets for
+# installing would build.
 #   consume.sh package|pkgconfig|readme <build of the project> <work folder> <Qt: 5|6> <compiler> <flags>
 #   consume.sh tree|preset       <source of the project> <work folder> <Qt: 5|6> <compiler> <flags>
 set -euo pipefail

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What a new user does on a bare Debian 12: installs the packages, copies the README's program and its
-# CMake file, builds and runs it. Takes a picture of its window.
+# What a new user does on a bare Debian 12: installs the packages, copies the README's program and
+# its CMake file, builds and runs it. Takes a picture of its window.
 #   ./check [qt5|qt6] stranger [<folder for the picture>]
 # Linux only: needs root, debootstrap and the network; takes some minutes.
 set -euo pipefail

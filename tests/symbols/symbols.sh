@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# The exported functions and data of a library, one per line, compared with the list of its version.
-#   symbols.sh check  <library> <list>   fails when one of the list has gone; tells what is new
+# Compares the exported functions and data of a library with a list, one symbol in each line.
+# Linux only.
+#   symbols.sh check  <library> <list>   fails if a symbol of the list is missing; prints new ones
 #   symbols.sh update <library> <list>   writes the list
-# A symbol that goes breaks programs built against an earlier build: it takes a new SOVERSION.
+# Programs that were built earlier need the missing symbol: removing one requires a new SOVERSION.
 set -euo pipefail
 action=$1 library=$2 list=$3
 
-# Weak symbols are left out: which inline functions there are is the compiler's choice.
+# Without weak symbols: the compiler decides which inline functions it emits.
 exported() {
     nm --dynamic --defined-only "$library" | awk '$2 ~ /^[TDBR]$/ { print $3 }' \
         | c++filt | LC_ALL=C sort -u

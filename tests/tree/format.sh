@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Compares the layout of all C++ with what .clang-format asks for: format.sh [--fix]
-# With --fix it brings the files into that layout. Versions of clang-format differ, and 14 decides:
-# another one exits with 77 and says so.
+#   format.sh [--fix]
+# Compares the layout of all C++ with .clang-format; --fix changes the files. The versions of
+# clang-format differ and 14 decides: without it this exits with 77 and a sentence.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
