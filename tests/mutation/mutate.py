@@ -1,17 +1,18 @@
 #!/usr/bin/env python3
-"""Mutation test: applies many small changes to the library, one at a time, and reports those that
+"""Mutation test: applies many small changes to the libraries, one at a time, and reports those that
 make no test fail.
 
 Works on a private copy of the tree and can be stopped and resumed. Each mutant is built and run with
-the tests named after its source, then the tests of its folder, then the tests of the folders that use
-it, until one fails. A test that hangs or crashes counts as failed. A mutant that does not compile
-does not count and is replaced by another one.
+the tests named after its source, then the tests of its folder, offscreen and on an X server, then the
+tests of the folders that use it, until one fails. A test that hangs or crashes counts as failed. A
+mutant that does not compile does not count and is replaced by another one.
 """
 
 import argparse
 import json
 import os
 import random
+import re
 import subprocess
 import sys
 import threading
@@ -21,11 +22,17 @@ from pathlib import Path
 from mutants import mutants_of
 
 ROOT = Path(__file__).resolve().parents[2]
-FOLDERS = ("store", "manage", "widgets")
 # The folders whose tests cover a folder's code: its own first, then the folders that use it.
 TEST_FOLDERS = {"store": ("store", "manage"),
                 "manage": ("manage", "window", "widgets"),
-                "widgets": ("widgets", "window")}
+                "widgets": ("widgets", "window"),
+                "window": ("window", "demo"),
+                "companion/orvutils": ("companion/orvutils", "widgets", "window"),
+                "companion/iconfont": ("companion/iconfont", "window"),
+                "companion/globalshortcut": ("companion/globalshortcut", "widgets")}
+LIBRARIES = {"companion/orvutils": "OrvUtils", "companion/iconfont": "QIconfont",
+             "companion/globalshortcut": "QxtGlobalShortcut"}
+NOT_BUILT = ("createBackendNull.cpp",)  # for systems without hotkeys
 TEXT_SHARE = 0.3  # share of the text mutants that is drawn from: they are many and similar
 
 
@@ -35,17 +42,24 @@ def tracked_files():
     return sorted(name for name in listed.split("\n") if name and (ROOT / name).is_file())
 
 
+def sources():
+    return [str(path.relative_to(ROOT)) for folder in TEST_FOLDERS
+            for path in sorted((ROOT / folder).glob("*.cpp")) if path.name not in NOT_BUILT]
+
+
+def mutants_in(name):
+    return mutants_of(name, (ROOT / name).read_text())
+
+
 def chosen(seed, count):
     """Returns for each file its mutants in the order in which they are tried, and their number."""
     drawn = {}
-    for folder in FOLDERS:
-        for path in sorted((ROOT / folder).glob("*.cpp")):
-            name = "%s/%s" % (folder, path.name)
-            draw = random.Random("%d %s" % (seed, name))
-            mutants = [mutant for mutant in mutants_of(name, path.read_text())
-                       if mutant.kind != "text" or draw.random() < TEXT_SHARE]
-            draw.shuffle(mutants)
-            drawn[name] = mutants
+    for name in sources():
+        draw = random.Random("%d %s" % (seed, name))
+        mutants = [mutant for mutant in mutants_in(name)
+                   if mutant.kind != "text" or draw.random() < TEXT_SHARE]
+        draw.shuffle(mutants)
+        drawn[name] = mutants
     total = sum(len(mutants) for mutants in drawn.values())
     quota = {name: max(min(len(mutants), 3), round(count * len(mutants) / total))
              for name, mutants in drawn.items()}
@@ -69,7 +83,7 @@ class Tests:
 
     def relevant(self, source):
         """Returns the names of the tests that cover `source`, the closest first."""
-        folder, stem = source.split("/")[0], Path(source).stem
+        folder, stem = str(Path(source).parent), Path(source).stem
         names = []
         for test_folder in TEST_FOLDERS[folder]:
             tests = [path.stem for path in (ROOT / "tests" / test_folder).glob("tst_*.cpp")
@@ -80,7 +94,9 @@ class Tests:
             rest = [test for test in tests if test not in named + related]
             for group in (named, related, rest):
                 names += sorted(group, key=lambda test: (self.times.get(test, 0), test))
-        return names + ["x11." + name for name in names[:1] if "x11." + name in self.commands]
+            if test_folder == folder:
+                names += ["x11." + name for name in names if "x11." + name in self.commands]
+        return names
 
     def passes(self, name, limit):
         """Returns whether the test passes. Stops it at its first failure or at the time limit."""
@@ -138,12 +154,12 @@ class Copy:
         subprocess.run(["rsync", "-a", "--checksum", "--no-times", "--files-from=-",
                         str(ROOT), str(self.tree)], input=names, text=True, check=True)
 
-    def prepare(self):
+    def prepare(self, qt):
         if not (self.build / "build.ninja").exists():
             subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
                             "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
-                            "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"], check=True,
-                           stdout=subprocess.DEVNULL)
+                            "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DMALTO_QT_MAJOR=" + qt],
+                           check=True, stdout=subprocess.DEVNULL)
         folders = sorted({folder for group in TEST_FOLDERS.values() for folder in group})
         targets = ["tests/%s/all" % folder for folder in folders]
         if not self.compiles(targets):
@@ -159,11 +175,9 @@ class Copy:
         source = (ROOT / mutant.file).read_text()
         broken = source[:mutant.start] + mutant.after + source[mutant.end:]
         (self.tree / mutant.file).write_text(broken)
-        # Sources of classes that are not exported are compiled into the test named after them.
-        folder, stem = mutant.file.split("/")[0], Path(mutant.file).stem
-        test = "tst_%s" % stem
-        has_test = (ROOT / "tests" / folder / (test + ".cpp")).exists()
-        return self.compiles(["MaltoConfiguration"] + [test] * has_test)
+        # Sources of classes that are not exported are compiled into tests of the folder.
+        folder = str(Path(mutant.file).parent)
+        return self.compiles([LIBRARIES.get(folder, "MaltoConfiguration"), "tests/%s/all" % folder])
 
     def heals(self, mutant):
         (self.tree / mutant.file).write_text((ROOT / mutant.file).read_text())
@@ -198,8 +212,7 @@ def equivalents():
     path = Path(__file__).with_name("survivors.md")
     if not path.exists():
         return set()
-    lines = path.read_text().splitlines()
-    return {line.split("`")[1] for line in lines if line.startswith("| `")}
+    return set(re.findall(r"^\| `([0-9a-f]{12})`", path.read_text(), re.M))
 
 
 def tried(mutant, copy, tests, results):
@@ -232,6 +245,8 @@ def try_all(drawn, quota, copy, tests, results):
 
 def report(drawn, quota, results):
     known = equivalents()
+    for key in sorted(known - {mutant.key for name in sources() for mutant in mutants_in(name)}):
+        print("survivors.md: no mutant has the key `%s` now: its line has changed" % key)
     killed, survivors, excused = 0, [], 0
     for name, mutants in drawn.items():
         rows = [(mutant, results.rows[mutant.key]) for mutant in mutants
@@ -258,7 +273,8 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--work", type=Path, default=ROOT / "build-mutation",
                         help="folder for the private copy and the results")
-    parser.add_argument("--count", type=int, default=240, help="approximate number of mutants")
+    parser.add_argument("--qt", default="5", help="the Qt to build with, 5 or 6")
+    parser.add_argument("--count", type=int, default=420, help="approximate number of mutants")
     parser.add_argument("--seed", type=int, default=1, help="seed of the random selection")
     parser.add_argument("--only", default="", help="only sources whose name contains this text")
     parser.add_argument("--retry", action="store_true", help="try the survivors again")
@@ -274,7 +290,7 @@ def main():
         report(drawn, quota, results)
         return
     copy = Copy(options.work.resolve())
-    copy.prepare()
+    copy.prepare(options.qt)
     tests = Tests(copy.build, options.work)
     tests.measure(sorted({test for name in drawn for test in tests.relevant(name)}))
     try_all(drawn, quota, copy, tests, results)
