@@ -1,4 +1,4 @@
-// Entries that a person makes and deletes while the program runs: bookmarks, one of them a preset.
+// Entries that the user adds and deletes at run time: bookmarks, one of them a preset.
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QCoreApplication>
@@ -27,7 +27,7 @@ int main(int argc, char **argv)
     const QCoreApplication app(argc, argv);
     ConfStorage *store = ConfStorage::instance();
 
-    // How the store makes and removes the variable of an entry, whoever asked for it.
+    // The store calls these functions to create and remove the variable of an entry.
     ConfStorage::DynamicConfClass bookmark;
     bookmark.prefix = "Bookmarks.";
     bookmark.creator = [store](const QString &key, const QJsonValue *value) {
@@ -37,7 +37,7 @@ int main(int argc, char **argv)
     bookmark.remover = [](const QString &key) { bookmarks.erase(key); };
     store->mDynamicConfClasses.append(&bookmark);
 
-    // What is there from the start, until a person deletes it.
+    // A preset exists from the first start until the user deletes it.
     store->mPresetDynamicConfs["Bookmarks.home"] = QJsonObject{{"title", "Home"}};
     store->mLocalSaveFile = QCoreApplication::arguments().value(1, "bookmarks.json");
     store->loadLocalConfFile();
@@ -46,10 +46,11 @@ int main(int argc, char **argv)
     const QString key = "Bookmarks." + QString::number(bookmarks.size());
     store->createDynamicConf(key, QJsonObject{{"title", "Number " + key.mid(10)}}, &bookmark);
     store->removeDynamicConf("Bookmarks.home");
-    print("One made, one deleted");
+    print("One added, one deleted");
     store->saveToLocalConfFile();
 
-    // Back to the presets: what a person made goes, what a person deleted comes back.
+    // Restore the presets: entries that the user added are removed, and deleted presets are created
+    // again.
     store->restoreDynamicConf(bookmark.prefix);
     print("Restored");
     return 0;

@@ -1,4 +1,4 @@
-// The store by itself, in a program without windows: a service that counts its starts.
+// The store without a settings window: a service that counts its starts.
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-// An editor of your own: a percentage as a slider.
+// A custom editor: a slider for a percentage.
 #include <MaltoConfiguration/MaltoConfiguration.h>
 
 #include <QApplication>
@@ -35,7 +35,7 @@ private:
     void store(int percent)
     {
         showNumber();
-        // False: nothing to write, or whoever watches the setting has deleted this editor.
+        // False if the value is already stored, or if a change callback has deleted this editor.
         if (writeValue(percent))
             refreshLabelState();
     }

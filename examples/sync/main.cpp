@@ -1,5 +1,5 @@
-// Two copies of a configuration, changed apart and brought together: on each machine dump, put the
-// dump where the other one finds it, and load what the other one has put there.
+// Merges two copies of a configuration that were changed independently. Each computer dumps its
+// configuration, sends the dump to the other one, and loads the dump that it receives.
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QCoreApplication>
@@ -8,8 +8,7 @@
 
 namespace {
 
-/// One machine: its variables and its store. A program has one of each, and its store is
-/// `ConfStorage::instance()`.
+/// One computer with its variables and its store. A real program uses `ConfStorage::instance()`.
 struct Machine
 {
     ConfStorage store;
@@ -23,7 +22,7 @@ struct Machine
         store.reserveConf("General.Sound", &sound);
     }
 
-    /// As if a person had changed it at that second.
+    /// Changes a setting as if the user had changed it at that time (in seconds since 1970).
     void change(const QString &key, const QJsonValue &value, qint64 second)
     {
         store.loadSingleConf(key, QJsonObject{{"t", second}, {"v", value}},
@@ -46,10 +45,10 @@ int main(int argc, char **argv)
     Machine laptop("laptop");
 
     desktop.change("Capture.Delay", 5, 1700000100);
-    laptop.change("Capture.Delay", 9, 1700000200); // later: this one wins
+    laptop.change("Capture.Delay", 9, 1700000200); // newer, so this change wins
     laptop.change("General.Sound", false, 1700000050);
 
-    // A shared folder, a server, a stick: any way to bring the objects across, in any order.
+    // Send the objects in any way and in any order: with a shared folder, a server or a USB stick.
     const QJsonObject fromDesktop = desktop.store.dumpConf(ConfStorage::DumpShared);
     const QJsonObject fromLaptop = laptop.store.dumpConf(ConfStorage::DumpShared);
     laptop.store.loadConf(fromDesktop, ConfStorage::LoadShared);

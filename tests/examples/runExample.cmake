@@ -5,5 +5,5 @@ execute_process(COMMAND ${PROGRAM} WORKING_DIRECTORY ${FOLDER}
     RESULT_VARIABLE result OUTPUT_VARIABLE output)
 message("${output}")
 if(NOT result EQUAL 0 OR NOT output MATCHES "${PATTERN}")
-    message(FATAL_ERROR "${PROGRAM}: result ${result}, or not what was expected: ${PATTERN}")
+    message(FATAL_ERROR "${PROGRAM}: exit code ${result}; expected 0 and output matching: ${PATTERN}")
 endif()
