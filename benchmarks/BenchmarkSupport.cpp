@@ -17,7 +17,7 @@ QVector<SettingName> settingNames(int count)
     QVector<SettingName> result;
     result.reserve(count);
     for (int i = 0; i < count; ++i) {
-        // Class by class, as hosts declare their pages.
+        // All settings of a class one after the other, as hosts declare their pages.
         const int page = static_cast<int>(50LL * i / count);
         result.append({classes.at(page % 5) + QString::number(page / 5), names.at(i / 4 % 4),
                        subNames.at(i % 4) + QString::number(i)});

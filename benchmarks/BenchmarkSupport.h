@@ -10,27 +10,27 @@
 
 #include <vector>
 
-/// The name of one setting, as hosts name them: "General0.Hotkey.Left0".
+/// The name of one setting in the form that hosts use: "General0.Hotkey.Left0".
 struct SettingName
 {
     QString className, name, subName;
 
-    /// The name within the class.
+    /// Returns the name within the class.
     QString inner() const { return name + QLatin1Char('.') + subName; }
     QString key() const { return className + QLatin1Char('.') + inner(); }
 };
 
-/// `count` different names in up to 50 classes.
+/// Returns `count` different names in up to 50 classes.
 QVector<SettingName> settingNames(int count);
 
-/// The keys of these names.
+/// Returns the keys of these names.
 std::vector<QString> keysOf(const QVector<SettingName> &names);
 
-/// The numbers below `count` in an order that is always the same and looks random: a host asks for
-/// its settings in no order that a cache could foresee.
+/// Returns the numbers below `count` in a fixed pseudo-random order, because the order in which a
+/// host reads its settings is not predictable for the processor's caches.
 std::vector<int> shuffled(int count);
 
-/// The value number `i` of a setting of type `T`.
+/// Returns value number `i` of a setting of type `T`.
 template<class T> T valueOf(int i) = delete;
 template<> int valueOf<int>(int i);
 template<> bool valueOf<bool>(int i);
@@ -38,22 +38,22 @@ template<> QString valueOf<QString>(int i);
 
 int sizeOf(const benchmark::State &state);
 
-/// Reports the time of one entry, one iteration handling as many as the size says.
+/// Reports the time per entry. One iteration handles as many entries as the size of the benchmark.
 void countEntries(benchmark::State &state);
 
-/// Bytes in use on the heap of the process.
+/// Returns the number of bytes in use on the heap of the process.
 qint64 heapBytes();
 
-/// Reports a measured size, bytes of the whole, as bytes of one entry.
+/// Reports a measured total of `bytes` as bytes per entry.
 void countBytes(benchmark::State &state, qint64 bytes);
 
-/// Registers `function` as what `who` ("library", "bare" or a peer) does for `work`.
+/// Registers `function` as the implementation of `work` by `who`: "library", "bare" or a peer.
 benchmark::internal::Benchmark *addBenchmark(const char *work, const char *who,
                                              void (*function)(benchmark::State &),
                                              const std::vector<int> &sizes = {100, 1000, 10000,
                                                                               100000});
 
-/// Reads every key once in each iteration. A `Subject` holds values of the names it is made of.
+/// Reads every key once per iteration. A `Subject` is constructed with names and has their values.
 template<class Subject> void benchRead(benchmark::State &state)
 {
     const Subject subject(settingNames(sizeOf(state)));
@@ -67,7 +67,7 @@ template<class Subject> void benchRead(benchmark::State &state)
     countEntries(state);
 }
 
-/// Writes every key once in each iteration.
+/// Writes every key once per iteration.
 template<class Subject> void benchWrite(benchmark::State &state)
 {
     Subject subject(settingNames(sizeOf(state)));
@@ -81,8 +81,9 @@ template<class Subject> void benchWrite(benchmark::State &state)
     countEntries(state);
 }
 
-/// Loads a file into the variables of a host. `File(names, path)` writes the file and is ready to
-/// take `load(path)` and `forget()` any number of times; `isLoaded()` tells whether it did.
+/// Loads a file into the variables of a host. `File(names, path)` writes the file. After that
+/// `load(path)` and `forget()` can be called any number of times; `isLoaded()` returns whether the
+/// values are loaded.
 template<class File> void benchLoad(benchmark::State &state)
 {
     const QTemporaryDir folder;
@@ -92,7 +93,7 @@ template<class File> void benchLoad(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         file.forget();
-        // A file of another name: peers keep what they know of a file that they have read before.
+        // Copy to a new file name: peers cache files that they have read before.
         const QString path = folder.filePath(QString::number(++loads));
         QFile::copy(original, path);
         state.ResumeTiming();
@@ -112,7 +113,7 @@ template<class File> void benchSave(benchmark::State &state)
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("saved"));
     File file(settingNames(sizeOf(state)), path);
-    int value = sizeOf(state); // never one that stands in the file already
+    int value = sizeOf(state); // larger than all values in the file
     for (auto _ : state)
         file.save(++value);
     if (QFileInfo(path).size() < sizeOf(state))

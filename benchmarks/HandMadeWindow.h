@@ -11,16 +11,16 @@ class QGroupBox;
 class QStandardItemModel;
 class Ui_ConfigurationWindow;
 
-/// A settings window as a host would make it by hand: the same form, the same controls in the same
-/// layout under the same style sheet, and nothing else.
+/// A settings window as a host would write it without the library: the same form, the same controls
+/// in the same layout with the same style sheet, and nothing else.
 class HandMadeWindow : public QMainWindow
 {
 public:
-    /// A window whose list shows `classes`.
+    /// Creates a window with `classes` in its list.
     HandMadeWindow(const QStringList &classes, const QString &styleSheet);
     ~HandMadeWindow() override;
 
-    /// Puts `count` controls on the page, in place of what it held.
+    /// Replaces the content of the page with `count` controls.
     void showPage(const QString &caption, int count);
 
 protected:
@@ -32,5 +32,5 @@ private:
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;
     QStandardItemModel *mClasses;
-    std::vector<std::function<void()>> mTexts; // each sets one text of the page
+    std::vector<std::function<void()>> mTexts; // each retranslates one text of the page
 };

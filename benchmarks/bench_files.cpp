@@ -22,14 +22,13 @@ struct Numbers
     static int valueOf(int i) { return i; }
 };
 
-/// Not in ASCII, and so not plain to the library's own reader.
+/// Texts beyond ASCII.
 struct Texts
 {
     static QString valueOf(int i) { return QStringLiteral("B\u00fccher %1").arg(i); }
 };
 
-/// A store of which every value has been changed, as a person would have over the years, and its
-/// local file.
+/// A store in which every value has been changed, as by a user over the years, and its local file.
 template<class Values> class StoredFile
 {
 public:
@@ -44,7 +43,7 @@ public:
         mStore.saveToLocalConfFile();
     }
 
-    /// Back to the defaults: the file is newer than that.
+    /// Resets all values and timestamps, so that the file is newer.
     void forget()
     {
         for (ConfStorage::ConfMeta &meta : mStore.mConfMetas) {
@@ -80,7 +79,7 @@ private:
 
 using LocalFile = StoredFile<Numbers>;
 
-/// The same, saved so that a crash or a full disk loses nothing.
+/// The same with `mSafeSave`.
 class SafeLocalFile : public LocalFile
 {
 public:
@@ -90,7 +89,7 @@ public:
     }
 };
 
-/// The same, written by another program: a text that is left to Qt's parser.
+/// The same after another program has indented the file, so that Qt's parser must be used.
 class IndentedFile : public LocalFile
 {
 public:
@@ -103,7 +102,7 @@ public:
     }
 };
 
-/// The least that loading and saving the same file do.
+/// The bare cost of loading and saving the same file.
 template<class File> class BareFile
 {
 public:
@@ -132,9 +131,9 @@ private:
     QJsonDocument mDocument;
 };
 
-constexpr int sNewerEvery = 100; // one in a hundred is newer in the second copy
+constexpr int sNewerEvery = 100; // one in a hundred entries is newer in the second copy
 
-/// A second copy of the configuration, of which every hundredth entry is newer.
+/// Returns a second copy of the configuration, in which every hundredth entry is newer.
 QString secondCopy(const QString &path)
 {
     QJsonObject members = QJsonDocument::fromJson(contentOf(path)).object();
@@ -191,7 +190,7 @@ void addFileBenchmarks()
     addBenchmark("loadIndented", "bare", benchLoad<BareFile<IndentedFile>>);
     addBenchmark("saveLocalFile", "library", benchSave<LocalFile>);
     addBenchmark("saveLocalFile", "bare", benchSave<BareFile<LocalFile>>);
-    // Beside a plain save, by the clock on the wall: a safe one waits for the disk.
+    // Compared with a plain save, in wall-clock time, because a safe save waits for the disk.
     addBenchmark("saveSafely", "library", benchSave<SafeLocalFile>)->UseRealTime();
     addBenchmark("saveSafely", "bare", benchSave<LocalFile>)->UseRealTime();
     addBenchmark("mergeCopy", "library", mergeCopy);

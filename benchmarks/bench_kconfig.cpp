@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Groups and names within them, looked up once, as an economical host would.
+/// The groups and the names within them. The groups are looked up once, as in an efficient host.
 class Entries
 {
 public:
@@ -45,7 +45,7 @@ template<class T> void writeFile(const QVector<SettingName> &names, const QStrin
     config.sync();
 }
 
-/// A configuration as it is after a start: read from a file.
+/// A configuration as after a program start: read from a file.
 template<class T> class ConfigStore
 {
 public:

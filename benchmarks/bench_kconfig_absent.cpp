@@ -4,5 +4,5 @@
 
 void addKConfigBenchmarks()
 {
-    std::fputs("KConfig is left out: it was not found when this was configured\n", stderr);
+    std::fputs("KConfig is not measured: CMake did not find it\n", stderr);
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The store outlives every manager; the next one starts from an empty store.
+/// Empties the store for the next manager, because the store outlives all managers.
 void emptyStore()
 {
     ConfStorage::instance()->mConfValues.clear();
@@ -58,12 +58,12 @@ void insertIntoHash(benchmark::State &state)
     countEntries(state);
 }
 
-/// A configuration file that gives every key a value other than its default.
+/// Returns a configuration file in which every value differs from its default.
 QByteArray configurationText(const QVector<SettingName> &names)
 {
     QJsonObject members;
     std::vector<QString> keys = keysOf(names);
-    std::sort(keys.begin(), keys.end()); // an object is built fast in its own order only
+    std::sort(keys.begin(), keys.end()); // inserting into an object is only fast in sorted order
     for (size_t i = 0; i < keys.size(); ++i)
         members.insert(keys[i], static_cast<int>(i) + 1);
     return QJsonDocument(members).toJson();

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Keys as hosts of QSettings form them: the class is a group of the file.
+/// Returns the keys in the form that is usual with QSettings: the class is a group of the file.
 std::vector<QString> groupedKeys(const QVector<SettingName> &names)
 {
     std::vector<QString> keys;
@@ -16,7 +16,7 @@ std::vector<QString> groupedKeys(const QVector<SettingName> &names)
     return keys;
 }
 
-/// Settings as they are after a start: read from a file, and so texts inside.
+/// Settings as after a program start: read from a file, so that QSettings has them as strings.
 template<class T> class SettingsStore
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Variables of a host: what a host without a library has. (No std::vector: of bools it has none.)
+/// The variables of a host without a library. (Not a std::vector, which has no addresses of bools.)
 template<class T> class Variables
 {
 public:
@@ -25,7 +25,7 @@ private:
     QVector<T> mValues;
 };
 
-/// Variables and a store that is bound to them.
+/// A store that is bound to variables.
 template<class T> class BoundStore
 {
 public:
@@ -37,7 +37,7 @@ public:
     }
 
     T read(int i) const { return mStore.get<T>(key(i)); }
-    /// The least that reading by key does.
+    /// The bare cost of reading by key.
     const ConfValue &lookUp(int i) const { return *mStore.mConfValues.constFind(key(i)); }
     void write(int i, const T &value) { mStore.set(key(i), value); }
     const Variables<T> &variables() const { return mVariables; }
@@ -67,7 +67,7 @@ private:
     int mCalls = 0;
 };
 
-/// The least that setting a value does: both lookups, the clock, the callback.
+/// The bare cost of setting a value: both lookups, the clock and the callback.
 class BareWatchedMap
 {
 public:

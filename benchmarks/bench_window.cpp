@@ -29,14 +29,14 @@ QString emptyPageName()
     return QStringLiteral("Empty");
 }
 
-/// Lets the event loop polish, lay out and paint what is new.
+/// Runs the event loop until new widgets are polished, laid out and painted.
 void finishShowing()
 {
     QApplication::sendPostedEvents();
     QApplication::processEvents();
 }
 
-/// The other language: every text with a mark before it.
+/// Translates every text by prefixing it with a mark.
 class MarkingTranslator : public QTranslator
 {
 public:
@@ -47,14 +47,14 @@ public:
     }
 };
 
-/// The settings window over `count` items: a check box, a number and a choice in turn, and an empty
-/// page beside them.
+/// The settings window with `count` items on one page (check boxes, spin boxes and combo boxes in
+/// turn) and a second, empty page.
 class LibraryWindow
 {
 public:
     explicit LibraryWindow(int count) : mFlags(count), mNumbers(count)
     {
-        // The window keeps its geometry in the working directory.
+        // The window saves its geometry in the working directory.
         mPrevious = QDir::currentPath();
         QDir::setCurrent(mFolder.path());
         for (int i = 0; i < count; ++i)
@@ -87,7 +87,7 @@ public:
 private:
     static MtConf::ConfigurationWindow *window() { return MtConf::ConfigurationWindow::instance(); }
 
-    /// As a click on the row does.
+    /// Selects a row of the class list, like a click.
     static void makeCurrent(int row)
     {
         auto *list = window()->findChild<QListView *>(QStringLiteral("configList"));
@@ -113,7 +113,7 @@ private:
     MtConf::MtConfManage mManager;
 };
 
-/// The same by hand.
+/// The same window without the library.
 class BareWindow
 {
 public:

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the program measures. Each function registers the benchmarks of its source file.
+// Each of these functions registers the benchmarks of its source file.
 
 void addStoreBenchmarks();
 void addFileBenchmarks();
@@ -8,5 +8,5 @@ void addManagerBenchmarks();
 void addWindowBenchmarks();
 
 void addQSettingsBenchmarks();
-/// Says on standard error that KConfig is left out where it was not found when this was built.
+/// If KConfig was not found at build time, prints this on standard error and registers nothing.
 void addKConfigBenchmarks();

@@ -13,9 +13,9 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Counted under Qt's control, hashes and with them the work differ from run to run.
+    // With Qt's random hash seed the work would differ from run to run.
     qSetGlobalQHashSeed(0);
-    // What is logged would be measured as well, and drown the results.
+    // Log output would be measured too, and would hide the results.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QApplication application(argc, argv);
 
@@ -30,7 +30,7 @@ int main(int argc, char **argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     if (benchmark::RunSpecifiedBenchmarks() == 0) {
-        std::fputs("no benchmark has such a name\n", stderr);
+        std::fputs("no benchmark matches the filter\n", stderr);
         return 1;
     }
     return 0;

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws how the cost of one entry grows with the number of entries. Needs python3-matplotlib.
+"""Plots the cost per entry against the number of entries. Needs python3-matplotlib.
 
     plot.py <results.json> <picture.svg>
 """
@@ -35,7 +35,7 @@ def draw(axes, work, sizes):
 
 
 def main(results, picture):
-    # The same results give the same bytes.
+    # Make the file reproducible: the same results give the same bytes.
     plt.rcParams["svg.hashsalt"] = "performance"
     plt.rcParams["svg.fonttype"] = "none"
     works = {work: sizes for work, sizes in read_medians(results).items()

@@ -1,4 +1,4 @@
-"""Reads what the benchmarks wrote."""
+"""Reads the results file of the benchmarks."""
 
 import json
 import sys
@@ -21,8 +21,8 @@ GOALS = {
 
 
 def read_medians(path):
-    """{work: {entries: {who: (unit, cost of one entry)}}}, costs in seconds or bytes."""
-    works = {}  # as they were registered, whatever the order in which they ran
+    """Returns {work: {entries: {who: (unit, cost per entry)}}}, with costs in seconds or bytes."""
+    works = {}  # in the order of registration, because the benchmarks run in random order
     with open(path, encoding="utf-8") as file:
         runs = json.load(file)["benchmarks"]
     for run in sorted(runs, key=lambda run: run["family_index"]):

@@ -1,4 +1,4 @@
-// Draws the row of every kind of setting as the settings window shows it: editors <folder>
+// Draws a picture of each kind of setting as the settings window shows it: editors <folder>
 #include <MaltoConfiguration/MaltoConfiguration.h>
 
 #include <OrvUtils/QThemeCtrl.h>
@@ -21,7 +21,7 @@ void settle()
         QCoreApplication::processEvents();
 }
 
-/// The caption and the editor of a row, with a little of the panel around them.
+/// Returns a picture of an item's caption and editor, with a margin of the panel around them.
 QPixmap pictureOf(const ConfItem &item)
 {
     QWidget *const panel = item.editor->parentWidget();
@@ -39,7 +39,7 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     const QString folder = QDir(app.arguments().value(1, ".")).absolutePath();
-    const QTemporaryDir working; // nothing of this program stays
+    const QTemporaryDir working; // for the files that the library writes
     QDir::setCurrent(working.path());
 
     bool on = true;
