@@ -53,7 +53,7 @@ function(malto_install_package)
         ${PROJECT_BINARY_DIR}/MaltoConfigurationConfig.cmake
         INSTALL_DESTINATION ${MALTO_CMAKE_DIR}
         PATH_VARS MALTO_DATA_DIR)
-    # Before 1.0 a new minor version may change anything.
+    # Before 1.0 a minor version may be incompatible.
     write_basic_package_version_file(
         ${PROJECT_BINARY_DIR}/MaltoConfigurationConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)

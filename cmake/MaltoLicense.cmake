@@ -4,7 +4,7 @@ set(MALTO_LICENSE_FILE ${PROJECT_SOURCE_DIR}/LICENSE)
 # For the copyright file of the Debian packages.
 set(MALTO_LICENSE_NAME not-chosen-yet)
 set(MALTO_LICENSE_TEXT " No licence has been chosen yet. Until then all rights are reserved.")
-# For the pkg-config files: a line or nothing.
+# For the pkg-config files: one line, or empty.
 set(PC_LICENSE)
 
 if(MALTO_LICENSE AND NOT EXISTS ${MALTO_LICENSE_FILE})

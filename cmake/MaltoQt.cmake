@@ -1,7 +1,7 @@
-# Which Qt the project is built with: MALTO_QT_MAJOR is 5 or 6 after this file.
+# Selects the Qt to build with and sets MALTO_QT_MAJOR to 5 or 6.
 #
-# The sources name Qt's targets by it, Qt${MALTO_QT_MAJOR}::Core. The names without a version would
-# not do: in a host that has found both they belong to the first one, a host can turn them off, and
+# Targets of Qt are written with it, as Qt${MALTO_QT_MAJOR}::Core. The versionless targets would not
+# work: in a host that has found both Qts they belong to the first one, a host can disable them, and
 # the installed package must name the Qt that it was built with.
 
 set(MALTO_MINIMUM_QT5 5.15)
@@ -13,7 +13,7 @@ if(NOT DEFINED MALTO_QT_MAJOR)
     set_property(CACHE MALTO_QT_MAJOR PROPERTY STRINGS "" 5 6)
 endif()
 
-# _malto_choose_qt(<result>): 5 or 6, or empty when there is neither.
+# _malto_choose_qt(<result>): sets the result to 5 or 6, or to nothing if neither is found.
 macro(_malto_choose_qt result)
     set(${result} ${MALTO_QT_MAJOR})
     if(NOT "${MALTO_QT_MAJOR}" MATCHES "^[56]?$")
@@ -35,7 +35,7 @@ macro(_malto_choose_qt result)
     else()
         _malto_find_newest_qt(${result})
         if(NOT MALTO_IS_TOP_LEVEL AND NOT CMAKE_VERSION VERSION_LESS 3.19)
-            # The host may look for its Qt later, and find the other one.
+            # The host may call find_package() for its Qt later, and find the other one.
             cmake_language(EVAL CODE "
                 cmake_language(DEFER DIRECTORY [[${CMAKE_SOURCE_DIR}]] CALL _malto_check_qt_of_host
                     [[${${result}}]]
@@ -44,9 +44,9 @@ macro(_malto_choose_qt result)
     endif()
 endmacro()
 
-# The newest Qt that is complete and new enough, or else one that is there, or else empty. The choice is
-# kept, so that a Qt that is installed later does not change a build folder that is in use.
-# (`find_package(QT NAMES Qt6 Qt5)` takes the one that the folder happens to list first.)
+# Finds a Qt that is complete and new enough, or else any installed Qt, or else nothing. The result is
+# cached, so that a Qt that is installed later does not change an existing build folder.
+# (`find_package(QT NAMES Qt6 Qt5)` would depend on the order of the folders on the disk.)
 macro(_malto_find_newest_qt result)
     foreach(major IN ITEMS ${MALTO_QT_FOUND} 5 6)
         find_package(Qt${major} QUIET COMPONENTS Core Gui Widgets)
@@ -60,8 +60,8 @@ macro(_malto_find_newest_qt result)
     set(MALTO_QT_FOUND "${${result}}" CACHE INTERNAL "The Qt that was found first")
 endmacro()
 
-# _malto_check_qt_of_host(<major> <objection>): ends the configuration when the host has found the
-# other Qt and this one not.
+# _malto_check_qt_of_host(<major> <objection>): fails if the host has found the other Qt but not this
+# one.
 function(_malto_check_qt_of_host major objection)
     math(EXPR other "11 - ${major}")
     if(TARGET Qt${other}::Core AND NOT TARGET Qt${major}::Core)
@@ -70,7 +70,8 @@ function(_malto_check_qt_of_host major objection)
     endif()
 endfunction()
 
-# malto_find_qt(<module>...): finds modules of the chosen Qt, or says what is missing.
+# malto_find_qt(<module>...): finds modules of the selected Qt, or fails with a message about the
+# missing ones.
 macro(malto_find_qt)
     find_package(Qt${MALTO_QT_MAJOR} QUIET COMPONENTS ${ARGN})
     _malto_check_modules(${ARGN})
@@ -104,7 +105,7 @@ if(NOT malto_qt_major)
         "${MALTO_MINIMUM_QT6} or newer, and found neither: install the development packages of one or "
         "name its folder in CMAKE_PREFIX_PATH.")
 endif()
-# Hides the variable of the cache, which stays what the user has chosen.
+# This normal variable hides the cache variable, which keeps the user's choice.
 set(MALTO_QT_MAJOR ${malto_qt_major})
 set(MALTO_MINIMUM_QT ${MALTO_MINIMUM_QT${MALTO_QT_MAJOR}})
 malto_find_qt(Core Gui Widgets)

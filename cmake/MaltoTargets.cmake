@@ -5,7 +5,7 @@
 # has a folder of symbolic links for this.
 set(MALTO_INCLUDE_DIR ${CMAKE_CURRENT_BINARY_DIR}/include)
 
-# malto_include_tree(<name> <entry>...): each entry of the current source folder appears as
+# malto_include_tree(<name> <entry>...): links each entry of the current source folder as
 # include/<name>/<entry>.
 function(malto_include_tree name)
     file(MAKE_DIRECTORY ${MALTO_INCLUDE_DIR}/${name})

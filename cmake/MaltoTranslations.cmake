@@ -1,11 +1,11 @@
-# The translations of a host, ready for the language setting of its settings window.
+# Builds the translations of a host for the language setting of its settings window.
 #
 #   malto_add_translations(<target>
 #       [TS_DIR <folder>] [LANGUAGES <code>...] [DESTINATION <folder>])
 #
-# For every language this merges the library's own texts (translations/malto_<code>.ts) with those
-# of the host (<TS_DIR>/<code>.ts) into one <code>.qm, and puts Qt's own texts beside it as
-# qt_<code>.qm, where ConfWidgetLanguage looks for them:
+# For every language this merges the translations of the library (translations/malto_<code>.ts) with
+# those of the host (<TS_DIR>/<code>.ts) into <code>.qm, and writes Qt's translations to qt_<code>.qm.
+# ConfWidgetLanguage finds both at these paths:
 #
 #   <folder of the executable>/../Resources/language/<code>.qm
 #   <folder of the executable>/../Resources/language_qt/qt_<code>.qm
@@ -93,7 +93,7 @@ function(malto_add_catalogue catalogue)
         DEPENDS ${ARGN} VERBATIM)
 endfunction()
 
-# Sets qt_major, and finds the tools in the scope of the caller.
+# Sets qt_major and finds the linguist tools, both in the scope of the caller.
 macro(_malto_find_linguist_tools)
     get_property(qt_major GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR)
     find_package(Qt${qt_major} QUIET COMPONENTS Core LinguistTools)
