@@ -1,4 +1,4 @@
-# Writes the packages and the host, configures it and looks at what it prints.
+# Writes the packages and the host, configures the host and checks its output.
 cmake_minimum_required(VERSION 3.16)
 
 # install_qt(<major>:<version>[:<module that it lacks>])
@@ -52,7 +52,7 @@ endforeach()
 file(WRITE ${FOLDER}/host/CMakeLists.txt "
     cmake_minimum_required(VERSION 3.16)
     project(host LANGUAGES NONE)
-    # Only the packages from here.
+    # Find only these packages.
     set(CMAKE_PREFIX_PATH ${FOLDER}/qt)
     set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)
     set(CMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH OFF)

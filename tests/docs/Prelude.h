@@ -4,8 +4,8 @@
 
 #include <QtWidgets>
 
-// What every block may use; docs/README.md tells the reader. A block that uses a companion library
-// shows its include.
+// Declarations that every block may use, as described in docs/README.md. A block that uses a
+// companion library shows its include.
 
 extern MtConf::MtConfManage &settings; ///< the program's manager
 extern QMainWindow *mainWindow;        ///< the program's window
@@ -20,6 +20,6 @@ extern QString language;
 extern QColor frameColor;
 extern QKeySequence captureHotkey;
 
-// What the program does.
+// The functions of the program.
 void capture();
 void applyDelay(int seconds);

@@ -66,16 +66,16 @@ with tempfile.TemporaryDirectory() as folder:
     for name, keys in WRITTEN.items():
         document = json.loads(pathlib.Path(folder, name).read_text(encoding="utf-8"))
         if set(document) != keys:
-            problems.append(f"{name} holds other keys: {sorted(set(document) ^ keys)}")
+            problems.append(f"{name} has other keys: {sorted(set(document) ^ keys)}")
         problems += [f"{name}: {error.json_path}: {error.message}"
                      for error in checkers["local-file"].iter_errors(document)]
 for name, checker in checkers.items():
-    problems += [f"{name} refuses {document}" for document in RIGHT[name] if not checker.is_valid(document)]
+    problems += [f"{name} rejects {document}" for document in RIGHT[name] if not checker.is_valid(document)]
     problems += [f"{name} accepts {what}" for what, document in WRONG[name].items()
                  if checker.is_valid(document)]
 for page in sorted(root.glob("docs/**/*.md")):
     for block in re.findall(r"^```json\n(.*?)^```$", page.read_text(encoding="utf-8"), flags=re.M | re.S):
         if not any(checker.is_valid(json.loads(block)) for checker in checkers.values()):
-            problems.append(f"{page} shows what no schema accepts:\n{block}")
+            problems.append(f"{page} shows a block that no schema accepts:\n{block}")
 print("\n".join(problems))
 sys.exit(bool(problems))

@@ -21,6 +21,6 @@ for sheet in sorted(root.glob("res/*.qss")):
     text = re.sub(r"/\*.*?\*/|\{.*?\}", "", sheet.read_text(encoding="utf-8"), flags=re.S)
     for hook in sorted(set(re.findall(r'[#.][A-Za-z]\w*|\[\w+="\w+"\]|\w+--\w+', text))):
         if hook not in page and hook != '[class="KeySequenceEdit"]':
-            problems.append(f"{sheet.name}: the hook {hook} is not on the page")
+            problems.append(f"{sheet.name}: the selector {hook} is not on the page")
 print("\n".join(problems))
 sys.exit(bool(problems) or not colours)

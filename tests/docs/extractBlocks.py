@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes a C++ file of the cpp blocks of one page of the documentation, so that the compiler reads them.
+"""Generates a C++ file from the cpp blocks of one page of the documentation, so that they are compiled.
 
     extractBlocks.py <page.md> <out.cpp>
 
@@ -16,7 +16,7 @@ import sys
 
 
 def blocks(page):
-    """The cpp blocks as (number of the first line, mark before the fence, lines)."""
+    """Yields the cpp blocks as (number of the first line, mark before the fence, lines)."""
     lines = page.read_text(encoding="utf-8").splitlines()
     mark, start = "", None
     for number, line in enumerate(lines, 1):

@@ -1,4 +1,4 @@
-// Writes what the store dumps, with every type and every kind of entry: writeDumps <folder>
+// Writes dumps of the store with every type and every kind of entry: writeDumps <folder>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QFile>

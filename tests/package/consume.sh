@@ -17,7 +17,7 @@ build() { # <source folder> [<option>...]
     cmake -G Ninja -S "$source" -B "$work/build" -DCMAKE_BUILD_TYPE=Debug "$@"
     cmake --build "$work/build"
 }
-# The package must work where it was moved to.
+# The package must work after it was moved.
 install_and_move() {
     cmake --install "$project" --prefix "$work/first" >/dev/null
     mkdir "$work/moved"
@@ -55,7 +55,7 @@ tree)
     ln -s "$project" "$work/host/ThirdParty/MaltoConfiguration"
     build "$work/host" -DMALTO_QT_MAJOR="$qt_major"
     "$work/build/consumer"
-    # In a host's tree only the libraries are built.
+    # As a subfolder of a host, only the libraries are built.
     if find "$work/build" -name '*malto-demo*' -o -name 'tst_*' | grep .; then
         exit 1
     fi

@@ -19,7 +19,7 @@ lintian --allow-root --fail-on error "$packages"/*.deb >&2
 root=$(mktemp -d)
 trap 'umount "$root/proc" 2>/dev/null || true; rm -rf "$root"' EXIT
 debootstrap --variant=minbase bookworm "$root" >&2
-cp -r /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/" # the proxies of this machine
+cp -r /etc/apt/apt.conf.d/. "$root/etc/apt/apt.conf.d/" # proxy settings of this computer
 mount -t proc proc "$root/proc" 2>/dev/null || true
 mkdir "$root/stranger"
 cp "$packages"/*.deb "$root/stranger"

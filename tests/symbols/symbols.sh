@@ -20,4 +20,4 @@ fi
 gone=$(LC_ALL=C comm -23 "$list" <(exported))
 new=$(LC_ALL=C comm -13 "$list" <(exported))
 [ -z "$new" ] || printf 'New, not in %s:\n%s\n' "$list" "$new"
-[ -z "$gone" ] || { printf 'Gone from %s:\n%s\n' "$library" "$gone"; exit 1; }
+[ -z "$gone" ] || { printf 'Missing in %s:\n%s\n' "$library" "$gone"; exit 1; }

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Finds what the shell scripts may not use: macOS runs them with bash 3.2 and the tools of BSD.
+"""Finds constructs that shell scripts must not use, because macOS has bash 3.2 and the tools of BSD.
 
     checkScripts.py <folder of the project>
     checkScripts.py <folder of the project> --shellcheck <program>   asks shellcheck instead
 
-Each rule has a line that it must find and one that it must accept; both are tried first. A script
-that says "Linux only" in a comment may use GNU's tools, and still no newer bash.
+Each rule has an example that it must find and one that it must accept; both are tested first. A script
+with the comment "Linux only" may use GNU tools, but no newer bash.
 """
 
 import os
@@ -77,7 +77,7 @@ ASSIGNMENT = re.compile(r"(?:^|[\s;&|(])(\w+)=\(([^()]*(?:\([^()]*\)[^()]*)*)\)"
 
 
 def scripts(root):
-    """The shell scripts of the tree, told by their first line or by their name."""
+    """Yields the shell scripts of the tree, recognised by their first line or their name."""
     for folder, folders, files in os.walk(root):
         folders[:] = [name for name in folders
                       if name == ".ci" or not name.startswith((".", "build"))]
@@ -92,12 +92,12 @@ def scripts(root):
 
 
 def code_of(text):
-    """The text with its comments made blank; lines keep their numbers."""
+    """Returns the text with blanked comments and unchanged line numbers."""
     return re.sub(r"^(\s*)#.*|(\s)#\s.*$", "", text, flags=re.M)
 
 
 def never_empty(codes):
-    """The arrays that only ever get a list with a first element that cannot vanish."""
+    """Returns the arrays that are only assigned lists whose first element always exists."""
     safe, other = set(), set()
     for code in codes:
         for name, elements in ASSIGNMENT.findall(code):
@@ -108,7 +108,7 @@ def never_empty(codes):
 
 
 def found_in(code, rules, full):
-    """Yields (line number, what is wrong). `full` are arrays that are never empty."""
+    """Yields (line number, problem). `full` are the arrays that are never empty."""
     for number, line in enumerate(code.split("\n"), 1):
         for rule in rules:
             match = re.search(rule.pattern, line)

@@ -10,7 +10,7 @@ for program in clang-format-14 clang-format /opt/homebrew/opt/llvm@14/bin/clang-
     [ "$version" != 14 ] || break
 done
 if [ "$version" != 14 ]; then
-    echo "clang-format 14, the one of Debian 12, decides; it is not here."
+    echo "clang-format 14, the version of Debian 12, decides, and it is not installed."
     exit 77
 fi
 mode=(--dry-run --Werror)

@@ -1,4 +1,4 @@
-# Compares the registered tests with the list of the tree, or writes the list:
+# Compares the registered tests with a list, or writes the list:
 #   cmake -DCTEST=<ctest> -DBUILD=<build folder> -DLIST=<file> [-DUPDATE=ON] -P listTests.cmake
 execute_process(COMMAND ${CTEST} -N WORKING_DIRECTORY ${BUILD}
     OUTPUT_VARIABLE output RESULT_VARIABLE failed)

@@ -1,5 +1,5 @@
-// A program of somebody else's: it uses every library of the project, by the documented includes,
-// and ends by itself.
+// The program of a host. It uses every library of the project, with the documented includes, and
+// exits by itself.
 #include <MaltoConfiguration/MaltoConfiguration.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 #include <OrvUtils/QThemeCtrl.h>
