@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Prints the results of the benchmarks: the cost per entry of the library, the bare cost, the costs of
-the peers, and the ratios. If the cost per entry is the same in all rows of a work, it does not depend
-on the number of settings.
+"""Prints the results of the benchmarks: the cost per entry of the library, the bare cost, the costs
+of the peers, and the ratios. If the cost per entry is the same in all rows of a work, it does not
+depend on the number of settings.
 
     printTable.py <results.json>
 """

@@ -1,5 +1,5 @@
-# The Debian packages that cpack creates with the preset `package`: the libraries, and the development
-# files for building hosts.
+# The Debian packages that cpack creates with the preset `package`: the libraries, and the
+# development files for building hosts.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME maltoconfiguration)
 set(CPACK_PACKAGE_VENDOR "The MaltoConfiguration developers")

@@ -44,8 +44,8 @@ macro(_malto_choose_qt result)
     endif()
 endmacro()
 
-# Finds a Qt that is complete and new enough, or else any installed Qt, or else nothing. The result is
-# cached, so that a Qt that is installed later does not change an existing build folder.
+# Finds a Qt that is complete and new enough, or else any installed Qt, or else nothing. The result
+# is cached, so that a Qt that is installed later does not change an existing build folder.
 # (`find_package(QT NAMES Qt6 Qt5)` would depend on the order of the folders on the disk.)
 macro(_malto_find_newest_qt result)
     foreach(major IN ITEMS ${MALTO_QT_FOUND} 5 6)
@@ -60,8 +60,8 @@ macro(_malto_find_newest_qt result)
     set(MALTO_QT_FOUND "${${result}}" CACHE INTERNAL "The Qt that was found first")
 endmacro()
 
-# _malto_check_qt_of_host(<major> <objection>): fails if the host has found the other Qt but not this
-# one.
+# _malto_check_qt_of_host(<major> <objection>): fails if the host has found the other Qt but not
+# this one.
 function(_malto_check_qt_of_host major objection)
     math(EXPR other "11 - ${major}")
     if(TARGET Qt${other}::Core AND NOT TARGET Qt${major}::Core)

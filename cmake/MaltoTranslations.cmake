@@ -4,8 +4,8 @@
 #       [TS_DIR <folder>] [LANGUAGES <code>...] [DESTINATION <folder>])
 #
 # For every language this merges the translations of the library (translations/malto_<code>.ts) with
-# those of the host (<TS_DIR>/<code>.ts) into <code>.qm, and writes Qt's translations to qt_<code>.qm.
-# ConfWidgetLanguage finds both at these paths:
+# those of the host (<TS_DIR>/<code>.ts) into <code>.qm, and writes Qt's translations to
+# qt_<code>.qm. ConfWidgetLanguage finds both at these paths:
 #
 #   <folder of the executable>/../Resources/language/<code>.qm
 #   <folder of the executable>/../Resources/language_qt/qt_<code>.qm

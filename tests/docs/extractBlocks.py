@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Generates a C++ file from the cpp blocks of one page of the documentation, so that they are compiled.
+"""Generates a C++ file from the cpp blocks of a page, so that they are compiled.
 
     extractBlocks.py <page.md> <out.cpp>
 

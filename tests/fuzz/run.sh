@@ -25,8 +25,8 @@ dictionary_of() {
 
 # Leaks are checked by the replay tests, with a list of known leaks in system libraries.
 export ASAN_OPTIONS=detect_leaks=0
-# Use a file system in memory if available. It is removed here, because the fuzzer exits its processes
-# without cleaning up.
+# Use a file system in memory if available. The files are removed here, because the fuzzer exits its
+# processes without cleaning up.
 memory=/tmp
 [ ! -w /dev/shm ] || memory=/dev/shm
 TMPDIR=$(mktemp -d "$memory/malto-fuzz-XXXXXX")

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Tests choosing a licence: it needs the file LICENSE and one line of CMakeLists.txt. If one of them is
-# missing, the configuration must fail.
+# Tests choosing a licence: it needs the file LICENSE and one line of CMakeLists.txt. If one of them
+# is missing, the configuration must fail.
 #   chooseLicence.sh <source of the project> <work folder> <Qt: 5|6> <compiler>
 set -euo pipefail
 project=$1 work=$2 qt_major=$3

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Finds constructs that shell scripts must not use, because macOS has bash 3.2 and the tools of BSD.
+"""Finds what shell scripts must not use, because macOS has bash 3.2 and the tools of BSD.
 
     checkScripts.py <folder of the project>
     checkScripts.py <folder of the project> --shellcheck <program>   asks shellcheck instead
 
-Each rule has an example that it must find and one that it must accept; both are tested first. A script
-with the comment "Linux only" may use GNU tools, but no newer bash.
+Each rule has an example that it must find and one that it must accept; both are tested first. A
+script with the comment "Linux only" may use GNU tools, but no newer bash.
 """
 
 import os
