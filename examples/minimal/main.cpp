@@ -6,20 +6,20 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
 
-    // Your variables, at their defaults. The program reads them like any others.
+    // Your variables. Their initial values are the defaults.
     bool playSound = true;
     int delay = 3;
 
-    // One line for each: its label, its variable, its page and its name.
+    // One line for each setting: label, variable, page, name.
     MtConf::MtConfManage settings;
     settings.addConfBool("Play a sound", &playSound, "General", "Sound");
     settings.addConfInt32("Delay in seconds", &delay, "Capture", "Delay");
 
-    // What was changed in earlier runs goes into the variables, before anybody reads them.
+    // Load what earlier runs saved into the variables.
     ConfStorage::instance()->mLocalSaveFile = "settings.json";
     ConfStorage::instance()->loadLocalConfFile();
 
-    // From here on an edit changes the variable at once, and closing the window saves it.
+    // An edit changes the variable at once, and closing the window saves.
     settings.ShowWindow();
     return app.exec();
 }
