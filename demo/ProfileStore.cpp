@@ -106,7 +106,7 @@ QString ProfileStore::nameError(const QString &key, const QString &name) const
     if (wanted.isEmpty())
         return tr("A profile needs a name.");
     if (wanted.size() > sLongestName)
-        return tr("A name has %1 letters at most.").arg(sLongestName);
+        return tr("A name can have at most %1 characters.").arg(sLongestName);
     const bool taken = std::any_of(mProfiles.cbegin(), mProfiles.cend(), [&](const auto &entry) {
         return entry.first != key
                && this->name(entry.first).compare(wanted, Qt::CaseInsensitive) == 0;

@@ -73,12 +73,12 @@ void declareGeneral(MtConfManage &m, Settings &s)
 
     const QString updates = QStringLiteral(
         QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Updates"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Look for updates"), &s.checkUpdates, page, updates,
+    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Check for updates"), &s.checkUpdates, page, updates,
                   QStringLiteral("Check"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Days between two looks"), &s.updateInterval,
+    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Check interval (days)"), &s.updateInterval,
                          page, updates, QStringLiteral("Interval")),
           1, 90);
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Offer test versions"), &s.betaUpdates, page,
+    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Offer beta versions"), &s.betaUpdates, page,
                   updates, QStringLiteral("Beta"));
 }
 

@@ -204,7 +204,7 @@
         <translation>يحتاج الملف الشخصي إلى اسم.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>الحد الأقصى لطول الاسم %1 حرفًا.</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</source>
         <translation>عدد اللقطات الأخيرة في القائمة</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>البحث عن تحديثات</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>عدد الأيام بين عمليات البحث</translation>
+        <source>Check interval (days)</source>
+        <translation>الفاصل بين عمليات البحث (بالأيام)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>عرض الإصدارات التجريبية</translation>
+        <source>Offer beta versions</source>
+        <translation>عرض الإصدارات التجريبية (بيتا)</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>Ein Profil braucht einen Namen.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Ein Name hat höchstens %1 Zeichen.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Ein Name darf höchstens %1 Zeichen haben.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Letzte Aufnahmen im Menü</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Nach Updates suchen</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Tage zwischen zwei Suchen</translation>
+        <source>Check interval (days)</source>
+        <translation>Suchintervall (Tage)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Testversionen anbieten</translation>
+        <source>Offer beta versions</source>
+        <translation>Vorabversionen anbieten</translation>
     </message>
     <message>
         <source>Theme</source>

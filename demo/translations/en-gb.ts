@@ -204,8 +204,8 @@
         <translation>A profile needs a name.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>A name has at most %1 letters.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>A name can have at most %1 characters.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</translation>
         <translation>Recent captures in the menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Check for updates</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Days between checks</translation>
+        <source>Check interval (days)</source>
+        <translation>Check interval (days)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Offer test versions</translation>
+        <source>Offer beta versions</source>
+        <translation>Offer beta versions</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>Un perfil necesita un nombre.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Un nombre tiene como máximo %1 letras.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Un nombre puede tener como máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Capturas recientes en el menú</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Días entre búsquedas</translation>
+        <source>Check interval (days)</source>
+        <translation>Intervalo de búsqueda (días)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Ofrecer versiones de prueba</translation>
+        <source>Offer beta versions</source>
+        <translation>Ofrecer versiones beta</translation>
     </message>
     <message>
         <source>Theme</source>

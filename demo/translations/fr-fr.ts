@@ -204,8 +204,8 @@
         <translation>Un profil doit avoir un nom.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Un nom compte au plus %1 caractères.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Un nom peut comporter au plus %1 caractères.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Captures récentes dans le menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Rechercher les mises à jour</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Jours entre deux recherches</translation>
+        <source>Check interval (days)</source>
+        <translation>Intervalle de recherche (jours)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Proposer les versions de test</translation>
+        <source>Offer beta versions</source>
+        <translation>Proposer les versions bêta</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>प्रोफ़ाइल का एक नाम होना चाहिए।</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>नाम में अधिकतम %1 अक्षर हो सकते हैं।</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>नाम में अधिकतम %1 वर्ण हो सकते हैं।</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</source>
         <translation>मेनू में हाल के कैप्चर</translation>
     </message>
     <message>
-        <source>Look for updates</source>
-        <translation>अपडेट खोजें</translation>
+        <source>Check for updates</source>
+        <translation>अपडेट जाँचें</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>दो खोजों के बीच दिन</translation>
+        <source>Check interval (days)</source>
+        <translation>जाँच का अंतराल (दिन)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>परीक्षण संस्करण दिखाएँ</translation>
+        <source>Offer beta versions</source>
+        <translation>बीटा संस्करण दिखाएँ</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>Un profilo deve avere un nome.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Un nome ha al massimo %1 lettere.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Un nome può avere al massimo %1 caratteri.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Catture recenti nel menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Cerca aggiornamenti</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Giorni tra due ricerche</translation>
+        <source>Check interval (days)</source>
+        <translation>Intervallo di ricerca (giorni)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Proponi versioni di prova</translation>
+        <source>Offer beta versions</source>
+        <translation>Proponi versioni beta</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,7 +204,7 @@
         <translation>プロファイルには名前が必要です。</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>名前は最大 %1 文字です。</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</source>
         <translation>メニューの最近のキャプチャ数</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>アップデートを確認</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
+        <source>Check interval (days)</source>
         <translation>確認の間隔（日）</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>テスト版を案内する</translation>
+        <source>Offer beta versions</source>
+        <translation>ベータ版も通知</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,7 +204,7 @@
         <translation>프로필에는 이름이 필요합니다.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>이름은 최대 %1자입니다.</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</source>
         <translation>메뉴의 최근 캡처 수</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>업데이트 확인</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
+        <source>Check interval (days)</source>
         <translation>확인 간격(일)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>테스트 버전 제공</translation>
+        <source>Offer beta versions</source>
+        <translation>베타 버전 제공</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>Een profiel heeft een naam nodig.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Een naam heeft hoogstens %1 letters.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Een naam kan hoogstens %1 tekens hebben.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Recente opnamen in het menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Naar updates zoeken</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Dagen tussen twee zoekacties</translation>
+        <source>Check interval (days)</source>
+        <translation>Zoekinterval (dagen)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Testversies aanbieden</translation>
+        <source>Offer beta versions</source>
+        <translation>Bètaversies aanbieden</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,7 +204,7 @@
         <translation>Profil musi mieć nazwę.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>Nazwa może mieć najwyżej %1 znaków.</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Ostatnie zrzuty w menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Szukaj aktualizacji</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Dni między sprawdzeniami</translation>
+        <source>Check interval (days)</source>
+        <translation>Odstęp między sprawdzeniami (dni)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Proponuj wersje testowe</translation>
+        <source>Offer beta versions</source>
+        <translation>Proponuj wersje beta</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>Um perfil precisa de um nome.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Um nome tem no máximo %1 letras.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Um nome pode ter no máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Capturas recentes no menu</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Buscar atualizações</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Dias entre buscas</translation>
+        <source>Check interval (days)</source>
+        <translation>Intervalo de busca (dias)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Oferecer versões de teste</translation>
+        <source>Offer beta versions</source>
+        <translation>Oferecer versões beta</translation>
     </message>
     <message>
         <source>Theme</source>

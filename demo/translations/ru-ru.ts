@@ -204,7 +204,7 @@
         <translation>Профилю нужно имя.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>Длина имени — не более %1 знаков.</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Add one, or restore the presets.</source>
         <translation>Последние снимки в меню</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Искать обновления</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Дней между проверками</translation>
+        <source>Check interval (days)</source>
+        <translation>Интервал проверки (дней)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Предлагать тестовые версии</translation>
+        <source>Offer beta versions</source>
+        <translation>Предлагать бета-версии</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,8 +204,8 @@
         <translation>En profil måste ha ett namn.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
-        <translation>Ett namn har högst %1 tecken.</translation>
+        <source>A name can have at most %1 characters.</source>
+        <translation>Ett namn får ha högst %1 tecken.</translation>
     </message>
     <message>
         <source>Another profile has this name.</source>
@@ -304,16 +304,16 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Senaste skärmbilder i menyn</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Sök efter uppdateringar</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Dagar mellan sökningar</translation>
+        <source>Check interval (days)</source>
+        <translation>Sökintervall (dagar)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Erbjud testversioner</translation>
+        <source>Offer beta versions</source>
+        <translation>Erbjud betaversioner</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -204,7 +204,7 @@
         <translation>Profilin bir adı olmalıdır.</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>Ad en fazla %1 karakter olabilir.</translation>
     </message>
     <message>
@@ -304,16 +304,16 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Menüdeki son yakalamalar</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>Güncellemeleri denetle</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
-        <translation>Denetimler arasındaki gün</translation>
+        <source>Check interval (days)</source>
+        <translation>Denetleme aralığı (gün)</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
-        <translation>Deneme sürümlerini öner</translation>
+        <source>Offer beta versions</source>
+        <translation>Beta sürümlerini öner</translation>
     </message>
     <message>
         <source>Theme</source>

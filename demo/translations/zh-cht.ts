@@ -204,7 +204,7 @@
         <translation>設定檔需要名稱。</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>名稱最多 %1 個字元。</translation>
     </message>
     <message>
@@ -304,15 +304,15 @@ Add one, or restore the presets.</source>
         <translation>選單中的最近擷取數</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>檢查更新</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
+        <source>Check interval (days)</source>
         <translation>檢查間隔（天）</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
+        <source>Offer beta versions</source>
         <translation>提供測試版</translation>
     </message>
     <message>

@@ -204,7 +204,7 @@
         <translation>配置需要一个名称。</translation>
     </message>
     <message>
-        <source>A name has %1 letters at most.</source>
+        <source>A name can have at most %1 characters.</source>
         <translation>名称最多 %1 个字符。</translation>
     </message>
     <message>
@@ -304,15 +304,15 @@ Add one, or restore the presets.</source>
         <translation>菜单中的最近截图数</translation>
     </message>
     <message>
-        <source>Look for updates</source>
+        <source>Check for updates</source>
         <translation>检查更新</translation>
     </message>
     <message>
-        <source>Days between two looks</source>
+        <source>Check interval (days)</source>
         <translation>检查间隔（天）</translation>
     </message>
     <message>
-        <source>Offer test versions</source>
+        <source>Offer beta versions</source>
         <translation>提供测试版</translation>
     </message>
     <message>

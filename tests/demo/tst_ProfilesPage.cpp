@@ -106,7 +106,7 @@ void tst_ProfilesPage::invalidNamesAreRejectedWithAMessage_data()
                                              << "Another profile has this name.";
     QTest::newRow("name of another profile in lower case") << " window "
                                                            << "Another profile has this name.";
-    QTest::newRow("41 letters") << QString(41, 'x') << "A name has 40 letters at most.";
+    QTest::newRow("41 characters") << QString(41, 'x') << "A name can have at most 40 characters.";
 }
 
 void tst_ProfilesPage::invalidNamesAreRejectedWithAMessage()
