@@ -52,7 +52,7 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>Einrichten fehlgeschlagen: Das Tastenkürzel ist möglicherweise schon belegt. Klicken Sie, um es erneut zu versuchen.</translation>
+        <translation>Einrichtung fehlgeschlagen: Das Tastenkürzel ist möglicherweise schon belegt. Klicken Sie, um es erneut zu versuchen.</translation>
     </message>
     <message>
         <source>Setup success.</source>
@@ -106,15 +106,15 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
     <message>
         <source>Left Drag</source>
-        <translation>Ziehen mit links</translation>
+        <translation>Ziehen links</translation>
     </message>
     <message>
         <source>Right Drag</source>
-        <translation>Ziehen mit rechts</translation>
+        <translation>Ziehen rechts</translation>
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>Ziehen mit Mitte</translation>
+        <translation>Ziehen Mitte</translation>
     </message>
 </context>
 <context>

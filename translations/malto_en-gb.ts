@@ -27,11 +27,11 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Press shortcut key</translation>
+        <translation>Press a shortcut</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>
-        <translation>Clear shortcut key</translation>
+        <translation>Clear shortcut</translation>
     </message>
     <message>
         <source>Shortkey [%1] is too simple.

@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>キーを押してください</translation>
+        <translation>ショートカットキーを入力</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>
@@ -94,11 +94,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Middle Click</source>
-        <translation>中央クリック</translation>
+        <translation>中クリック</translation>
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>中央ダブルクリック</translation>
+        <translation>中ダブルクリック</translation>
     </message>
     <message>
         <source>Wheel</source>
@@ -114,7 +114,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Middle Drag</source>
-        <translation>中央ドラッグ</translation>
+        <translation>中ドラッグ</translation>
     </message>
 </context>
 <context>

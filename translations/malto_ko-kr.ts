@@ -136,7 +136,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <name>QObject</name>
     <message>
         <source>Cannot set left-click separately</source>
-        <translation>왼쪽 클릭만 단독으로 설정할 수 없습니다</translation>
+        <translation>왼쪽 클릭을 단독으로 설정할 수 없습니다</translation>
     </message>
     <message>
         <source>No set</source>

@@ -16,11 +16,11 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Восстановить всё</translation>
+        <translation>Сбросить всё</translation>
     </message>
     <message>
         <source>Restore Default</source>
-        <translation>Восстановить по умолчанию</translation>
+        <translation>Вернуть значения по умолчанию</translation>
     </message>
 </context>
 <context>
@@ -78,27 +78,27 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Left Click</source>
-        <translation>Левый щелчок</translation>
+        <translation>Щелчок левой</translation>
     </message>
     <message>
         <source>Left Double Click</source>
-        <translation>Двойной левый</translation>
+        <translation>Двойной левой</translation>
     </message>
     <message>
         <source>Right Click</source>
-        <translation>Правый щелчок</translation>
+        <translation>Щелчок правой</translation>
     </message>
     <message>
         <source>Right Double Click</source>
-        <translation>Двойной правый</translation>
+        <translation>Двойной правой</translation>
     </message>
     <message>
         <source>Middle Click</source>
-        <translation>Средний щелчок</translation>
+        <translation>Щелчок средней</translation>
     </message>
     <message>
         <source>Middle Double Click</source>
-        <translation>Двойной средний</translation>
+        <translation>Двойной средней</translation>
     </message>
     <message>
         <source>Wheel</source>

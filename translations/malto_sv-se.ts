@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Tryck på ett kortkommando</translation>
+        <translation>Ange ett kortkommando</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>
@@ -48,7 +48,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     <name>MtConf::ConfDefWidgetQKeySequence</name>
     <message>
         <source>Not set</source>
-        <translation>Inte angett</translation>
+        <translation>Inte angivet</translation>
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
@@ -140,7 +140,7 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
     <message>
         <source>No set</source>
-        <translation>Inte angett</translation>
+        <translation>Inte angiven</translation>
     </message>
     <message>
         <source>Conflict with %1</source>

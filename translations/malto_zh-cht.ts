@@ -52,7 +52,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>設定失敗，此快速鍵可能已被佔用。按一下即可重新設定。</translation>
+        <translation>設定失敗，此快速鍵可能已被佔用。按一下即可重試。</translation>
     </message>
     <message>
         <source>Setup success.</source>

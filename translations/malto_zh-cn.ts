@@ -52,7 +52,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Setup failed, the hotkey may be occupied. Click to try setup again.</source>
-        <translation>设置失败，该快捷键可能已被占用。点击可重新设置。</translation>
+        <translation>设置失败，该快捷键可能已被占用。点击可重试。</translation>
     </message>
     <message>
         <source>Setup success.</source>
@@ -129,7 +129,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
     <message>
         <source>Are you sure to restore all default?</source>
-        <translation>确定要将所有设置恢复为默认设置吗？</translation>
+        <translation>确定要将所有设置恢复为默认值吗？</translation>
     </message>
 </context>
 <context>

@@ -108,7 +108,7 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Stri&amp;keout</source>
-        <translation>काट रेखा (&amp;K)</translation>
+        <translation>स्ट्राइकथ्रू (&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
@@ -120,7 +120,7 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Wr&amp;iting System</source>
-        <translation>लेखन पद्धति (&amp;I)</translation>
+        <translation>लेखन प्रणाली (&amp;I)</translation>
     </message>
 </context>
 <context>

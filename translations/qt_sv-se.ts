@@ -217,7 +217,7 @@ Tryck på Esc för att avbryta</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation>Kasta</translation>
+        <translation>Förkasta</translation>
     </message>
     <message>
         <source>Help</source>

@@ -5,7 +5,7 @@
     <name>BoundValueModel</name>
     <message>
         <source>changed</source>
-        <translation>معدّل</translation>
+        <translation>تم التغيير</translation>
     </message>
     <message>
         <source>Setting</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Like the system</source>
-        <translation>مثل النظام</translation>
+        <translation>حسب النظام</translation>
     </message>
     <message>
         <source>Light</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Hotkey pressed: %1 (%2)</source>
-        <translation>تم ضغط الاختصار: %1 (%2)</translation>
+        <translation>تم الضغط على الاختصار: %1 (%2)</translation>
     </message>
     <message>
         <source>Saved to %1</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>هل تريد استعادة الإعدادات الافتراضية كلها والملفات الشخصية الجاهزة؟</translation>
+        <translation>هل تريد استعادة الإعدادات الافتراضية كلها وملفات التعريف الجاهزة؟</translation>
     </message>
 </context>
 <context>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>Profiles</source>
-        <translation>الملفات الشخصية</translation>
+        <translation>ملفات التعريف</translation>
     </message>
     <message>
         <source>System</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>A profile needs a name.</source>
-        <translation>يحتاج الملف الشخصي إلى اسم.</translation>
+        <translation>يحتاج ملف التعريف إلى اسم.</translation>
     </message>
     <message>
         <source>A name can have at most %1 characters.</source>
@@ -209,22 +209,22 @@
     </message>
     <message>
         <source>Another profile has this name.</source>
-        <translation>هناك ملف شخصي آخر بهذا الاسم.</translation>
+        <translation>هناك ملف تعريف آخر بهذا الاسم.</translation>
     </message>
     <message>
         <source>New profile</source>
-        <translation>ملف شخصي جديد</translation>
+        <translation>ملف تعريف جديد</translation>
     </message>
     <message>
         <source>New profile %1</source>
-        <translation>ملف شخصي جديد %1</translation>
+        <translation>ملف تعريف جديد %1</translation>
     </message>
 </context>
 <context>
     <name>ProfilesPage</name>
     <message>
         <source>Profiles</source>
-        <translation>الملفات الشخصية</translation>
+        <translation>ملفات التعريف</translation>
     </message>
     <message>
         <source>Add</source>
@@ -236,12 +236,12 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>استعادة الجاهزة</translation>
+        <translation>استعادة الملفات الجاهزة</translation>
     </message>
     <message>
         <source>There is no profile.
 Add one, or restore the presets.</source>
-        <translation>لا يوجد أي ملف شخصي.
+        <translation>لا يوجد أي ملف تعريف.
 أضف واحدًا أو استعد الملفات الجاهزة.</translation>
     </message>
     <message>
@@ -285,7 +285,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Start at login</source>
-        <translation>البدء عند تسجيل الدخول</translation>
+        <translation>بدء التشغيل عند تسجيل الدخول</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
@@ -321,7 +321,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Like the system</source>
-        <translation>مثل النظام</translation>
+        <translation>حسب النظام</translation>
     </message>
     <message>
         <source>Light</source>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>التظليل الخارجي</translation>
+        <translation>التعتيم الخارجي</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -445,11 +445,11 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>عكس عجلة التمرير</translation>
+        <translation>عكس اتجاه عجلة التمرير</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>
-        <translation>الحركة التي تبدأ السحب (بكسل)</translation>
+        <translation>مسافة بدء السحب (بكسل)</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -501,15 +501,15 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Copy it</source>
-        <translation>نسخها</translation>
+        <translation>نسخ اللقطة</translation>
     </message>
     <message>
         <source>Save it</source>
-        <translation>حفظها</translation>
+        <translation>حفظ اللقطة</translation>
     </message>
     <message>
         <source>Open it in the editor</source>
-        <translation>فتحها في المحرّر</translation>
+        <translation>فتح اللقطة في المحرّر</translation>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>
@@ -525,7 +525,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>
-        <translation>استعادة الصور المثبّتة عند البدء</translation>
+        <translation>استعادة الصور المثبّتة عند بدء التشغيل</translation>
     </message>
     <message>
         <source>Cache (MB)</source>
@@ -533,7 +533,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Threads that compress</source>
-        <translation>خيوط الضغط</translation>
+        <translation>عدد خيوط الضغط</translation>
     </message>
     <message>
         <source>Draw with the graphics card</source>

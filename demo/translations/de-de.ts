@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>Alle Einstellungen und die mitgelieferten Profile zurücksetzen?</translation>
+        <translation>Alle Einstellungen zurücksetzen und die Profilvorgaben wiederherstellen?</translation>
     </message>
 </context>
 <context>
@@ -274,7 +274,7 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     </message>
     <message>
         <source>Yours, or a changed preset.</source>
-        <translation>Ihr eigenes oder eine geänderte Vorgabe.</translation>
+        <translation>Eigenes Profil oder geänderte Vorgabe.</translation>
     </message>
 </context>
 <context>
@@ -541,7 +541,7 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     </message>
     <message>
         <source>Show times of drawing</source>
-        <translation>Zeichenzeiten anzeigen</translation>
+        <translation>Renderzeiten anzeigen</translation>
     </message>
     <message>
         <source>Write a log file</source>

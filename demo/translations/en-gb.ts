@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Another profile has this name.</source>
-        <translation>Another profile has this name.</translation>
+        <translation>Another profile already has this name.</translation>
     </message>
     <message>
         <source>New profile</source>
@@ -236,12 +236,12 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>Restore presets</translation>
+        <translation>Restore Presets</translation>
     </message>
     <message>
         <source>There is no profile.
 Add one, or restore the presets.</source>
-        <translation>There is no profile.
+        <translation>There are no profiles.
 Add one, or restore the presets.</translation>
     </message>
     <message>
@@ -385,7 +385,7 @@ Add one, or restore the presets.</translation>
     </message>
     <message>
         <source>Frames per second of videos</source>
-        <translation>Frames per second of videos</translation>
+        <translation>Video frames per second</translation>
     </message>
     <message>
         <source>Snap to</source>

@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>¿Restaurar los valores predeterminados de todos los ajustes y los perfiles predefinidos?</translation>
+        <translation>¿Restaurar los perfiles predefinidos y los valores predeterminados de todos los ajustes?</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Añada uno o restaure los predefinidos.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Sombra exterior</translation>
+        <translation>Oscurecimiento exterior</translation>
     </message>
     <message>
         <source>Show magnifier</source>

@@ -349,7 +349,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Magnification</source>
-        <translation>Agrandissement</translation>
+        <translation>Grossissement</translation>
     </message>
     <message>
         <source>Show size beside the selection</source>
@@ -501,15 +501,15 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Copy it</source>
-        <translation>La copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Save it</source>
-        <translation>L’enregistrer</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Open it in the editor</source>
-        <translation>L’ouvrir dans l’éditeur</translation>
+        <translation>Ouvrir dans l’éditeur</translation>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>

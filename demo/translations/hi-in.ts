@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>बंद करें (&amp;Q)</translation>
+        <translation>बाहर निकलें (&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>क्या सभी सेटिंग के डिफ़ॉल्ट और प्रीसेट प्रोफ़ाइल पुनर्स्थापित करने हैं?</translation>
+        <translation>क्या आप सभी सेटिंग के डिफ़ॉल्ट और प्रीसेट प्रोफ़ाइल पुनर्स्थापित करना चाहते हैं?</translation>
     </message>
 </context>
 <context>
@@ -274,7 +274,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Yours, or a changed preset.</source>
-        <translation>आपकी अपनी या बदली गई प्रीसेट।</translation>
+        <translation>आपकी अपनी प्रोफ़ाइल या बदला गया प्रीसेट।</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>बाहर की छाया</translation>
+        <translation>चयन के बाहर का शेड</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -389,7 +389,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Snap to</source>
-        <translation>इनसे स्नैप करें</translation>
+        <translation>इन पर स्नैप करें</translation>
     </message>
     <message>
         <source>Windows</source>
@@ -401,7 +401,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Guides</source>
-        <translation>गाइड</translation>
+        <translation>गाइड रेखाएँ</translation>
     </message>
     <message>
         <source>Last selection</source>
@@ -437,7 +437,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>रंग चुनें</translation>
+        <translation>स्क्रीन से रंग चुनें</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -445,7 +445,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>व्हील उलटा करें</translation>
+        <translation>व्हील की दिशा उलटें</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>
@@ -481,7 +481,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Draw</source>
-        <translation>बनाएँ</translation>
+        <translation>ड्रॉ करें</translation>
     </message>
     <message>
         <source>Format</source>
@@ -525,7 +525,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>
-        <translation>प्रारंभ पर पिन किए गए चित्र वापस लाएँ</translation>
+        <translation>पिन किए गए चित्र प्रारंभ होने पर वापस लाएँ</translation>
     </message>
     <message>
         <source>Cache (MB)</source>
@@ -537,11 +537,11 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Draw with the graphics card</source>
-        <translation>ग्राफ़िक्स कार्ड से बनाएँ</translation>
+        <translation>ग्राफ़िक्स कार्ड से ड्रॉ करें</translation>
     </message>
     <message>
         <source>Show times of drawing</source>
-        <translation>बनाने का समय दिखाएँ</translation>
+        <translation>ड्रॉइंग में लगा समय दिखाएँ</translation>
     </message>
     <message>
         <source>Write a log file</source>

@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>Ripristinare i valori predefiniti di tutte le impostazioni e i profili predefiniti?</translation>
+        <translation>Ripristinare i profili predefiniti e i valori predefiniti di tutte le impostazioni?</translation>
     </message>
 </context>
 <context>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>Ripristina predefiniti</translation>
+        <translation>Ripristina profili predefiniti</translation>
     </message>
     <message>
         <source>There is no profile.
@@ -341,7 +341,7 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Ombra esterna</translation>
+        <translation>Oscuramento esterno</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -381,7 +381,7 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     </message>
     <message>
         <source>Freeze the screen while selecting</source>
-        <translation>Blocca lo schermo durante la selezione</translation>
+        <translation>Congela lo schermo durante la selezione</translation>
     </message>
     <message>
         <source>Frames per second of videos</source>

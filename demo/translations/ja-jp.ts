@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Restore all</source>
-        <translation>すべて復元</translation>
+        <translation>すべてデフォルトに戻す</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>&amp;Restore all…</source>
-        <translation>すべて復元(&amp;R)…</translation>
+        <translation>すべてデフォルトに戻す(&amp;R)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Hotkey pressed: %1 (%2)</source>
-        <translation>ショートカットキー: %1 (%2)</translation>
+        <translation>押されたショートカットキー: %1 (%2)</translation>
     </message>
     <message>
         <source>Saved to %1</source>
@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation>ショートカット</translation>
+        <translation>ホットキー</translation>
     </message>
     <message>
         <source>Mouse</source>
@@ -274,7 +274,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Yours, or a changed preset.</source>
-        <translation>自分で作成、または変更したプリセット。</translation>
+        <translation>自分で作成したプロファイル、または変更したプリセット。</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>範囲外の暗さ</translation>
+        <translation>選択範囲外の色</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -413,7 +413,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
-        <translation>フルスクリーン時のショートカットキー</translation>
+        <translation>フルスクリーン時もショートカットキーを使う</translation>
     </message>
     <message>
         <source>Repeat delay (ms)</source>
@@ -525,7 +525,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>
-        <translation>起動時にピン留めした画像を復元</translation>
+        <translation>ピン留めした画像を起動時に復元</translation>
     </message>
     <message>
         <source>Cache (MB)</source>

@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Like the system</source>
-        <translation>시스템과 동일</translation>
+        <translation>시스템 설정에 따름</translation>
     </message>
     <message>
         <source>Light</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>모든 설정의 기본값과 기본 프로필을 복원하시겠습니까?</translation>
+        <translation>모든 설정의 기본값과 기본 제공 프로필을 복원하시겠습니까?</translation>
     </message>
 </context>
 <context>
@@ -236,13 +236,13 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>기본 프로필 복원</translation>
+        <translation>기본 제공 프로필 복원</translation>
     </message>
     <message>
         <source>There is no profile.
 Add one, or restore the presets.</source>
         <translation>프로필이 없습니다.
-프로필을 추가하거나 기본 프로필을 복원하세요.</translation>
+프로필을 추가하거나 기본 제공 프로필을 복원하세요.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -270,7 +270,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>A preset, unchanged.</source>
-        <translation>변경하지 않은 기본 프로필입니다.</translation>
+        <translation>변경하지 않은 기본 제공 프로필입니다.</translation>
     </message>
     <message>
         <source>Yours, or a changed preset.</source>
@@ -321,7 +321,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Like the system</source>
-        <translation>시스템과 동일</translation>
+        <translation>시스템 설정에 따름</translation>
     </message>
     <message>
         <source>Light</source>
@@ -461,7 +461,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Show the menu</source>
-        <translation>메뉴 보기</translation>
+        <translation>메뉴 표시</translation>
     </message>
     <message>
         <source>Close</source>
@@ -521,11 +521,11 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Steps that can be undone</source>
-        <translation>실행 취소 단계</translation>
+        <translation>실행 취소 단계 수</translation>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>
-        <translation>시작할 때 고정한 이미지 복원</translation>
+        <translation>고정한 이미지를 시작할 때 복원</translation>
     </message>
     <message>
         <source>Cache (MB)</source>
@@ -545,7 +545,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Write a log file</source>
-        <translation>로그 파일 쓰기</translation>
+        <translation>로그 파일 기록</translation>
     </message>
 </context>
 <context>

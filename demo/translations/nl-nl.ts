@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Like the system</source>
-        <translation>Zoals het systeem</translation>
+        <translation>Systeem volgen</translation>
     </message>
     <message>
         <source>Light</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>De standaardwaarden van alle instellingen en de meegeleverde profielen herstellen?</translation>
+        <translation>De meegeleverde profielen en de standaardwaarden van alle instellingen herstellen?</translation>
     </message>
 </context>
 <context>
@@ -241,7 +241,7 @@
     <message>
         <source>There is no profile.
 Add one, or restore the presets.</source>
-        <translation>Er is geen profiel.
+        <translation>Er zijn geen profielen.
 Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
@@ -321,7 +321,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Like the system</source>
-        <translation>Zoals het systeem</translation>
+        <translation>Systeem volgen</translation>
     </message>
     <message>
         <source>Light</source>
@@ -341,7 +341,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Schaduw erbuiten</translation>
+        <translation>Verdonkering erbuiten</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -421,15 +421,15 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Capture an area</source>
-        <translation>Gebied opnemen</translation>
+        <translation>Gebied vastleggen</translation>
     </message>
     <message>
         <source>Capture a window</source>
-        <translation>Venster opnemen</translation>
+        <translation>Venster vastleggen</translation>
     </message>
     <message>
         <source>Capture the screen</source>
-        <translation>Scherm opnemen</translation>
+        <translation>Scherm vastleggen</translation>
     </message>
     <message>
         <source>Pin the clipboard</source>
@@ -437,7 +437,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>Kleur kiezen</translation>
+        <translation>Schermkleur kiezen</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -445,7 +445,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>Muiswiel omkeren</translation>
+        <translation>Richting muiswiel omkeren</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>
@@ -521,7 +521,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     </message>
     <message>
         <source>Steps that can be undone</source>
-        <translation>Stappen die ongedaan kunnen worden</translation>
+        <translation>Ongedaan te maken stappen</translation>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>

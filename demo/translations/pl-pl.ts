@@ -266,7 +266,7 @@ Dodaj profil lub przywróć wbudowane.</translation>
     </message>
     <message>
         <source>Include the mouse pointer</source>
-        <translation>Uwzględnij wskaźnik myszy</translation>
+        <translation>Uwzględniaj wskaźnik myszy</translation>
     </message>
     <message>
         <source>A preset, unchanged.</source>
@@ -341,7 +341,7 @@ Dodaj profil lub przywróć wbudowane.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Cień na zewnątrz</translation>
+        <translation>Przyciemnienie na zewnątrz</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -373,11 +373,11 @@ Dodaj profil lub przywróć wbudowane.</translation>
     </message>
     <message>
         <source>Include the mouse pointer</source>
-        <translation>Uwzględnij wskaźnik myszy</translation>
+        <translation>Uwzględniaj wskaźnik myszy</translation>
     </message>
     <message>
         <source>Include the shadow of windows</source>
-        <translation>Uwzględnij cień okien</translation>
+        <translation>Uwzględniaj cień okien</translation>
     </message>
     <message>
         <source>Freeze the screen while selecting</source>
@@ -445,7 +445,7 @@ Dodaj profil lub przywróć wbudowane.</translation>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>Odwróć kółko myszy</translation>
+        <translation>Odwróć kierunek kółka myszy</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>
@@ -505,11 +505,11 @@ Dodaj profil lub przywróć wbudowane.</translation>
     </message>
     <message>
         <source>Save it</source>
-        <translation>Zapisz</translation>
+        <translation>Zapisuj</translation>
     </message>
     <message>
         <source>Open it in the editor</source>
-        <translation>Otwórz w edytorze</translation>
+        <translation>Otwieraj w edytorze</translation>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation>Apagar</translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>Restore presets</source>
@@ -341,7 +341,7 @@ Adicione um ou restaure os predefinidos.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Sombra externa</translation>
+        <translation>Escurecimento externo</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -413,7 +413,7 @@ Adicione um ou restaure os predefinidos.</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
-        <translation>Atalhos em aplicativos de tela cheia</translation>
+        <translation>Atalhos em aplicativos em tela cheia</translation>
     </message>
     <message>
         <source>Repeat delay (ms)</source>
@@ -437,7 +437,7 @@ Adicione um ou restaure os predefinidos.</translation>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>Capturar uma cor</translation>
+        <translation>Selecionar uma cor</translation>
     </message>
     <message>
         <source>Double-click to finish</source>

@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Restore all</source>
-        <translation>Восстановить всё</translation>
+        <translation>Сбросить всё</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>&amp;Restore all…</source>
-        <translation>&amp;Восстановить всё…</translation>
+        <translation>Сбросить &amp;всё…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>Восстановить значения всех настроек по умолчанию и стандартные профили?</translation>
+        <translation>Восстановить значения по умолчанию для всех настроек и стандартные профили?</translation>
     </message>
 </context>
 <context>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Another profile has this name.</source>
-        <translation>Другой профиль уже носит это имя.</translation>
+        <translation>Профиль с таким именем уже есть.</translation>
     </message>
     <message>
         <source>New profile</source>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Затенение снаружи</translation>
+        <translation>Затемнение снаружи</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -413,7 +413,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
-        <translation>Работают в полноэкранном режиме</translation>
+        <translation>Сочетания в полноэкранном режиме</translation>
     </message>
     <message>
         <source>Repeat delay (ms)</source>
@@ -505,11 +505,11 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Save it</source>
-        <translation>Сохранить</translation>
+        <translation>Сохранять</translation>
     </message>
     <message>
         <source>Open it in the editor</source>
-        <translation>Открыть в редакторе</translation>
+        <translation>Открывать в редакторе</translation>
     </message>
     <message>
         <source>Allow simple global hotkeys</source>

@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>Vill du återställa standardvärdena för alla inställningar och de förinställda profilerna?</translation>
+        <translation>Vill du återställa de förinställda profilerna och standardvärdena för alla inställningar?</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Lägg till en eller återställ de förinställda.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Skugga utanför</translation>
+        <translation>Nedtoning utanför</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -437,7 +437,7 @@ Lägg till en eller återställ de förinställda.</translation>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>Välj en färg</translation>
+        <translation>Hämta en färg</translation>
     </message>
     <message>
         <source>Double-click to finish</source>

@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Like the system</source>
-        <translation>Sistem gibi</translation>
+        <translation>Sistemle aynı</translation>
     </message>
     <message>
         <source>Light</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>Snapping</source>
-        <translation>Hizalama</translation>
+        <translation>Tutturma</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -266,7 +266,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Include the mouse pointer</source>
-        <translation>Fare imlecini ekle</translation>
+        <translation>Fare imlecini dahil et</translation>
     </message>
     <message>
         <source>A preset, unchanged.</source>
@@ -321,7 +321,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Like the system</source>
-        <translation>Sistem gibi</translation>
+        <translation>Sistemle aynı</translation>
     </message>
     <message>
         <source>Light</source>
@@ -341,7 +341,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>Dışarıdaki gölge</translation>
+        <translation>Dış karartma</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -373,11 +373,11 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Include the mouse pointer</source>
-        <translation>Fare imlecini ekle</translation>
+        <translation>Fare imlecini dahil et</translation>
     </message>
     <message>
         <source>Include the shadow of windows</source>
-        <translation>Pencere gölgelerini ekle</translation>
+        <translation>Pencere gölgelerini dahil et</translation>
     </message>
     <message>
         <source>Freeze the screen while selecting</source>
@@ -389,7 +389,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Snap to</source>
-        <translation>Hizalanacak yer</translation>
+        <translation>Tutturma hedefi</translation>
     </message>
     <message>
         <source>Windows</source>
@@ -437,7 +437,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>Renk seç</translation>
+        <translation>Ekrandan renk al</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -445,7 +445,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>Tekerleği ters çevir</translation>
+        <translation>Tekerlek yönünü ters çevir</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>

@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>要還原所有設定的預設值和預設的設定檔嗎？</translation>
+        <translation>要將所有設定還原為預設值，並還原內建設定檔嗎？</translation>
     </message>
 </context>
 <context>
@@ -236,13 +236,13 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>還原預設</translation>
+        <translation>還原內建設定檔</translation>
     </message>
     <message>
         <source>There is no profile.
 Add one, or restore the presets.</source>
         <translation>沒有設定檔。
-請新增一個，或還原預設。</translation>
+請新增一個，或還原內建設定檔。</translation>
     </message>
     <message>
         <source>Name</source>
@@ -270,11 +270,11 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>A preset, unchanged.</source>
-        <translation>預設，未變更。</translation>
+        <translation>內建設定檔，未變更。</translation>
     </message>
     <message>
         <source>Yours, or a changed preset.</source>
-        <translation>自訂，或已變更的預設。</translation>
+        <translation>自訂的設定檔，或已變更的內建設定檔。</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>外部遮罩</translation>
+        <translation>選取範圍外的遮罩</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -437,7 +437,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Pick a colour</source>
-        <translation>取色</translation>
+        <translation>擷取顏色</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -445,7 +445,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>反轉滾輪</translation>
+        <translation>反轉滾輪方向</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>
@@ -521,7 +521,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Steps that can be undone</source>
-        <translation>可還原的步驟數</translation>
+        <translation>可復原的步驟數</translation>
     </message>
     <message>
         <source>Bring pinned pictures back at start</source>

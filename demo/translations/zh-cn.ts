@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
-        <translation>要恢复所有默认设置和预设配置吗？</translation>
+        <translation>要将所有设置恢复为默认值，并恢复预设配置吗？</translation>
     </message>
 </context>
 <context>
@@ -341,7 +341,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Shade outside</source>
-        <translation>外部遮罩</translation>
+        <translation>选区外遮罩</translation>
     </message>
     <message>
         <source>Show magnifier</source>
@@ -413,7 +413,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
-        <translation>全屏应用中的快捷键</translation>
+        <translation>在全屏应用中启用快捷键</translation>
     </message>
     <message>
         <source>Repeat delay (ms)</source>
@@ -445,7 +445,7 @@ Add one, or restore the presets.</source>
     </message>
     <message>
         <source>Invert the wheel</source>
-        <translation>反转滚轮</translation>
+        <translation>反转滚轮方向</translation>
     </message>
     <message>
         <source>Movement that begins a drag (px)</source>

@@ -81,7 +81,7 @@ void tst_TranslatedHost::libraryAndQtAreTranslated_data()
     row("nl-nl", "Standaardwaarden herstellen", "&Ja");
     row("pl-pl", "Przywróć domyślne", "&Tak");
     row("pt-br", "Restaurar padrões", "&Sim");
-    row("ru-ru", "Восстановить по умолчанию", "&Да");
+    row("ru-ru", "Вернуть значения по умолчанию", "&Да");
     row("sv-se", "Återställ standardvärden", "&Ja");
     row("tr-tr", "Varsayılanları Geri Yükle", "&Evet");
     row("zh-cht", "還原為預設值", "是(&Y)");
