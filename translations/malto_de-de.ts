@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Alles auf Standard zurücksetzen</translation>
+        <translation>Alles zurücksetzen</translation>
     </message>
     <message>
         <source>Restore Default</source>

@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Ripristina tutti i valori predefiniti</translation>
+        <translation>Ripristina tutto</translation>
     </message>
     <message>
         <source>Restore Default</source>

@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Alle standaardwaarden herstellen</translation>
+        <translation>Alles herstellen</translation>
     </message>
     <message>
         <source>Restore Default</source>

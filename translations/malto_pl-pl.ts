@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Przywróć wszystkie domyślne</translation>
+        <translation>Przywróć wszystko</translation>
     </message>
     <message>
         <source>Restore Default</source>

@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Återställ alla standardvärden</translation>
+        <translation>Återställ allt</translation>
     </message>
     <message>
         <source>Restore Default</source>

@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>Restore All Default</source>
-        <translation>Tüm Varsayılanları Geri Yükle</translation>
+        <translation>Tümünü Geri Yükle</translation>
     </message>
     <message>
         <source>Restore Default</source>

@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Stored data</source>
-        <translation>Gespeicherte Daten</translation>
+        <translation>Daten</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -289,11 +289,11 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Symbol in der Menüleiste zeigen</translation>
+        <translation>Symbol in Menüleiste anzeigen</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Ton nach der Aufnahme abspielen</translation>
+        <translation>Ton nach Aufnahme abspielen</translation>
     </message>
     <message>
         <source>Show tips</source>
@@ -552,7 +552,7 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     <name>StoredDataPage</name>
     <message>
         <source>Stored data</source>
-        <translation>Gespeicherte Daten</translation>
+        <translation>Daten</translation>
     </message>
     <message>
         <source>Nothing has been changed yet.</source>

@@ -289,7 +289,7 @@ Añada uno o restaure los predefinidos.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Mostrar icono en la barra de menús</translation>
+        <translation>Icono en la barra de menús</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>

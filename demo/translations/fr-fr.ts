@@ -289,7 +289,7 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Afficher l’icône dans la barre des menus</translation>
+        <translation>Icône dans la barre des menus</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>

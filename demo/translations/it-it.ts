@@ -289,7 +289,7 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Mostra l’icona nella barra dei menu</translation>
+        <translation>Icona nella barra dei menu</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>

@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Stored data</source>
-        <translation>Opgeslagen gegevens</translation>
+        <translation>Gegevens</translation>
     </message>
     <message>
         <source>Updates</source>
@@ -552,7 +552,7 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     <name>StoredDataPage</name>
     <message>
         <source>Stored data</source>
-        <translation>Opgeslagen gegevens</translation>
+        <translation>Gegevens</translation>
     </message>
     <message>
         <source>Nothing has been changed yet.</source>

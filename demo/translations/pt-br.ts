@@ -289,11 +289,11 @@ Adicione um ou restaure os predefinidos.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Mostrar ícone na barra de menus</translation>
+        <translation>Ícone na barra de menus</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Tocar um som após uma captura</translation>
+        <translation>Som após uma captura</translation>
     </message>
     <message>
         <source>Show tips</source>

@@ -293,7 +293,7 @@ Lägg till en eller återställ de förinställda.</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
-        <translation>Spela ett ljud efter en skärmbild</translation>
+        <translation>Spela upp ljud efter skärmbild</translation>
     </message>
     <message>
         <source>Show tips</source>

@@ -289,7 +289,7 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     </message>
     <message>
         <source>Show icon in the menu bar</source>
-        <translation>Simgeyi menü çubuğunda göster</translation>
+        <translation>Menü çubuğunda simge göster</translation>
     </message>
     <message>
         <source>Play a sound after a capture</source>
