@@ -19,12 +19,12 @@ int checkedFlags(const MultiSelectComboBox *box)
 
 QVector<bool> containedFlags(const MultiSelectComboBox *box, int value)
 {
-    QVector<bool> contained(box->count());
-    for (int i = 0; i < contained.size(); ++i) {
+    QVector<bool> contained;
+    for (int i = 0; i < box->count(); ++i) {
         bool checked = false;
         QVariant flag;
         box->getItemData(i, checked, flag);
-        contained[i] = (flag.toInt() & ~value) == 0;
+        contained.append((flag.toInt() & ~value) == 0);
     }
     return contained;
 }
