@@ -9,11 +9,11 @@ namespace MtConf {
 
 namespace {
 
-/// Marks the accessible texts of a control that the page has set, so that it may set them again.
+/// Properties that mark accessible texts set by describeControls(), which may set them again.
 const char sNamedByPage[] = "NamedByPage";
 const char sDescribedByPage[] = "DescribedByPage";
 
-/// Sets the name, unless the widget came with one of its own.
+/// Sets the accessible name, unless the editor has set one.
 void setNameUnlessOwn(QWidget *widget, const QString &name)
 {
     if (!widget->property(sNamedByPage).toBool() && !widget->accessibleName().isEmpty())
@@ -30,7 +30,7 @@ void setDescriptionUnlessOwn(QWidget *widget, const QString &description)
     widget->setAccessibleDescription(description);
 }
 
-/// The widgets inside `widget` that take the keyboard, without those that they consist of.
+/// Returns the descendants of `widget` that take the keyboard focus, without their own descendants.
 QList<QWidget *> controlsIn(const QWidget *widget)
 {
     QList<QWidget *> controls;
@@ -74,7 +74,7 @@ ConfigItemWidget::Writing::~Writing()
 
 void ConfigItemWidget::Writing::takeControls(const QList<QWidget *> &controls)
 {
-    // The outermost returns last.
+    // Hand the controls to the outermost scope, which ends last.
     if (mOuter) {
         mOuter->takeControls(controls);
         return;
@@ -98,17 +98,17 @@ ConfigItemWidget::ConfigItemWidget(ConfItem *item, QWidget *parent) : QFrame(par
 ConfigItemWidget::~ConfigItemWidget()
 {
     if (mItem->auxCallback) {
-        // Both are null today, so the callback stays dormant; it wakes when items get a JSON form.
+        // Both values are null, so the callback is not called until items have a JSON value.
         if (mItem->toJsonValue() != mInitialValue)
             mItem->auxCallback(mInitialValue, mItem);
     }
-    // A page that was rebuilt meanwhile may already show the item in another editor.
+    // A rebuilt page may already show the item in another editor.
     if (mItem->editor == this)
         mItem->editor = nullptr;
     if (!mWriting)
         return;
     QList<QWidget *> controls = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    // A control that is its own caption lies beside the editor.
+    // A control that is the caption may have another parent.
     if (mLabel && mLabel->parent() != this)
         controls.append(mLabel);
     mWriting->takeControls(controls);
@@ -135,10 +135,10 @@ void ConfigItemWidget::retranslateUi()
 void ConfigItemWidget::describeControls(const QString &group)
 {
     QList<QWidget *> controls = controlsIn(this);
-    // A control that is its own caption says its name itself.
+    // A control that is the caption has its name as its text.
     if (mLabel && !isAncestorOf(mLabel) && mLabel->focusPolicy() != Qt::NoFocus)
         controls.prepend(mLabel);
-    // The frame too: combo boxes say their value in the place of their name on some systems.
+    // The frame too, because on some systems combo boxes report their value instead of their name.
     setNameUnlessOwn(this, translatedText());
     for (QWidget *control : qAsConst(controls)) {
         if (control != mLabel)
@@ -146,7 +146,7 @@ void ConfigItemWidget::describeControls(const QString &group)
         setDescriptionUnlessOwn(control, group);
     }
     if (auto *caption = qobject_cast<QLabel *>(mLabel)) {
-        // A caption with a buddy would take an ampersand for the mark of a shortcut key.
+        // A caption with a buddy would interpret an ampersand as the mark of a shortcut key.
         const bool canHaveBuddy = !controls.isEmpty()
                                   && !caption->text().contains(QLatin1Char('&'));
         caption->setBuddy(canHaveBuddy ? controls.first() : nullptr);
@@ -171,7 +171,7 @@ void ConfigItemWidget::restoreDefault()
 
 QString ConfigItemWidget::translatedText() const
 {
-    // The one context in which hosts mark their labels for translation.
+    // The context in which hosts mark labels for translation.
     return QObject::tr(mItem->displayText);
 }
 

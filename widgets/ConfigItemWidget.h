@@ -10,54 +10,59 @@
 
 namespace MtConf {
 
-/// The editor of one item: the base of every editor that the settings window shows.
+/// The base class of all editors of the settings window. An editor edits one item.
 ///
-/// It ties the editor to its item, owns the item's caption and marks the caption while the stored
-/// value differs from the default. An editor of one's own derives from it, puts its control into a
-/// layout, implements `loadConf`, and writes what a person enters with `writeValue`.
+/// It connects the editor with its item, creates the caption of the item and marks the caption
+/// while the stored value differs from the default value. To write your own editor, derive from
+/// this class, add a control to a layout, implement `loadConf` and store what the user enters with
+/// `writeValue`.
 ///
-/// An editor lives as long as the page that shows it; the item must outlive it. Meanwhile the
-/// item's `editor` points to it.
+/// An editor lives as long as the page that shows it. The item must outlive the editor, and its
+/// field `editor` points to the editor.
 ///
 /// @include own-editor/main.cpp
+/// @see ConfItem::widgetCreator
+/// @since 0.1
 class MALTO_EXPORT ConfigItemWidget : public QFrame
 {
 public:
-    /// An editor of `item`, which must not be null, inside `parent`.
+    /// Creates an editor of `item`, which must not be null, as a child of `parent`.
     ConfigItemWidget(ConfItem *item, QWidget *parent);
     ~ConfigItemWidget() override;
 
-    /// The caption, made at the first call as a label beside this widget. An editor whose control
-    /// bears the text itself, such as a check box, returns that control.
+    /// Returns the caption. The first call creates it, a QLabel whose parent is the parent of this
+    /// widget. An editor whose control has the text itself, such as a check box, returns that
+    /// control.
     virtual QWidget *label();
-    /// Sets the texts again after a change of language.
+    /// Translates the texts after a language change.
     virtual void retranslateUi();
-    /// Sets the caption's property "changed" to "1" while the value differs from its default and
-    /// to "0" otherwise, and has the style sheet look at it again.
+    /// Sets the property "changed" of the caption to "1" if the value differs from its default
+    /// value and to "0" otherwise, and applies the style sheet again.
     virtual void refreshLabelState();
-    /// Restores the default of the item. The control is not updated: the page is rebuilt after it.
+    /// Restores the default value of the item. Does not update the control: the window rebuilds the
+    /// page afterwards.
     virtual void restoreDefault();
     /// Copies the stored value into the control.
     virtual void loadConf() = 0;
 
-    /// Tells screen readers what the controls are for: each is named as the caption and described
-    /// by `group`, the caption of its group, unless the editor has named or described it itself.
-    /// The caption becomes the buddy of the first control. Called when the page is built and again
-    /// when the language changes.
+    /// Sets the accessible texts of the controls for screen readers: the caption as the accessible
+    /// name and `group`, the caption of the group, as the accessible description, unless the editor
+    /// has set its own. The caption becomes the buddy of the first control. The window calls this
+    /// when it builds the page and after a language change.
     void describeControls(const QString &group);
 
-    /// Whether a value that this editor writes is on its way through the store. Callbacks run
-    /// meanwhile; whoever wants to delete the editor then does it later.
+    /// Returns whether this editor is storing a value. Callbacks run meanwhile; code that wants to
+    /// delete the editor then must defer it.
     bool isWriting() const { return mWriting; }
 
-    /// Whether editors that are made from now on can be used by the keyboard alone: boxes of
-    /// several choices open on Alt+Down, F4 and Space, and Backspace and Delete clear a hotkey
-    /// instead of being recorded. False by default.
+    /// Whether editors that are created from now on can be used with the keyboard alone:
+    /// multi-select combo boxes open on Alt+Down, F4 and Space, and Backspace and Delete clear a
+    /// hotkey instead of being recorded. False by default.
     static bool sFullKeyboardAccess;
 
 protected:
-    /// What a factory of editors returns: a new `Editor` of `item`. Null, and the critical message
-    /// "ConfigItemWidget without an item", when there is none.
+    /// Creates an `Editor` of `item`, for the factory of an editor class. Returns null, with the
+    /// critical message "ConfigItemWidget without an item", if `item` is null.
     template<class Editor> static ConfigItemWidget *create(ConfItem *item, QWidget *parent)
     {
         if (item)
@@ -66,21 +71,21 @@ protected:
         return nullptr;
     }
 
-    /// The stored value of the item.
+    /// Returns the stored value of the item.
     template<class T> T readValue() const
     {
         return ConfStorage::instance()->get<T>(mItem->getFullName());
     }
 
-    /// Stores `value` if it differs from the stored one. False when there was nothing to write, or
-    /// when a callback has deleted this editor: the caller returns at once then.
+    /// Stores `value` if it differs from the stored value. Returns false if it does not differ or
+    /// if a callback has deleted this editor; the caller must then return without using it.
     template<class T> bool writeValue(const T &value)
     {
         return readValue<T>() != value && storeValue(value);
     }
 
-    /// Stores `value`, also when it is the stored one. False when a callback has deleted this
-    /// editor: the caller returns at once then.
+    /// Stores `value`, even if it equals the stored value. Returns false if a callback has deleted
+    /// this editor; the caller must then return without using it.
     template<class T> bool storeValue(const T &value)
     {
         const Writing writing(this);
@@ -88,16 +93,16 @@ protected:
         return writing.hasEditor();
     }
 
-    /// The item's label in the current language.
+    /// Returns the label of the item in the current language.
     QString translatedText() const;
 
     ConfItem *mItem;          ///< the edited item
-    QPointer<QWidget> mLabel; ///< the caption; null until first asked for
+    QPointer<QWidget> mLabel; ///< the caption; null before the first `label()`
 
 private:
-    /// One value on its way through the store. The control that it comes from still handles its
-    /// event then. When a callback deletes the editor, the control lives on here until the store
-    /// returns, also when that takes a dialog of the host.
+    /// Exists while the editor stores a value. The control that the value comes from is handling an
+    /// event then. If a callback deletes the editor, the controls are kept here until the store
+    /// returns, which may include a dialog of the host.
     class MALTO_EXPORT Writing
     {
     public:
