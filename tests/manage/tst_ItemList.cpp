@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Larger than a pointer, as items are; counts those that are alive.
+/// An element that is larger than a pointer, like an item. Counts the existing elements.
 struct Element
 {
     Element(int value) : number(value) { ++sAlive; }
@@ -42,8 +42,8 @@ template<class List> QVector<const Element *> addressesOf(const List &list)
 
 } // namespace
 
-/// What the lists of a manager promise, whichever Qt is used, and the list that keeps the promise
-/// where QList does not.
+/// The guarantees of a manager's lists with every Qt, and of the list that gives them where QList
+/// does not.
 class tst_ItemList : public QObject
 {
     Q_OBJECT
@@ -51,18 +51,18 @@ class tst_ItemList : public QObject
 private Q_SLOTS:
     void cleanup() { QCOMPARE(Element::sAlive, 0); }
 
-    void addressesSurviveGrowth();
-    void addressesSurviveRemovals();
-    void addressesSurviveReplacing();
-    void functionsAreThoseOfQList();
-    void iteratorsGoThroughTheElements();
+    void addressesStayValidWhenTheListGrows();
+    void addressesStayValidWhenElementsAreRemoved();
+    void addressesStayValidWhenElementsAreReplaced();
+    void functionsBehaveLikeThoseOfQList();
+    void iteratorsVisitAllElements();
     void elementsAreChangedInPlace();
-    void copyHasElementsOfItsOwn();
+    void copyHasItsOwnElements();
     void movedListKeepsAddresses();
     void elementOfTheListItselfCanBeAppended();
-    void destructorMayLookAtTheList();
-    void insertedElementTakesItsPlace();
-    void erasedElementIsFollowedByTheNextOne();
+    void destructorOfAnElementMayAccessTheList();
+    void insertedElementIsAtItsPosition();
+    void eraseReturnsTheNextElement();
 
 private:
     template<class List> static void growAndCompare();
@@ -73,7 +73,7 @@ private:
     template<class List> static void changeInPlace();
 };
 
-void tst_ItemList::addressesSurviveGrowth()
+void tst_ItemList::addressesStayValidWhenTheListGrows()
 {
     growAndCompare<MtConf::ItemList<Element>>();
     growAndCompare<MtConf::StableList<Element>>();
@@ -90,7 +90,7 @@ template<class List> void tst_ItemList::growAndCompare()
     QCOMPARE(list.last().number, 1000);
 }
 
-void tst_ItemList::addressesSurviveRemovals()
+void tst_ItemList::addressesStayValidWhenElementsAreRemoved()
 {
     removeAndCompare<MtConf::ItemList<Element>>();
     removeAndCompare<MtConf::StableList<Element>>();
@@ -108,7 +108,7 @@ template<class List> void tst_ItemList::removeAndCompare()
     QCOMPARE(Element::sAlive, 2);
 }
 
-void tst_ItemList::addressesSurviveReplacing()
+void tst_ItemList::addressesStayValidWhenElementsAreReplaced()
 {
     replaceAndCompare<MtConf::ItemList<Element>>();
     replaceAndCompare<MtConf::StableList<Element>>();
@@ -136,7 +136,7 @@ template<class List> void tst_ItemList::replaceAndCompare()
     QCOMPARE(numbersOf(other), QVector<int>({3, 1, 9}));
 }
 
-void tst_ItemList::functionsAreThoseOfQList()
+void tst_ItemList::functionsBehaveLikeThoseOfQList()
 {
     callFunctions<MtConf::ItemList<Element>>();
     callFunctions<MtConf::StableList<Element>>();
@@ -164,7 +164,7 @@ template<class List> void tst_ItemList::callFunctions()
     QCOMPARE(Element::sAlive, 0);
 }
 
-void tst_ItemList::iteratorsGoThroughTheElements()
+void tst_ItemList::iteratorsVisitAllElements()
 {
     iterate<MtConf::ItemList<Element>>();
     iterate<MtConf::StableList<Element>>();
@@ -216,7 +216,7 @@ template<class List> void tst_ItemList::changeInPlace()
     QCOMPARE(list.at(0).number, 8);
 }
 
-void tst_ItemList::copyHasElementsOfItsOwn()
+void tst_ItemList::copyHasItsOwnElements()
 {
     MtConf::StableList<Element> list{1, 2};
     const auto before = addressesOf(list);
@@ -254,7 +254,7 @@ void tst_ItemList::elementOfTheListItselfCanBeAppended()
     QCOMPARE(numbersOf(list), QVector<int>(101, 1));
 }
 
-void tst_ItemList::destructorMayLookAtTheList()
+void tst_ItemList::destructorOfAnElementMayAccessTheList()
 {
     struct Curious
     {
@@ -278,7 +278,7 @@ void tst_ItemList::destructorMayLookAtTheList()
     QCOMPARE(sizes, QVector<int>({2, 0, 0}));
 }
 
-void tst_ItemList::insertedElementTakesItsPlace()
+void tst_ItemList::insertedElementIsAtItsPosition()
 {
     MtConf::StableList<Element> list{1, 2};
     const Element *second = &list.at(1);
@@ -289,7 +289,7 @@ void tst_ItemList::insertedElementTakesItsPlace()
     QCOMPARE(&list.at(3), second);
 }
 
-void tst_ItemList::erasedElementIsFollowedByTheNextOne()
+void tst_ItemList::eraseReturnsTheNextElement()
 {
     MtConf::StableList<Element> list{1, 2, 3};
     const auto next = list.erase(list.cbegin() + 1);

@@ -28,7 +28,7 @@ private Q_SLOTS:
 
     void declaringFillsTheItem();
     void eachTypeHasItsOwnEditor();
-    void textHasNoEditorOfItsOwn();
+    void textHasNoDefaultEditor();
     void givenFactoryReplacesTheDefaultOne();
     void startAtLoginHasASwitchAndAppliesItsChanges();
     void mouseActionIsStoredPerOperatingSystem();
@@ -104,7 +104,7 @@ void tst_MtConfManage::eachTypeHasItsOwnEditor()
     qDeleteAll(mParent.findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-void tst_MtConfManage::textHasNoEditorOfItsOwn()
+void tst_MtConfManage::textHasNoDefaultEditor()
 {
     QString text;
     QVERIFY(!makeManager()->addConfQString("t", &text, "M", "t")->widgetCreator);

@@ -35,9 +35,9 @@ private Q_SLOTS:
     void saveStaysPendingIfTheFileCannotBeOpened();
     void fileIsRewrittenInPlace();
     void shorterContentTruncatesTheFile();
-    void fileIsWholeUntilTheTextIsComposed();
+    void fileIsNotTruncatedBeforeTheTextIsComposed();
     void failedOpeningIsLoggedBeforeTheDump();
-    void fileThatMayOnlyBeWrittenIsSaved();
+    void unreadableButWritableFileIsSaved();
     void loadedFileRestoresEverything();
     void fileWithoutAJsonObjectCountsAsEmpty_data();
     void fileWithoutAJsonObjectCountsAsEmpty();
@@ -235,7 +235,7 @@ void readFileAtTheMessage(QtMsgType level, const QMessageLogContext &, const QSt
 
 } // namespace
 
-void tst_ConfStorageFile::fileIsWholeUntilTheTextIsComposed()
+void tst_ConfStorageFile::fileIsNotTruncatedBeforeTheTextIsComposed()
 {
     const QByteArray before = "{\"size\":{\"t\":50,\"v\":3}}";
     write(before);
@@ -269,10 +269,10 @@ void tst_ConfStorageFile::failedOpeningIsLoggedBeforeTheDump()
             {QtDebugMsg, "ConfStorage::saveToLocalConfFile() save to file:  \"local.json\""}}));
 }
 
-void tst_ConfStorageFile::fileThatMayOnlyBeWrittenIsSaved()
+void tst_ConfStorageFile::unreadableButWritableFileIsSaved()
 {
     constexpr uid_t somebody = 65534;
-    const bool isRoot = ::geteuid() == 0; // who may read everything
+    const bool isRoot = ::geteuid() == 0; // root can read every file
     write("older and longer than what is saved, which leaves nothing of it");
     QVERIFY(QFile::setPermissions(path(), QFile::WriteOwner));
     if (isRoot) {

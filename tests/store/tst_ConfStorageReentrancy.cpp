@@ -42,10 +42,10 @@ private Q_SLOTS:
     void creatorMayLoadItsKey();
     void creatorThatLoadsTheRemovalOfItsKeyCreatesIt_data();
     void creatorThatLoadsTheRemovalOfItsKeyCreatesIt();
-    void creatorThatLoadsTheRemovalInsteadOfReservingLeavesItRemoved();
+    void creatorThatOnlyLoadsTheRemovalCreatesNothing();
     void keyArgumentMayReferToTheMapBeingChanged();
     void callbackMayRemoveOtherKeysWhileAClassIsRestored();
-    void keyThatACallbackRemovesWhileAClassIsRestoredIsLogged();
+    void keyRemovedByACallbackDuringRestoreIsLogged();
 
 private:
     static QString key() { return "General.Size"; }
@@ -408,7 +408,7 @@ void tst_ConfStorageReentrancy::creatorMayLoadItsKey()
 void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalOfItsKeyCreatesIt_data()
 {
     QTest::addColumn<bool>("isReservedFirst");
-    QTest::addColumn<bool>("isMerged"); // created by a loaded entry, or else by the host
+    QTest::addColumn<bool>("isMerged"); // created by a loaded entry instead of by the host
     QTest::newRow("loads, then reserves") << false << false;
     QTest::newRow("reserves, then loads") << true << false;
     QTest::newRow("loads, then reserves, in a load") << false << true;
@@ -440,7 +440,7 @@ void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalOfItsKeyCreatesIt()
              (QStringList{"t", "v"}));
 }
 
-void tst_ConfStorageReentrancy::creatorThatLoadsTheRemovalInsteadOfReservingLeavesItRemoved()
+void tst_ConfStorageReentrancy::creatorThatOnlyLoadsTheRemovalCreatesNothing()
 {
     ConfStorage::DynamicConfClass cls;
     cls.prefix = "P.";
@@ -489,7 +489,7 @@ void tst_ConfStorageReentrancy::callbackMayRemoveOtherKeysWhileAClassIsRestored(
             {QtCriticalMsg, "ConfStorage::removeDynamicConf() key not found:  \"General.b\""}}));
 }
 
-void tst_ConfStorageReentrancy::keyThatACallbackRemovesWhileAClassIsRestoredIsLogged()
+void tst_ConfStorageReentrancy::keyRemovedByACallbackDuringRestoreIsLogged()
 {
     ConfStorage::DynamicConfClass cls;
     int created = 0;

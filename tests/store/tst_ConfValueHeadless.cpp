@@ -39,7 +39,7 @@ void tst_ConfValueHeadless::fontWithoutASizeIsKept()
     QCOMPARE(font.pointSizeF(), -1.0);
     QVERIFY(log.messages().isEmpty());
 
-    // What is written is read back as the same font.
+    // The font is the same after writing and reading it.
     ConfValue copy = ConfValue::owned(QFont());
     copy.loadFromJsonValue(value.toJsonValue());
     QVERIFY(copy == value);
@@ -58,7 +58,7 @@ void tst_ConfValueHeadless::fontSizeOutOfRangeGivesTheDefaultFont_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("infinite") << "Sans,inf,-1,5,50,0,0,0,0,0";
     QTest::newRow("too many pixels") << "Sans,-1,4097,5,50,0,0,0,0,0";
-    QTest::newRow("next to nothing") << "Sans,1e-300,-1,5,50,0,0,0,0,0";
+    QTest::newRow("almost zero") << "Sans,1e-300,-1,5,50,0,0,0,0,0";
 }
 
 void tst_ConfValueHeadless::fontSizeOutOfRangeGivesTheDefaultFont()

@@ -111,7 +111,7 @@ private Q_SLOTS:
     void languagesThatQtLacksTranslateTheSameQtTexts();
     void mnemonicsOfADialogAreUnique_data();
     void mnemonicsOfADialogAreUnique();
-    void hostGetsAFileForEveryLanguageAndKeepsItsOwn();
+    void hostGetsAFileForEveryLanguageAndKeepsItsTranslations();
 
 private:
     /// Adds a row for each file of the library that matches `pattern`, and for each of the demo.
@@ -251,7 +251,7 @@ void tst_Translations::mnemonicsOfADialogAreUnique()
     }
 }
 
-void tst_Translations::hostGetsAFileForEveryLanguageAndKeepsItsOwn()
+void tst_Translations::hostGetsAFileForEveryLanguageAndKeepsItsTranslations()
 {
     QVERIFY(QDir().mkpath("host"));
     QFile source("host/main.cpp");

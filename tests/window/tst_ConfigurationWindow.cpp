@@ -32,7 +32,7 @@ private Q_SLOTS:
     void arrowKeysMoveThroughTheClasses();
     void switchToView_opensTheFirstPageOfThatName();
     void switchToView_withUnknownNameShowsAnEmptyPage();
-    void editByClickReachesTheVariable();
+    void clickChangesTheVariable();
     void restorePage_answeredNoChangesNothing();
     void restorePage_answeredYesRestoresThisPageOnly();
     void restorePage_escapeChangesNothing();
@@ -174,7 +174,7 @@ void tst_ConfigurationWindow::switchToView_withUnknownNameShowsAnEmptyPage()
     QVERIFY(mFirstItem->editor);
 }
 
-void tst_ConfigurationWindow::editByClickReachesTheVariable()
+void tst_ConfigurationWindow::clickChangesTheVariable()
 {
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(mFirstItem));

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
     void ungroupedItemsShareOneGroupUnderTheClassName();
     void subNamedItemsAreGroupedByName();
-    void classOfSubNamedItemsOnlyHasNoGroupOfItsOwn();
+    void classWithOnlySubNamedItemsHasNoGroupOfItsName();
     void separatorsAreBetweenItems_data();
     void separatorsAreBetweenItems();
     void captionsAreLeftOfTheirEditors();
@@ -102,7 +102,7 @@ void tst_ConfigurationWindowPage::subNamedItemsAreGroupedByName()
     QCOMPARE(groups.at(2)->findChildren<QCheckBox *>().size(), 1);
 }
 
-void tst_ConfigurationWindowPage::classOfSubNamedItemsOnlyHasNoGroupOfItsOwn()
+void tst_ConfigurationWindowPage::classWithOnlySubNamedItemsHasNoGroupOfItsName()
 {
     addBool("Hotkey", "Left");
     mFixture->open();

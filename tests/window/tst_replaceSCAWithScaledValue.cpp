@@ -35,7 +35,7 @@ void tst_replaceSCAWithScaledValue::macrosAreReplaced_data()
     QTest::newRow("no closing parenthesis") << "SCA(12" << 2.0f << "SCA(12";
     QTest::newRow("no closing parenthesis, then a macro") << "SCA(12SCA(4)" << 2.0f << "SCA(128";
     QTest::newRow("digits of another script count as none") << "SCA(\u0663)" << 2.0f << "0";
-    QTest::newRow("behind half a surrogate pair")
+    QTest::newRow("after half a surrogate pair")
         << QString(QChar(0xd800)) + "SCA(4)" << 2.0f << QString(QChar(0xd800)) + "8";
     QTest::newRow("nested") << "SCA(SCA(1))" << 2.0f << "SCA(2)";
     QTest::newRow("product beyond int counts as 0") << "SCA(2147483647)" << 4.0f << "0";
