@@ -17,6 +17,8 @@ class QColorDialog;
 /// native dialog may open behind such a window, so Qt's own dialog is used there.
 ///
 /// With a style sheet the swatch fills the content rectangle, inside the border and padding.
+///
+/// @since 0.1
 class ORVUTILS_EXPORT ColorSelectButton : public QPushButton
 {
     Q_OBJECT
