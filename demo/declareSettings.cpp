@@ -7,19 +7,19 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
+#include <QCoreApplication>
 #include <QxtGlobalShortcut>
 
 using MtConf::ConfItem;
 using MtConf::MtConfManage;
 
-// Every setting of the program, page by page: its label, its variable, its page and its name. A
-// third name puts a setting into the group that the second one names.
-//
-// The library translates labels and choices when it shows them, in the context "QObject", and the
-// names of pages and groups in the context "MtConf::ConfigurationWindow": lupdate finds the marks.
+// Each setting has a label, a variable, a page and a name. With a third name, the second one is the
+// group of the setting on its page.
 
 namespace {
 
+// The library translates the names of pages and groups in this context. The names in the
+// declarations below stay untranslated: they are the keys of the settings.
 const char *const sPageNames[] = {
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "General"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Appearance"),
@@ -31,255 +31,232 @@ const char *const sPageNames[] = {
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "System"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Stored data"),
 };
+[[maybe_unused]] const char *const sGroupNames[] = {
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Updates"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Selection"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Magnifier"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Size label"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Snapping"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Capture"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Tools"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Pinned pictures"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Image"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "After a capture"),
+};
 
-/// Lets the number of `item` go from `minimum` to `maximum`.
-ConfItem *range(ConfItem *item, int minimum, int maximum)
+/// Declares the settings, one function per page.
+///
+/// The library translates labels and choices in the context "QObject". `Q_DECLARE_TR_FUNCTIONS`
+/// gives this context to every `QT_TR_NOOP` in the class, so that lupdate finds the texts there.
+class Declare
 {
-    item->properties.insert(QStringLiteral("MinValue"), minimum);
-    item->properties.insert(QStringLiteral("MaxValue"), maximum);
+    Q_DECLARE_TR_FUNCTIONS(QObject)
+public:
+    static void general(MtConfManage &m, Settings &s);
+    static void appearance(MtConfManage &m, Settings &s);
+    static void capture(MtConfManage &m, Settings &s);
+    static void hotkeys(MtConfManage &m, Settings &s);
+    static void mouse(MtConfManage &m, Settings &s);
+    static void output(MtConfManage &m, Settings &s);
+    static void system(MtConfManage &m, Settings &s);
+};
+
+/// A name as a QString: `"General"_s`.
+QString operator""_s(const char *name, std::size_t size)
+{
+    return QString::fromLatin1(name, static_cast<int>(size));
+}
+
+struct Range
+{
+    int minimum;
+    int maximum;
+};
+
+/// Declares a number that the user can set within `range`.
+ConfItem *addNumber(MtConfManage &m, const char *text, int *value, Range range, const QString &page,
+                    const QString &name, const QString &subName = QString())
+{
+    ConfItem *item = m.addConfInt32(text, value, page, name, subName);
+    item->properties.insert("MinValue"_s, range.minimum);
+    item->properties.insert("MaxValue"_s, range.maximum);
     return item;
 }
 
-/// Shows `item` only to those who asked for the expert settings.
-ConfItem *expert(ConfItem *item)
+/// Hides `item` unless the user wants to see the expert settings.
+void makeExpert(ConfItem *item)
 {
     item->flags |= MtConf::ItemIsFiltered;
-    return item;
 }
 
-/// Makes the hotkey of `item` work while other programs have the keyboard. `owner` owns it.
+/// Makes the hotkey of `item` work in every program. `owner` owns the registration.
 void makeGlobal(ConfItem *item, QObject *owner)
 {
-    item->properties.insert(QStringLiteral("Shortcut"),
-                            QVariant::fromValue(new QxtGlobalShortcut(owner)));
+    item->properties.insert("Shortcut"_s, QVariant::fromValue(new QxtGlobalShortcut(owner)));
 }
 
-void declareGeneral(MtConfManage &m, Settings &s)
+void Declare::general(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("General");
-    m.addConfLanguage(QT_TRANSLATE_NOOP("QObject", "Language"), &s.language, page,
-                      QStringLiteral("Language"));
-    m.addConfAutoRun(QT_TRANSLATE_NOOP("QObject", "Start at login"), &s.startAtLogin, page,
-                     QStringLiteral("StartAtLogin"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show icon in the menu bar"), &s.showTrayIcon, page,
-                  QStringLiteral("TrayIcon"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Play a sound after a capture"), &s.playSound, page,
-                  QStringLiteral("Sound"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show tips"), &s.showTips, page,
-                  QStringLiteral("Tips"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Recent captures in the menu"),
-                         &s.recentCaptures, page, QStringLiteral("Recent")),
-          0, 50);
+    const QString page = "General"_s;
+    m.addConfLanguage(QT_TR_NOOP("Language"), &s.language, page, "Language"_s);
+    m.addConfAutoRun(QT_TR_NOOP("Start at login"), &s.startAtLogin, page, "StartAtLogin"_s);
+    m.addConfBool(QT_TR_NOOP("Show icon in the menu bar"), &s.showTrayIcon, page, "TrayIcon"_s);
+    m.addConfBool(QT_TR_NOOP("Play a sound after a capture"), &s.playSound, page, "Sound"_s);
+    m.addConfBool(QT_TR_NOOP("Show tips"), &s.showTips, page, "Tips"_s);
+    addNumber(m, QT_TR_NOOP("Recent captures in the menu"), &s.recentCaptures, {0, 50}, page,
+              "Recent"_s);
 
-    const QString updates = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Updates"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Check for updates"), &s.checkUpdates, page, updates,
-                  QStringLiteral("Check"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Check interval (days)"), &s.updateInterval,
-                         page, updates, QStringLiteral("Interval")),
-          1, 90);
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Offer beta versions"), &s.betaUpdates, page,
-                  updates, QStringLiteral("Beta"));
+    const QString updates = "Updates"_s;
+    m.addConfBool(QT_TR_NOOP("Check for updates"), &s.checkUpdates, page, updates, "Check"_s);
+    addNumber(m, QT_TR_NOOP("Check interval (days)"), &s.updateInterval, {1, 90}, page, updates,
+              "Interval"_s);
+    m.addConfBool(QT_TR_NOOP("Offer beta versions"), &s.betaUpdates, page, updates, "Beta"_s);
 }
 
-void declareAppearance(MtConfManage &m, Settings &s)
+void Declare::appearance(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Appearance");
-    m.addConfInt32WithCombobox(QT_TRANSLATE_NOOP("QObject", "Theme"),
-                               {QT_TRANSLATE_NOOP("QObject", "Like the system"),
-                                QT_TRANSLATE_NOOP("QObject", "Light"),
-                                QT_TRANSLATE_NOOP("QObject", "Dark")},
-                               &s.theme, page, QStringLiteral("Theme"));
+    const QString page = "Appearance"_s;
+    m.addConfInt32WithCombobox(
+        QT_TR_NOOP("Theme"),
+        {QT_TR_NOOP("Like the system"), QT_TR_NOOP("Light"), QT_TR_NOOP("Dark")}, &s.theme, page,
+        "Theme"_s);
 
-    const QString selection = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Selection"));
-    m.addConfQColor(QT_TRANSLATE_NOOP("QObject", "Frame"), &s.frameColor, page, selection,
-                    QStringLiteral("FrameColor"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Width of the frame (px)"), &s.frameWidth,
-                         page, selection, QStringLiteral("FrameWidth")),
-          1, 20);
-    m.addConfQColor(QT_TRANSLATE_NOOP("QObject", "Shade outside"), &s.shadeColor, page, selection,
-                    QStringLiteral("ShadeColor"));
+    const QString selection = "Selection"_s;
+    m.addConfQColor(QT_TR_NOOP("Frame"), &s.frameColor, page, selection, "FrameColor"_s);
+    addNumber(m, QT_TR_NOOP("Width of the frame (px)"), &s.frameWidth, {1, 20}, page, selection,
+              "FrameWidth"_s);
+    m.addConfQColor(QT_TR_NOOP("Shade outside"), &s.shadeColor, page, selection, "ShadeColor"_s);
 
-    const QString magnifier = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Magnifier"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show magnifier"), &s.showMagnifier, page, magnifier,
-                  QStringLiteral("Show"));
-    m.addConfInt32WithCombobox(QT_TRANSLATE_NOOP("QObject", "Magnification"),
-                               {"2 ×", "4 ×", "8 ×", "16 ×"}, {2, 4, 8, 16}, &s.magnifierZoom, page,
-                               magnifier, QStringLiteral("Zoom"));
+    const QString magnifier = "Magnifier"_s;
+    m.addConfBool(QT_TR_NOOP("Show magnifier"), &s.showMagnifier, page, magnifier, "Show"_s);
+    m.addConfInt32WithCombobox(QT_TR_NOOP("Magnification"), {"2 ×", "4 ×", "8 ×", "16 ×"},
+                               {2, 4, 8, 16}, &s.magnifierZoom, page, magnifier, "Zoom"_s);
 
-    const QString label = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Size label"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show size beside the selection"), &s.showSize, page,
-                  label, QStringLiteral("Show"));
-    m.addConfQFont(QT_TRANSLATE_NOOP("QObject", "Font"), &s.labelFont, page, label,
-                   QStringLiteral("Font"));
-    m.addConfQColor(QT_TRANSLATE_NOOP("QObject", "Colour"), &s.labelColor, page, label,
-                    QStringLiteral("Color"));
+    const QString label = "Size label"_s;
+    m.addConfBool(QT_TR_NOOP("Show size beside the selection"), &s.showSize, page, label, "Show"_s);
+    m.addConfQFont(QT_TR_NOOP("Font"), &s.labelFont, page, label, "Font"_s);
+    m.addConfQColor(QT_TR_NOOP("Colour"), &s.labelColor, page, label, "Color"_s);
 }
 
-void declareCapture(MtConfManage &m, Settings &s)
+void Declare::capture(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Capture");
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Delay before a capture (s)"), &s.delay, page,
-                         QStringLiteral("Delay")),
-          0, 60);
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Count down on the screen"), &s.countdown, page,
-                  QStringLiteral("Countdown"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Include the mouse pointer"), &s.includePointer,
-                  page, QStringLiteral("Pointer"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Include the shadow of windows"), &s.includeShadow,
-                  page, QStringLiteral("Shadow"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Freeze the screen while selecting"),
-                  &s.freezeScreen, page, QStringLiteral("Freeze"));
-    m.addConfInt32WithCombobox(QT_TRANSLATE_NOOP("QObject", "Frames per second of videos"),
-                               {"10", "24", "30", "60"}, {10, 24, 30, 60}, &s.frameRate, page,
-                               QStringLiteral("FrameRate"));
+    const QString page = "Capture"_s;
+    addNumber(m, QT_TR_NOOP("Delay before a capture (s)"), &s.delay, {0, 60}, page, "Delay"_s);
+    m.addConfBool(QT_TR_NOOP("Count down on the screen"), &s.countdown, page, "Countdown"_s);
+    m.addConfBool(QT_TR_NOOP("Include the mouse pointer"), &s.includePointer, page, "Pointer"_s);
+    m.addConfBool(QT_TR_NOOP("Include the shadow of windows"), &s.includeShadow, page, "Shadow"_s);
+    m.addConfBool(QT_TR_NOOP("Freeze the screen while selecting"), &s.freezeScreen, page,
+                  "Freeze"_s);
+    m.addConfInt32WithCombobox(QT_TR_NOOP("Frames per second of videos"), {"10", "24", "30", "60"},
+                               {10, 24, 30, 60}, &s.frameRate, page, "FrameRate"_s);
 
-    const QString snapping = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Snapping"));
+    const QString snapping = "Snapping"_s;
     ConfItem *targets = m.addConfInt32WithCombobox(
-        QT_TRANSLATE_NOOP("QObject", "Snap to"),
-        {QT_TRANSLATE_NOOP("QObject", "Windows"), QT_TRANSLATE_NOOP("QObject", "Screen edges"),
-         QT_TRANSLATE_NOOP("QObject", "Guides"), QT_TRANSLATE_NOOP("QObject", "Last selection")},
-        {0x1, 0x2, 0x4, 0x8}, &s.snapTargets, page, snapping, QStringLiteral("Targets"));
-    targets->properties.insert(QStringLiteral("MultiSelect"), true);
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Distance (px)"), &s.snapDistance, page,
-                         snapping, QStringLiteral("Distance")),
-          0, 50);
+        QT_TR_NOOP("Snap to"),
+        {QT_TR_NOOP("Windows"), QT_TR_NOOP("Screen edges"), QT_TR_NOOP("Guides"),
+         QT_TR_NOOP("Last selection")},
+        {0x1, 0x2, 0x4, 0x8}, &s.snapTargets, page, snapping, "Targets"_s);
+    targets->properties.insert("MultiSelect"_s, true);
+    addNumber(m, QT_TR_NOOP("Distance (px)"), &s.snapDistance, {0, 50}, page, snapping,
+              "Distance"_s);
 }
 
-void declareHotkeys(MtConfManage &m, Settings &s)
+void Declare::hotkeys(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Hotkeys");
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Hotkeys in full-screen applications"),
-                  &s.hotkeysInFullScreen, page, QStringLiteral("FullScreen"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Repeat delay (ms)"), &s.repeatDelay, page,
-                         QStringLiteral("RepeatDelay")),
-          0, 2000);
+    const QString page = "Hotkeys"_s;
+    m.addConfBool(QT_TR_NOOP("Hotkeys in full-screen applications"), &s.hotkeysInFullScreen, page,
+                  "FullScreen"_s);
+    addNumber(m, QT_TR_NOOP("Repeat delay (ms)"), &s.repeatDelay, {0, 2000}, page, "RepeatDelay"_s);
 
-    // The usual editor, told whether it may take a letter alone.
-    const MtConf::WidgetCreator editor = [&s](ConfItem *item, QWidget *parent) {
-        MtConf::ConfigItemWidget *made = MtConf::ConfDefWidgetQKeySequence::CreatConfWidget(item,
-                                                                                            parent);
-        if (auto *field = made->findChild<KeySequenceEdit *>())
-            field->allowSimpleHotkey = s.simpleHotkeys;
-        return made;
+    const auto add = [&m, &s, &page](const char *text, QKeySequence *value, const QString &group,
+                                     const QString &name) {
+        // The library's editor, except that a setting decides whether a letter alone is accepted.
+        const MtConf::WidgetCreator editor = [&s](ConfItem *item, QWidget *parent) {
+            auto *widget = MtConf::ConfDefWidgetQKeySequence::CreatConfWidget(item, parent);
+            if (auto *field = widget->findChild<KeySequenceEdit *>())
+                field->allowSimpleHotkey = s.simpleHotkeys;
+            return widget;
+        };
+        makeGlobal(m.addConfQKeySequence(text, value, page, group, name, editor), &m);
     };
-    const QString capture = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Capture"));
-    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture an area"),
-                                     &s.captureArea, page, capture, QStringLiteral("Area"), editor),
-               &m);
-    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture a window"),
-                                     &s.captureWindow, page, capture, QStringLiteral("Window"),
-                                     editor),
-               &m);
-    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Capture the screen"),
-                                     &s.captureScreen, page, capture, QStringLiteral("Screen"),
-                                     editor),
-               &m);
+    const QString capture = "Capture"_s;
+    add(QT_TR_NOOP("Capture an area"), &s.captureArea, capture, "Area"_s);
+    add(QT_TR_NOOP("Capture a window"), &s.captureWindow, capture, "Window"_s);
+    add(QT_TR_NOOP("Capture the screen"), &s.captureScreen, capture, "Screen"_s);
 
-    const QString tools = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Tools"));
-    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Pin the clipboard"),
-                                     &s.pinClipboard, page, tools, QStringLiteral("Pin"), editor),
-               &m);
-    makeGlobal(m.addConfQKeySequence(QT_TRANSLATE_NOOP("QObject", "Pick a colour"), &s.pickColor,
-                                     page, tools, QStringLiteral("PickColor"), editor),
-               &m);
+    const QString tools = "Tools"_s;
+    add(QT_TR_NOOP("Pin the clipboard"), &s.pinClipboard, tools, "Pin"_s);
+    add(QT_TR_NOOP("Pick a colour"), &s.pickColor, tools, "PickColor"_s);
 }
 
-void declareMouse(MtConfManage &m, Settings &s)
+void Declare::mouse(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Mouse");
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Double-click to finish"), &s.doubleClickFinishes,
-                  page, QStringLiteral("DoubleClickFinishes"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Invert the wheel"), &s.invertWheel, page,
-                  QStringLiteral("InvertWheel"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Movement that begins a drag (px)"),
-                         &s.dragThreshold, page, QStringLiteral("DragThreshold")),
-          1, 40);
+    const QString page = "Mouse"_s;
+    m.addConfBool(QT_TR_NOOP("Double-click to finish"), &s.doubleClickFinishes, page,
+                  "DoubleClickFinishes"_s);
+    m.addConfBool(QT_TR_NOOP("Invert the wheel"), &s.invertWheel, page, "InvertWheel"_s);
+    addNumber(m, QT_TR_NOOP("Movement that begins a drag (px)"), &s.dragThreshold, {1, 40}, page,
+              "DragThreshold"_s);
 
-    // The number says what may be chosen: 0 the wheel, 1 clicks, 2 drags.
-    const QString pinned = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Pinned pictures"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Zoom"), &s.zoomAction, 0, page, pinned,
-                         QStringLiteral("Zoom"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Opacity"), &s.opacityAction, 0, page, pinned,
-                         QStringLiteral("Opacity"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Show the menu"), &s.menuAction, 1, page,
-                         pinned, QStringLiteral("Menu"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Close"), &s.closeAction, 1, page, pinned,
-                         QStringLiteral("Close"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Copy"), &s.copyAction, 1, page, pinned,
-                         QStringLiteral("Copy"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Hide"), &s.hideAction, 1, page, pinned,
-                         QStringLiteral("Hide"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Move"), &s.moveAction, 2, page, pinned,
-                         QStringLiteral("Move"));
-    m.addConfMouseAction(QT_TRANSLATE_NOOP("QObject", "Draw"), &s.drawAction, 2, page, pinned,
-                         QStringLiteral("Draw"));
+    constexpr int sWheel = 0;
+    constexpr int sClicks = 1;
+    constexpr int sDrags = 2;
+    const QString pinned = "Pinned pictures"_s;
+    m.addConfMouseAction(QT_TR_NOOP("Zoom"), &s.zoomAction, sWheel, page, pinned, "Zoom"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Opacity"), &s.opacityAction, sWheel, page, pinned,
+                         "Opacity"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Show the menu"), &s.menuAction, sClicks, page, pinned,
+                         "Menu"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Close"), &s.closeAction, sClicks, page, pinned, "Close"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Copy"), &s.copyAction, sClicks, page, pinned, "Copy"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Hide"), &s.hideAction, sClicks, page, pinned, "Hide"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Move"), &s.moveAction, sDrags, page, pinned, "Move"_s);
+    m.addConfMouseAction(QT_TR_NOOP("Draw"), &s.drawAction, sDrags, page, pinned, "Draw"_s);
 }
 
-void declareOutput(MtConfManage &m, Settings &s)
+void Declare::output(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("Output");
-    const QString image = QStringLiteral(QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Image"));
-    m.addConfStrWithCombobox(QT_TRANSLATE_NOOP("QObject", "Format"),
-                             {QStringLiteral("PNG"), QStringLiteral("JPEG"), QStringLiteral("WebP"),
-                              QStringLiteral("BMP")},
-                             &s.format, page, image, QStringLiteral("Format"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Quality (%)"), &s.quality, page, image,
-                         QStringLiteral("Quality")),
-          1, 100);
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Size (%)"), &s.scale, page, image,
-                         QStringLiteral("Scale")),
-          10, 400);
+    const QString page = "Output"_s;
+    const QString image = "Image"_s;
+    m.addConfStrWithCombobox(QT_TR_NOOP("Format"), {"PNG"_s, "JPEG"_s, "WebP"_s, "BMP"_s},
+                             &s.format, page, image, "Format"_s);
+    addNumber(m, QT_TR_NOOP("Quality (%)"), &s.quality, {1, 100}, page, image, "Quality"_s);
+    addNumber(m, QT_TR_NOOP("Size (%)"), &s.scale, {10, 400}, page, image, "Scale"_s);
 
-    // A text has no editor of its own, so this one brings one; its sub-item is edited beside it.
-    ConfItem *watermark = m.addConfQString(QT_TRANSLATE_NOOP("QObject", "Watermark"), &s.watermark,
-                                           page, image, QStringLiteral("Watermark"),
-                                           &WatermarkEditor::create);
-    watermark->subConfs.insert(
-        WatermarkEditor::opacityName(),
-        ConfItem(&s.watermarkOpacity, page, image, QStringLiteral("WatermarkOpacity")));
+    // The library has no editor for texts. This one also edits the sub-item.
+    ConfItem *watermark = m.addConfQString(QT_TR_NOOP("Watermark"), &s.watermark, page, image,
+                                           "Watermark"_s, &WatermarkEditor::create);
+    watermark->subConfs.insert(WatermarkEditor::opacityName(),
+                               ConfItem(&s.watermarkOpacity, page, image, "WatermarkOpacity"_s));
 
-    const QString after = QStringLiteral(
-        QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "After a capture"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Copy it"), &s.copyAfterCapture, page, after,
-                  QStringLiteral("Copy"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Save it"), &s.saveAfterCapture, page, after,
-                  QStringLiteral("Save"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Open it in the editor"), &s.openAfterCapture, page,
-                  after, QStringLiteral("Open"));
+    const QString after = "After a capture"_s;
+    m.addConfBool(QT_TR_NOOP("Copy it"), &s.copyAfterCapture, page, after, "Copy"_s);
+    m.addConfBool(QT_TR_NOOP("Save it"), &s.saveAfterCapture, page, after, "Save"_s);
+    m.addConfBool(QT_TR_NOOP("Open it in the editor"), &s.openAfterCapture, page, after, "Open"_s);
 }
 
-void declareSystem(MtConfManage &m, Settings &s)
+void Declare::system(MtConfManage &m, Settings &s)
 {
-    const QString page = QStringLiteral("System");
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Allow simple global hotkeys"), &s.simpleHotkeys,
-                  page, QStringLiteral("SimpleHotkeys"));
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show expert settings"), &s.showExpert, page,
-                  QStringLiteral("ShowExpert"));
-    range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Steps that can be undone"), &s.undoSteps,
-                         page, QStringLiteral("UndoSteps")),
-          1, 500);
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Bring pinned pictures back at start"),
-                  &s.restorePins, page, QStringLiteral("RestorePins"));
-    expert(range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Cache (MB)"), &s.cacheSize, page,
-                                QStringLiteral("CacheSize")),
-                 16, 4096));
-    expert(range(m.addConfInt32(QT_TRANSLATE_NOOP("QObject", "Threads that compress"),
-                                &s.workerThreads, page, QStringLiteral("Threads")),
-                 1, 16));
-    expert(m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Draw with the graphics card"),
-                         &s.hardwareDrawing, page, QStringLiteral("HardwareDrawing")));
-    expert(m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Show times of drawing"), &s.debugOverlay,
-                         page, QStringLiteral("DebugOverlay")));
-    // Last, and always there: the window rules a line under every other setting.
-    m.addConfBool(QT_TRANSLATE_NOOP("QObject", "Write a log file"), &s.logToFile, page,
-                  QStringLiteral("LogToFile"));
+    const QString page = "System"_s;
+    m.addConfBool(QT_TR_NOOP("Allow simple global hotkeys"), &s.simpleHotkeys, page,
+                  "SimpleHotkeys"_s);
+    m.addConfBool(QT_TR_NOOP("Show expert settings"), &s.showExpert, page, "ShowExpert"_s);
+    addNumber(m, QT_TR_NOOP("Steps that can be undone"), &s.undoSteps, {1, 500}, page,
+              "UndoSteps"_s);
+    m.addConfBool(QT_TR_NOOP("Bring pinned pictures back at start"), &s.restorePins, page,
+                  "RestorePins"_s);
+
+    makeExpert(
+        addNumber(m, QT_TR_NOOP("Cache (MB)"), &s.cacheSize, {16, 4096}, page, "CacheSize"_s));
+    makeExpert(addNumber(m, QT_TR_NOOP("Threads that compress"), &s.workerThreads, {1, 16}, page,
+                         "Threads"_s));
+    makeExpert(m.addConfBool(QT_TR_NOOP("Draw with the graphics card"), &s.hardwareDrawing, page,
+                             "HardwareDrawing"_s));
+    makeExpert(m.addConfBool(QT_TR_NOOP("Show times of drawing"), &s.debugOverlay, page,
+                             "DebugOverlay"_s));
+
+    // The last setting must not be a hidden one: the window draws a line below every other setting.
+    m.addConfBool(QT_TR_NOOP("Write a log file"), &s.logToFile, page, "LogToFile"_s);
     m.setConfigClassFlag(page, MtConf::ClassWithoutGroupBoxes);
     m.itemFilter = [&s](ConfItem &) { return s.showExpert; };
 }
@@ -297,14 +274,14 @@ QStringList pageNames()
 void declareSettings(MtConfManage &manager, Settings &settings)
 {
     MtConf::ConfigItemWidget::sFullKeyboardAccess = true;
-    declareGeneral(manager, settings);
-    declareAppearance(manager, settings);
-    declareCapture(manager, settings);
-    declareHotkeys(manager, settings);
-    declareMouse(manager, settings);
-    declareOutput(manager, settings);
-    // Pages of the program's own making: the session gives them their widgets.
-    manager.setConfigClassFlag(QStringLiteral("Profiles"), MtConf::ClassWithoutRestoreButton);
-    declareSystem(manager, settings);
-    manager.setConfigClassFlag(QStringLiteral("Stored data"), MtConf::ClassWithoutRestoreButton);
+    Declare::general(manager, settings);
+    Declare::appearance(manager, settings);
+    Declare::capture(manager, settings);
+    Declare::hotkeys(manager, settings);
+    Declare::mouse(manager, settings);
+    Declare::output(manager, settings);
+    // The session sets the widgets of the pages "Profiles" and "Stored data".
+    manager.setConfigClassFlag("Profiles"_s, MtConf::ClassWithoutRestoreButton);
+    Declare::system(manager, settings);
+    manager.setConfigClassFlag("Stored data"_s, MtConf::ClassWithoutRestoreButton);
 }

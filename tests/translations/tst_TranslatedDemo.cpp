@@ -27,9 +27,11 @@ class tst_TranslatedDemo : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
 
+    void everyDeclaredTextIsTranslated();
     void everyTextFitsItsPage_data();
     void everyTextFitsItsPage();
 };
@@ -122,6 +124,13 @@ private:
 
 } // namespace
 
+void tst_TranslatedDemo::initTestCase()
+{
+    // The catalogues of malto-demo; this program is in build/tests/bin.
+    ConfWidgetLanguage::sLanguagePath = "/../../Resources/language/";
+    ConfWidgetLanguage::sLanguageQtPath = "/../../Resources/language_qt/";
+}
+
 void tst_TranslatedDemo::init()
 {
     clearStore();
@@ -138,11 +147,29 @@ void tst_TranslatedDemo::cleanup()
     clearStore();
 }
 
+void tst_TranslatedDemo::everyDeclaredTextIsTranslated()
+{
+    const LogCapture log;
+    DemoSession session("settings.json");
+    session.load(QString());
+    // No text of the demo's settings is the same in Russian.
+    ConfWidgetLanguage::installTranslator("ru-ru");
+    const auto isTranslated = [](const char *context, const QString &text) {
+        return QCoreApplication::translate(context, text.toUtf8().constData()) != text;
+    };
+    const QStringList pages = pageNames();
+    for (const QString &page : pages)
+        QVERIFY2(isTranslated("MtConf::ConfigurationWindow", page), qPrintable(page));
+    for (const MtConf::ConfItem &item : qAsConst(session.manager().items)) {
+        QVERIFY2(isTranslated("QObject", item.displayText), item.displayText);
+        QVERIFY2(pages.contains(item.majorName), qPrintable(item.majorName));
+        QVERIFY2(item.subName.isEmpty() || isTranslated("MtConf::ConfigurationWindow", item.name),
+                 qPrintable(item.name));
+    }
+}
+
 void tst_TranslatedDemo::everyTextFitsItsPage_data()
 {
-    // The catalogues of malto-demo; this program is in build/tests/bin.
-    ConfWidgetLanguage::sLanguagePath = "/../../Resources/language/";
-    ConfWidgetLanguage::sLanguageQtPath = "/../../Resources/language_qt/";
     QTest::addColumn<QString>("code");
     QStringList codes = ConfWidgetLanguage::loadSupportLanguageCode();
     codes.removeOne("auto");
