@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/manage/ConfItemIndex_p.h>
+#include "ConfItemIndex_p.h"
 
 #include <MaltoConfiguration/manage/ConfItem.h>
 

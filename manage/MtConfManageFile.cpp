@@ -1,6 +1,6 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
-#include <MaltoConfiguration/manage/ConfItemIndex_p.h>
+#include "ConfItemIndex_p.h"
 #include <MaltoConfiguration/manage/helpers.h>
 
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #include <MaltoConfiguration/manage/helpers.h>
 
-#include <MaltoConfiguration/store/PosixFile_p.h>
+#include "MaltoConfiguration/store/PosixFile_p.h"
 
 #include "QtCompat_p.h"
 

@@ -1,6 +1,6 @@
-#include <MaltoConfiguration/store/ConfDump_p.h>
+#include "ConfDump_p.h"
 
-#include <MaltoConfiguration/store/JsonText_p.h>
+#include "JsonText_p.h"
 
 #include <QDebug>
 

@@ -1,6 +1,6 @@
-#include <MaltoConfiguration/store/ConfLoad_p.h>
+#include "ConfLoad_p.h"
 
-#include <MaltoConfiguration/store/PlainDump_p.h>
+#include "PlainDump_p.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,9 +1,9 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include <MaltoConfiguration/store/ConfDump_p.h>
-#include <MaltoConfiguration/store/ConfLoad_p.h>
-#include <MaltoConfiguration/store/PosixFile_p.h>
-#include <MaltoConfiguration/store/SafeFile_p.h>
+#include "ConfDump_p.h"
+#include "ConfLoad_p.h"
+#include "PosixFile_p.h"
+#include "SafeFile_p.h"
 
 #include <QDebug>
 #include <QFile>

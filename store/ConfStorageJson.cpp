@@ -1,7 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include <MaltoConfiguration/store/ConfDump_p.h>
-#include <MaltoConfiguration/store/ConfLoad_p.h>
+#include "ConfDump_p.h"
+#include "ConfLoad_p.h"
 
 #include <QDebug>
 #include <QJsonObject>

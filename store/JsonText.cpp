@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/store/JsonText_p.h>
+#include "JsonText_p.h"
 
 #include <QByteArray>
 #include <QJsonArray>

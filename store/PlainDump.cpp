@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/store/PlainDump_p.h>
+#include "PlainDump_p.h"
 
 #include <QByteArray>
 #include <QJsonArray>

@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/store/PosixFile_p.h>
+#include "PosixFile_p.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
-#include <MaltoConfiguration/store/SafeFile_p.h>
+#include "SafeFile_p.h"
 
-#include <MaltoConfiguration/store/PosixFile_p.h>
+#include "PosixFile_p.h"
 
 #include <QFileInfo>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <MaltoConfiguration/store/PosixFile_p.h>
-#include <MaltoConfiguration/store/SaveJournal_p.h>
+#include "PosixFile_p.h"
+#include "SaveJournal_p.h"
 
 #include <QFile>
 #include <QString>

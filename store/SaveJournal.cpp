@@ -1,6 +1,6 @@
-#include <MaltoConfiguration/store/SaveJournal_p.h>
+#include "SaveJournal_p.h"
 
-#include <MaltoConfiguration/store/PosixFile_p.h>
+#include "PosixFile_p.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
