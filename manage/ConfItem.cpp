@@ -1,10 +1,49 @@
 #include <MaltoConfiguration/manage/ConfItem.h>
 
+#include "ConfItemIndex_p.h"
+
 #include <QJsonObject>
 
 namespace MtConf {
 
-quint64 ConfItemRevision::sCurrent = 0;
+namespace {
+
+quint64 sRevision = 0;
+
+} // namespace
+
+quint64 itemRevision()
+{
+    return sRevision;
+}
+
+ConfItem::ConfItem(const ConfItem &other)
+{
+    *this = other;
+}
+
+// Field by field, because it counts: the only list of the fields.
+ConfItem &ConfItem::operator=(const ConfItem &other)
+{
+    subConfs = other.subConfs;
+    valueType = other.valueType;
+    majorName = other.majorName;
+    name = other.name;
+    subName = other.subName;
+    flags = other.flags;
+    displayText = other.displayText;
+    widgetCreator = other.widgetCreator;
+    properties = other.properties;
+    editor = other.editor;
+    auxCallback = other.auxCallback;
+    ++sRevision;
+    return *this;
+}
+
+ConfItem::~ConfItem()
+{
+    ++sRevision;
+}
 
 // Callbacks may remove the very item whose operation runs. After a call into the store nothing here
 // reads a member of the item any more; sub-items are walked in a copy, which shares their data.

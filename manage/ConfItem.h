@@ -28,29 +28,6 @@ enum ConfItemFlag : quint32 {
 /// Makes the editor of an item, given the item and the editor's parent.
 using WidgetCreator = std::function<ConfigItemWidget *(ConfItem *item, QWidget *parent)>;
 
-/// Counts every item that is made, copied, assigned or destroyed, so that an index over a list of
-/// items knows when a host has changed the list.
-class MALTO_EXPORT ConfItemRevision
-{
-public:
-    ConfItemRevision() { ++sCurrent; }
-    /// Counts the copy.
-    ConfItemRevision(const ConfItemRevision &) { ++sCurrent; }
-    /// Counts the assignment.
-    ConfItemRevision &operator=(const ConfItemRevision &)
-    {
-        ++sCurrent;
-        return *this;
-    }
-    ~ConfItemRevision() { ++sCurrent; }
-
-    /// The count so far.
-    static quint64 current() { return sCurrent; }
-
-private:
-    static quint64 sCurrent;
-};
-
 /// The declaration of one setting: its page, its key, its label and its editor.
 ///
 /// The item does not hold the value. Constructing one reserves the key in the store, bound to the
@@ -64,6 +41,12 @@ public:
     /// by the store, and the key stays unknown.
     template<class T> ConfItem(T *value, const QString &majorItemName, const QString &itemName,
                                const QString &itemSubName);
+    /// Copies every field, the pointers `displayText` and `editor` too. Reserves nothing.
+    ConfItem(const ConfItem &other);
+    /// Replaces every field, and leaves the keys of both items reserved.
+    ConfItem &operator=(const ConfItem &other);
+    /// Leaves the key reserved.
+    ~ConfItem();
 
     /// The key of the item in the store and in files: the names joined by ".", the sub-name only
     /// when there is one. A "." inside a name is kept as it stands, and then no key of a
@@ -104,9 +87,6 @@ public:
     /// Told the value from before the editor was made when the editor goes and the value has
     /// changed meanwhile. It compares `toJsonValue()`, and so stays silent while that is null.
     std::function<void(QJsonValue oldValue, ConfItem *item)> auxCallback;
-
-private:
-    ConfItemRevision mRevision;
 };
 
 template<class T> ConfItem::ConfItem(T *value, const QString &majorItemName,

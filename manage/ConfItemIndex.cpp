@@ -46,7 +46,7 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
 
 bool ConfItemIndex::isStale() const
 {
-    return mSize != mItems.size() || mRevision != ConfItemRevision::current()
+    return mSize != mItems.size() || mRevision != itemRevision()
            || (mSize > 0 && mData != &mItems.first());
 }
 
@@ -60,7 +60,7 @@ void ConfItemIndex::rebuild()
     }
     mSize = mItems.size();
     mData = mItems.isEmpty() ? nullptr : &mItems.first();
-    mRevision = ConfItemRevision::current();
+    mRevision = itemRevision();
 }
 
 } // namespace MtConf

@@ -9,6 +9,10 @@ namespace MtConf {
 
 class ConfItem;
 
+/// Returns how often items were copied, assigned and destroyed: a list of items that keeps its size
+/// and its revision is unchanged, but for what is assigned to single fields or swapped.
+quint64 itemRevision();
+
 /// Finds items of a list by their member of a configuration file at a cost that does not grow with
 /// the list. It notices when the list changes and then reads it again, so that a callback that
 /// declares, removes or replaces items between two lookups gets the same answers as a walk through

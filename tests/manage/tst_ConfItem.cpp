@@ -22,6 +22,7 @@ private Q_SLOTS:
     void nullVariableReservesNothing();
     void getFullName_data();
     void getFullName();
+    void copyKeepsEveryField_data();
     void copyKeepsEveryField();
     void destructionKeepsTheKey();
     void setFlagSystemIndependent_isSetOnceOnTheItemAndItsSubItems();
@@ -125,8 +126,17 @@ void tst_ConfItem::getFullName()
     QTEST(ConfItem(&value, QStringLiteral("General"), name, subName).getFullName(), "fullName");
 }
 
+void tst_ConfItem::copyKeepsEveryField_data()
+{
+    QTest::addColumn<bool>("isAssigned");
+    QTest::newRow("constructed") << false;
+    QTest::newRow("assigned") << true;
+}
+
 void tst_ConfItem::copyKeepsEveryField()
 {
+    QFETCH(bool, isAssigned);
+    QWidget pointedTo;
     int value = 0;
     ConfItem original = item(&value, "Size", "Wide");
     original.flags = 0x10;
@@ -139,10 +149,18 @@ void tst_ConfItem::copyKeepsEveryField()
         return nullptr;
     };
     original.auxCallback = [&](QJsonValue, ConfItem *) { ++calls; };
+    original.editor = reinterpret_cast<MtConf::ConfigItemWidget *>(&pointedTo);
 
-    ConfItem copy = original;
-    QCOMPARE(copy.getFullName(), QStringLiteral("General.Size.Wide"));
+    bool otherValue = false;
+    ConfItem other(&otherValue, QStringLiteral("Other"), QStringLiteral("Other"), QString());
+    if (isAssigned)
+        other = original;
+    ConfItem copy = isAssigned ? other : original;
+    QCOMPARE(copy.majorName, QStringLiteral("General"));
+    QCOMPARE(copy.name, QStringLiteral("Size"));
+    QCOMPARE(copy.subName, QStringLiteral("Wide"));
     QCOMPARE(copy.valueType, 2);
+    QCOMPARE(copy.editor, original.editor);
     QCOMPARE(copy.flags, 0x10u);
     QCOMPARE(copy.displayText, original.displayText);
     QCOMPARE(copy.properties, original.properties);

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void itemsRemovedByACallbackAreNoLongerFound();
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
     void replacedItemIsFoundWithoutAnEarlierLookup();
+    void itemAssignedByACallbackIsFound();
     void itemsReorderedByACallbackAreFound();
     void itemsRenamedByACallbackAreFoundByTheirNewNames();
     void itemRenamedByACallbackToContainAFullStopIsNotFound();
@@ -276,6 +277,19 @@ void tst_MtConfManageFile::replacedItemIsFoundWithoutAnEarlierLookup()
     declare(&a, "a")->setConfChangedCallback([&](const QString &, const ConfValue *) {
         mManager->items.replace(1, ConfItem(&z, "General", "z", ""));
     });
+    declare(&y, "y");
+    writeFile(QJsonObject{{"General.a", 1}, {"General.z", 3}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(z, 3);
+}
+
+void tst_MtConfManageFile::itemAssignedByACallbackIsFound()
+{
+    int a = 0, y = 0, z = 0;
+    // Lives longer than the load: nothing but the assignment happens to an item meanwhile.
+    const ConfItem other(&z, "General", "z", "");
+    declare(&a, "a")->setConfChangedCallback(
+        [&](const QString &, const ConfValue *) { mManager->items[1] = other; });
     declare(&y, "y");
     writeFile(QJsonObject{{"General.a", 1}, {"General.z", 3}});
     mManager->_loadFromFile(path());
