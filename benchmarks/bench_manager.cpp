@@ -1,5 +1,6 @@
 #include "BenchmarkSupport.h"
 #include "benchmarks.h"
+#include "support/CleanStore.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
@@ -11,13 +12,6 @@
 #include <memory>
 
 namespace {
-
-/// Empties the store for the next manager, because the store outlives all managers.
-void emptyStore()
-{
-    ConfStorage::instance()->mConfValues.clear();
-    ConfStorage::instance()->mConfMetas.clear();
-}
 
 std::unique_ptr<MtConf::MtConfManage> declared(const QVector<SettingName> &names,
                                                std::vector<int> &values)
@@ -40,7 +34,7 @@ void declareItems(benchmark::State &state)
         state.PauseTiming();
         if (manager->items.size() != names.size())
             state.SkipWithError("not every item was declared");
-        emptyStore();
+        clearStore(); // which outlives every manager
         state.ResumeTiming();
     }
     countEntries(state);
@@ -86,7 +80,7 @@ void loadConfiguration(benchmark::State &state)
     if (std::find(values.cbegin(), values.cend(), 0) != values.cend())
         state.SkipWithError("not every value was loaded");
     countEntries(state);
-    emptyStore();
+    clearStore();
 }
 
 void parseConfiguration(benchmark::State &state)

@@ -1,6 +1,7 @@
 #include "BenchmarkSupport.h"
 #include "HandMadeWindow.h"
 #include "benchmarks.h"
+#include "support/CleanStore.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
@@ -64,8 +65,7 @@ public:
     ~LibraryWindow()
     {
         close();
-        ConfStorage::instance()->mConfValues.clear();
-        ConfStorage::instance()->mConfMetas.clear();
+        clearStore();
         QDir::setCurrent(mPrevious);
     }
     Q_DISABLE_COPY(LibraryWindow)

@@ -1,5 +1,6 @@
 // The content of a configuration file, which a user may have written by hand.
 #include "FuzzTarget.h"
+#include "support/CleanStore.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/manage/helpers.h>
@@ -30,9 +31,7 @@ public:
 
     void reset()
     {
-        ConfStorage *store = ConfStorage::instance();
-        store->mConfValues.clear();
-        store->mConfMetas.clear();
+        clearStore();
         reserve(0, &number);
         reserve(1, &flag);
         reserve(2, &text);

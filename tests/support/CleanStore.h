@@ -2,16 +2,14 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-/// Resets the store of the process. Every test calls this before it starts and when it ends.
+#include <new>
+
+/// Makes the store of the process as it was at the start of the process. Every test starts with a
+/// clean store and leaves one.
 inline void clearStore()
 {
     ConfStorage *store = ConfStorage::instance();
-    store->mChanged = false;
-    store->mLocalLoaded = false;
-    store->mConfValues.clear();
-    store->mConfMetas.clear();
-    store->mLocalSaveFile.clear();
-    store->mPresetDynamicConfs.clear();
-    store->mDynamicConfClasses.clear();
-    store->mRemovedDynamicConfs.clear();
+    // Made anew in its place, because a list of its members would miss the next one.
+    store->~ConfStorage();
+    new (store) ConfStorage;
 }

@@ -1,3 +1,4 @@
+#include "support/CleanStore.h"
 #include "support/LogCapture.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -29,8 +30,7 @@ void tst_WithoutApplication::settingsWork()
         manager.restoreAllDefault();
         QVERIFY(flag);
     }
-    ConfStorage::instance()->mConfValues.clear();
-    ConfStorage::instance()->mConfMetas.clear();
+    clearStore();
 }
 
 void tst_WithoutApplication::noWindowIsShown()
