@@ -109,7 +109,7 @@ public:
     /// value is the same as before. Another type than the reserved one logs a warning and leaves
     /// the value, but counts as a change all the same. An unknown key logs the warning
     /// "ConfStorage::set key not found: " and leaves a record with the time of the attempt.
-    template<class T> void set(const QString &key, T const &value);
+    template<class T> void set(const QString &key, const T &value);
 
     /// Restores the default of `key` and calls its callback, unless the key is flagged default
     /// already. With `updateTime` the change is stamped with the current time, otherwise the time
@@ -263,7 +263,7 @@ template<class T> T ConfStorage::get(const QString &key) const
     return T();
 }
 
-template<class T> void ConfStorage::set(const QString &key, T const &value)
+template<class T> void ConfStorage::set(const QString &key, const T &value)
 {
     const auto stored = mConfValues.find(key);
     if (stored != mConfValues.end() && stored->mType == ConfValue::typeOf<T>()) {
