@@ -1,5 +1,6 @@
 #include "ConfDump_p.h"
 
+#include "DumpMember_p.h"
 #include "JsonText_p.h"
 
 #include <QDebug>
@@ -8,9 +9,10 @@
 
 namespace {
 
-constexpr QLatin1String sTimeKey("t", 1);
-constexpr QLatin1String sValueKey("v", 1);
-constexpr QLatin1String sRemovedKey("d", 1);
+void append(QByteArray &text, QLatin1String part)
+{
+    text.append(part.data(), part.size());
+}
 
 } // namespace
 
@@ -92,12 +94,12 @@ QJsonObject ConfDump::toObject() const
 QJsonObject ConfDump::entryOf(const Member &member) const
 {
     if (!member.value)
-        return {{sRemovedKey, member.time}};
+        return {{sRemovedKey.name(), member.time}};
     QJsonObject entry;
     if (mType != ConfStorage::DumpChangedOnly)
-        entry.insert(sTimeKey, member.time);
+        entry.insert(sTimeKey.name(), member.time);
     if (!member.isDefault)
-        entry.insert(sValueKey, member.value->toJsonValue());
+        entry.insert(sValueKey.name(), member.value->toJsonValue());
     return entry;
 }
 
@@ -122,17 +124,19 @@ QByteArray ConfDump::toText() const
 void ConfDump::appendEntry(QByteArray &text, const Member &member) const
 {
     if (!member.value) {
-        text += "\"d\":";
+        append(text, sRemovedKey.inText());
         appendJsonValue(text, member.time);
         return;
     }
     const bool timed = mType != ConfStorage::DumpChangedOnly;
     if (timed) {
-        text += "\"t\":";
+        append(text, sTimeKey.inText());
         appendJsonValue(text, member.time);
     }
     if (!member.isDefault) {
-        text += timed ? ",\"v\":" : "\"v\":";
+        if (timed)
+            text += ',';
+        append(text, sValueKey.inText());
         appendJsonValue(text, member.value->toJsonValue());
     }
 }

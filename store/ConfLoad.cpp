@@ -1,7 +1,9 @@
 #include "ConfLoad_p.h"
 
+#include "DumpMember_p.h"
 #include "PlainDump_p.h"
 
+#include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -9,41 +11,36 @@
 
 namespace {
 
-constexpr QLatin1String sTimeKey("t", 1);
-constexpr QLatin1String sValueKey("v", 1);
 constexpr QLatin1Char sMarkSeparator('#');
 
-/// A member of a parsed object, to be loaded like a `PlainMember`.
-class ParsedMember
+/// The merge rule, for two times in the same unit: the newer change wins, and a tie keeps the
+/// stored one, so that loading a dump twice changes nothing.
+bool storedWins(qint64 stored, qint64 incoming)
 {
-public:
-    explicit ParsedMember(const QJsonValue &member)
-        : mIsObject(member.isObject()), mObject(member.toObject())
-    {
-    }
+    return stored >= incoming;
+}
 
-    bool isObject() const { return mIsObject; }
-    std::optional<int> time() const
-    {
-        const auto time = mObject.constFind(sTimeKey);
-        return time != mObject.constEnd() ? std::make_optional(time->toInt()) : std::nullopt;
-    }
-    QJsonValue value() const { return mObject.value(sValueKey); }
-    QJsonObject toObject() const { return mObject; }
+/// The same for a change that may not exist.
+bool storedWins(const QDateTime &stored, const QDateTime &incoming)
+{
+    return stored.isValid() && storedWins(stored.toMSecsSinceEpoch(), incoming.toMSecsSinceEpoch());
+}
 
-private:
-    const bool mIsObject;
-    const QJsonObject mObject;
-};
+/// The time of a change in UTC. One without a time is made now.
+QDateTime timeOfChange(std::optional<int> seconds)
+{
+    return seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC)
+                   : QDateTime::currentDateTimeUtc();
+}
 
-/// Whether loading `value` writes nothing on the log.
+/// Returns whether loading `value` logs nothing.
 bool isSilent(const ConfValue &value)
 {
     return value.mType >= ConfValue::TyQColor && value.mType <= ConfValue::TyQJsonArray
            && value.mType != ConfValue::TyQFont;
 }
 
-/// The entry of `key`, which mostly is the one at `next`; `next` goes on behind it.
+/// Returns the entry of `key`, probably the one at `next`, and moves `next` behind it.
 template<class Map> typename Map::iterator findFrom(Map &map,
                                                     std::optional<typename Map::iterator> &next,
                                                     const QString &key)
@@ -82,7 +79,7 @@ bool ConfLoad::loadText(const QByteArray &text)
 {
     if (const auto members = readPlainDump(text)) {
         for (const PlainMember &member : *members)
-            loadEntry(member.key(), member);
+            load(member.key(), member);
         return true;
     }
     const QJsonDocument document = QJsonDocument::fromJson(text);
@@ -94,18 +91,24 @@ bool ConfLoad::loadText(const QByteArray &text)
 
 void ConfLoad::loadObject(const QJsonObject &object)
 {
-    // A copy shares the data and keeps them alive if a callback changes the caller's object.
+    // The copy shares the data and keeps it alive if a callback changes the caller's object.
     const QJsonObject members = object;
     for (auto member = members.constBegin(); member != members.constEnd(); ++member)
-        loadEntry(member.key(), ParsedMember(member.value()));
+        load(member.key(), ParsedMember(member.value()));
 }
 
-void ConfLoad::loadMember(const QString &key, const QJsonValue &value)
+void ConfLoad::loadMember(const QString &key, const QJsonValue &entry)
 {
-    loadEntry(key, ParsedMember(value));
+    load(key, ParsedMember(entry));
 }
 
-template<class Member> void ConfLoad::loadEntry(QString key, const Member &member)
+bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
+                                 const ConfStorage::DynamicConfClass *cls)
+{
+    return mergeDynamic(key, ParsedMember(entry), cls);
+}
+
+template<class Member> void ConfLoad::load(QString key, const Member &member)
 {
     if (key.endsWith(mSystemMark))
         key.chop(mSystemMark.size());
@@ -115,7 +118,7 @@ template<class Member> void ConfLoad::loadEntry(QString key, const Member &membe
         loadStatic(key, member);
 }
 
-/// Whether nothing is left to do for the key.
+/// Returns whether nothing is left to do for the key.
 template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Member &member)
 {
     const ConfStorage::DynamicConfClass *cls = mStore.findDynamicConfClass(key);
@@ -124,17 +127,65 @@ template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Memb
     if (!mIsLocal && (cls->flags & ConfStorage::FlagLocalOnly))
         return true;
     forgetPosition();
-    return mStore.loadLoadDynamicConf(key, member.toObject(), cls);
+    return mergeDynamic(key, member, cls);
+}
+
+template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Member &member,
+                                                   const ConfStorage::DynamicConfClass *cls)
+{
+    const std::optional<int> removalTime = member.removalTime();
+    const std::optional<int> time = member.time();
+    const QDateTime incoming = timeOfChange(removalTime ? removalTime : time);
+
+    const auto record = mStore.mConfMetas.constFind(key);
+    const QDateTime stored = record != mStore.mConfMetas.constEnd()
+                                 ? record->lastChangeTime
+                                 : mStore.mRemovedDynamicConfs.value(key);
+    if (storedWins(stored, incoming))
+        return true;
+
+    if (removalTime) {
+        mergeRemoval(key, incoming);
+        return true;
+    }
+    const QJsonValue value = member.value();
+    if (value.isUndefined()) {
+        mStore.setToDefault(key, true);
+        const auto meta = mStore.mConfMetas.find(key);
+        if (meta != mStore.mConfMetas.end() && time)
+            meta->lastChangeTime = incoming;
+        return true;
+    }
+    mStore.mRemovedDynamicConfs.remove(key);
+    if (mStore.mConfValues.contains(key))
+        return false;
+    mStore.createDynamicConf(key, value, cls);
+    const auto meta = mStore.mConfMetas.find(key);
+    if (meta != mStore.mConfMetas.end())
+        meta->lastChangeTime = incoming;
+    else
+        qCritical() << "createDynamicConf Not create conf: " << key;
+    return true;
+}
+
+void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
+{
+    const bool isPresent = mStore.mConfValues.contains(key);
+    if (isPresent)
+        mStore.removeDynamicConf(key);
+    const QDateTime removed = mStore.mRemovedDynamicConfs.value(key);
+    if (isPresent || !storedWins(removed, incoming))
+        mStore.mRemovedDynamicConfs[key] = incoming;
 }
 
 template<class Member> void ConfLoad::loadStatic(const QString &key, const Member &member)
 {
     const std::optional<int> time = member.time();
 
-    // Most entries of a copy are no newer than the store: their values need no look.
+    // Most entries of a copy are no newer than the store: their values need not be read.
     const auto known = metaOf(key);
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()
-        && known->lastChangeTime.toSecsSinceEpoch() >= *time)
+        && storedWins(known->lastChangeTime.toSecsSinceEpoch(), *time))
         return;
     const auto stored = valueOf(key);
     if (stored == mStore.mConfValues.end())
@@ -144,8 +195,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
-    meta->lastChangeTime = time ? QDateTime::fromSecsSinceEpoch(*time, Qt::UTC)
-                                : QDateTime::currentDateTimeUtc();
+    meta->lastChangeTime = timeOfChange(time);
 
     const QJsonValue value = member.value();
     if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {

@@ -4,34 +4,41 @@
 
 #include <optional>
 
-/// Merges the members of a dump into a store, one after the other: the newer change of each key
-/// wins, and equal times keep the store's value.
+/// Merges the members of a dump into a store, one after the other: for each key the newer change
+/// wins, and a tie keeps the stored one.
 class ConfLoad
 {
 public:
     ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type);
 
-    /// Whether `text` is a JSON object; nothing else is loaded.
+    /// Returns whether `text` is a JSON object; nothing else is loaded.
     bool loadText(const QByteArray &text);
     void loadObject(const QJsonObject &object);
-    void loadMember(const QString &key, const QJsonValue &value);
+    void loadMember(const QString &key, const QJsonValue &entry);
+    /// Merges a member whose key belongs to `cls`. Returns false if it must be loaded like a member
+    /// of an ordinary key.
+    bool loadMemberOfClass(const QString &key, const QJsonValue &entry,
+                           const ConfStorage::DynamicConfClass *cls);
 
 private:
-    template<class Member> void loadEntry(QString key, const Member &member);
+    // `Member` has the functions of `ParsedMember`.
+    template<class Member> void load(QString key, const Member &member);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
+    template<class Member> bool mergeDynamic(const QString &key, const Member &member,
+                                             const ConfStorage::DynamicConfClass *cls);
     template<class Member> void loadStatic(const QString &key, const Member &member);
+    void mergeRemoval(const QString &key, const QDateTime &incoming);
 
     QMap<QString, ConfValue>::iterator valueOf(const QString &key);
     QMap<QString, ConfStorage::ConfMeta>::iterator metaOf(const QString &key);
     void forgetPosition();
 
     ConfStorage &mStore;
-    const bool mIsLocal; // and not shared, as any other type counts
+    const bool mIsLocal; // any type but LoadLocal is a shared load
     const QString mSystemMark;
 
-    // Where the next key is likely to stand in both maps: members of a dump are in the order of the
-    // maps. Forgotten as soon as code of the host may have run, callbacks and log handlers, which
-    // may change the maps.
+    // Where the next key probably is in both maps: the members of a dump are in the order of the
+    // maps. Reset before callbacks and log handlers run, which may change the maps.
     std::optional<QMap<QString, ConfValue>::iterator> mNextValue;
     std::optional<QMap<QString, ConfStorage::ConfMeta>::iterator> mNextMeta;
 };

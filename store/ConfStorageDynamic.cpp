@@ -1,7 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QDebug>
-#include <QJsonObject>
+#include <QJsonValue>
 
 #include <algorithm>
 
@@ -11,18 +11,6 @@ void logClassNotFound(const QString &key)
 {
     // Removal logs the text of creation on purpose: both mean that no class declares the key.
     qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: " << key;
-}
-
-/// The time that an entry of a dumped configuration bears: of its removal, else of its change, else
-/// the current time.
-QDateTime incomingTime(const QJsonObject &entry)
-{
-    for (const QLatin1String member : {QLatin1String("d"), QLatin1String("t")}) {
-        const auto time = entry.constFind(member);
-        if (time != entry.constEnd())
-            return QDateTime::fromSecsSinceEpoch(time.value().toInt(), Qt::UTC);
-    }
-    return QDateTime::currentDateTimeUtc();
 }
 
 } // namespace
@@ -128,45 +116,4 @@ void ConfStorage::loadPresetDynamicConf()
         if (meta != mConfMetas.end())
             meta->lastChangeTime = QDateTime();
     }
-}
-
-bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls)
-{
-    const QJsonObject entry = value.toObject();
-    const QDateTime incoming = incomingTime(entry);
-
-    const auto record = mConfMetas.constFind(key);
-    const QDateTime stored = record != mConfMetas.constEnd() ? record->lastChangeTime
-                                                             : mRemovedDynamicConfs.value(key);
-    if (stored.isValid() && stored >= incoming)
-        return true;
-
-    if (entry.contains(QLatin1String("d"))) {
-        const bool present = mConfValues.contains(key);
-        if (present)
-            removeDynamicConf(key);
-        // Not by comparing with the null time of an absent entry, which counts as 1970: a removal
-        // of that time, as a number out of range is read, would leave no trace.
-        const auto removed = mRemovedDynamicConfs.constFind(key);
-        if (present || removed == mRemovedDynamicConfs.constEnd() || *removed < incoming)
-            mRemovedDynamicConfs[key] = incoming;
-        return true;
-    }
-    if (!entry.contains(QLatin1String("v"))) {
-        setToDefault(key, true);
-        const auto meta = mConfMetas.find(key);
-        if (meta != mConfMetas.end() && entry.contains(QLatin1String("t")))
-            meta->lastChangeTime = incoming;
-        return true;
-    }
-    mRemovedDynamicConfs.remove(key);
-    if (mConfValues.contains(key))
-        return false;
-    createDynamicConf(key, entry.value(QLatin1String("v")), cls);
-    const auto meta = mConfMetas.find(key);
-    if (meta != mConfMetas.end())
-        meta->lastChangeTime = incoming;
-    else
-        qCritical() << "createDynamicConf Not create conf: " << key;
-    return true;
 }

@@ -38,6 +38,11 @@ void ConfStorage::loadSingleConf(QString key, const QJsonValue &value, LoadConfT
     ConfLoad(*this, type).loadMember(key, value);
 }
 
+bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls)
+{
+    return ConfLoad(*this, LoadLocal).loadMemberOfClass(key, value, cls);
+}
+
 QDateTime ConfStorage::calcLastConfTime() const
 {
     QDateTime newest;

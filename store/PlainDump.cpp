@@ -1,5 +1,7 @@
 #include "PlainDump_p.h"
 
+#include "DumpMember_p.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -184,20 +186,17 @@ const char *Scanner::endOfValue() const
 
 bool Scanner::takeMember(PlainMember *member)
 {
-    if (!takeQuoted(&member->name, isPlain) || !take(QLatin1String(":")))
+    if (!takeQuoted(&member->name, isPlain) || !take(QLatin1String(":{")))
         return false;
-    const char *const start = mNext;
-    member->isRemoval = take(QLatin1String(R"({"d":)"));
-    if (!member->isRemoval && !take(QLatin1String(R"({"t":)")))
+    member->isRemoval = take(sRemovedKey.inText());
+    if (!member->isRemoval && !take(sTimeKey.inText()))
         return false;
     if (!takeSeconds(&member->seconds))
         return false;
-    if (!member->isRemoval && take(QLatin1String(R"(,"v":)")) && !takeValue(member))
+    const bool hasValue = !member->isRemoval && take(QLatin1String(","));
+    if (hasValue && (!take(sValueKey.inText()) || !takeValue(member)))
         return false;
-    if (!take(QLatin1String("}")))
-        return false;
-    member->text = std::string_view(start, static_cast<size_t>(mNext - start));
-    return true;
+    return take(QLatin1String("}"));
 }
 
 } // namespace
@@ -212,15 +211,14 @@ std::optional<int> PlainMember::time() const
     return isRemoval ? std::nullopt : std::make_optional(seconds);
 }
 
+std::optional<int> PlainMember::removalTime() const
+{
+    return isRemoval ? std::make_optional(seconds) : std::nullopt;
+}
+
 QJsonValue PlainMember::value() const
 {
     return string.data() ? QJsonValue(textOf(string)) : otherValue;
-}
-
-QJsonObject PlainMember::toObject() const
-{
-    const auto bytes = QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
-    return QJsonDocument::fromJson(bytes).object();
 }
 
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
 
@@ -10,32 +9,30 @@
 
 class QByteArray;
 
-/// One member of a dump, as `readPlainDump` finds it. It points into the text.
+/// A member of a dump, in the text of the dump, which must outlive it. Its functions are those of
+/// `ParsedMember` and return the same.
 struct PlainMember
 {
     QString key() const;
-    /// True, unlike of members that are parsed; each is an entry of this form.
+    /// Always true: `readPlainDump` accepts no other entries.
     bool isObject() const { return true; }
-    /// The member "t".
     std::optional<int> time() const;
-    /// The member "v", or undefined.
+    std::optional<int> removalTime() const;
     QJsonValue value() const;
-    /// The whole, as QJsonDocument reads it.
-    QJsonObject toObject() const;
 
     std::string_view name; ///< in ASCII
-    std::string_view text; ///< of the whole after the name
     int seconds = 0;
-    bool isRemoval = false;  ///< the seconds are those of the member "d", and there is no other
-    std::string_view string; ///< the value in UTF-8; null when it is no string, or has escapes
+    bool isRemoval = false;  ///< `seconds` are those of "d" and not of "t"
+    std::string_view string; ///< a string value without escapes in UTF-8, or else null
     QJsonValue otherValue{QJsonValue::Undefined};
 };
 
-/// The members of the text of a dump, without a document: building one takes most of the time of a
-/// load.
+/// Parses the text of a dump without a QJsonDocument, whose construction takes most of the time of
+/// a load. The members point into `text`.
 ///
-/// The text is read only as the library writes it: compact, members in the order of their names,
-/// names of printable ASCII, times first. A value that is neither a whole number, a flag nor a
-/// string without escapes is parsed by QJsonDocument. So is every other text as a whole, by the
-/// caller: nothing is returned then. No text means anything else here than there.
+/// Accepts text as the library writes it: compact, members in the order of their names, names of
+/// printable ASCII, times first. QJsonDocument parses single values that are neither a whole
+/// number, a boolean nor a string without escapes. Any other text is refused: nothing is returned,
+/// and the caller uses QJsonDocument. Both parsers accept the same texts and produce the same
+/// values.
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text);

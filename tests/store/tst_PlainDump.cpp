@@ -115,12 +115,14 @@ void tst_PlainDump::membersReturnTheirTimeAndValue()
     QVERIFY(members);
     QCOMPARE(members->size(), size_t(4));
     QCOMPARE(members->at(0).time(), std::optional<int>(1));
+    QVERIFY(!members->at(0).removalTime());
     QCOMPARE(members->at(0).value(), QJsonValue("x"));
     QCOMPARE(members->at(1).time(), std::optional<int>(2));
     QVERIFY(members->at(1).value().isNull());
     QCOMPARE(members->at(2).time(), std::optional<int>(3));
     QVERIFY(members->at(2).value().isUndefined());
     QVERIFY(!members->at(3).time());
+    QCOMPARE(members->at(3).removalTime(), std::optional<int>(4));
     QVERIFY(members->at(3).value().isUndefined());
 }
 

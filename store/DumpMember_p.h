@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QJsonValue>
+
+#include <optional>
+
+/// The name of a member of an entry. Each is one character.
+class EntryKey
+{
+public:
+    constexpr explicit EntryKey(char name) : mText{'"', name, '"', ':'} {}
+
+    constexpr QLatin1String name() const { return QLatin1String(mText + 1, 1); }
+    /// The name as compact JSON has it, with quotes and colon.
+    constexpr QLatin1String inText() const { return QLatin1String(mText, sizeof mText); }
+
+private:
+    char mText[4];
+};
+
+inline constexpr EntryKey sTimeKey('t');  ///< when the value changed, in seconds since 1970
+inline constexpr EntryKey sValueKey('v'); ///< the value as `ConfValue::toJsonValue` returns it
+inline constexpr EntryKey sRemovedKey(
+    'd'); ///< when a dynamic key was removed, in seconds since 1970
+
+/// A member of a dump, from parsed JSON.
+///
+/// A dump is one JSON object. Each of its members is a key of the store and an entry, an object
+/// with "t", "v" or "d". `ConfLoad` merges every type that has the four functions of this one; the
+/// other type is `PlainMember`, which needs no parsed JSON. Both return the same for the same text.
+class ParsedMember
+{
+public:
+    explicit ParsedMember(const QJsonValue &entry)
+        : mIsObject(entry.isObject()), mEntry(entry.toObject())
+    {
+    }
+
+    /// Whether the entry is an object. Anything else counts as an empty one.
+    bool isObject() const { return mIsObject; }
+    /// The member "t". Anything but a whole number of 32 bits counts as 0.
+    std::optional<int> time() const { return secondsOf(sTimeKey); }
+    /// The member "d", read like "t".
+    std::optional<int> removalTime() const { return secondsOf(sRemovedKey); }
+    /// The member "v"; undefined if there is none.
+    QJsonValue value() const { return mEntry.value(sValueKey.name()); }
+
+private:
+    std::optional<int> secondsOf(const EntryKey &key) const
+    {
+        const auto seconds = mEntry.constFind(key.name());
+        return seconds != mEntry.constEnd() ? std::make_optional(seconds->toInt()) : std::nullopt;
+    }
+
+    const bool mIsObject;
+    const QJsonObject mEntry;
+};
