@@ -4,6 +4,8 @@
 #include <QJsonObject>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace {
 
 /// How deep callbacks may set off each other. Far above what a host needs, far below what the
@@ -90,32 +92,6 @@ void ConfStorage::setConfChangedCallback(const QString &key, ConfChangedCallback
         qDebug() << "ConfStorage::setConfChangedCallback key not found: " << key;
 }
 
-void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
-{
-    if (loadValue(key, value))
-        markUserChange(key, nullptr);
-}
-
-/// Whether the key is there, and still is when its value has been loaded.
-bool ConfStorage::loadValue(const QString &key, const QJsonValue &json)
-{
-    auto stored = mConfValues.find(key);
-    if (stored == mConfValues.end())
-        return false;
-    if (stored->mType != ConfValue::TyQFont || json.isNull() || json.isUndefined()) {
-        stored->loadFromJsonValue(json);
-        return true;
-    }
-    // Of a text that is no font Qt and we write on the log, and a handler may change the store.
-    ConfValue font = ConfValue::owned(QFont());
-    font.loadFromJsonValue(json);
-    stored = mConfValues.find(key);
-    if (stored == mConfValues.end())
-        return false;
-    stored->set(font);
-    return true;
-}
-
 /// `value` is the key's entry where it is known that nothing has moved it, or else null.
 void ConfStorage::markUserChange(const QString &key, ConfValue *value)
 {
@@ -146,6 +122,18 @@ void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, 
     const ConfChangedCallback callback = meta.changedCallback;
     const QScopedValueRollback<int> depth(mCallbackDepth, mCallbackDepth + 1);
     callback(name, value ? value : &mConfValues[name]);
+}
+
+QDateTime ConfStorage::calcLastConfTime() const
+{
+    QDateTime newest;
+    for (const ConfMeta &meta : mConfMetas) {
+        if (!meta.lastChangeTime.isNull() && !(meta.flags & FlagLocalOnly))
+            newest = std::max(newest, meta.lastChangeTime);
+    }
+    for (const QDateTime &removed : mRemovedDynamicConfs)
+        newest = std::max(newest, removed);
+    return newest.toLocalTime();
 }
 
 bool ConfStorage::isDynamicWithoutPreset(const QString &key) const

@@ -6,8 +6,6 @@
 #include <QDebug>
 #include <QJsonObject>
 
-#include <algorithm>
-
 QString addSysMark(const QString &key)
 {
     return key + QLatin1String("#s.mac");
@@ -43,14 +41,28 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const Dynam
     return ConfLoad(*this, LoadLocal).loadMemberOfClass(key, value, cls);
 }
 
-QDateTime ConfStorage::calcLastConfTime() const
+void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
-    QDateTime newest;
-    for (const ConfMeta &meta : mConfMetas) {
-        if (!meta.lastChangeTime.isNull() && !(meta.flags & FlagLocalOnly))
-            newest = std::max(newest, meta.lastChangeTime);
+    if (loadValue(key, value))
+        markUserChange(key, nullptr);
+}
+
+/// Whether the key is there, and still is when its value has been loaded.
+bool ConfStorage::loadValue(const QString &key, const QJsonValue &json)
+{
+    auto stored = mConfValues.find(key);
+    if (stored == mConfValues.end())
+        return false;
+    if (stored->mType != ConfValue::TyQFont || json.isNull() || json.isUndefined()) {
+        stored->loadFromJsonValue(json);
+        return true;
     }
-    for (const QDateTime &removed : mRemovedDynamicConfs)
-        newest = std::max(newest, removed);
-    return newest.toLocalTime();
+    // Of a text that is no font Qt and we write on the log, and a handler may change the store.
+    ConfValue font = ConfValue::owned(QFont());
+    font.loadFromJsonValue(json);
+    stored = mConfValues.find(key);
+    if (stored == mConfValues.end())
+        return false;
+    stored->set(font);
+    return true;
 }
