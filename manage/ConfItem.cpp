@@ -22,7 +22,7 @@ ConfItem::ConfItem(const ConfItem &other)
     *this = other;
 }
 
-// Field by field, because it counts: the only list of the fields.
+// Written out, because it counts the change. The copy constructor uses this one list of the fields.
 ConfItem &ConfItem::operator=(const ConfItem &other)
 {
     subConfs = other.subConfs;
@@ -45,8 +45,9 @@ ConfItem::~ConfItem()
     ++sRevision;
 }
 
-// Callbacks may remove the very item whose operation runs. After a call into the store nothing here
-// reads a member of the item any more; sub-items are walked in a copy, which shares their data.
+// A callback may destroy the item whose function is running. So no function reads a member of the
+// item after it has called the store, and sub-items are iterated in a copy, which shares their
+// data.
 
 QString ConfItem::getFullName() const
 {

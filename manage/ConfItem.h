@@ -14,78 +14,94 @@
 
 class QWidget;
 
-/// What a host declares, the editors of it and the window.
+/// The settings that a host declares, their editors and the settings window.
 namespace MtConf {
 
 class ConfItem;
 class ConfigItemWidget;
 
-/// Bits of `ConfItem::flags` that the library reads; other bits are the host's.
+/// Bits of `ConfItem::flags` that the library reads. The host may use the other bits.
+///
+/// @since 0.1
 enum ConfItemFlag : quint32 {
-    ItemIsFiltered = 0x1 ///< shown only when the manager's `itemFilter` accepts the item
+    ItemIsFiltered = 0x1 ///< shown only if `MtConfManage::itemFilter` accepts the item
 };
 
-/// Makes the editor of an item, given the item and the editor's parent.
+/// A function that creates the editor of an item as a child of `parent`.
+///
+/// @see ConfItem::widgetCreator
+/// @since 0.1
 using WidgetCreator = std::function<ConfigItemWidget *(ConfItem *item, QWidget *parent)>;
 
 /// The declaration of one setting: its page, its key, its label and its editor.
 ///
-/// The item does not hold the value. Constructing one reserves the key in the store, bound to the
-/// host's variable; every read and write goes through the store under `getFullName()`. Destroying
-/// an item does not release its key. Names do not change after construction.
+/// The item does not contain the value. Its constructor reserves the key in the store for a
+/// variable of the host, and every read and write uses the store with the key `getFullName()`. The
+/// key stays reserved when the item is destroyed. Do not change the names after construction.
+///
+/// @see MtConfManage, ConfStorage
+/// @since 0.1
 class MALTO_EXPORT ConfItem
 {
 public:
-    /// Reserves `getFullName()` in the store for `*value`, whose content becomes the default. For
-    /// `int`, `bool`, `QString`, `QColor`, `QFont` and `QKeySequence`. A null pointer is reported
-    /// by the store, and the key stays unknown.
+    /// Reserves `getFullName()` in the store for `*value`, whose content becomes the default value.
+    /// `T` is `int`, `bool`, `QString`, `QColor`, `QFont` or `QKeySequence`. If `value` is null,
+    /// the store logs that and the key stays unknown.
     template<class T> ConfItem(T *value, const QString &majorItemName, const QString &itemName,
                                const QString &itemSubName);
-    /// Copies every field, the pointers `displayText` and `editor` too. Reserves nothing.
+    /// Copies every field, including the pointers `displayText` and `editor`. Reserves no key.
     ConfItem(const ConfItem &other);
-    /// Replaces every field, and leaves the keys of both items reserved.
+    /// Copies every field. The keys of both items stay reserved.
     ConfItem &operator=(const ConfItem &other);
-    /// Leaves the key reserved.
+    /// The key stays reserved.
     ~ConfItem();
 
-    /// The key of the item in the store and in files: the names joined by ".", the sub-name only
-    /// when there is one. A "." inside a name is kept as it stands, and then no key of a
-    /// configuration file reaches the item.
+    /// Returns the key of the item in the store and in files: the names joined by ".", `subName`
+    /// only if it is not empty. A "." within a name is not escaped. Such an item is not found when
+    /// a configuration file is loaded.
     QString getFullName() const;
 
-    /// Lets each operating system keep a value of its own for this item and its sub-items.
+    /// Sets `ConfStorage::FlagSystemIndependent` for the keys of this item and of its sub-items, so
+    /// that files contain them with the system mark.
+    ///
+    /// @see addSysMark
     void setFlagSystemIndependent() const;
 
-    /// Installs the store's callback of the item's key, replacing an earlier one.
+    /// Sets the callback of the item's key in the store and replaces an earlier one. Logs what
+    /// `ConfStorage::setConfChangedCallback` logs.
     void setConfChangedCallback(ConfChangedCallback cb) const;
 
-    /// Whether the item and all its sub-items hold their defaults.
+    /// Returns whether the item and all its sub-items have their default values.
     bool isDefaultValue() const;
 
-    /// Restores the default of the item and of all its sub-items, stamps the time and calls their
-    /// callbacks.
+    /// Restores the default values of the item and then of its sub-items: updates their timestamps
+    /// and calls their callbacks. Logs what `ConfStorage::setToDefault` logs.
     void restoreDefault() const;
 
-    /// Always null: values are dumped by the store, not through items.
+    /// Returns null: the store dumps values, not the items.
     QJsonValue toJsonValue() const;
 
     /// Loads the item from its member of a configuration file: a plain value, or an object with
-    /// "value" and, for sub-items by name, "subConf". An object without "value" is itself the
-    /// value. The store converts it and calls the callbacks. Always true.
+    /// "value" for the item and "subConf" for its sub-items, an object by name. An object without
+    /// "value" is the value itself. The store converts the value and calls the callback. Always
+    /// returns true.
+    ///
+    /// @see ConfStorage::loadValueFromJson
     bool loadFromJsonValue(QJsonValue value) const;
 
     QMap<QString, ConfItem> subConfs;   ///< sub-items by name; filled by the host
     int valueType = ConfValue::TyNone;  ///< the type of the value, a `ConfValue::ConfType`
     QString majorName;                  ///< name of the class, the first part of the key
-    QString name;                       ///< second part of the key
-    QString subName;                    ///< third part of the key, mostly empty
-    quint32 flags = 0;                  ///< `ConfItemFlag` bits and the host's
+    QString name;                       ///< the second part of the key
+    QString subName;                    ///< the third part of the key, usually empty
+    quint32 flags = 0;                  ///< `ConfItemFlag` bits and bits of the host
     const char *displayText = nullptr;  ///< untranslated label; a literal of the host
-    WidgetCreator widgetCreator;        ///< makes the editor; empty: the item has none
+    WidgetCreator widgetCreator;        ///< creates the editor; empty: the item has no editor
     QMap<QString, QVariant> properties; ///< options of the editor, such as "MinValue"
-    ConfigItemWidget *editor = nullptr; ///< the live editor, null while none is shown
-    /// Told the value from before the editor was made when the editor goes and the value has
-    /// changed meanwhile. It compares `toJsonValue()`, and so stays silent while that is null.
+    ConfigItemWidget *editor = nullptr; ///< the current editor; null if there is none
+    /// Called when the editor is destroyed, if the value has changed since the editor was created;
+    /// `oldValue` is the value from then. The editor compares `toJsonValue()`, which is always
+    /// null, so it never calls this function.
     std::function<void(QJsonValue oldValue, ConfItem *item)> auxCallback;
 };
 

@@ -8,14 +8,14 @@ namespace {
 
 constexpr QLatin1Char sSeparator('.');
 
-/// A separator inside a name would be taken for one between two names.
+/// Returns whether a file can name the item: a separator within a name would split it.
 bool isInFiles(const ConfItem &item)
 {
     return !item.majorName.contains(sSeparator) && !item.name.contains(sSeparator)
            && !item.subName.contains(sSeparator);
 }
 
-/// The full name of the item that the member is meant for; null when it is for none.
+/// Returns the full name of the item of this member, or null if the member is not for an item.
 QString fullNameOf(const QString &memberName)
 {
     const auto separators = memberName.count(sSeparator);
@@ -35,7 +35,7 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
     if (isStale())
         rebuild();
     Index index = mFirst.value(fullName, -1);
-    // A swap inside the list makes and destroys no item; it shows only here.
+    // Swapping items within the list does not copy or destroy any; it is noticed only here.
     if (index >= 0
         && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
         rebuild();

@@ -9,21 +9,20 @@ namespace MtConf {
 
 class ConfItem;
 
-/// Returns how often items were copied, assigned and destroyed: a list of items that keeps its size
-/// and its revision is unchanged, but for what is assigned to single fields or swapped.
+/// Returns how often items were copied, assigned or destroyed. While this number and the size of a
+/// list stay the same, its items change only if they are swapped or if single fields are assigned.
 quint64 itemRevision();
 
-/// Finds items of a list by their member of a configuration file at a cost that does not grow with
-/// the list. It notices when the list changes and then reads it again, so that a callback that
-/// declares, removes or replaces items between two lookups gets the same answers as a walk through
-/// the list would give.
+/// Finds items of a list by the names of members of a configuration file, in constant time. It is
+/// rebuilt when the list has changed: if a callback declares, removes or replaces items between two
+/// lookups, the results are those of a linear search.
 class ConfItemIndex
 {
 public:
     explicit ConfItemIndex(const ItemList<ConfItem> &items) : mItems(items) {}
 
-    /// The first item whose two or three names `memberName` joins by ".", or null. A third name may
-    /// be empty.
+    /// Returns the first item whose two or three names joined by "." are `memberName`, or null. The
+    /// third name may be empty.
     const ConfItem *find(const QString &memberName);
 
 private:

@@ -8,20 +8,20 @@ namespace MtConf {
 
 namespace {
 
-/// The element's address. Reached without detaching the list: that would move every element.
+/// Returns the address of an element without detaching the list, which would move every element.
 template<class T> T *addressAt(const ItemList<T> &list, typename ItemList<T>::size_type index)
 {
     return const_cast<T *>(&list.at(index));
 }
 
-/// The first element that `matches`, or null.
+/// Returns the first element that `matches`, or null.
 template<class T, class Predicate> T *findFirst(const ItemList<T> &list, Predicate matches)
 {
     const auto found = std::find_if(list.cbegin(), list.cend(), matches);
     return found != list.cend() ? const_cast<T *>(&*found) : nullptr;
 }
 
-/// Appends without letting the addresses of the elements so far dangle.
+/// Appends an element and keeps the addresses of the others valid.
 template<class T>
 T *appendKeepingAddresses(ItemList<T> &list, const T &element, QList<ItemList<T>> &shared)
 {

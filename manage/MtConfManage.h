@@ -12,145 +12,159 @@ namespace MtConf {
 
 class ConfigurationWindow;
 
-/// What the host declares: its settings and their classes, in order, and the way to the settings
-/// window.
+/// The settings and classes that a host declares, in order, and the access to the settings window.
 ///
-/// The host makes one manager, calls one `addConf` operation for each setting, then loads its files
-/// and shows the window. The manager must not outlive the `QApplication` with the window still
-/// open; destroying it closes the window, and must therefore not happen in a callback that an
-/// editor of the window sets off: use `deleteLater` there. Everything runs on the GUI thread.
+/// A host creates one manager and calls one `addConf` function for each setting. Then it loads its
+/// files and shows the window. Use the manager on the GUI thread only.
 ///
-/// Items and classes are only ever added by the manager, and their addresses stay valid as the
-/// lists grow. A host may edit the lists itself, but must not do so while a copy of them is alive,
-/// nor remove an item whose editor is shown.
+/// The manager may be destroyed while the window exists, even in a callback of one of its settings:
+/// the window is closed, which saves, and is destroyed, after the callback has returned at the
+/// latest. Close the window or destroy the manager before the `QApplication` is destroyed.
 ///
-/// A whole host:
+/// The manager never removes items and classes, and their addresses stay valid when the lists grow.
+/// A host may change the lists itself, except while a copy of them exists, and must not remove an
+/// item whose editor is shown.
+///
+/// A complete host:
 /// @include minimal/main.cpp
+///
+/// @see ConfItem, ConfigurationWindow, ConfStorage
+/// @since 0.1
 class MALTO_EXPORT MtConfManage : public QObject
 {
     Q_OBJECT
 public:
-    /// A manager without settings.
+    /// Constructs a manager without settings.
     explicit MtConfManage(QObject *parent = nullptr);
-    /// Closes the settings window if it is this manager's, which saves, and deletes it.
+    /// Closes the settings window of this manager, which saves, and destroys it. If code of the
+    /// host that the window has called is still running, the window is destroyed after that.
     ~MtConfManage() override;
 
-    // Declaration. `text` is the untranslated label and must outlive the manager, as a literal
-    // does; it is translated in the context "QObject". The three names make the key of the setting.
-    // An empty `creator` stands for the type's own editor. The pointers that are returned stay
-    // valid for the manager's life. A null `value` is reported by the store, and the setting has no
-    // key.
+    // Declaration. `text` is the untranslated label, translated in the context "QObject" when it is
+    // shown; it must outlive the manager, as a literal does. The three names are the key of the
+    // setting. If `creator` is empty, the item gets the default editor of its type. The returned
+    // pointers are valid as long as the manager exists. If `value` is null, the store logs that and
+    // the setting has no key.
 
-    /// Declares an integer, edited in a spin box. Its properties "MinValue" and "MaxValue" set the
-    /// range, 0 to 99 without them.
+    /// Declares an integer, edited in a spin box. The properties "MinValue" and "MaxValue" of the
+    /// item set its range; the default is 0 to 99.
     ConfItem *addConfInt32(const char *text, int *value, const QString &majorName,
                            const QString &name, const QString &subName = QString(),
                            WidgetCreator creator = WidgetCreator());
-    /// Declares a switch, edited in a check box.
+    /// Declares a boolean, edited in a check box.
     ConfItem *addConfBool(const char *text, bool *value, const QString &majorName,
                           const QString &name, const QString &subName = QString(),
                           WidgetCreator creator = WidgetCreator());
-    /// Declares a text. It has no editor of its own: without a `creator` the window leaves it out.
+    /// Declares a string. There is no default editor: without a `creator` the window does not show
+    /// the item.
     ConfItem *addConfQString(const char *text, QString *value, const QString &majorName,
                              const QString &name, const QString &subName = QString(),
                              WidgetCreator creator = WidgetCreator());
-    /// Declares a colour, edited by a colour button.
+    /// Declares a colour, edited with a button that opens the colour dialog.
     ConfItem *addConfQColor(const char *text, QColor *value, const QString &majorName,
                             const QString &name, const QString &subName = QString(),
                             WidgetCreator creator = WidgetCreator());
-    /// Declares a font, edited by a button that opens the font dialog. Its size is kept in pixels.
+    /// Declares a font, edited with a button that opens the font dialog. The editor stores its size
+    /// in pixels.
     ConfItem *addConfQFont(const char *text, QFont *value, const QString &majorName,
                            const QString &name, const QString &subName = QString(),
                            WidgetCreator creator = WidgetCreator());
-    /// Declares a hotkey, recorded from the keyboard. The item's property "Shortcut" holds the
-    /// `QxtGlobalShortcut *` that registers it with the system; without one the editor stores
-    /// nothing.
+    /// Declares a hotkey, recorded from the keyboard. The property "Shortcut" of the item contains
+    /// the `QxtGlobalShortcut *` that registers the hotkey; without it the editor stores nothing.
     ConfItem *addConfQKeySequence(const char *text, QKeySequence *value, const QString &majorName,
                                   const QString &name, const QString &subName = QString(),
                                   WidgetCreator creator = WidgetCreator());
-    /// Declares a mouse gesture: an action in the low 16 bits and `Qt::KeyboardModifier` bits
-    /// above. `mode` chooses the actions to offer: 0 the wheel, 1 clicks, 2 drags. Each operating
-    /// system keeps a gesture of its own.
+    /// Declares a mouse action: the action in the low 16 bits and the `Qt::KeyboardModifier` bits
+    /// above them. `mode` selects the actions to choose from: 0 the wheel, 1 clicks, 2 drags. Calls
+    /// `ConfItem::setFlagSystemIndependent` for the item.
     void addConfMouseAction(const char *text, int *value, int mode, const QString &majorName,
                             const QString &name, const QString &subName = QString());
-    /// Declares the language of the interface, kept as its code, and remembers it as
-    /// `languageItem`. A change installs the translators and emits `sigLanguageChange`.
+    /// Declares the language of the interface, stored as its code, and sets `languageItem`. A
+    /// change installs the translators and emits `sigLanguageChange`.
     void addConfLanguage(const char *text, QString *value, const QString &majorName,
                          const QString &name, const QString &subName = QString());
-    /// Declares a text that is chosen from `choices`, which are shown as they are.
+    /// Declares a string, chosen from `choices`, which are shown untranslated.
     ConfItem *addConfStrWithCombobox(const char *text, QStringList choices, QString *value,
                                      const QString &majorName, const QString &name,
                                      const QString &subName = QString());
-    /// Declares an integer that is the index of the label chosen from `labels`. The labels are
+    /// Declares an integer: the index of the label that is chosen from `labels`. The labels are
     /// literals of the host, translated in the context "QObject" when they are shown. With the
-    /// property "MultiSelect" several can be chosen, and the value is the bitwise OR of theirs.
+    /// property "MultiSelect" several labels can be chosen, and the value is the bitwise OR of
+    /// their values.
     ConfItem *addConfInt32WithCombobox(const char *text, QList<const char *> labels, int *value,
                                        const QString &majorName, const QString &name,
                                        const QString &subName = QString());
-    /// The same with a value of its own for each label.
+    /// The same with a value for each label. If `values` is empty, the value is the index.
     ConfItem *addConfInt32WithCombobox(const char *text, QList<const char *> labels,
                                        QList<int> values, int *value, const QString &majorName,
                                        const QString &name, const QString &subName = QString());
-    /// Declares the switch for starting at login: a check box whose change calls `setAppAutoRun`.
+    /// Declares whether the program starts at login, edited in a check box. A change calls
+    /// `setAppAutoRun`.
     void addConfAutoRun(const char *text, bool *value, const QString &majorName,
                         const QString &name, const QString &subName = QString());
 
-    /// Adds a copy of an item that the host built itself, and returns the copy.
+    /// Adds a copy of an item that the host has constructed, and returns the copy.
     ConfItem *addConfItem(ConfItem &item);
 
     // Lookup.
 
-    /// The first item with exactly these names, or null.
+    /// Returns the first item with exactly these names, or null.
     ConfItem *getItemByName(const QString &majorName, const QString &name, const QString &subName);
-    /// The items of a class, in declaration order. Logs the warning "major class not exist: " and
-    /// the name when there is no such class.
+    /// Returns the items of a class in declaration order. Logs the warning
+    /// "major class not exist: " with the name and returns an empty list if there is no such class.
     QList<ConfItem *> getConfItemList(const QString &majorName);
-    /// The class of that name, appended to the list if it is new.
+    /// Returns the class of that name, which is appended to `majorItems` if it does not exist.
     MajorConfItem *addMajorConfItemIfNotExist(const QString &name);
-    /// The class of that name, or null.
+    /// Returns the class of that name, or null.
     MajorConfItem *getMajorConfItemByName(const QString &name);
-    /// Gives a class, created if it is new, a page of its own making instead of editors.
+    /// Sets the function that creates the custom page of a class. Adds the class if it does not
+    /// exist.
     void setMajorWidget(const QString &name, std::function<QWidget *(QWidget *)> factory);
-    /// Sets the flags of a class, created if it is new, to `flag` (`MajorConfFlag` bits).
+    /// Sets the flags of a class to `flag` (`MajorConfFlag` bits). Adds the class if it does not
+    /// exist.
     void setConfigClassFlag(const QString &name, int flag);
 
-    // Files and defaults.
+    // Files and default values.
 
-    /// Loads a configuration file: a JSON object of values by full name. Keys of unknown items are
-    /// skipped silently; what `readJsonFromFile` logs is all that is logged.
+    /// Loads a configuration file, a JSON object with values by full name, and sets `confFilePath`.
+    /// Each value counts as a change by the user. Skips keys of unknown items silently. Logs what
+    /// `readJsonFromFile` logs.
     void _loadFromFile(QString path);
-    /// `_loadFromFile`, then `runAfterLoadFromFile`.
+    /// Calls `_loadFromFile`, then `runAfterLoadFromFile`.
     void loadFromFile(QString path);
-    /// Applies what must follow a load: the language.
+    /// Installs the translators for the language of `languageItem`, if there is one.
     void runAfterLoadFromFile();
-    /// Has the store write its local file, if something changed.
+    /// Calls `ConfStorage::saveToLocalConfFile`.
     void saveToFile();
-    /// Calls `restoreAllHook`, then restores every item to its default.
+    /// Calls `restoreAllHook`, then restores the default value of every item.
     void restoreAllDefault();
 
     // The settings window.
 
-    /// Shows the one settings window, or raises it, and opens the page `majorName` unless that is
-    /// empty. A window that another manager opened stays that manager's. Null when there is no
-    /// window afterwards: a page closed it, or there is no `QApplication`, which is logged.
+    /// Shows or raises the settings window, and opens the page `majorName` unless it is empty. Only
+    /// one window exists: one that another manager has opened still shows that manager. Returns
+    /// null if there is no window afterwards: a page has closed it or destroyed the manager, or
+    /// there is no `QApplication`, which is logged.
     ConfigurationWindow *ShowWindow(QString majorName = QString());
     /// Closes the settings window if there is one.
     void closeConfigWindow();
-    /// Whether the settings window stays above other windows; nothing without a window.
+    /// Sets whether the settings window stays above other windows. Does nothing without a window.
     void setWindowStayOnTop(bool on);
-    /// The glyphs of the icon font that stand beside the classes in the window, by class name. An
-    /// open window shows them from its next change of theme on.
+    /// Sets the glyphs of the icon font that the window shows beside the classes, by class name. An
+    /// open window shows them after its next change of theme.
     void setIconMap(QMap<QString, QChar> &map);
 
-    ItemList<ConfItem> items;                   ///< every item, in declaration order
-    ItemList<MajorConfItem> majorItems;         ///< the classes, in order of first mention
-    QString confFilePath;                       ///< the file last given to `_loadFromFile`
-    ConfItem *languageItem = nullptr;           ///< the language setting, if one was declared
-    std::function<void()> restoreAllHook;       ///< called first by `restoreAllDefault`
-    std::function<bool(ConfItem &)> itemFilter; ///< accepts items flagged `ItemIsFiltered`
+    ItemList<ConfItem> items;           ///< the items in declaration order
+    ItemList<MajorConfItem> majorItems; ///< the classes in the order in which they are first named
+    QString confFilePath;               ///< the last argument of `_loadFromFile`
+    ConfItem *languageItem = nullptr;   ///< the item of the language; null if there is none
+    std::function<void()> restoreAllHook; ///< called first by `restoreAllDefault`; may be empty
+    /// Returns whether the window shows an item with the flag `ItemIsFiltered`. If it is empty, the
+    /// window shows none of them.
+    std::function<bool(ConfItem &)> itemFilter;
 
 Q_SIGNALS:
-    /// The language setting has changed and its translators are installed.
+    /// Emitted after the language has changed and its translators are installed.
     void sigLanguageChange();
 
 private:
@@ -158,8 +172,8 @@ private:
                                         const QString &name, const QString &subName,
                                         WidgetCreator creator, WidgetCreator defaultCreator);
 
-    // Lists that somebody held a copy of when the next element came, kept so that pointers to their
-    // elements do not dangle.
+    // Lists that were shared when an element was appended. Kept so that pointers to their elements
+    // stay valid.
     QList<ItemList<ConfItem>> mSharedItems;
     QList<ItemList<MajorConfItem>> mSharedMajorItems;
 };

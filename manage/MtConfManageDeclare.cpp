@@ -88,7 +88,7 @@ void MtConfManage::addConfLanguage(const char *text, QString *value, const QStri
 {
     languageItem = addConfQString(text, value, majorName, name, subName,
                                   ConfWidgetLanguage::CreatConfWidget);
-    // The key, and with it the callback, outlives the manager.
+    // The callback may outlive the manager, because the key does.
     const QPointer<MtConfManage> self(this);
     languageItem->setConfChangedCallback([self](const QString &, const ConfValue *changed) {
         ConfWidgetLanguage::installTranslator(changed->get<QString>());

@@ -37,8 +37,8 @@ void MtConfManage::saveToFile()
 
 void MtConfManage::restoreAllDefault()
 {
-    // Both are the host's code: the hook may replace itself, a callback may change the list, and
-    // either may destroy the manager.
+    // The hook may replace itself, a callback may change the list, and both may destroy the
+    // manager.
     const QPointer<MtConfManage> self(this);
     const std::function<void()> hook = restoreAllHook;
     if (hook)

@@ -24,7 +24,7 @@ QJsonDocument readJsonFromFile(QString path)
     QFile file(path);
     if (!file.exists())
         return QJsonDocument();
-    // Reading a pipe or a device might never end, and what no memory holds would end the process.
+    // Reading a pipe or a device might never end, and larger files could exhaust memory.
     const bool isUsable = QFileInfo(path).isFile() && file.size() <= PosixFile::sMaxSize;
     if (!isUsable || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qCritical() << "can't open config file" << path;
@@ -37,8 +37,8 @@ QJsonDocument readJsonFromFile(QString path)
 
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    // A failed parse gives a null document, so a malformed file is dropped without a message; hosts
-    // start with files that do not exist yet or are empty, and that is no error.
+    // Qt returns a null document for text that cannot be parsed, so such a file is dropped
+    // silently: at the first start a host's file does not exist or is empty, which is not an error.
     if (error.error != QJsonParseError::NoError && !document.isNull()) {
         qCritical() << "read config faild: " << error.error;
         return QJsonDocument();
@@ -49,8 +49,8 @@ QJsonDocument readJsonFromFile(QString path)
 void setAppAutoRun(bool on)
 {
     Q_UNUSED(on)
-    // What a registration would need is gathered in the form it would take, and then left alone:
-    // on this platform nothing is registered.
+    // Prepares what a registration needs and does not use it: nothing is registered on this
+    // platform.
     const QString name = QCoreApplication::applicationName();
     QString path = QCoreApplication::applicationFilePath();
     path.replace(QLatin1Char('/'), QLatin1Char('\\'));

@@ -7,18 +7,25 @@
 #include <QJsonDocument>
 #include <QString>
 
-/// The key text of up to three components: `a`, `a.b` or `a.b.c`, without the full stops of empty
-/// components at the end. An empty `b` before a `c` keeps its full stop. Unlike
-/// `ConfItem::getFullName`, a component alone gets none.
+/// Returns the key of up to three components: `a`, `a.b` or `a.b.c`. Empty components at the end
+/// are left out; an empty `b` before a `c` is not: `a..c`. `ConfItem::getFullName` differs: its
+/// first component always has a full stop behind it.
+///
+/// @see MtConf::ConfItem::getFullName
+/// @since 0.1
 MALTO_EXPORT QString getIndexName(const QString &a, const QString &b, const QString &c);
 
-/// Reads a JSON file in UTF-8. A null document means that there is nothing usable: the file is
-/// missing, or holds no JSON, which is not logged, or it cannot be opened, which logs the critical
-/// message "can't open config file" and the path. A folder, pipe or device and a file of more than
-/// 128 MiB count as files that cannot be opened. (A document with a parse error would log the
-/// critical message "read config faild: " and the code, but Qt gives none.)
+/// Reads a JSON file in UTF-8. Returns a null document if the file does not exist or is not JSON;
+/// neither is logged. Logs the critical message "can't open config file" with the path and returns
+/// a null document if the file cannot be opened. Folders, pipes, devices and files of more than
+/// 128 MiB count as files that cannot be opened. (The critical message "read config faild: " with
+/// an error code is for a document with a parse error, which Qt never returns.)
+///
+/// @since 0.1
 MALTO_EXPORT QJsonDocument readJsonFromFile(QString path);
 
-/// The hook of the start-at-login setting. The library registers nothing with the system; the
-/// setting is stored and shown like any other.
+/// Called when the setting of `MtConf::MtConfManage::addConfAutoRun` changes. Does nothing: the
+/// library stores and shows this setting like any other, and registers nothing with the system.
+///
+/// @since 0.1
 MALTO_EXPORT void setAppAutoRun(bool on);

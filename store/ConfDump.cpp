@@ -29,7 +29,7 @@ void ConfDump::collectValues()
 {
     auto meta = mMetas.cbegin();
     for (auto value = mValues.cbegin(); value != mValues.cend(); ++value) {
-        // Both maps mostly have the same keys: the record of the next key is the next record.
+        // Both maps usually have the same keys: the record of the next key is the next record.
         if (meta == mMetas.cend() || meta.key() != value.key())
             meta = mMetas.constFind(value.key());
         if (meta == mMetas.cend())
@@ -69,7 +69,8 @@ void ConfDump::collectRemoved(const ConfStorage &store)
     }
 }
 
-/// Marks and removals stand out of order. Of members of one name the last one counts.
+/// Members with a mark and tombstones are not in order. Of members with the same name the last one
+/// is kept.
 void ConfDump::sortMembers()
 {
     const auto precedes = [](const Member &a, const Member &b) { return a.name < b.name; };
@@ -105,9 +106,9 @@ QJsonObject ConfDump::entryOf(const Member &member) const
 
 QByteArray ConfDump::toText() const
 {
-    constexpr size_t usualSize = 64; // of one member
+    constexpr size_t sUsualSize = 64; // of one member
     QByteArray text;
-    text.reserve(static_cast<int>(std::min(mMembers.size(), size_t(1) << 20) * usualSize));
+    text.reserve(static_cast<int>(std::min(mMembers.size(), size_t(1) << 20) * sUsualSize));
     text += '{';
     for (const Member &member : mMembers) {
         if (text.size() > 1)

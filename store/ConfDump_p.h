@@ -7,11 +7,11 @@
 
 #include <vector>
 
-/// What a store dumps, as it was when this was made: one walk through both maps of the store side
-/// by side, and then either the object or the text.
+/// A dump of a store at the time of construction, as JSON object or as text. Iterates over both
+/// maps of the store once, in parallel.
 ///
-/// It shares the maps with the store, so that a log handler that changes the store while a message
-/// of the dump is on its way takes nothing away from under it.
+/// It shares the data of the maps, so it stays valid if a log handler changes the store while the
+/// dump logs a message.
 class ConfDump
 {
 public:
@@ -19,12 +19,12 @@ public:
 
     QJsonObject toObject() const;
 
-    /// The bytes of `QJsonDocument(toObject()).toJson(QJsonDocument::Compact)`, without the object:
-    /// building one costs more than writing its text.
+    /// Returns the bytes of `QJsonDocument(toObject()).toJson(QJsonDocument::Compact)` without
+    /// creating the object, which would cost more than writing its text.
     QByteArray toText() const;
 
 private:
-    /// A changed value, or without one the time of a removal.
+    /// A changed value, or a tombstone if `value` is null.
     struct Member
     {
         QString name;
@@ -42,5 +42,5 @@ private:
     const ConfStorage::DumpConfType mType;
     const QMap<QString, ConfValue> mValues;
     const QMap<QString, ConfStorage::ConfMeta> mMetas;
-    std::vector<Member> mMembers; // in the order of their names, each name once
+    std::vector<Member> mMembers; // sorted by name, each name once
 };

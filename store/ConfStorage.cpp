@@ -8,8 +8,8 @@
 
 namespace {
 
-/// How deep callbacks may set off each other. Far above what a host needs, far below what the
-/// stack holds: a callback that sets its own key without end is stopped instead of crashing.
+/// How many callbacks may be nested. Far more than a host needs, and far fewer than the stack can
+/// contain: a callback that keeps setting its own key is stopped instead of overflowing the stack.
 constexpr int sMaxCallbackDepth = 200;
 
 } // namespace
@@ -22,7 +22,7 @@ ConfStorage *ConfStorage::instance()
 
 void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current)
 {
-    // A text that was put together has room to grow, which the store would keep for good.
+    // A concatenated string has spare capacity, which the store would keep as long as the key.
     const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size())
                                                          : key;
     mConfValues[exactKey] = bound;
@@ -59,7 +59,7 @@ void ConfStorage::setToDefault(const QString &key, bool updateTime)
 
     const auto preset = mPresetDynamicConfs.constFind(key);
     if (preset == mPresetDynamicConfs.constEnd()) {
-        // The message of `set` on purpose: both mean that nobody reserved the key.
+        // Deliberately the message of `set`: both mean that the key is not reserved.
         qCritical() << "ConfStorage::set key not found: " << key;
         return;
     }
@@ -78,7 +78,7 @@ bool ConfStorage::isEqualToDefault(const QString &key) const
     const auto meta = mConfMetas.constFind(key);
     if (meta == mConfMetas.constEnd() || (meta->flags & FlagIsDefault))
         return true;
-    // Such a key starts out with a default value in its record, but it is nobody's default.
+    // The record of such a key contains its initial value, but the key has no default value.
     if (isDynamicWithoutPreset(key))
         return false;
     return meta->defaultValue == mConfValues.value(key);
@@ -92,7 +92,7 @@ void ConfStorage::setConfChangedCallback(const QString &key, ConfChangedCallback
         qDebug() << "ConfStorage::setConfChangedCallback key not found: " << key;
 }
 
-/// `value` is the key's entry where it is known that nothing has moved it, or else null.
+/// `value` is the entry of the key if the caller knows that it is still valid, or else null.
 void ConfStorage::markUserChange(const QString &key, ConfValue *value)
 {
     ConfMeta &meta = mConfMetas[key];
@@ -111,13 +111,13 @@ void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, 
     if (mCallbacksStopped)
         return;
     if (mCallbackDepth >= sMaxCallbackDepth) {
-        // None any more until the outermost one returns: callbacks that set off two others each
-        // would otherwise go on almost for ever below the limit.
+        // No callback is called until the outermost one returns: callbacks that cause two others
+        // each would otherwise run almost forever below the limit.
         mCallbacksStopped = true;
         qCritical() << "ConfStorage::callChangedCallback nested too deeply: " << key;
         return;
     }
-    // Copies, because the callback may remove or reserve again the key whose record it stands in.
+    // Copies, because the callback may remove or reserve its key again, and so destroy its record.
     const QString name = key;
     const ConfChangedCallback callback = meta.changedCallback;
     const QScopedValueRollback<int> depth(mCallbackDepth, mCallbackDepth + 1);

@@ -16,209 +16,236 @@
 
 class QJsonObject;
 
-/// Called after a key's value has changed. `value` points at the key's entry in the store and is
-/// valid until the callback itself removes the key or reserves it again.
+/// A callback that the store calls after the value of a key has changed. `value` points to the
+/// entry of the key in the store. It is valid until the callback removes the key or reserves it
+/// again.
 ///
-/// A callback may change settings, its own too, and so set off callbacks. When they are nested more
-/// than 200 deep the critical message "ConfStorage::callChangedCallback nested too deeply: " and
-/// the key are logged, and none is called any more until the outermost one returns.
+/// Callbacks are re-entrant: they may change settings, their own key included, and so cause further
+/// callbacks. If more than 200 are nested, the store logs the critical message
+/// "ConfStorage::callChangedCallback nested too deeply: " with the key, and calls no callback until
+/// the outermost one has returned.
+///
+/// @see ConfStorage::setConfChangedCallback
+/// @since 0.1
 using ConfChangedCallback = std::function<void(const QString &key, const ConfValue *value)>;
 
-/// The store of all configuration values, by key.
+/// The store of all configuration values by key.
 ///
-/// A host reserves a key for each of its variables; from then on the store reads and writes the
-/// variable in place, knows its default and the time of its last change, and calls its callback.
-/// Keys are any text; "#" and what follows the last one are reserved for the system mark.
+/// A host reserves a key for each of its variables. From then on the store reads and writes the
+/// variable in place, keeps its default value and the timestamp of its last change, and calls the
+/// change callback of the key. Keys are any text; "#" and the text after the last "#" are
+/// reserved for the system mark.
 ///
-/// The store is used on the GUI thread only and takes no lock. Callbacks run synchronously and may
-/// call any operation of the store, on their own key too. No operation reports a failure to its
-/// caller: a failure is one line on Qt's log, ending with the key or the path.
+/// Each change has a timestamp, kept in UTC and written to files in whole seconds. When two copies
+/// of a configuration are merged, the newer change of each key wins, and the stored one wins a tie.
+/// The removal of a dynamic key is kept as a tombstone, its timestamp in `mRemovedDynamicConfs`, so
+/// that it is merged like a change.
 ///
-/// All data are public: a host fills `mLocalSaveFile`, `mDynamicConfClasses` and
+/// Use the store on the GUI thread only; it has no lock. Callbacks run synchronously and may call
+/// any function of the store, also for their own key. No function reports a failure to its caller:
+/// each failure is one message on Qt's log that ends with the key or the path.
+///
+/// All data is public. A host sets `mLocalSaveFile`, `mDynamicConfClasses` and
 /// `mPresetDynamicConfs`, and may set flags in `mConfMetas`.
 ///
-/// The store by itself:
+/// The store without the other classes of the library:
 /// @include headless/main.cpp
+///
+/// @see ConfValue, MtConf::MtConfManage
+/// @since 0.1
 class MALTO_EXPORT ConfStorage
 {
 public:
     /// Bits of `ConfMeta::flags` and `DynamicConfClass::flags`.
     enum ConfFlag : quint32 {
-        FlagIsDefault = 1,         ///< the value is known to equal its default
-        FlagSystemIndependent = 2, ///< each operating system keeps a value of its own
-        FlagLocalOnly = 4          ///< the key never leaves the local file
+        FlagIsDefault = 1,         ///< the value is known to be the default value
+        FlagSystemIndependent = 2, ///< written with the system mark; see `addSysMark`
+        FlagLocalOnly = 4          ///< the key is written to the local file only
     };
 
-    /// What is kept about one key besides its value.
+    /// The record of a key: everything but its value.
     struct ConfMeta
     {
-        QDateTime lastChangeTime;            ///< when the value last changed, UTC; null: never
+        QDateTime lastChangeTime;            ///< when the value last changed, in UTC; null: never
         quint32 flags = FlagIsDefault;       ///< `ConfFlag` bits
-        ConfValue defaultValue;              ///< an owned copy of the default
+        ConfValue defaultValue;              ///< an owned copy of the default value
         ConfChangedCallback changedCallback; ///< may be empty
     };
 
-    /// A family of keys that come and go at run time. Owned by the host.
+    /// A class of dynamic keys, which are created and removed at run time. Owned by the host.
     ///
     /// @include dynamic-entries/main.cpp
     struct DynamicConfClass
     {
-        QString prefix; ///< a key belongs to the class when it starts with this
-        /// Makes the host's variable for `key` from `value` and reserves it in the store.
+        QString prefix; ///< a key that starts with this prefix belongs to the class
+        /// Creates the variable of the host for `key` from `value`, and reserves `key` for it.
         std::function<void(QString key, const QJsonValue *value)> creator;
-        /// Releases the host's variable of `key`, which still stands in the store meanwhile.
+        /// Destroys the variable of the host for `key`. The store removes the key afterwards.
         std::function<void(QString key)> remover;
-        quint32 flags = 0; ///< `ConfFlag` bits that every key of the class gets
+        quint32 flags = 0; ///< `ConfFlag` bits for every key of the class
     };
 
-    /// What `loadConf` takes from a configuration; any other value acts as `LoadShared`.
+    /// Which entries `loadConf` merges. Any other value is treated as `LoadShared`.
     enum LoadConfType {
-        LoadShared = 0, ///< local-only keys are skipped
-        LoadLocal = 1   ///< nothing is skipped
+        LoadShared = 0, ///< all but those of local-only keys
+        LoadLocal = 1   ///< all
     };
 
     /// What `dumpConf` writes.
     enum DumpConfType {
-        DumpLocal = 0,  ///< everything that ever changed, local-only keys too
-        DumpShared = 1, ///< the same without local-only keys
-        DumpChangedOnly =
-            2 ///< values without times of what is not at its default, shared keys only
+        DumpLocal = 0,      ///< every key that ever changed, and tombstones
+        DumpShared = 1,     ///< the same without local-only keys
+        DumpChangedOnly = 2 ///< values without timestamps, of keys that are neither local-only nor
+                            ///< flagged default
     };
 
-    /// The store of the process, made empty by the first call and never destroyed.
+    /// Returns the store of the process. The first call creates it, empty; it is never destroyed.
     static ConfStorage *instance();
 
-    /// An empty store. Hosts use `instance()`, as items and windows do; a store of one's own serves
-    /// tools that merge copies of a configuration.
+    /// Constructs an empty store. Hosts use `instance()`, as items and windows do. A separate store
+    /// is for tools that merge copies of a configuration.
     ConfStorage() = default;
     Q_DISABLE_COPY(ConfStorage)
 
-    /// Binds `key` to `*ptr`, whose content at this moment becomes the default. Reserving a key
-    /// again binds it to the new variable and forgets its callback, time and flags. For `int`,
-    /// `bool`, `QString`, `QColor`, `QFont`, `QKeySequence` (and what else a `ConfValue` can hold).
-    /// A null pointer logs the critical message "ConfStorage::reserveConf null pointer: " and
-    /// reserves nothing. Calls no callback.
+    /// Binds `key` to `*ptr`, whose current content becomes the default value. Reserving a key
+    /// again binds it to the new variable and resets its callback, timestamp and flags. Calls no
+    /// callback. `T` is `int`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence` or another type
+    /// of `ConfValue`. Logs the critical message "ConfStorage::reserveConf null pointer: " with the
+    /// key and reserves nothing if `ptr` is null.
     template<class T> void reserveConf(const QString &key, T *ptr);
 
-    /// The value of `key`. An unknown key logs the critical message
-    /// "ConfStorage::get key not found: "; another type than the reserved one logs a warning; both
-    /// give a default-constructed `T`.
+    /// Returns the value of `key`. Logs the critical message "ConfStorage::get key not found: "
+    /// with the key if it is unknown, or what `ConfValue::get` logs if it is reserved for another
+    /// type; both return a default-constructed `T`.
     template<class T> T get(const QString &key) const;
 
-    /// Changes the value of `key`, stamps the time and calls the key's callback, also when the
-    /// value is the same as before. Another type than the reserved one logs a warning and leaves
-    /// the value, but counts as a change all the same. An unknown key logs the warning
-    /// "ConfStorage::set key not found: " and leaves a record with the time of the attempt.
+    /// Sets the value of `key`, updates its timestamp and calls its callback, even if the value
+    /// stays the same. A value of another type than the reserved one is not stored, and logs what
+    /// `ConfValue::set` logs, but counts as a change. An unknown key logs the warning
+    /// "ConfStorage::set key not found: " with the key, and gets a record with the current time.
     template<class T> void set(const QString &key, const T &value);
 
-    /// Restores the default of `key` and calls its callback, unless the key is flagged default
-    /// already. With `updateTime` the change is stamped with the current time, otherwise the time
-    /// stays. A key that is a removed or not yet created preset is created. Any other unknown key
-    /// logs the critical message "ConfStorage::set key not found: ".
+    /// Restores the default value of `key` and calls its callback. Does nothing if the key is
+    /// flagged default. With `updateTime` the timestamp of the key becomes the current time,
+    /// otherwise it stays. An unknown key with a preset is created from its preset. Any other
+    /// unknown key logs the critical message "ConfStorage::set key not found: " with the key.
     void setToDefault(const QString &key, bool updateTime);
 
-    /// Whether `key` holds its default. True for a key without a record.
+    /// Returns whether `key` has its default value. True for a key without a record.
     bool isEqualToDefault(const QString &key) const;
 
-    /// Installs the callback of `key`, replacing an earlier one. An unknown key logs the debug
-    /// message "ConfStorage::setConfChangedCallback key not found: ".
+    /// Sets the callback of `key` and replaces an earlier one. Logs the debug message
+    /// "ConfStorage::setConfChangedCallback key not found: " with the key if it is unknown.
     void setConfChangedCallback(const QString &key, ConfChangedCallback cb);
 
-    /// Sets the value of `key` from JSON as if a person had changed it: stamps the time and calls
-    /// the callback. An unknown key is ignored without a message.
+    /// Sets the value of `key` from JSON like a change by the user: updates the timestamp and calls
+    /// the callback. Ignores an unknown key silently.
+    ///
+    /// @see ConfValue::loadFromJsonValue
     void loadValueFromJson(QString key, QJsonValue value);
 
-    /// The whole configuration as one object of entries with the members "t" (seconds since 1970),
-    /// "v" (value) and "d" (seconds since 1970 of a removal). System-independent keys bear the
-    /// system mark. A removed key that no class declares any more logs the critical message
-    /// "dumpConf findDynamicConfClass error : ".
+    /// Returns the configuration as one JSON object. Each member is an entry with "t", the
+    /// timestamp of the change in seconds since 1970 (UTC), and "v", the value, or with "d", the
+    /// timestamp of a removal. System-independent keys are written with the system mark. Logs the
+    /// critical message "dumpConf findDynamicConfClass error : " with the key for a removed key
+    /// without a class.
+    ///
+    /// @see loadConf
     QJsonObject dumpConf(DumpConfType type) const;
 
-    /// Merges a dumped configuration key by key, the newer change winning and equal times keeping
-    /// the store's value. Unknown keys and entries of other operating systems are skipped silently.
-    /// Returns the number of members of `conf`.
+    /// Merges a dump entry by entry: the newer change wins, and the stored one wins a tie. Skips
+    /// unknown keys and keys with the mark of another system silently. Returns the number of
+    /// members of `conf`.
+    ///
+    /// @see dumpConf
     int loadConf(const QJsonObject &conf, LoadConfType type);
 
     /// Parses `json` and merges it. Returns false and logs the critical message
-    /// "ConfStorage::importConf() parse json failed" when it is no JSON object.
+    /// "ConfStorage::importConf() parse json failed" if it is not a JSON object.
     bool loadConf(const QString &json, LoadConfType type);
 
-    /// Merges one member of a dumped configuration; `key` may bear a system mark.
+    /// Merges one member of a dump. `key` may have a system mark.
     void loadSingleConf(QString key, const QJsonValue &value, LoadConfType type);
 
-    /// The time of the newest change or removal that other copies may know of, in local time; null
-    /// when there is none. It tells which of two copies is newer.
+    /// Returns the timestamp of the newest change or removal in local time, local-only keys
+    /// excepted; null if there is none. It shows which of two copies is newer.
     QDateTime calcLastConfTime() const;
 
-    /// The first class of `mDynamicConfClasses` whose prefix starts `key`, or null.
+    /// Returns the first class of `mDynamicConfClasses` whose prefix `key` starts with, or null.
     const DynamicConfClass *findDynamicConfClass(const QString &key) const;
 
-    /// Creates a dynamic key from `value`; `cls` may be null and is found by prefix then. Logs the
-    /// critical message "ConfStorage::createDynamicConf() dynamicConfClass not found: " or
-    /// "ConfStorage::createDynamicConf() key already exists: " and creates nothing. Calls no change
-    /// callback.
+    /// Creates a dynamic key from `value`, with the class `cls` or, if it is null, with the class
+    /// that matches the key. Calls no change callback. Logs the critical message
+    /// "ConfStorage::createDynamicConf() dynamicConfClass not found: " or
+    /// "ConfStorage::createDynamicConf() key already exists: " with the key and creates nothing if
+    /// there is no class or the key exists.
+    ///
+    /// @see DynamicConfClass
     void createDynamicConf(const QString &key, const QJsonValue &value,
                            const DynamicConfClass *cls);
 
-    /// Removes a dynamic key and remembers when. Logs the critical message
-    /// "ConfStorage::createDynamicConf() dynamicConfClass not found: " or
-    /// "ConfStorage::removeDynamicConf() key not found: " and removes nothing. Calls no change
-    /// callback.
+    /// Removes a dynamic key and keeps a tombstone with the current time. Calls no change callback.
+    /// Logs the critical message "ConfStorage::createDynamicConf() dynamicConfClass not found: " or
+    /// "ConfStorage::removeDynamicConf() key not found: " with the key and removes nothing if there
+    /// is no class or no such key.
     void removeDynamicConf(const QString &key);
 
-    /// Brings the dynamic keys that start with `prefix` back to the presets: presets to their
-    /// default, others removed. Removed presets of every class are created again. Logs what
-    /// `setToDefault`, `removeDynamicConf` and `createDynamicConf` log; a key that a callback
-    /// removes meanwhile is one that `removeDynamicConf` does not find.
+    /// Restores the presets of the dynamic keys that start with `prefix`: keys with a preset get
+    /// their default value, other keys are removed. Then creates the missing presets of every
+    /// class. Logs what `setToDefault`, `removeDynamicConf` and `createDynamicConf` log, also for a
+    /// key that a callback has removed meanwhile.
     void restoreDynamicConf(const QString &prefix);
 
-    /// Creates every preset that neither exists nor was removed by a person. Logs what
-    /// `createDynamicConf` logs.
+    /// Creates every preset that neither exists nor has a tombstone. Logs what `createDynamicConf`
+    /// logs.
     void loadPresetDynamicConf();
 
-    /// Merges one member of a dumped configuration that belongs to `cls`. Returns false when the
-    /// caller is to load it like an ordinary key. Logs the critical message
-    /// "createDynamicConf Not create conf: " when the class's creator left no record.
+    /// Merges one member of a dump whose key belongs to `cls`. Returns false if the caller must
+    /// load it like the entry of an ordinary key. Logs what `createDynamicConf`,
+    /// `removeDynamicConf` and `setToDefault` log, and the critical message "createDynamicConf Not
+    /// create conf: " with the key if the key has no record after its creation. That happens if a
+    /// creator loads an entry of the key that it is creating.
     bool loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls);
 
-    /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON when something changed
-    /// since the file was last written or loaded. Logs the critical message
-    /// "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()", or
-    /// "ConfStorage::saveToLocalConfFile() open file failed: " and the path, after which the next
-    /// save tries again; on success the debug message
-    /// "ConfStorage::saveToLocalConfFile() save to file: " and the path. Whether everything reached
-    /// the file is checked with `mSafeSave` only.
+    /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed
+    /// since the file was last written or loaded. The file is rewritten in place. Logs the debug
+    /// message "ConfStorage::saveToLocalConfFile() save to file: " with the path. Whether all of
+    /// the text reaches the file is checked with `mSafeSave` only.
+    ///
+    /// Logs the critical messages "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()" if
+    /// no path is set, and "ConfStorage::saveToLocalConfFile() open file failed: " with the path if
+    /// the file cannot be opened or truncated; then the next save tries again.
     void saveToLocalConfFile();
 
-    /// Merges `mLocalSaveFile` and creates missing presets. A missing or unreadable file, or one
-    /// that holds no JSON object, counts as an empty configuration, silently; so does a file of
-    /// more than 128 MiB, with the critical message "ConfStorage::loadLocalConfFile() file too
-    /// large: " and the path. Logs the critical message "ConfStorage::loadLocalConfFile()
-    /// mLocalSaveFile.isEmpty()" and does nothing when no path is set.
+    /// Merges `mLocalSaveFile` and creates the missing presets. A file that is missing, unreadable
+    /// or not a JSON object counts as an empty configuration, silently. So does a file of more than
+    /// 128 MiB, with the critical message "ConfStorage::loadLocalConfFile() file too large: " and
+    /// the path. Logs the critical message
+    /// "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()" and does nothing if no path is
+    /// set.
     ///
-    /// When a save with `mSafeSave` was interrupted, its content is put back from its journal, also
-    /// when the switch is off by now, and one message beginning with
-    /// "ConfStorage::loadLocalConfFile() " says so; docs/file-formats.md lists them.
+    /// If a save with `mSafeSave` was interrupted, its content is recovered from the journal, even
+    /// if `mSafeSave` is off by then. One message that starts with
+    /// "ConfStorage::loadLocalConfFile() " says so; docs/file-formats.md lists these messages.
     void loadLocalConfFile();
 
-    /// Everything in the store as a table to print while looking for a fault: for each key its
-    /// value, its default, whether it differs, when it changed (UTC) and its flags ("default",
-    /// "system", "local"); then the removed dynamic keys. Long values are cut. Changes nothing.
+    /// Returns the content of the store as a table for debugging: for each key its value, its
+    /// default value, whether they differ, the timestamp (UTC) and the flags ("default", "system",
+    /// "local"); then the tombstones. Long values are truncated.
     QString debugTable() const;
 
-    bool mChanged = false;     ///< something changed since the local file was written or loaded
+    bool mChanged = false;     ///< something has changed since the local file was written or loaded
     bool mLocalLoaded = false; ///< `loadLocalConfFile` has run
 
-    /// Set by the host, before it saves: the local file survives a crash, a full disk and a loss of
-    /// power at any instant. The next load finds what the file held before the save, or the new
-    /// content. The file is still rewritten in place; a journal lies beside it meanwhile, so its
-    /// folder must be writable, and a save waits for the disk.
+    /// Set by the host before it saves. Makes saves atomic: after a crash, a full disk or a loss of
+    /// power at any moment, the next load returns the content from before the save, or the new
+    /// content. The file is still rewritten in place. During a save a journal is kept beside it, so
+    /// its folder must be writable, and each save waits for the disk.
     ///
-    /// A save then also fails, with the file as it was and the save pending, with the critical
-    /// messages "ConfStorage::saveToLocalConfFile() content could not be read back: " and
-    /// "ConfStorage::saveToLocalConfFile() write journal failed: "; with
-    /// "ConfStorage::saveToLocalConfFile() write file failed: " the new content is in the journal
-    /// and the save pending.
+    /// A save can then fail in three more ways, each with a critical message and with the save
+    /// still pending. "ConfStorage::saveToLocalConfFile() content could not be read back: " and
+    /// "ConfStorage::saveToLocalConfFile() write journal failed: " leave the file unchanged. After
+    /// "ConfStorage::saveToLocalConfFile() write file failed: " the new content is in the journal.
     bool mSafeSave = false;
 
     QMap<QString, ConfValue> mConfValues;          ///< the values by key
@@ -226,7 +253,7 @@ public:
     QString mLocalSaveFile;                        ///< path of the local file; set by the host
     QMap<QString, QJsonValue> mPresetDynamicConfs; ///< dynamic keys that exist by default
     QList<DynamicConfClass *> mDynamicConfClasses; ///< in order of precedence; not owned
-    QMap<QString, QDateTime> mRemovedDynamicConfs; ///< when each dynamic key was removed, UTC
+    QMap<QString, QDateTime> mRemovedDynamicConfs; ///< tombstones: when a key was removed, in UTC
 
 private:
     friend class ConfLoad;
@@ -243,7 +270,7 @@ private:
 
     int mCallbackDepth = 0;
     bool mCallbacksStopped = false;
-    QSet<QString> mBusyDynamicConfs; // being created or removed by the host at this moment
+    QSet<QString> mBusyDynamicConfs; // whose creator or remover is running
 };
 
 template<class T> void ConfStorage::reserveConf(const QString &key, T *ptr)
@@ -271,14 +298,19 @@ template<class T> void ConfStorage::set(const QString &key, const T &value)
         markUserChange(key, &*stored);
         return;
     }
-    // What is logged runs a handler of the host, which may change the store.
+    // Logging may call a handler of the host, which may change the store.
     if (stored != mConfValues.end())
         stored->template set<T>(value);
     else
         logSetNotFound(key);
-    // An unknown key gets its record all the same: its time counts as the newest change.
+    // An unknown key gets a record, too: its timestamp counts in calcLastConfTime.
     markUserChange(key, nullptr);
 }
 
-/// The name under which a system-independent key is written: `key` + "#s.mac".
+/// Returns the name under which a system-independent key is written: `key` + "#s.mac". There is one
+/// mark for all operating systems, so they share the entry. Entries with another mark are skipped
+/// when a dump is loaded.
+///
+/// @see ConfStorage::FlagSystemIndependent
+/// @since 0.1
 MALTO_EXPORT QString addSysMark(const QString &key);

@@ -14,13 +14,13 @@ QString nothing()
     return QStringLiteral("-");
 }
 
-/// A dynamic key may be any text, but has one line here.
+/// Puts a dynamic key, which may contain any character, on one line.
 QString keyText(QString key)
 {
     return key.replace(QLatin1Char('\n'), QLatin1String("\\n"));
 }
 
-/// As one line of JSON, cut when it is long.
+/// Returns one line of JSON, truncated if it is long.
 QString valueText(const ConfValue &value)
 {
     if (value.mType == ConfValue::TyNone)

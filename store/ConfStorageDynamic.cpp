@@ -9,7 +9,7 @@ namespace {
 
 void logClassNotFound(const QString &key)
 {
-    // Removal logs the text of creation on purpose: both mean that no class declares the key.
+    // Removal logs the message of creation deliberately: both mean that the key has no class.
     qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: " << key;
 }
 
@@ -36,8 +36,8 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
         qCritical() << "ConfStorage::createDynamicConf() key already exists: " << key;
         return;
     }
-    // Copies, because `key` may stand in a map that changes here, and the creator is the host's
-    // code: it may even replace the class.
+    // Copies, because `key` may refer to a map that changes here, and the creator is code of the
+    // host: it may even replace the class.
     const QString name = key;
     const QJsonValue initial = value;
     const auto creator = cls->creator;
@@ -48,8 +48,8 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
     if (creator)
         creator(name, &initial);
     mBusyDynamicConfs.remove(name);
-    // Again, because the creator may have loaded a removal of its own key. Creating a key ends its
-    // removal whatever the time of it, and is the newer change: its own timestamp is taken now.
+    // Again, because the creator may have loaded a removal of its own key. Creating a key drops its
+    // tombstone whatever its timestamp, and is the newer change: it gets its own timestamp now.
     if (mConfValues.contains(name))
         mRemovedDynamicConfs.remove(name);
     ConfMeta &meta = mConfMetas[name];
@@ -84,7 +84,7 @@ void ConfStorage::removeDynamicConf(const QString &key)
 
 void ConfStorage::restoreDynamicConf(const QString &prefix)
 {
-    const QString start = prefix; // may stand in a class that goes meanwhile
+    const QString start = prefix; // which may refer to a class that a callback destroys
     const QList<QString> keys = mConfValues.keys();
     for (const QString &key : keys) {
         if (!key.startsWith(start))
@@ -92,10 +92,10 @@ void ConfStorage::restoreDynamicConf(const QString &prefix)
         if (mPresetDynamicConfs.contains(key))
             setToDefault(key, true);
         else
-            removeDynamicConf(key); // logs a key that a callback has removed meanwhile
+            removeDynamicConf(key); // logs that a callback has removed the key meanwhile
     }
-    // Every class's presets, not only those of `prefix`: restoring one class is the way to get
-    // deleted presets of the others back, too.
+    // The presets of every class, not only of `prefix`: restoring one class deliberately restores
+    // the removed presets of the others.
     const QMap<QString, QJsonValue> presets = mPresetDynamicConfs;
     for (auto preset = presets.cbegin(); preset != presets.cend(); ++preset) {
         if (!mConfValues.contains(preset.key()))
@@ -111,7 +111,7 @@ void ConfStorage::loadPresetDynamicConf()
         if (mConfValues.contains(key) || mRemovedDynamicConfs.contains(key))
             continue;
         setToDefault(key, true);
-        // An untouched preset is neither dumped nor counts as a change.
+        // A preset that was never changed is not dumped, and does not count as a change.
         const auto meta = mConfMetas.find(key);
         if (meta != mConfMetas.end())
             meta->lastChangeTime = QDateTime();

@@ -54,7 +54,7 @@ void ConfStorage::saveToLocalConfFile()
     mChanged = false;
 }
 
-/// Rewritten in place, so that links and permissions that a person gave the file stay.
+/// Rewrites the file in place, so that links and permissions set by the user are kept.
 bool ConfStorage::saveInPlace() const
 {
     QFile file;
@@ -64,8 +64,8 @@ bool ConfStorage::saveInPlace() const
         logOpenFailed(mLocalSaveFile);
         return false;
     }
-    // Truncated only after the text is composed: composing it may run out of memory, and may log
-    // messages, whose handler may read the file. A device has nothing to truncate.
+    // Composes the text before truncating the file: composing may run out of memory, and may log
+    // messages, whose handler may read the file. A device cannot be truncated.
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
     if (!file.isSequential() && !file.resize(0)) {
         logOpenFailed(mLocalSaveFile);
@@ -83,8 +83,8 @@ bool ConfStorage::saveSafely() const
         return false;
     }
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
-    // Values nested too deeply are written without complaint and never read again, and so are texts
-    // that are too large.
+    // QJsonDocument writes values that are nested too deeply to be parsed again, and loading
+    // rejects files that are too large.
     if (text.size() > PosixFile::sMaxSize || !QJsonDocument::fromJson(text).isObject()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "
                     << mLocalSaveFile;

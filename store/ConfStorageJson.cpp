@@ -47,7 +47,7 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
         markUserChange(key, nullptr);
 }
 
-/// Whether the key is there, and still is when its value has been loaded.
+/// Returns whether the key exists, before and after its value is loaded.
 bool ConfStorage::loadValue(const QString &key, const QJsonValue &json)
 {
     auto stored = mConfValues.find(key);
@@ -57,7 +57,7 @@ bool ConfStorage::loadValue(const QString &key, const QJsonValue &json)
         stored->loadFromJsonValue(json);
         return true;
     }
-    // Of a text that is no font Qt and we write on the log, and a handler may change the store.
+    // Text that does not describe a font is logged, and a log handler may change the store.
     ConfValue font = ConfValue::owned(QFont());
     font.loadFromJsonValue(json);
     stored = mConfValues.find(key);

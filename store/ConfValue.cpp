@@ -5,11 +5,11 @@
 
 namespace {
 
-// In points or pixels: what could still be seen, and far more than any screen holds.
+// In points or pixels: just visible, and far larger than any screen.
 constexpr qreal sMinFontSize = 0.1;
 constexpr qreal sMaxFontSize = 4096;
 
-/// Calls `visitor` with a null `T *`, `T` being the C++ type of `type`; logs an unknown type.
+/// Calls `visitor` with a null pointer to the C++ type of `type`; logs an unknown type.
 template<class Visitor> void visitType(ConfValue::ConfType type, Visitor visitor)
 {
     switch (type) {
@@ -65,8 +65,8 @@ void fromJson(const QJsonValue &json, QString &text)
 {
     text = json.toString();
 }
-/// Whether text in this font can be shown. Qt accepts "inf" and a thousand million points as sizes,
-/// and a program that draws text in such a font stalls or draws nothing.
+/// Returns whether text can be drawn in this font. QFont::fromString accepts sizes such as "inf"
+/// and a thousand million points, with which a program stalls or draws nothing.
 bool hasUsableSize(const QFont &font)
 {
     const qreal size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
@@ -144,7 +144,7 @@ QJsonValue ConfValue::toJsonValue() const
 void ConfValue::loadFromJsonValue(const QJsonValue &value)
 {
     if (value.isNull() || value.isUndefined()) {
-        // Unbinding is wanted: from here on the store treats the key as holding no value.
+        // Unbinds deliberately: from now on the store treats the key as a key without a value.
         *this = ConfValue();
         return;
     }

@@ -17,16 +17,16 @@
 
 class QJsonValue;
 
-// The names under which Qt's meta-type system knows a pointer to a variable of the host.
+// Pointers to variables of the host, by the names that Qt's meta-type system knows them by.
 using TyQColorPtr = QColor *;             ///< to a colour
 using TyInt32Ptr = int *;                 ///< to an integer
-using TyQrealPtr = qreal *;               ///< to a number
-using TyBoolPtr = bool *;                 ///< to a switch
-using TyQStringPtr = QString *;           ///< to a text
+using TyQrealPtr = qreal *;               ///< to a floating-point number
+using TyBoolPtr = bool *;                 ///< to a boolean
+using TyQStringPtr = QString *;           ///< to a string
 using TyQFontPtr = QFont *;               ///< to a font
-using TyQKeySequencePtr = QKeySequence *; ///< to a hotkey
-using TyQJsonObjectPtr = QJsonObject *;   ///< to an object
-using TyQJsonArrayPtr = QJsonArray *;     ///< to an array
+using TyQKeySequencePtr = QKeySequence *; ///< to a key sequence
+using TyQJsonObjectPtr = QJsonObject *;   ///< to a JSON object
+using TyQJsonArrayPtr = QJsonArray *;     ///< to a JSON array
 
 Q_DECLARE_METATYPE(TyQColorPtr)
 Q_DECLARE_METATYPE(TyInt32Ptr)
@@ -38,18 +38,21 @@ Q_DECLARE_METATYPE(TyQKeySequencePtr)
 Q_DECLARE_METATYPE(TyQJsonObjectPtr)
 Q_DECLARE_METATYPE(TyQJsonArrayPtr)
 
-/// One typed value of the store: either bound to a variable that the host owns, which is then read
-/// and written in place, or owned.
+/// A typed value of the store. It is either bound to a variable of the host, which it reads and
+/// writes in place, or it owns its content.
 ///
-/// The nine types are `int`, `double`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence`,
-/// `QJsonObject` and `QJsonArray`; every template below exists for exactly these. A bound value
-/// never owns the variable: the host keeps it alive while the value is in use.
+/// There are nine types: `int`, `double`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence`,
+/// `QJsonObject` and `QJsonArray`. The templates below exist for these types only. A bound value
+/// does not own the variable: the host keeps the variable alive as long as the value is in use.
 ///
-/// Nothing is thrown and nothing returned to report a failure; it is one line on Qt's log.
+/// No function throws or returns an error. Each failure is one message on Qt's log.
+///
+/// @see ConfStorage
+/// @since 0.1
 class MALTO_EXPORT ConfValue
 {
 public:
-    /// Which of the nine types a value is. The numbers are fixed: log messages print them.
+    /// The type of a value. The numbers are fixed, because log messages print them.
     enum ConfType : quint32 {
         TyNone = 0,
         TyQColor = 1,
@@ -63,58 +66,60 @@ public:
         TyQJsonArray = 9
     };
 
-    /// An empty value: null, not bound, of type `TyNone`.
+    /// Constructs an empty value: null, not bound, of type `TyNone`.
     ConfValue() = default;
 
-    /// A value bound to `*variable`, which must outlive it. With a null pointer reads give a
-    /// default-constructed `T` and writes do nothing.
+    /// Returns a value bound to `*variable`, which must outlive the value. With a null pointer,
+    /// `get` returns a default-constructed `T` and `set` does nothing.
     template<class T> static ConfValue bound(T *variable);
 
-    /// A value that holds a copy of `value` itself.
+    /// Returns a value that owns a copy of `value`.
     template<class T> static ConfValue owned(const T &value);
 
-    /// The type code of `T`; another type than the nine does not compile.
+    /// Returns the type code of `T`. Does not compile for other types than the nine.
     template<class T> static constexpr ConfType typeOf();
 
-    /// The current value. When the value is not of type `T`, logs the warning
-    /// "ConfValue::get() type mismatch" and returns a default-constructed `T`.
+    /// Returns the current value. Logs the warning "ConfValue::get() type mismatch" and returns a
+    /// default-constructed `T` if the value is not of type `T`.
     template<class T> T get() const;
 
-    /// Changes the value, through the pointer when it is bound. When the value is not of type `T`,
-    /// logs the warning "ConfValue::get() type mismatch" and changes nothing.
+    /// Sets the value; a bound value writes the variable. Logs the warning
+    /// "ConfValue::get() type mismatch" and changes nothing if the value is not of type `T`.
     template<class T> void set(T value);
 
-    /// Copies the value of `other`, through the pointer when this one is bound; never re-binds.
-    /// Logs the warning "ConfValue::set() type mismatch" when the types differ, or the critical
-    /// message "restoreDefault: unknow type: " and the type when both are of no known type; nothing
-    /// changes then.
+    /// Copies the content of `other`; a bound value writes its variable and stays bound to it. Logs
+    /// the warning "ConfValue::set() type mismatch" and changes nothing if the types differ. Logs
+    /// the critical message "restoreDefault: unknow type: " with the type and changes nothing if
+    /// both are of the same unknown type.
     void set(const ConfValue &other);
 
-    /// Whether both are of the same type and hold equal values, bound or owned alike. Two values of
-    /// no known type, empty ones included, are never equal, which logs the critical message
-    /// "restoreDefault: unknow type: " and the type.
+    /// Returns whether both values are of the same type and have equal content, bound or owned.
+    /// Two values of the same unknown type, empty ones included, are never equal; this logs the
+    /// critical message "restoreDefault: unknow type: " with the type.
     bool operator==(const ConfValue &other) const;
-    /// The opposite of `==`, with the same message.
+    /// Returns the opposite of `==` and logs the same.
     bool operator!=(const ConfValue &other) const { return !(*this == other); }
 
-    /// The value as JSON: a colour as the hexadecimal digits of its ARGB value or "None" when it is
-    /// invalid, a font as `QFont::toString`, a key sequence as its portable text, the others as
-    /// they are, an empty value as null. Logs the critical message "restoreDefault: unknow type: "
-    /// and the type for an unknown one.
+    /// Returns the value as JSON: a colour as the hexadecimal digits of its ARGB value, or "None"
+    /// if it is invalid; a font as `QFont::toString`; a key sequence as its portable text; an empty
+    /// value as null; other values as they are. Logs the critical message
+    /// "restoreDefault: unknow type: " with the type if the type is unknown.
     QJsonValue toJsonValue() const;
 
-    /// Sets the value from JSON written by `toJsonValue`, with Qt's lenient conversions when the
-    /// JSON is of another type. A font of less than 0.1 or more than 4096 points or pixels counts
-    /// as a text that is no font, which gives the default font; it logs the warning
-    /// "ConfValue::loadFromJsonValue() font size out of range: " and the text. A font without a
-    /// size has the default font's, or none where no `QGuiApplication` exists. JSON null or
-    /// undefined empties the value and unbinds it from its variable, which keeps its content. Logs
-    /// the critical message "restoreDefault: unknow type: " and the type for an unknown one.
+    /// Sets the value from JSON as `toJsonValue` returns it. JSON of another type is converted by
+    /// Qt's lenient rules. JSON null or undefined empties the value and unbinds it from its
+    /// variable, which keeps its content. Logs the critical message "restoreDefault: unknow type: "
+    /// with the type if the type is unknown.
+    ///
+    /// Text that does not describe a font sets the default font. A font of less than 0.1 or more
+    /// than 4096 points or pixels does so too, and logs the warning
+    /// "ConfValue::loadFromJsonValue() font size out of range: " with the text. A font without a
+    /// size gets the size of the default font, or none if no `QGuiApplication` exists.
     void loadFromJsonValue(const QJsonValue &value);
 
-    QVariant mValue;         ///< the value itself, or a pointer `T *` to the host's variable
-    bool mIsPtr = false;     ///< whether `mValue` holds a pointer
-    ConfType mType = TyNone; ///< which type the value is
+    QVariant mValue;         ///< the content, or a pointer `T *` to the host's variable
+    bool mIsPtr = false;     ///< whether `mValue` contains a pointer
+    ConfType mType = TyNone; ///< the type of the value
 
 private:
     ConfValue(const QVariant &value, bool isPtr, ConfType type)
@@ -144,7 +149,7 @@ template<class T> constexpr ConfValue::ConfType ConfValue::typeOf()
     else if constexpr (std::is_same_v<T, QJsonObject>)
         return TyQJsonObject;
     else {
-        static_assert(std::is_same_v<T, QJsonArray>, "not a type that a ConfValue can hold");
+        static_assert(std::is_same_v<T, QJsonArray>, "not one of the types of ConfValue");
         return TyQJsonArray;
     }
 }
@@ -174,7 +179,7 @@ template<class T> T ConfValue::get() const
 template<class T> void ConfValue::set(T value)
 {
     if (mType != typeOf<T>()) {
-        // The typed setters share the getter's message on purpose: log filters know that one text.
+        // The setters share the message of the getter deliberately: log filters match that text.
         logGetMismatch();
         return;
     }

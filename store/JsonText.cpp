@@ -12,14 +12,14 @@ namespace {
 
 constexpr double sLargestExactInteger = 9007199254740992.0; // 2^53
 
-/// As the only element of an array: an element has the same text wherever it stands.
+/// Serializes `value` as the only element of an array: QJsonDocument accepts no other values.
 void appendByDocument(QByteArray &text, const QJsonValue &value)
 {
     const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     text.append(array.constData() + 1, array.size() - 2);
 }
 
-/// Whether the character stands for itself in JSON, and is one byte long there.
+/// Returns whether the character is written as itself in JSON, as one byte.
 bool isPlain(ushort character)
 {
     return character >= 0x20 && character < 0x7f && character != '"' && character != '\\';
@@ -51,7 +51,7 @@ void appendJsonValue(QByteArray &text, const QJsonValue &value)
     case QJsonValue::String: appendJsonString(text, value.toString()); return;
     case QJsonValue::Double: {
         const double number = value.toDouble();
-        // Zero may be negative, and is written with its sign then.
+        // QJsonDocument decides about zero, which may be negative.
         if (number != 0 && std::abs(number) < sLargestExactInteger
             && std::trunc(number) == number) {
             text += QByteArray::number(static_cast<qint64>(number));

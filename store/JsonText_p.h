@@ -4,10 +4,10 @@ class QByteArray;
 class QJsonValue;
 class QString;
 
-// JSON text, appended piece by piece. The bytes are those of QJsonDocument in its compact form.
+// Serializes JSON value by value. The bytes are those of QJsonDocument in its compact form.
 
 /// Appends `string` in quotes.
 void appendJsonString(QByteArray &text, const QString &string);
 
-/// Appends any value.
+/// Appends a value of any type.
 void appendJsonValue(QByteArray &text, const QJsonValue &value);

@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr int sMostDigits = 18;  // any number of so many digits fits into 64 bits
-constexpr int sMostLevels = 500; // far from those at which QJsonDocument gives up
+constexpr int sMostDigits = 18;  // any number with so many digits fits into 64 bits
+constexpr int sMostLevels = 500; // fewer than QJsonDocument supports
 
-/// Whether the byte of a JSON string stands for itself, and is a whole character.
+/// Returns whether a byte of a JSON string is a whole character without an escape.
 bool isPlain(char byte)
 {
     return byte >= 0x20 && byte < 0x7f && byte != '"' && byte != '\\';
@@ -36,15 +36,15 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
 }
 
-/// False also for a text with the character that stands for broken sequences: Qt's parser tells
-/// them apart.
+/// Returns whether the text is valid UTF-8. False as well for text that contains the replacement
+/// character itself: Qt's parser decides about it.
 bool isUnbroken(std::string_view utf8)
 {
     return std::none_of(utf8.begin(), utf8.end(), isBeyondAscii)
            || !textOf(utf8).contains(QChar::ReplacementCharacter);
 }
 
-/// Takes a text apart from its start to its end; where that fails, the whole text is refused.
+/// Parses a text from start to end. If one function fails, the whole text is rejected.
 class Scanner
 {
 public:
@@ -90,8 +90,7 @@ bool Scanner::takeQuoted(std::string_view *inside, bool (*isInside)(char))
     return true;
 }
 
-/// The first digits of a longer number, or of one with a fraction, are taken, too: the caller looks
-/// at what follows.
+/// Also takes the first digits of a longer number or of a fraction: the caller checks what follows.
 bool Scanner::takeNumber(qint64 *number)
 {
     const bool isNegative = isNext('-');
@@ -100,7 +99,7 @@ bool Scanner::takeNumber(qint64 *number)
     qint64 sum = 0;
     while (end != mEnd && *end >= '0' && *end <= '9' && end - start < sMostDigits)
         sum = 10 * sum + (*end++ - '0');
-    // A zero in front is no JSON, and minus zero no whole number.
+    // JSON has no leading zeros, and minus zero is not an integer.
     if (end == start || (*start == '0' && (isNegative || end - start > 1)))
         return false;
     *number = isNegative ? -sum : sum;
@@ -148,7 +147,7 @@ bool Scanner::takeParsedValue(PlainMember *member)
     if (!end)
         return false;
     const QByteArray text = QByteArray::fromRawData(mNext, static_cast<int>(end - mNext));
-    // As the only element of an array: a value means the same wherever it stands.
+    // Parsed as the only element of an array: QJsonDocument accepts no other values.
     const QJsonArray array = QJsonDocument::fromJson('[' + text + ']').array();
     if (array.size() != 1)
         return false;
@@ -157,7 +156,7 @@ bool Scanner::takeParsedValue(PlainMember *member)
     return true;
 }
 
-/// Where the value ends if it is one: only strings and brackets are looked at.
+/// Returns the end of a value without parsing it: only strings and brackets are recognized.
 const char *Scanner::endOfValue() const
 {
     int level = 0;
@@ -231,7 +230,7 @@ std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)
         PlainMember member;
         if (!scanner.takeMember(&member))
             return std::nullopt;
-        // Of members of one name the last one counts, and objects are in the order of their names.
+        // An object is sorted by name and keeps the last of several members with the same name.
         if (!members.empty() && members.back().name >= member.name)
             return std::nullopt;
         members.push_back(std::move(member));

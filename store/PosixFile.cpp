@@ -34,7 +34,7 @@ bool isPipe(const QByteArray &name)
     return ::stat(name.constData(), &status) == 0 && S_ISFIFO(status.st_mode);
 }
 
-/// Returns a descriptor, or -1.
+/// Retries if a signal interrupts the call. Returns a descriptor, or -1.
 int openUninterrupted(const QByteArray &name, int flags, mode_t mode = 0)
 {
     int descriptor = -1;
@@ -48,16 +48,16 @@ int openUninterrupted(const QByteArray &name, int flags, mode_t mode = 0)
 
 int openForWriting(const QString &path)
 {
-    constexpr mode_t sEverybody = 0666; // less what the process masks, as Qt creates files
+    constexpr mode_t sEverybody = 0666; // without the bits of the umask, as Qt creates files
     const QByteArray name = QFile::encodeName(path);
     return isPipe(name) ? -1 : openUninterrupted(name, O_WRONLY | O_CREAT, sEverybody);
 }
 
-int createAnew(const QString &path, QFile::Permissions permissions)
+int createNew(const QString &path, QFile::Permissions permissions)
 {
     const QByteArray name = QFile::encodeName(path);
     ::unlink(name.constData());
-    // Nobody else may read it before it has its permissions.
+    // Other users cannot read the file before it has its permissions.
     const int descriptor = openUninterrupted(name, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
     if (descriptor != -1)
         ::fchmod(descriptor, toMode(permissions));
@@ -72,7 +72,7 @@ bool replace(const QString &from, const QString &to)
 bool sync(int descriptor)
 {
 #ifdef F_FULLFSYNC
-    // Here fsync() leaves the content in the cache of the drive.
+    // On macOS fsync() leaves the content in the cache of the drive.
     if (::fcntl(descriptor, F_FULLFSYNC) == 0)
         return true;
 #endif
@@ -89,7 +89,7 @@ bool syncFolderOf(const QString &path)
     const int descriptor = openUninterrupted(folder, O_RDONLY | O_DIRECTORY);
     if (descriptor == -1)
         return false;
-    // Some file systems cannot sync folders, and say so; there is nothing more to be had from them.
+    // Some file systems cannot sync folders and return EINVAL.
     const bool synced = sync(descriptor) || errno == EINVAL;
     ::close(descriptor);
     return synced;

@@ -2,10 +2,10 @@
 
 #include <QFile>
 
-/// What the files of values need of the operating system, and Qt does not offer.
+/// File operations of the operating system that Qt does not offer.
 namespace PosixFile {
 
-/// What no memory holds would end the process: files of more bytes are not read.
+/// Files with more bytes are not read: larger files could exhaust memory.
 constexpr qint64 sMaxSize = 128 * 1024 * 1024;
 
 /// Opens the file `path` for writing without truncating it, and creates it if it is missing. QFile
@@ -14,17 +14,19 @@ constexpr qint64 sMaxSize = 128 * 1024 * 1024;
 /// it.
 int openForWriting(const QString &path);
 
-/// Creates the file `path` with `permissions`, in place of one that is there; links are not
-/// followed. Returns a descriptor for writing, or -1.
-int createAnew(const QString &path, QFile::Permissions permissions);
+/// Creates the file `path` with `permissions` and replaces an existing file or link of that name.
+/// Returns a descriptor for writing, or -1.
+int createNew(const QString &path, QFile::Permissions permissions);
 
-/// Gives the file `from` the name `to` at once, in place of a file that has it. False on failure.
+/// Renames the file `from` to `to` atomically and replaces an existing file. Returns whether that
+/// worked.
 bool replace(const QString &from, const QString &to);
 
-/// Returns once the content behind `descriptor` is on the disk. False on failure.
+/// Waits until the content of the file is on the disk. Returns whether that worked.
 bool sync(int descriptor);
 
-/// Returns once the names in the folder of the file `path` are on the disk. False on failure.
+/// Waits until the names in the folder of the file `path` are on the disk. Returns whether that
+/// worked.
 bool syncFolderOf(const QString &path);
 
 } // namespace PosixFile

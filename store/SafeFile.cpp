@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int sMaxLinks = 40; // links may lead in a circle; the system gives up there, too
+constexpr int sMaxLinks = 40; // links may form a circle; the system has the same limit
 
-/// Where `path` leads to, whether or not a file is there.
+/// Returns the target of the link `path`, which need not exist.
 QString followLinks(QString path)
 {
     for (int i = 0; i < sMaxLinks && QFileInfo(path).isSymLink(); ++i) {
@@ -59,7 +59,7 @@ QByteArray SafeFile::load(Recovery *recovery)
     }
     const QByteArray found = SaveJournal::hash(text);
     if (found == entry.newHash) {
-        // The program may have died before the text that it wrote had reached the disk.
+        // The program may have ended before the text that it wrote was on the disk.
         if (syncFile())
             mJournal.remove();
         return text;
@@ -70,8 +70,8 @@ QByteArray SafeFile::load(Recovery *recovery)
         return text;
     }
     *recovery = Recovery::ReplayedInMemory;
-    // Before the file is touched the journal must be on the disk; a program that died while writing
-    // it has perhaps not come that far.
+    // The journal must be on the disk before the file is changed. A program that ended while it
+    // wrote the journal may not have synced it.
     if (open() && PosixFile::syncFolderOf(path()) && rewrite(entry.newText)) {
         mJournal.remove();
         *recovery = Recovery::Replayed;
@@ -81,8 +81,8 @@ QByteArray SafeFile::load(Recovery *recovery)
 
 bool SafeFile::rewrite(const QByteArray &text)
 {
-    // The cut reaches the disk before the text does: parts of both texts, side by side, could read
-    // as settings that nobody ever made.
+    // Syncs the truncation before the text is written: a mix of both texts on the disk could be
+    // valid JSON with settings that never existed.
     return mFile.resize(0) && PosixFile::sync(mFile.handle()) && mFile.seek(0)
            && mFile.write(text) == text.size() && PosixFile::sync(mFile.handle());
 }
@@ -90,7 +90,7 @@ bool SafeFile::rewrite(const QByteArray &text)
 QByteArray SafeFile::readFile()
 {
     QFile file(path());
-    // Reading another kind of file could block, or never end.
+    // Reading a pipe or a device could block or never end.
     if (!QFileInfo(file).isFile() || isTooLarge() || !file.open(QIODevice::ReadOnly))
         return QByteArray();
     return file.readAll();

@@ -6,41 +6,42 @@
 #include <QFile>
 #include <QString>
 
-/// A JSON file that is rewritten in place, so that links and permissions stay, and still holds the
-/// previous or the new text after a crash, a full disk or a loss of power at any instant: what does
-/// not stand in the file stands in the journal beside it, and loading puts it back.
+/// A JSON file that is rewritten in place, so that links and permissions are kept. After a crash, a
+/// full disk or a loss of power at any moment, loading still returns the previous or the new text:
+/// while the file is rewritten, a journal beside it contains the new text.
 class SafeFile
 {
 public:
     enum class Saved {
         Whole,
         JournalFailed, ///< the file is untouched
-        FileFailed     ///< the file is damaged, and the journal holds the new text
+        FileFailed     ///< the file is damaged, and the journal contains the new text
     };
 
     enum class Recovery {
-        None,             ///< the file's own text was loaded, and no journal stood beside it
-        Replayed,         ///< the journal's text was loaded, and written into the file
-        ReplayedInMemory, ///< the journal's text was loaded; the file could not be written
-        Dropped,          ///< the file's own text was loaded, and a damaged journal removed
-        KeptAside         ///< the same; the journal was of another text, and was renamed
+        None,             ///< the text of the file was loaded; there was no journal
+        Replayed,         ///< the text of the journal was loaded and written to the file
+        ReplayedInMemory, ///< the text of the journal was loaded; the file could not be written
+        Dropped,          ///< the text of the file was loaded, and a damaged journal removed
+        KeptAside         ///< the text of the file was loaded; the journal did not belong to it
+                          ///< and was renamed
     };
 
-    /// The file that `path` leads to through any links; the journal lies beside that file.
+    /// `path` may be a link: the file is the one that it points to, with the journal beside it.
     explicit SafeFile(const QString &path);
 
-    /// Opens the file for `save`, and creates it when it is missing. Returns false when that
-    /// failed, or when it is no regular file.
+    /// Opens the file for `save` and creates it if it is missing. Returns false if that fails or if
+    /// the file is not a regular one.
     bool open();
 
-    /// Replaces the content of the opened file by `text`, a JSON object.
+    /// Replaces the content of the open file with `text`, a JSON object.
     Saved save(const QByteArray &text);
 
-    /// Whether the file has more bytes than are ever read.
+    /// Returns whether the file is larger than `PosixFile::sMaxSize`.
     bool isTooLarge() const { return mFile.size() > PosixFile::sMaxSize; }
 
-    /// The text of the file, or of the journal when a save was interrupted. A file that cannot be
-    /// read, or is too large, counts as empty.
+    /// Returns the text of the file, or of the journal if a save was interrupted. A file that is
+    /// unreadable or too large counts as empty.
     QByteArray load(Recovery *recovery);
 
     QString path() const { return mFile.fileName(); }

@@ -14,7 +14,8 @@ constexpr char sMagic[] = "malto save journal 1\n";
 constexpr int sHeaderLines = 3;
 constexpr int sMaxHeaderSize = 1024;
 
-/// What the checksum covers: length of the text, hash of the old one, hash of the new one, text.
+/// Returns the part that the checksum covers: length of the new text, hash of the old text, hash of
+/// the new text, and the new text.
 QByteArray toBody(const SaveJournal::Entry &entry)
 {
     return QByteArray::number(entry.newText.size()) + '\n' + entry.oldHash + '\n' + entry.newHash
@@ -52,11 +53,11 @@ bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText,
     const QByteArray body = toBody({hash(oldText), hash(newText), newText});
     const QByteArray content = sMagic + hash(body) + '\n' + body;
 
-    // Written under another name: the journal of an earlier save that failed halfway may still be
-    // all that is left of the settings.
+    // Written under another name: if an earlier save failed halfway, its journal may be the only
+    // intact copy of the settings.
     const QString unfinished = mPath + QLatin1String(".new");
     QFile file;
-    const int descriptor = PosixFile::createAnew(unfinished, permissions);
+    const int descriptor = PosixFile::createNew(unfinished, permissions);
     if (descriptor == -1
         || !file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered,
                       QFileDevice::AutoCloseHandle))
@@ -77,7 +78,7 @@ SaveJournal::State SaveJournal::read(Entry *entry) const
     QFile file(mPath);
     if (!file.open(QIODevice::ReadOnly))
         return State::None;
-    // A longer one is cut here, and found to be damaged.
+    // A longer journal is truncated here, and then invalid.
     const QByteArray content = file.read(qMin(file.size(), PosixFile::sMaxSize + sMaxHeaderSize));
     if (!content.startsWith(sMagic))
         return State::None;
@@ -105,7 +106,7 @@ QByteArray SaveJournal::hash(const QByteArray &text)
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
 }
 
-/// In a folder where everybody may create files, a stranger's journal would change the settings.
+/// In a folder where every user may create files, another user's journal could change the settings.
 bool SaveJournal::isOurs() const
 {
     const QFileInfo info(mPath);

@@ -3,40 +3,40 @@
 #include <QFile>
 #include <QString>
 
-/// The redo journal of one file: what the file is about to hold, kept beside it while it is being
-/// rewritten. Its format is described in docs/file-formats.md.
+/// The redo journal of a file: the new content of the file, kept beside it while it is rewritten.
+/// docs/file-formats.md describes the format.
 class SaveJournal
 {
 public:
     struct Entry
     {
-        QByteArray oldHash; ///< of what the file held
+        QByteArray oldHash; ///< of the previous content of the file
         QByteArray newHash; ///< of `newText`
-        QByteArray newText; ///< what the file is to hold
+        QByteArray newText; ///< the new content of the file
     };
 
     enum class State {
-        None,    ///< no journal, or a file of that name that is none of ours
-        Invalid, ///< a journal that was damaged
+        None,    ///< no journal, or a file of that name from another program or user
+        Invalid, ///< a damaged journal
         Valid
     };
 
-    /// The journal beside the file `filePath`, which is no link.
+    /// The journal is beside the file `filePath`, which must not be a link.
     explicit SaveJournal(const QString &filePath);
 
     QString path() const { return mPath; }
 
-    /// Puts a journal in place, on the disk, as readable as `permissions` say. Returns false when
-    /// that failed; then no half-written journal has taken the place of another one.
+    /// Writes the journal with `permissions` and waits until it is on the disk. Returns false if
+    /// that fails. An existing journal is replaced by a complete one or not at all.
     bool write(const QByteArray &oldText, const QByteArray &newText,
                QFile::Permissions permissions) const;
 
-    /// Reads the journal into `entry`, which stays as it is unless the journal is valid.
+    /// Reads the journal into `entry`, which stays unchanged if the journal is not valid.
     State read(Entry *entry) const;
 
     void remove() const;
 
-    /// Renames the journal, so that it is looked at no more, but can be by a person.
+    /// Renames the journal, so that it is no longer read, but the user still has it.
     void keepAside() const;
 
     static QByteArray hash(const QByteArray &text);
