@@ -13,12 +13,12 @@
 
 namespace MtConf {
 
-/// A list whose elements keep their addresses for as long as they are in it, whatever is added,
-/// moved or removed beside them. Each element is allocated by itself.
+/// A list whose elements keep their addresses as long as they are in it, when other elements are
+/// added, moved or removed. Each element is allocated separately.
 ///
 /// It has the functions of `QList` that a list of declarations needs, with the same names and
-/// meanings. Unlike a `QList`, a copy has elements of its own at once. An index out of range is an
-/// error of the caller, as with `QList`.
+/// behaviour. Unlike a copy of a `QList`, a copy never shares its elements. As with `QList`, an
+/// index must be in range.
 ///
 /// @see ItemList
 /// @since 0.1
@@ -26,7 +26,7 @@ template<class T> class StableList
 {
     using Elements = std::vector<std::unique_ptr<T>>;
 
-    /// Walks through the elements, not through the pointers to them.
+    /// Iterates over the elements, not over the pointers to them.
     template<class Element, class Position> class Iterator
     {
     public:
@@ -38,7 +38,7 @@ template<class T> class StableList
 
         Iterator() = default;
         explicit Iterator(Position position) : mPosition(position) {}
-        /// An iterator that changes elements is one that reads them, too.
+        /// Converts an iterator to a const iterator.
         template<class Other, class OtherPosition>
         Iterator(const Iterator<Other, OtherPosition> &other) : mPosition(other.position())
         {
@@ -94,9 +94,9 @@ public:
     using difference_type = qptrdiff;  ///< the type of a distance between iterators
     using reference = T &;             ///< an element
     using const_reference = const T &; ///< an element to read
-    using iterator = Iterator<T, typename Elements::iterator>; ///< goes through the elements
+    using iterator = Iterator<T, typename Elements::iterator>; ///< iterates over the elements
     using const_iterator =
-        Iterator<const T, typename Elements::const_iterator>; ///< goes through them to read
+        Iterator<const T, typename Elements::const_iterator>; ///< the same, read-only
 
     /// An empty list.
     StableList() = default;
@@ -113,15 +113,16 @@ public:
         for (const T &element : other)
             append(element);
     }
-    /// Takes over the elements of `other`, which keep their addresses, and leaves it empty.
+    /// Moves the elements of `other`, which keep their addresses, and leaves it empty.
     StableList(StableList &&other) noexcept : mElements(std::exchange(other.mElements, {})) {}
-    /// Replaces the elements by copies of those of `other`.
+    /// Replaces the elements with copies of those of `other`.
     StableList &operator=(const StableList &other)
     {
         StableList(other).swap(*this);
         return *this;
     }
-    /// Replaces the elements by those of `other`, which keep their addresses, and leaves it empty.
+    /// Replaces the elements with those of `other`, which keep their addresses, and leaves it
+    /// empty.
     StableList &operator=(StableList &&other) noexcept
     {
         StableList(std::move(other)).swap(*this);
@@ -178,7 +179,7 @@ public:
     void removeAt(size_type index)
     {
         Q_ASSERT(index >= 0 && index < size());
-        // Out of the list before it is destroyed: its destructor may look at the list.
+        // Removed from the list before it is destroyed: its destructor may use the list.
         const auto removed = std::move(element(index));
         mElements.erase(mElements.begin() + index);
     }
@@ -203,7 +204,7 @@ public:
         mElements.erase(mElements.begin() + from);
         mElements.insert(mElements.begin() + to, std::move(moved));
     }
-    /// Exchanges the places of two elements.
+    /// Exchanges the positions of two elements.
     void swapItemsAt(size_type i, size_type j) { std::swap(element(i), element(j)); }
     /// Exchanges the elements of two lists, which keep their addresses.
     void swap(StableList &other) noexcept { mElements.swap(other.mElements); }
