@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
+#include "HostCode_p.h"
+
 #include <QAbstractButton>
 #include <QDebug>
 #include <QLabel>
@@ -57,37 +59,19 @@ void ConfigItemWidget::logNoItem()
 }
 
 ConfigItemWidget::Writing::Writing(ConfigItemWidget *editor)
-    : mEditor(editor), mOuter(editor->mWriting)
+    : mEditor(editor), mScope(std::make_unique<HostCodeScope>(editor->mHostCode))
 {
-    editor->mWriting = this;
+    ++editor->mWrites;
 }
 
 ConfigItemWidget::Writing::~Writing()
 {
     if (mEditor)
-        mEditor->mWriting = mOuter;
-    for (const QPointer<QWidget> &control : qAsConst(mControls)) {
-        if (control)
-            control->deleteLater();
-    }
+        --mEditor->mWrites;
 }
 
-void ConfigItemWidget::Writing::takeControls(const QList<QWidget *> &controls)
-{
-    // Hand the controls to the outermost scope, which ends last.
-    if (mOuter) {
-        mOuter->takeControls(controls);
-        return;
-    }
-    for (QWidget *control : controls) {
-        control->disconnect(mEditor);
-        control->hide();
-        control->setParent(nullptr);
-        mControls.append(control);
-    }
-}
-
-ConfigItemWidget::ConfigItemWidget(ConfItem *item, QWidget *parent) : QFrame(parent), mItem(item)
+ConfigItemWidget::ConfigItemWidget(ConfItem *item, QWidget *parent)
+    : QFrame(parent), mItem(item), mHostCode(HostCode::of(this))
 {
     mItem->editor = this;
     if (mItem->auxCallback)
@@ -105,13 +89,22 @@ ConfigItemWidget::~ConfigItemWidget()
     // A rebuilt page may already show the item in another editor.
     if (mItem->editor == this)
         mItem->editor = nullptr;
-    if (!mWriting)
-        return;
+    // The host may delete the editor in a callback.
+    if (isWriting())
+        leaveControls();
+}
+
+void ConfigItemWidget::leaveControls()
+{
     QList<QWidget *> controls = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     // A control that is the caption may have another parent.
     if (mLabel && mLabel->parent() != this)
         controls.append(mLabel);
-    mWriting->takeControls(controls);
+    for (QWidget *control : qAsConst(controls)) {
+        control->disconnect(this);
+        control->setParent(nullptr);
+        mHostCode->deleteWidget(control);
+    }
 }
 
 QWidget *ConfigItemWidget::label()

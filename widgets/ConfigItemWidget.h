@@ -8,7 +8,12 @@
 #include <QList>
 #include <QPointer>
 
+#include <memory>
+
 namespace MtConf {
+
+class HostCode;
+class HostCodeScope;
 
 /// The base class of all editors of the settings window. An editor edits one item.
 ///
@@ -53,7 +58,7 @@ public:
 
     /// Returns whether this editor is storing a value. Callbacks run meanwhile; code that wants to
     /// delete the editor then must defer it.
-    bool isWriting() const { return mWriting; }
+    bool isWriting() const { return mWrites > 0; }
 
     /// Whether editors that are created from now on can be used with the keyboard alone:
     /// multi-select combo boxes open on Alt+Down, F4 and Space, and Backspace and Delete clear a
@@ -101,8 +106,7 @@ protected:
 
 private:
     /// Exists while the editor stores a value. The control that the value comes from is handling an
-    /// event then. If a callback deletes the editor, the controls are kept here until the store
-    /// returns, which may include a dialog of the host.
+    /// event then, so its deletion and that of the editor's page wait.
     class MALTO_EXPORT Writing
     {
     public:
@@ -111,18 +115,18 @@ private:
         Q_DISABLE_COPY(Writing)
 
         bool hasEditor() const { return mEditor; }
-        void takeControls(const QList<QWidget *> &controls);
 
     private:
         const QPointer<ConfigItemWidget> mEditor;
-        Writing *const mOuter;
-        QList<QPointer<QWidget>> mControls;
+        const std::unique_ptr<HostCodeScope> mScope;
     };
 
     static void logNoItem();
+    void leaveControls();
 
+    const std::shared_ptr<HostCode> mHostCode;
     QJsonValue mInitialValue;
-    Writing *mWriting = nullptr;
+    int mWrites = 0;
 };
 
 } // namespace MtConf

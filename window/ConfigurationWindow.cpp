@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -14,9 +15,6 @@
 #include <QMessageBox>
 #include <QPersistentModelIndex>
 #include <QStandardItemModel>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace MtConf {
 
@@ -30,8 +28,8 @@ QMap<QString, QChar> ConfigurationWindow::mIconMap;
 
 ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 {
-    if (sWindow && sWindow->isGoing())
-        sWindow->giveWay();
+    if (sWindow && sWindow->isClosed())
+        sWindow->resign();
     if (ConfigurationWindow *window = ConfigurationWindow::instance()) {
         if (window->isMinimized())
             window->showNormal();
@@ -57,7 +55,7 @@ ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 void setStaysOnTopHint(bool on)
 {
     ConfigurationWindow *window = ConfigurationWindow::instance();
-    if (!window || window->isGoing())
+    if (!window || window->isClosed())
         return;
     SetWindowTopmost(window, on, OrvWindowTypeSettings);
     window->show();
@@ -67,6 +65,7 @@ void setStaysOnTopHint(bool on)
 ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager)
 {
+    mHostCode = HostCode::of(this);
     // Known from here on: the first page is built below, by code of the host that may ask for it.
     if (!sWindow)
         sWindow = this;
@@ -93,60 +92,42 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
     retranslateUi();
 
-    const QPersistentModelIndex first = mClassModel->index(0, 0);
-    const QPointer<ConfigurationWindow> self(this);
-    mUi->configList->setCurrentIndex(first);
-    if (self)
-        onClassItemClick(first);
+    openPage(mClassModel->index(0, 0));
 }
 
 ConfigurationWindow::~ConfigurationWindow()
 {
-    if (!mGaveWay)
+    if (!mHasResigned)
         saveGeometryToFile();
     if (sWindow == this)
         sWindow = nullptr;
+    // Nothing builds a page from here on. The editors are deleted while the items that they use
+    // exist, which may be those in mDetachedItems.
+    mManager = nullptr;
+    while (QWidget *child = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        delete child;
 }
 
-bool ConfigurationWindow::isGoing() const
+bool ConfigurationWindow::isClosed() const
 {
     return !testAttribute(Qt::WA_DeleteOnClose) && !isVisible();
 }
 
-void ConfigurationWindow::giveWay()
+void ConfigurationWindow::resign()
 {
     saveGeometryToFile();
-    mGaveWay = true;
+    mHasResigned = true;
     if (sWindow == this)
         sWindow = nullptr;
 }
 
-bool ConfigurationWindow::runsHostCode() const
+void ConfigurationWindow::detachManager(std::shared_ptr<const void> items)
 {
-    const QList<QWidget *> widgets = findChildren<QWidget *>();
-    return mHostCode > 0
-           || std::any_of(widgets.cbegin(), widgets.cend(), [](const QWidget *widget) {
-                  const auto *editor = dynamic_cast<const ConfigItemWidget *>(widget);
-                  return editor && editor->isWriting();
-              });
-}
-
-void ConfigurationWindow::managerIsGoing(const QList<QList<ConfItem>> &items)
-{
-    const QPointer<ConfigurationWindow> self(this);
-    close();
-    if (!self)
-        return;
-    if (!mBuildingPage && !runsHostCode()) {
-        delete this;
-        return;
-    }
-    if (!mGaveWay)
-        giveWay();
+    if (!mHasResigned)
+        resign();
     mManager = nullptr;
-    // The copy shares the manager's items, and a connection goes after the last editor.
-    connect(this, &QObject::destroyed, [items] {});
-    deleteLater();
+    mDetachedItems = std::move(items);
+    mHostCode->deleteWidget(this);
 }
 
 ConfigurationWindow *ConfigurationWindow::instance()
@@ -162,22 +143,28 @@ void ConfigurationWindow::switchToView(QString className)
         if (index.data(ClassNameRole).toString() == className)
             found = index;
     }
+    openPage(found);
+}
+
+void ConfigurationWindow::openPage(const QPersistentModelIndex &index)
+{
     const QPointer<ConfigurationWindow> self(this);
-    const QPersistentModelIndex index = found;
     mUi->configList->setCurrentIndex(index);
+    // If the row was not current yet, its page is built twice: by onClassItemChange() and here.
+    // Hosts see both in the calls of their factories, so it stays.
     if (self)
         onClassItemClick(index);
 }
 
 bool ConfigurationWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::DeferredDelete && (mBuildingPage || runsHostCode())) {
-        // A dialog of the host has an event loop of its own, above the control that opened it.
-        QTimer::singleShot(sWaitForHost, this, &QObject::deleteLater);
+    // A dialog that host code opens in a callback has an event loop of its own.
+    if (event->type() == QEvent::DeferredDelete && mHostCode->isRunning()) {
+        mHostCode->deleteWidget(this);
         return true;
     }
-    // Changes of language, font and style are passed on from here to the editors.
-    const HostCode running(this);
+    // Changes of language, font and style reach the editors from here.
+    const HostCodeScope scope(mHostCode);
     return QMainWindow::event(event);
 }
 
@@ -201,7 +188,7 @@ void ConfigurationWindow::restorePageDefault()
     // A callback may rebuild the page, which deletes editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
     {
-        const HostCode running(this);
+        const HostCodeScope scope(mHostCode);
         const QList<QPointer<ConfigItemWidget>> editors = mEditors;
         for (const QPointer<ConfigItemWidget> &editor : editors) {
             if (editor)
@@ -218,7 +205,7 @@ void ConfigurationWindow::restoreAllDefault()
         return;
     const QPointer<ConfigurationWindow> self(this);
     {
-        const HostCode running(this);
+        const HostCodeScope scope(mHostCode);
         mManager->restoreAllDefault();
     }
     if (self)

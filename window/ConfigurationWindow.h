@@ -27,6 +27,7 @@ namespace MtConf {
 class ConfItem;
 class ConfigItemWidget;
 class ConfigurationWindow;
+class HostCode;
 class MtConfManage;
 
 /// Shows the settings window of `manager`: the existing window, restored if it is minimised and
@@ -55,16 +56,18 @@ class MALTO_EXPORT ConfigurationWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Builds the window of `manager`, which must outlive the window. Without one the window is
-    /// empty, and the critical message "ConfigurationWindow without a manager" says so. Hosts call
-    /// `MtConfManage::ShowWindow` instead.
+    /// Builds the window of `manager`. A manager that is destroyed while the window exists closes
+    /// it and deletes it. With a null manager the window is empty, and the critical message
+    /// "ConfigurationWindow without a manager" is logged. Hosts call `MtConfManage::ShowWindow`
+    /// instead.
     explicit ConfigurationWindow(MtConfManage *manager);
     ~ConfigurationWindow() override;
 
     /// The one settings window, or null.
     static ConfigurationWindow *instance();
 
-    /// The manager that the window shows, or null when it has gone: the window is about to go too.
+    /// Returns the manager that the window shows. Null if there is none, or if it was destroyed
+    /// while host code was running: the window is then closed and about to be deleted.
     MtConfManage *manager() const { return mManager; }
 
     /// Makes the class of that name current and shows its page; an unknown name shows an empty
@@ -86,7 +89,7 @@ public Q_SLOTS:
     void restoreAllDefault();
 
 protected:
-    /// Puts its own deletion off while code of the host runs that the window has called.
+    /// Delays a deferred deletion of the window while host code is on the stack.
     bool event(QEvent *event) override;
     /// Has the manager save.
     void closeEvent(QCloseEvent *event) override;
@@ -97,34 +100,15 @@ private:
     friend class MtConfManage;
 
     static constexpr int ClassNameRole = Qt::UserRole + 1;
-    static constexpr int sWaitForHost = 20; // milliseconds
 
-    /// Code of the host runs while one lives, or may. The page that it takes away, or the window,
-    /// goes when it has returned: a control of it may still handle the event that all began with.
-    class HostCode
-    {
-    public:
-        explicit HostCode(ConfigurationWindow *window) : mWindow(window) { ++window->mHostCode; }
-        ~HostCode()
-        {
-            if (mWindow)
-                --mWindow->mHostCode;
-        }
-        Q_DISABLE_COPY(HostCode)
+    /// Deletes the closed window, at once unless host code is on the stack. `items` keeps the items
+    /// of the destroyed manager alive until the last editor is deleted.
+    void detachManager(std::shared_ptr<const void> items);
 
-    private:
-        const QPointer<ConfigurationWindow> mWindow;
-    };
-
-    /// Whether code of the host runs that was called from a control of the window.
-    bool runsHostCode() const;
-    /// Closes the window and deletes it, at once if that is safe. Editors that must live a little
-    /// longer have `items`, the manager's, until then.
-    void managerIsGoing(const QList<QList<ConfItem>> &items);
-
-    /// Closed in this turn of the event loop, and about to be deleted.
-    bool isGoing() const;
-    void giveWay();
+    /// Returns whether the window is closed and waits for its deletion.
+    bool isClosed() const;
+    /// Saves the geometry and makes room for a new window, while this one waits for its deletion.
+    void resign();
     void initConfigClassList();
     void initAppearance();
     void applyDefaultGeometry();
@@ -133,6 +117,7 @@ private:
     double screenScale() const;
     static QString translatedName(const QString &name);
 
+    void openPage(const QPersistentModelIndex &index);
     void onClassItemChange(const QModelIndex &current, const QModelIndex &previous);
     void onClassItemClick(const QModelIndex &index);
     void buildPage(const QString &className);
@@ -144,24 +129,23 @@ private:
     bool isShown(ConfItem *item) const;
     void addClassLabel(const QString &caption);
     void clearConfigItem();
-    void deleteOldPages();
 
     bool confirm(const QString &question);
     void rebuildPage();
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;
+    std::shared_ptr<HostCode> mHostCode;
     MtConfManage *mManager;
+    std::shared_ptr<const void> mDetachedItems;
     QStandardItemModel *mClassModel = nullptr;
     QList<QPointer<ConfigItemWidget>> mEditors;
     QList<QLabel *> mClassCaptions;
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
-    QList<QPointer<QWidget>> mOldPages;
     QPersistentModelIndex mNextPage;
-    int mHostCode = 0;
     bool mBuildingPage = false;
     bool mIsNextPageWanted = false;
-    bool mGaveWay = false;
+    bool mHasResigned = false;
 };
 
 } // namespace MtConf

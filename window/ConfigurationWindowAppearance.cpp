@@ -1,9 +1,10 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "MaltoConfiguration/widgets/HostCode_p.h"
+#include "WindowGeometryFile_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
-#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
 
 #include <OrvUtils/OrvScreenManager.h>
 #include <OrvUtils/QThemeCtrl.h>
@@ -101,7 +102,7 @@ void ConfigurationWindow::saveGeometryToFile() const
 
 void ConfigurationWindow::loadQss()
 {
-    const HostCode running(this);
+    const HostCodeScope scope(mHostCode);
     mScale = screenScale();
     setQssForWidget(this, mScale);
     refreshItemIcon();
@@ -143,7 +144,7 @@ void ConfigurationWindow::retranslateUi()
 {
     mUi->retranslateUi(this);
     // An editor of the host may open another page, or close the window.
-    const HostCode running(this);
+    const HostCodeScope scope(mHostCode);
     const QList<QPointer<ConfigItemWidget>> editors = mEditors;
     for (const QPointer<ConfigItemWidget> &editor : editors) {
         if (editor)

@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -11,7 +12,7 @@
 #include <QPersistentModelIndex>
 #include <QTimer>
 
-#include <utility>
+#include <memory>
 
 namespace MtConf {
 
@@ -29,18 +30,20 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
     if (!mManager)
         return;
     if (mBuildingPage) {
-        // Code of the host that builds part of the page has asked for another page: afterwards.
+        // Host code that builds part of the page asks for another one: it is built afterwards.
         mNextPage = index;
         mIsNextPageWanted = true;
         return;
     }
-    // Building runs code of the host, which may take the window away.
+    // Host code that builds part of the page may delete the window.
     const QPointer<ConfigurationWindow> self(this);
     const QString className = index.data(ClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
-    if (self && mManager)
+    if (self && mManager) {
+        const HostCodeScope scope(mHostCode);
         buildPage(className);
+    }
     if (!self)
         return;
     mBuildingPage = false;
@@ -208,34 +211,10 @@ void ConfigurationWindow::orderTabs()
 
 void ConfigurationWindow::clearConfigItem()
 {
-    // Editors go at once. Only if code of the host asks for another page, called from a control of
-    // the old one, that control still runs below us and has to live a little longer.
-    const bool inUse = runsHostCode();
-    while (QLayoutItem *item = mUi->layoutConfigItem->takeAt(0)) {
-        QWidget *widget = item->widget();
-        if (widget && inUse) {
-            widget->hide();
-            mOldPages.append(widget);
-        } else {
-            delete widget;
-        }
-        delete item;
-    }
     mEditors.clear();
     mClassCaptions.clear();
-    if (inUse)
-        QTimer::singleShot(0, this, &ConfigurationWindow::deleteOldPages);
-}
-
-void ConfigurationWindow::deleteOldPages()
-{
-    if (runsHostCode()) {
-        QTimer::singleShot(sWaitForHost, this, &ConfigurationWindow::deleteOldPages);
-        return;
-    }
-    const QList<QPointer<QWidget>> pages = std::exchange(mOldPages, {});
-    for (const QPointer<QWidget> &page : pages)
-        delete page;
+    while (const auto item = std::unique_ptr<QLayoutItem>(mUi->layoutConfigItem->takeAt(0)))
+        mHostCode->deleteWidget(item->widget());
 }
 
 } // namespace MtConf

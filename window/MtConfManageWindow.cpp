@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace MtConf {
 
 MtConfManage::~MtConfManage()
@@ -21,7 +23,14 @@ MtConfManage::~MtConfManage()
     }
     for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
         if (window)
-            window->managerIsGoing(mSharedItems + QList<QList<ConfItem>>{items});
+            window->close();
+    }
+    // Moved, not copied, so that the items keep their addresses.
+    using Items = std::pair<ItemList<ConfItem>, QList<ItemList<ConfItem>>>;
+    const auto kept = std::make_shared<Items>(std::move(items), std::move(mSharedItems));
+    for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
+        if (window)
+            window->detachManager(kept);
     }
 }
 

@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/window/WindowGeometryFile_p.h>
+#include "WindowGeometryFile_p.h"
 
 #include <QDebug>
 #include <QFile>

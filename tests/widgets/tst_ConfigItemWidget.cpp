@@ -103,6 +103,7 @@ private Q_SLOTS:
     void storeValueWritesEvenTheStoredValue();
     void isWritingIsTrueWhileCallbacksRun();
     void editorDeletedByACallbackIsNotAccessed();
+    void controlsOfADeletedEditorLiveUntilItsWriteReturns();
     void factoryWithoutAnItemReturnsNull_data();
     void factoryWithoutAnItemReturnsNull();
 
@@ -269,6 +270,25 @@ void tst_ConfigItemWidget::editorDeletedByACallbackIsNotAccessed()
     QVERIFY(!made->write(2));
     QVERIFY(!mItem->editor);
     QCOMPARE(mValue, 2);
+}
+
+void tst_ConfigItemWidget::controlsOfADeletedEditorLiveUntilItsWriteReturns()
+{
+    PlainEditor *made = editor();
+    const QPointer<QWidget> control = new QPushButton(made);
+    const QPointer<QWidget> caption = new QPushButton(&mFixture->parent);
+    made->useAsLabel(caption);
+    QVERIFY(mFixture->show());
+    bool areThere = false;
+    mItem->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        delete made;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        areThere = control && !control->isVisible() && caption && !caption->isVisible();
+    });
+    QVERIFY(!made->write(2));
+    QVERIFY(areThere);
+    QTRY_VERIFY(!control);
+    QVERIFY(!caption);
 }
 
 void tst_ConfigItemWidget::factoryWithoutAnItemReturnsNull_data()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void itemDeclaredLaterAppearsWhenThePageIsBuiltAgain();
     void callbackMayOpenAnotherPage_fromACheckBox();
     void callbackMayOpenAnotherPage_fromASpinBox();
+    void editorLivesUntilTheCallbackThatReplacesItsPageReturns();
     void callbackMayCloseTheWindow();
     void factoryMayOpenAnotherPage();
     void factoryMayDeleteTheWindow_data();
@@ -365,13 +366,36 @@ void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
     QTRY_COMPARE(mFixture->window()->findChildren<QSpinBox *>().size(), 1);
 }
 
+void tst_ConfigurationWindowPage::editorLivesUntilTheCallbackThatReplacesItsPageReturns()
+{
+    const ConfItem *item = addBool("a");
+    addBool("b", "", "Other");
+    QPointer<QWidget> editor;
+    bool isHidden = false;
+    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        editor = item->editor;
+        mFixture->manager->ShowWindow("Other");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        isHidden = editor && !editor->isVisible();
+    });
+    mFixture->open();
+    mFixture->clickBox(mFixture->checkBox(item));
+    QVERIFY(isHidden);
+    QTRY_VERIFY(!editor);
+}
+
 void tst_ConfigurationWindowPage::callbackMayCloseTheWindow()
 {
     const ConfItem *item = addBool("a");
-    item->setConfChangedCallback(
-        [&](const QString &, const ConfValue *) { mFixture->manager->closeConfigWindow(); });
+    bool isWindowThere = false;
+    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        mFixture->manager->closeConfigWindow();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        isWindowThere = mFixture->window();
+    });
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(item));
+    QVERIFY(isWindowThere);
     QTRY_VERIFY(!mFixture->window());
     QVERIFY(!*mFlags.at(0));
 }
