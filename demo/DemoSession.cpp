@@ -15,18 +15,10 @@
 #include <QxtGlobalShortcut>
 
 #include <QApplication>
-#include <QListView>
 #include <QPalette>
 #include <QTimer>
 
 namespace {
-
-/// The name of the page that the settings window shows.
-QString shownPage(const MtConf::ConfigurationWindow *window)
-{
-    const auto *list = window->findChild<QListView *>(QStringLiteral("configList"));
-    return list ? list->currentIndex().data(Qt::UserRole + 1).toString() : QString();
-}
 
 /// The hotkey of `item`, null when it has none.
 QxtGlobalShortcut *shortcutOf(const MtConf::ConfItem &item)
@@ -175,7 +167,7 @@ void DemoSession::showTheme(int theme)
 void DemoSession::rebuildPageOf(const MtConf::ConfItem *changed)
 {
     MtConf::ConfigurationWindow *window = MtConf::ConfigurationWindow::instance();
-    if (!window || shownPage(window) != changed->majorName)
+    if (!window || window->currentClass() != changed->majorName)
         return;
     window->switchToView(changed->majorName);
     // Whoever works with the keyboard goes on from the switch.

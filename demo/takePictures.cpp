@@ -12,7 +12,6 @@
 #include <QEvent>
 #include <QImage>
 #include <QPixmap>
-#include <QScrollArea>
 #include <QTextStream>
 
 namespace {
@@ -33,18 +32,6 @@ QImage settledPicture(QWidget *window)
         picture = next;
     }
     return picture;
-}
-
-/// Makes the window as large as the shown page needs.
-void fitToPage(QWidget *window)
-{
-    const auto *area = window->findChild<QScrollArea *>(QStringLiteral("scrollArea"));
-    if (!area || !area->widget())
-        return;
-    const QSize missing = (area->widget()->size() - area->viewport()->size())
-                              .expandedTo(QSize(0, 0));
-    if (!missing.isNull())
-        window->resize(window->size() + missing);
 }
 
 QString save(const QImage &picture, const QString &path)
@@ -75,7 +62,7 @@ QString takePictures(DemoSession &session, QWidget &mainWindow, const QString &f
             window->resize(size);
             window->switchToView(page);
             settledPicture(window);
-            fitToPage(window);
+            window->fitToPage();
             const QString name = page.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
             error = save(settledPicture(window), path.arg(name));
         }

@@ -56,8 +56,8 @@ public:
     /// when it builds the page and after a language change.
     void describeControls(const QString &group);
 
-    /// Returns whether this editor is storing a value. Callbacks run meanwhile; code that wants to
-    /// delete the editor then must defer it.
+    /// Returns whether this editor is storing a value, and callbacks may be running. If a callback
+    /// deletes the editor, its controls are deleted later, after their events are handled.
     bool isWriting() const { return mWrites > 0; }
 
     /// Whether editors that are created from now on can be used with the keyboard alone:

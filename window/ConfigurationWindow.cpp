@@ -135,6 +135,18 @@ ConfigurationWindow *ConfigurationWindow::instance()
     return sWindow;
 }
 
+QString ConfigurationWindow::currentClass() const
+{
+    return mUi->configList->currentIndex().data(ClassNameRole).toString();
+}
+
+void ConfigurationWindow::fitToPage()
+{
+    const QSize missing = mUi->gboxConfigBoard->minimumSizeHint()
+                          - mUi->scrollArea->viewport()->size();
+    resize(size() + missing.expandedTo(QSize(0, 0)));
+}
+
 void ConfigurationWindow::switchToView(QString className)
 {
     QModelIndex found;

@@ -74,6 +74,14 @@ public:
     /// page.
     void switchToView(QString className);
 
+    /// Returns the name, not translated, of the class that is selected in the list and whose page
+    /// is shown. Empty if there is none, as after switchToView() with an unknown name.
+    QString currentClass() const;
+
+    /// Enlarges the window until the shown page fits without scrolling, even if the window then
+    /// exceeds the screen. Call it after the page has been laid out, which the event loop does.
+    void fitToPage();
+
     /// The icon font's glyph of each class, by class name; a class without one has no icon.
     static QMap<QString, QChar> mIconMap;
 

@@ -3,6 +3,7 @@
 #include "support/WindowFixture.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardItemModel>
 
 using MtConf::ConfigurationWindow;
@@ -32,6 +33,9 @@ private Q_SLOTS:
     void arrowKeysMoveThroughTheClasses();
     void switchToView_opensTheFirstPageOfThatName();
     void switchToView_withUnknownNameShowsAnEmptyPage();
+    void currentClassFollowsTheSelection();
+    void fitToPage_leavesNothingToScroll();
+    void fitToPage_keepsAWindowThatIsLargeEnough();
     void clickChangesTheVariable();
     void restorePage_answeredNoChangesNothing();
     void restorePage_answeredYesRestoresThisPageOnly();
@@ -172,6 +176,41 @@ void tst_ConfigurationWindow::switchToView_withUnknownNameShowsAnEmptyPage()
     QVERIFY(log.texts(QtWarningMsg).contains("major class not exist:  \"\""));
     window->switchToView("General");
     QVERIFY(mFirstItem->editor);
+}
+
+void tst_ConfigurationWindow::currentClassFollowsTheSelection()
+{
+    const LogCapture log;
+    ConfigurationWindow *window = mFixture->open();
+    QCOMPARE(window->currentClass(), QString("General"));
+    mFixture->clickClass(1);
+    QCOMPARE(window->currentClass(), QString("Other"));
+    window->switchToView("unknown");
+    QCOMPARE(window->currentClass(), QString());
+}
+
+void tst_ConfigurationWindow::fitToPage_leavesNothingToScroll()
+{
+    for (int i = 0; i < 100; ++i)
+        mFixture->manager->addConfBool("Flag", &mFirst, "General", QString::number(i));
+    ConfigurationWindow *window = mFixture->open();
+    const auto *area = mFixture->child<QScrollArea>("scrollArea");
+    QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+    const int width = window->width();
+    window->fitToPage();
+    QTRY_COMPARE(area->verticalScrollBar()->maximum(), 0);
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(window->width(), width);
+}
+
+void tst_ConfigurationWindow::fitToPage_keepsAWindowThatIsLargeEnough()
+{
+    ConfigurationWindow *window = mFixture->open();
+    window->resize(900, 700);
+    QTRY_COMPARE(window->size(), QSize(900, 700));
+    window->fitToPage();
+    QCoreApplication::processEvents();
+    QCOMPARE(window->size(), QSize(900, 700));
 }
 
 void tst_ConfigurationWindow::clickChangesTheVariable()

@@ -286,6 +286,7 @@ void tst_ConfigurationWindowAppearance::languageChangeUpdatesEveryText()
     QCOMPARE(mFixture->restoreAllButton()->text(), QString("[Restore All Default]"));
     QCOMPARE(mFixture->restorePageButton()->text(), QString("[Restore Default]"));
     QCOMPARE(row(0)->text(), QString("[General]"));
+    QCOMPARE(window->currentClass(), QString("General"));
     QCOMPARE(mFixture->captions(), (QStringList{"[General]", "[Group]"}));
     QCOMPARE(mFixture->checkBox(mItem)->text(), QString("[Flag]"));
     mFixture->window()->switchToView("General");
