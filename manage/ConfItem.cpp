@@ -40,11 +40,6 @@ ConfItem &ConfItem::operator=(const ConfItem &other)
     return *this;
 }
 
-ConfItem::~ConfItem()
-{
-    ++sRevision;
-}
-
 // A callback may destroy the item whose function is running. So no function reads a member of the
 // item after it has called the store, and sub-items are iterated in a copy, which shares their
 // data.

@@ -53,8 +53,6 @@ public:
     ConfItem(const ConfItem &other);
     /// Copies every field. The keys of both items stay reserved.
     ConfItem &operator=(const ConfItem &other);
-    /// The key stays reserved.
-    ~ConfItem();
 
     /// Returns the key of the item in the store and in files: the names joined by ".", `subName`
     /// only if it is not empty. A "." within a name is not escaped. Such an item is not found when

@@ -35,7 +35,7 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
     if (isStale())
         rebuild();
     Index index = mFirst.value(fullName, -1);
-    // Swapping items within the list does not copy or destroy any; it is noticed only here.
+    // Swapping items within the list copies and assigns none; it is noticed only here.
     if (index >= 0
         && (!isInFiles(mItems.at(index)) || mItems.at(index).getFullName() != fullName)) {
         rebuild();

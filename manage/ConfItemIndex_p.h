@@ -9,8 +9,9 @@ namespace MtConf {
 
 class ConfItem;
 
-/// Returns how often items were copied, assigned or destroyed. While this number and the size of a
-/// list stay the same, its items change only if they are swapped or if single fields are assigned.
+/// Returns how often items were copied or assigned, which puts an item into a list. While this
+/// number and the size of a list stay the same, its items change only if they are swapped or if
+/// single fields are assigned.
 quint64 itemRevision();
 
 /// Finds items of a list by the names of members of a configuration file, in constant time. It is
