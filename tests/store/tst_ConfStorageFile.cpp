@@ -35,6 +35,7 @@ private Q_SLOTS:
     void saveStaysPendingIfTheFileCannotBeOpened();
     void fileIsRewrittenInPlace();
     void shorterContentTruncatesTheFile();
+    void newFileHasThePermissionsThatTheUmaskAllows();
     void fileIsNotTruncatedBeforeTheTextIsComposed();
     void failedOpeningIsLoggedBeforeTheDump();
     void unreadableButWritableFileIsSaved();
@@ -220,6 +221,20 @@ void tst_ConfStorageFile::shorterContentTruncatesTheFile()
     change(8, 100);
     mStore->saveToLocalConfFile();
     QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":8}}"));
+}
+
+void tst_ConfStorageFile::newFileHasThePermissionsThatTheUmaskAllows()
+{
+    for (const mode_t mask : {0000u, 0027u}) {
+        QFile::remove(path());
+        change(8, 100);
+        const mode_t previous = ::umask(mask);
+        mStore->saveToLocalConfFile();
+        ::umask(previous);
+        struct stat status = {};
+        QCOMPARE(::stat(qPrintable(path()), &status), 0);
+        QCOMPARE(status.st_mode & 0777u, 0666u & ~mask);
+    }
 }
 
 namespace {
