@@ -40,13 +40,13 @@ ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
         qCritical() << "ShowConfigurationWindow without a manager";
         return nullptr;
     }
-    // Qt ends the process at the first widget then.
+    // Qt aborts the process at the first widget without one.
     if (!qobject_cast<QApplication *>(QCoreApplication::instance())) {
         qCritical() << "ShowConfigurationWindow without an application";
         return nullptr;
     }
     new ConfigurationWindow(manager);
-    ConfigurationWindow *window = ConfigurationWindow::instance(); // null: its own page closed it
+    ConfigurationWindow *window = ConfigurationWindow::instance(); // null if its page closed it
     if (window)
         window->show();
     return window;
@@ -66,7 +66,7 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager)
 {
     mHostCode = HostCode::of(this);
-    // Known from here on: the first page is built below, by code of the host that may ask for it.
+    // Host code that builds the first page below may call instance().
     if (!sWindow)
         sWindow = this;
 
@@ -137,7 +137,7 @@ ConfigurationWindow *ConfigurationWindow::instance()
 
 QString ConfigurationWindow::currentClass() const
 {
-    return mUi->configList->currentIndex().data(ClassNameRole).toString();
+    return mUi->configList->currentIndex().data(sClassNameRole).toString();
 }
 
 void ConfigurationWindow::fitToPage()
@@ -152,7 +152,7 @@ void ConfigurationWindow::switchToView(QString className)
     QModelIndex found;
     for (int row = 0; row < mClassModel->rowCount() && !found.isValid(); ++row) {
         const QModelIndex index = mClassModel->index(row, 0);
-        if (index.data(ClassNameRole).toString() == className)
+        if (index.data(sClassNameRole).toString() == className)
             found = index;
     }
     openPage(found);
@@ -197,7 +197,7 @@ void ConfigurationWindow::restorePageDefault()
 {
     if (!confirm(tr("Are you sure to restore current page default?")))
         return;
-    // A callback may rebuild the page, which deletes editors, or close the window.
+    // A callback may rebuild the page, which deletes its editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
     {
         const HostCodeScope scope(mHostCode);
@@ -229,16 +229,16 @@ bool ConfigurationWindow::confirm(const QString &question)
     const QPointer<ConfigurationWindow> self(this);
     const QPointer<QMessageBox> box(new QMessageBox(this));
     box->setIcon(QMessageBox::Question);
-    // The first text never shows, but translators find it in their catalogues.
+    // The first text is never visible, but the catalogues contain it.
     box->setText(tr("Confirm"));
     box->setText(question);
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box->setDefaultButton(QMessageBox::Yes);
     const int answer = box->exec();
-    if (!self || !box) // closed while the question stood
+    if (!self || !box) // deleted while the question was open
         return false;
     box->deleteLater();
-    // Whatever is not a No is a Yes; closing the question counts as No.
+    // Every answer but No means Yes. Closing the question gives No.
     return answer != QMessageBox::No;
 }
 
@@ -261,7 +261,7 @@ void ConfigurationWindow::initConfigClassList()
     for (const MajorConfItem &major : qAsConst(mManager->majorItems)) {
         auto *row = new QStandardItem(translatedName(major.name));
         mItemIcons.insert(row, major.name);
-        row->setData(major.name, ClassNameRole);
+        row->setData(major.name, sClassNameRole);
         mClassModel->appendRow(row);
     }
 }

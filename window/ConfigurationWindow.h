@@ -30,13 +30,19 @@ class ConfigurationWindow;
 class HostCode;
 class MtConfManage;
 
-/// Shows the settings window of `manager`: the existing window, restored if it is minimised and
-/// raised, whoever opened it, or else a new one. Null, and one critical line on the log, without a
-/// manager or without a `QApplication`.
+/// Shows the settings window and returns it. An existing window is raised, and restored if it is
+/// minimised; `manager` is ignored then. Otherwise creates the window of `manager`. Returns null
+/// and logs a critical message if there is no window and no manager, or no `QApplication`.
+///
+/// @see MtConfManage::ShowWindow
+/// @since 0.1
 MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
 
-/// Whether the settings window stays above other windows; shows and raises it. Does nothing while
-/// no window exists.
+/// Sets whether the settings window stays above other windows, then shows and raises it. Does
+/// nothing while no window exists.
+///
+/// @see MtConfManage::setWindowStayOnTop
+/// @since 0.1
 MALTO_EXPORT void setStaysOnTopHint(bool on);
 
 /// Gives `widget` the style sheets of the settings window, expanded for the current theme and for
@@ -46,32 +52,40 @@ MALTO_EXPORT void setStaysOnTopHint(bool on);
 ///   ":/qss/CommonWindow", the library's resource ":/malto/qss/CommonWindow";
 /// - the window's sheet: the file "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss", the
 ///   resource ":/qss/ConfigurationWindow".
+///
+/// @see ConfigurationWindow::loadQss, QThemeCtrl::handleQssFile
+/// @since 0.1
 MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);
 
-/// The settings window: the classes on the left, the editors of the chosen class on the right.
+/// The settings window: the list of classes on the left, the editors of the selected class on the
+/// right.
 ///
-/// One window exists at a time. It deletes itself when it is closed, which saves the store's local
-/// file and the window's geometry (in "ConfigurationWindowConfig.ini" in the working directory).
+/// One window exists at a time. Closing it saves the store's local file and the geometry of the
+/// window, in "ConfigurationWindowConfig.ini" in the working directory, and deletes the window. The
+/// deletion waits while host code, such as a change callback, is on the stack.
+///
+/// @see MtConfManage::ShowWindow, MtConfManage::closeConfigWindow
+/// @since 0.1
 class MALTO_EXPORT ConfigurationWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// Builds the window of `manager`. A manager that is destroyed while the window exists closes
-    /// it and deletes it. With a null manager the window is empty, and the critical message
-    /// "ConfigurationWindow without a manager" is logged. Hosts call `MtConfManage::ShowWindow`
-    /// instead.
+    /// Creates the window of `manager`, without showing it. A manager that is destroyed while the
+    /// window exists closes it and deletes it. With a null manager the window is empty, and the
+    /// critical message "ConfigurationWindow without a manager" is logged. Hosts call
+    /// `MtConfManage::ShowWindow` instead.
     explicit ConfigurationWindow(MtConfManage *manager);
     ~ConfigurationWindow() override;
 
-    /// The one settings window, or null.
+    /// Returns the settings window, or null if none exists.
     static ConfigurationWindow *instance();
 
     /// Returns the manager that the window shows. Null if there is none, or if it was destroyed
     /// while host code was running: the window is then closed and about to be deleted.
     MtConfManage *manager() const { return mManager; }
 
-    /// Makes the class of that name current and shows its page; an unknown name shows an empty
-    /// page.
+    /// Selects the first class named `className` in the list and shows its page. An unknown name
+    /// clears the selection, shows an empty page and logs the warning "major class not exist: ".
     void switchToView(QString className);
 
     /// Returns the name, not translated, of the class that is selected in the list and whose page
@@ -82,24 +96,31 @@ public:
     /// exceeds the screen. Call it after the page has been laid out, which the event loop does.
     void fitToPage();
 
-    /// The icon font's glyph of each class, by class name; a class without one has no icon.
+    /// The glyphs of the icon font that the list shows beside the classes, by class name. A class
+    /// without a glyph has no icon.
+    ///
+    /// @see MtConfManage::setIconMap
     static QMap<QString, QChar> mIconMap;
 
 public Q_SLOTS:
-    /// Applies the style sheets for the window's current screen and theme, and draws the icons of
-    /// the classes again.
+    /// Applies the style sheets for the current screen and theme, and draws the icons of the
+    /// classes. Called when the theme changes.
+    ///
+    /// @see setQssForWidget
     void loadQss();
-    /// Sets every text again after a change of language.
+    /// Sets every text in the current language. Called when the manager emits `sigLanguageChange`.
     void retranslateUi();
-    /// Asks, then restores the settings of the shown page to their defaults.
+    /// Restores the settings of the shown page to their defaults if the user confirms it.
     void restorePageDefault();
-    /// Asks, then restores all settings to their defaults.
+    /// Restores all settings to their defaults if the user confirms it.
+    ///
+    /// @see MtConfManage::restoreAllDefault
     void restoreAllDefault();
 
 protected:
     /// Delays a deferred deletion of the window while host code is on the stack.
     bool event(QEvent *event) override;
-    /// Has the manager save.
+    /// Saves the store's local file, through the manager.
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -107,7 +128,7 @@ private:
     friend MALTO_EXPORT void setStaysOnTopHint(bool on);
     friend class MtConfManage;
 
-    static constexpr int ClassNameRole = Qt::UserRole + 1;
+    static constexpr int sClassNameRole = Qt::UserRole + 1;
 
     /// Deletes the closed window, at once unless host code is on the stack. `items` keeps the items
     /// of the destroyed manager alive until the last editor is deleted.

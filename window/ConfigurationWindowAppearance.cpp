@@ -38,7 +38,7 @@ QString firstExisting(const QStringList &sources)
     return *found;
 }
 
-/// Whether a geometry that was saved earlier lies well inside a screen of today.
+/// Returns whether a saved geometry is inside one of the present screens and touches no edge of it.
 bool isInsideScreen(const QRect &geometry)
 {
     const QScreen *screen = QGuiApplication::screenAt(geometry.center());
@@ -69,15 +69,15 @@ void ConfigurationWindow::initAppearance()
     mScale = screenScale();
     const WindowGeometryFile::Saved saved = geometryFile().read();
     if (saved.found) {
-        // A geometry that no longer fits leaves the window as the form made it: somebody who moved
-        // the window once wants no window of our choosing back.
+        // With a geometry that no longer fits, the window keeps the size of its form. The default
+        // geometry is for users who never moved the window.
         if (saved.geometry.isValid() && isInsideScreen(saved.geometry))
             setGeometry(saved.geometry);
     } else {
         applyDefaultGeometry();
     }
-    // Parts of the form with a sheet of their own keep the rules from before the window's sheet
-    // unless the window is polished when it gets it.
+    // Widgets of the form that have style sheets keep their old rules unless the window is already
+    // polished when it gets its own sheet.
     ensurePolished();
     loadQss();
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this,
@@ -106,7 +106,7 @@ void ConfigurationWindow::loadQss()
     mScale = screenScale();
     setQssForWidget(this, mScale);
     refreshItemIcon();
-    // The button's own style sheet is older than the window's new one until it is polished again.
+    // The button applies the window's new sheet only after it is polished again.
     QTimer::singleShot(0, this, [this] {
         QStyle *style = mUi->btnRestoreDefault->style();
         style->unpolish(mUi->btnRestoreDefault);
@@ -125,8 +125,8 @@ void ConfigurationWindow::refreshItemIcon()
             continue;
         }
         QIcon icon = QIconfont::Icon(*glyph, color, size, QMargins());
-        // The selected row is white on the main colour, and so is its icon: in as many sizes, so
-        // that the list does not draw the one larger than the other.
+        // The selected row has white text on the main colour, and a white icon. It needs the same
+        // sizes as the normal icon, or the list draws one larger than the other.
         for (const int factor : {1, 2, 3}) {
             icon.addPixmap(QIconfont::Pixmap(*glyph, Qt::white, size * factor, QMargins()),
                            QIcon::Selected);
@@ -143,7 +143,7 @@ QString ConfigurationWindow::translatedName(const QString &name)
 void ConfigurationWindow::retranslateUi()
 {
     mUi->retranslateUi(this);
-    // An editor of the host may open another page, or close the window.
+    // An editor of the host may open another page or close the window.
     const HostCodeScope scope(mHostCode);
     const QList<QPointer<ConfigItemWidget>> editors = mEditors;
     for (const QPointer<ConfigItemWidget> &editor : editors) {

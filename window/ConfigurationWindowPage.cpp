@@ -20,8 +20,8 @@ namespace {
 
 constexpr int sGridSpacing = 12; // points
 
-/// The untranslated caption of a group, on its box.
-const char sGroupName[] = "GroupName";
+/// The property of a group box that holds the untranslated caption.
+constexpr char sGroupName[] = "GroupName";
 
 } // namespace
 
@@ -37,7 +37,7 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
     }
     // Host code that builds part of the page may delete the window.
     const QPointer<ConfigurationWindow> self(this);
-    const QString className = index.data(ClassNameRole).toString();
+    const QString className = index.data(sClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
     if (self && mManager) {
@@ -107,7 +107,7 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
     if (!bare)
         addClassLabel(caption);
 
-    // Where it is going to stay: changing parents gives every widget inside its style again.
+    // Created in its final parent, because a new parent would polish every widget inside again.
     auto *box = new QGroupBox(mUi->gboxConfigBoard);
     box->setProperty(sGroupName, caption);
     box->setObjectName(QStringLiteral("ConfigGroupBox"));
@@ -126,7 +126,7 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
         grid->setProperty("SourceSpacing", sGridSpacing);
     }
 
-    const QPointer<QGroupBox> guard(box); // goes with the window
+    const QPointer<QGroupBox> guard(box); // null once the window is deleted
     for (int i = 0; mManager && i < items.size(); ++i) {
         const bool added = isShown(items.at(i)) && guard && addItemWidget(items.at(i), box, grid);
         if (!guard)
@@ -146,14 +146,15 @@ bool ConfigurationWindow::isShown(ConfItem *item) const
 {
     if (!(item->flags & ItemIsFiltered))
         return true;
-    const auto filter = mManager->itemFilter; // a copy: it may replace itself
+    const auto filter = mManager->itemFilter; // a copy: the host may replace it in the call
     return filter && filter(*item);
 }
 
 bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid)
 {
-    // A text without an editor of its own stays out of the window.
-    const WidgetCreator creator = item->widgetCreator; // a copy: it may replace itself
+    // The window leaves out items without an editor.
+    const WidgetCreator creator =
+        item->widgetCreator; // a copy: the host may replace it in the call
     const QPointer<QGroupBox> guard(box);
     ConfigItemWidget *editor = creator ? creator(item, box) : nullptr;
     if (!guard || !editor)
@@ -187,7 +188,7 @@ void ConfigurationWindow::describePage()
     mUi->gboxConfigBoard->setAccessibleName(page);
     for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
         QWidget *box = editor ? editor->parentWidget() : nullptr;
-        if (!box) // a host may have deleted the editor or taken it elsewhere
+        if (!box) // a host may have deleted the editor or moved it
             continue;
         const QString group = translatedName(box->property(sGroupName).toString());
         box->setAccessibleName(group);
@@ -197,7 +198,7 @@ void ConfigurationWindow::describePage()
 
 void ConfigurationWindow::orderTabs()
 {
-    // Pages come after the buttons in time. What restores stands behind what is set.
+    // Page widgets are created after the buttons; move the restore buttons last in the tab order.
     QWidget *last = mUi->scrollArea;
     for (QWidget *widget = last->nextInFocusChain(); widget != mUi->scrollArea;
          widget = widget->nextInFocusChain()) {

@@ -10,8 +10,7 @@ namespace MtConf {
 
 MtConfManage::~MtConfManage()
 {
-    // A window and its editors reach into this object. Without an application there is no window
-    // system left to take them from.
+    // A window and its editors use this object. Without an application there are no windows.
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
     QList<QPointer<ConfigurationWindow>> windows;
@@ -39,7 +38,7 @@ ConfigurationWindow *MtConfManage::ShowWindow(QString majorName)
     const QPointer<ConfigurationWindow> window(ShowConfigurationWindow(this));
     if (window && !majorName.isEmpty())
         window->switchToView(majorName);
-    // A page may have taken this manager away.
+    // Host code that built the page may have destroyed this manager.
     return window && window->manager() ? window.data() : nullptr;
 }
 

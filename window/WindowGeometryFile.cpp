@@ -43,17 +43,17 @@ void WindowGeometryFile::write(const QRect &geometry) const
 
 bool WindowGeometryFile::isHarmless(const QByteArray &text)
 {
-    // QSettings turns every value of the file into what it stands for, whichever key is asked for,
-    // and for "@Variant(" and "@DateTime(" that means reading a stream of any type: eight bytes
-    // that announce a list of four thousand million entries end the process. It takes out quotes
-    // and decodes escapes before it looks: the sign and the letter may be written as either, with
-    // quotes, blanks, unknown escapes and the ends of continued lines between them.
+    // QSettings parses every value of the file, whichever key is read. For "@Variant(" and
+    // "@DateTime(" it deserializes a stream of any type: eight bytes that announce a list of four
+    // thousand million entries end the process. Before that it removes quotes and decodes escapes.
+    // So the at sign and the letter may be plain or escaped, with quotes, blanks, unknown escapes
+    // and continued lines between them.
     static const QRegularExpression danger(QStringLiteral(
         R"((?:@|\\x(?:[0-9a-fA-F]*00|0?)40(?![0-9a-fA-F])|\\[0-7]*100))"
         R"((?:["\t ]|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*+)"
         R"((?:[VD]|\\x(?:[0-9a-fA-F]*00|0?)(?:56|44)(?![0-9a-fA-F])|\\[0-7]*(?:126|104)))"));
-    // With the size: a zero byte is no end. A search that gave up has found nothing, and is no
-    // proof.
+    // With the size, because a zero byte does not end the text. A search that hits the limits of
+    // the regular expression engine proves nothing.
     const auto found = danger.match(QString::fromLatin1(text.constData(), text.size()));
     return found.isValid() && !found.hasMatch();
 }
@@ -63,7 +63,7 @@ WindowGeometryFile::Content WindowGeometryFile::content() const
     const QFileInfo info(mPath);
     if (!info.exists())
         return Content::Missing;
-    // Reading a pipe or a device might never end.
+    // Reading a pipe or a device may block forever.
     QFile file(mPath);
     if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         return Content::Foreign;

@@ -4,30 +4,30 @@
 #include <QRect>
 #include <QString>
 
-/// The INI file in which the settings window keeps its place. Whatever stands there is looked at
-/// before QSettings reads it.
+/// The INI file in which the settings window saves its geometry. Its content is checked before
+/// QSettings reads it.
 class WindowGeometryFile
 {
 public:
-    /// What a file says about the place of the window.
+    /// The content of a file.
     struct Saved
     {
-        bool found = false; ///< a geometry was saved, be it usable or not
-        QRect geometry;     ///< invalid when what was saved is no rectangle
+        bool found = false; ///< whether a geometry was saved, even an unusable one
+        QRect geometry;     ///< invalid if the saved value is not a rectangle
     };
 
     explicit WindowGeometryFile(const QString &path) : mPath(path) {}
 
-    /// What was saved. Anything but a regular file counts as a missing one, and a file that is
-    /// dangerous to read as one with an unusable geometry; both log the warning
+    /// Returns what was saved. Anything but a regular file counts as missing, and a file that is
+    /// dangerous to read as one with an unusable geometry. Both log the warning
     /// "ConfigurationWindow geometry file is not usable: " and the path.
     Saved read() const;
 
-    /// Saves `geometry` and keeps what else stands in the file, unless that is dangerous to read.
-    /// Anything but a regular file is left alone, with the same warning.
+    /// Saves `geometry` and keeps the other values of the file, unless they are dangerous to read.
+    /// Anything but a regular file is left unchanged, and the same warning is logged.
     void write(const QRect &geometry) const;
 
-    /// Whether QSettings can read `text` without taking the process down.
+    /// Returns whether QSettings can parse `text` without ending the process.
     static bool isHarmless(const QByteArray &text);
 
 private:

@@ -8,7 +8,7 @@ namespace {
 
 constexpr QLatin1String sMacro("SCA(", 4);
 
-/// Where the digits that begin at `start` end.
+/// Returns the position behind the digits that begin at `start`.
 QString::size_type digitsEnd(const QString &text, QString::size_type start)
 {
     auto end = start;
@@ -17,7 +17,7 @@ QString::size_type digitsEnd(const QString &text, QString::size_type start)
     return end;
 }
 
-/// The nearest integer, half rounded up; what no integer holds becomes zero.
+/// Returns the nearest integer, half rounded up, or 0 if `value` is out of range.
 int rounded(float value)
 {
     return std::fabs(value) < 2147483000.f ? qRound(value) : 0;
@@ -42,8 +42,8 @@ QString replaceSCAWithScaledValue(const QString &text, float scale)
         const int factor = result.mid(number, numberEnd - number).toInt();
         const int value = rounded(static_cast<float>(factor) * scale);
         result.replace(start, length, QString::number(value));
-        // Counted by the macro, not by what replaced it: sheets in use rely on a second macro close
-        // behind the first one staying as it is.
+        // By the length of the macro, not of the number: existing texts rely on it that a macro
+        // close behind stays unchanged.
         from = start + length;
     }
 }
