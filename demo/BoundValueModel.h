@@ -7,14 +7,14 @@ namespace MtConf {
 class MtConfManage;
 }
 
-/// The program's variables as a table: key, value, and whether the value differs from its default.
+/// A table of the program's variables: key, value, and whether the value differs from its default.
 class BoundValueModel : public QAbstractTableModel
 {
     Q_OBJECT
 public:
     enum Column { KeyColumn, ValueColumn, ChangedColumn, ColumnCount };
 
-    /// The variables of `manager`, which must outlive the model, and the profiles.
+    /// Shows the variables of `manager`, which must outlive the model, and the profiles.
     explicit BoundValueModel(const MtConf::MtConfManage &manager, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -22,16 +22,16 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// How many variables differ from their defaults.
+    /// Returns the number of variables that differ from their defaults.
     int changedCount() const;
 
-    /// The row of a setting by its key, -1 when there is none.
+    /// Returns the row of the setting `key`, or -1 if there is none.
     int rowOf(const QString &key) const { return mKeys.indexOf(key); }
 
 public Q_SLOTS:
-    /// Reads all variables again; to be called when settings have changed.
+    /// Reads all variables again. Call it when settings have changed.
     void refresh();
-    /// Has the headings read again, after a change of the language.
+    /// Translates the headings again after a change of the language.
     void retranslate();
 
 private:

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Why `path` cannot be read as a JSON object; empty when it can.
+/// Returns why `path` cannot be read as a JSON object, or an empty text.
 QString jsonError(const QString &path)
 {
     QFile file(path);
@@ -33,17 +33,17 @@ QString jsonError(const QString &path)
     return document.isObject() ? QString() : QStringLiteral("%1 holds no JSON object.").arg(path);
 }
 
-/// Why the settings cannot be kept in `path`; empty when they can.
+/// Returns why the settings cannot be saved in `path`, or an empty text.
 QString localFileError(const QString &path)
 {
     const QFileInfo file(path);
     if (!QDir().mkpath(file.path()))
         return QStringLiteral("Cannot make the folder %1").arg(file.path());
-    // The library would take a damaged file for an empty one, and write over it.
+    // The library treats a damaged file as an empty one, and would overwrite it.
     return file.exists() && (file.isDir() || file.size() > 0) ? jsonError(path) : QString();
 }
 
-/// Why no pictures can be put into `folder`; empty when they can.
+/// Returns why no pictures can be saved in `folder`, or an empty text.
 QString picturesError(const QString &folder)
 {
     const bool made = QDir().mkpath(folder);
@@ -51,7 +51,7 @@ QString picturesError(const QString &folder)
     return made && probe.open() ? QString() : QStringLiteral("Cannot write into %1").arg(folder);
 }
 
-/// The first error that `errors` finds, in order.
+/// Returns the first text of `errors` that is not empty, or an empty text.
 QString firstOf(const QStringList &errors)
 {
     for (const QString &error : errors) {
@@ -133,7 +133,7 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
         return parser.isSet(QLatin1String(option));
     };
     const QStringList themes{QStringLiteral("system"), QStringLiteral("light"),
-                             QStringLiteral("dark")}; // as QThemeCtrl::Theme counts them
+                             QStringLiteral("dark")}; // in the order of QThemeCtrl::Theme
     bool isNumber = true;
     const double factor = given("scale") ? value("scale").toDouble(&isNumber) : 1;
     const QStringList unexpected = parser.positionalArguments();

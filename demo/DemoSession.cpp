@@ -20,7 +20,7 @@
 
 namespace {
 
-/// The hotkey of `item`, null when it has none.
+/// Returns the hotkey of `item`, or null if it has none.
 QxtGlobalShortcut *shortcutOf(const MtConf::ConfItem &item)
 {
     return item.properties.value(QStringLiteral("Shortcut")).value<QxtGlobalShortcut *>();
@@ -44,7 +44,7 @@ DemoSession::DemoSession(const QString &localFile)
 
 DemoSession::~DemoSession()
 {
-    // The window goes first, and the store, which lives on, must not use our variables any more.
+    // Destroy the window first. The store lives on and must not use our variables any more.
     mManager.reset();
     ConfStorage *store = ConfStorage::instance();
     store->mConfValues.clear();
@@ -90,7 +90,7 @@ void DemoSession::addCallbacks()
     });
     const MtConf::ConfItem *const showExpert = item("System", "ShowExpert");
     showExpert->setConfChangedCallback([this, showExpert](const QString &, const ConfValue *) {
-        // Later: the switch that was clicked stands on the page that is built again.
+        // Delayed, because the switch that was clicked is on the page that is rebuilt.
         QTimer::singleShot(0, this, [this, showExpert] { rebuildPageOf(showExpert); });
     });
 }
@@ -128,7 +128,7 @@ void DemoSession::load(const QString &configFile)
     else
         mManager->loadFromFile(configFile);
     showTheme(mSettings.theme);
-    registerHotkeys(); // those that no file has changed
+    registerHotkeys(); // also the defaults, which cause no change callback
 }
 
 bool DemoSession::save()
@@ -160,7 +160,7 @@ void DemoSession::showTheme(int theme)
     QThemeCtrl *themes = QThemeCtrl::instance();
     const auto chosen = static_cast<QThemeCtrl::Theme>(qBound(0, theme, 2));
     themes->setTheme(chosen);
-    // Without a palette of ours the application goes on following the system's.
+    // With its default palette the application follows the system.
     QApplication::setPalette(chosen == QThemeCtrl::Theme::System ? QPalette() : themes->palette());
 }
 
@@ -170,7 +170,7 @@ void DemoSession::rebuildPageOf(const MtConf::ConfItem *changed)
     if (!window || window->currentClass() != changed->majorName)
         return;
     window->switchToView(changed->majorName);
-    // Whoever works with the keyboard goes on from the switch.
+    // Keyboard users continue at the switch.
     if (changed->editor)
         changed->editor->label()->setFocus();
 }

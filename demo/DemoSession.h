@@ -14,26 +14,27 @@ class ConfItem;
 class MtConfManage;
 } // namespace MtConf
 
-/// The program's settings at work: the variables, their declaration, and what follows when one of
-/// them changes. One session exists at a time; its end forgets everything but the files.
+/// The variables of the program, their declaration, and the reactions to their changes. One session
+/// exists at a time. Its destructor clears the store; the files stay.
 class DemoSession : public QObject
 {
     Q_OBJECT
 public:
-    /// Declares everything; the settings are kept in `localFile`.
+    /// Declares all settings. They are saved in `localFile`.
     explicit DemoSession(const QString &localFile);
     ~DemoSession() override;
 
-    /// Loads the local file and then `configFile`, which may be empty, and applies what they say.
+    /// Loads the local file and then `configFile`, which may be empty, and applies the theme, the
+    /// language and the hotkeys.
     void load(const QString &configFile);
-    /// Saves what has changed. False when the local file could not be written: the log tells why.
+    /// Saves the changes. Returns false if the local file could not be written, which is logged.
     bool save();
-    /// Restores the default of every setting and all profiles.
+    /// Restores every setting to its default, and the presets of the profiles.
     void restoreAll();
 
-    /// Stores a theme (a `QThemeCtrl::Theme`) as if it had been chosen in the window.
+    /// Sets the theme (a `QThemeCtrl::Theme`), like a choice in the settings window.
     void chooseTheme(int theme);
-    /// Stores a language by its code as if it had been chosen in the window.
+    /// Sets the language by its code, like a choice in the settings window.
     void chooseLanguage(const QString &code);
 
     MtConf::MtConfManage &manager() { return *mManager; }
@@ -41,12 +42,12 @@ public:
     ProfileStore &profiles() { return mProfiles; }
     SettingsWatcher &watcher() { return mWatcher; }
 
-    /// Shows a theme without storing it: the windows' sheets and the palette of all the rest.
+    /// Shows a theme without storing it: in the sheets of the windows and in the palette.
     static void showTheme(int theme);
 
 Q_SIGNALS:
-    /// The hotkey of the setting `key` was pressed, in whatever program; `label` is the setting's
-    /// label, not translated.
+    /// Emitted when the hotkey of the setting `key` is pressed in any program. `label` is the
+    /// setting's untranslated label.
     void hotkeyPressed(const QString &key, const char *label);
 
 private:
@@ -55,7 +56,7 @@ private:
     void addCallbacks();
     void addHotkeyCallbacks();
     void registerHotkeys();
-    /// Builds the page of the setting again, if it is shown.
+    /// Rebuilds the page of the setting if it is shown.
     void rebuildPageOf(const MtConf::ConfItem *changed);
     void reloadEditors();
 

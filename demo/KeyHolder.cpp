@@ -8,7 +8,7 @@
 
 namespace {
 
-const char sHeld[] = "held\n";
+constexpr char sHeld[] = "held\n";
 constexpr int sStandardInput = 0;
 
 } // namespace
@@ -37,7 +37,7 @@ int KeyHolder::run(const QString &sequence)
 {
     const QxtGlobalShortcut shortcut(QKeySequence::fromString(sequence));
     QTextStream(stdout) << (shortcut.isValid() ? sHeld : "not held\n") << Qt::flush;
-    // Nothing is ever written to it: it becomes readable when the first program is gone.
+    // Nothing is written to it, so it becomes readable only when the first program has ended.
     const QSocketNotifier end(sStandardInput, QSocketNotifier::Read);
     QObject::connect(&end, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
     return QCoreApplication::exec();

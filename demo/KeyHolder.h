@@ -3,24 +3,25 @@
 #include <QKeySequence>
 #include <QProcess>
 
-/// A second program that holds a hotkey, so that this one cannot have it. It ends with this object,
-/// and with the program that started it, however that ends.
+/// A second program that registers a hotkey, so that this one cannot register it. It ends when this
+/// object is destroyed or when the program that started it ends, even by a crash.
 class KeyHolder
 {
 public:
-    /// The option with which `program` is started again to hold a key: see `run`.
+    /// Returns the command line option that makes the demo call `run`.
     static QString option();
 
-    /// Starts `program`, the path of the demo, and waits until it has tried to take `sequence`.
+    /// Starts `program`, the path of the demo, and waits until it has tried to register `sequence`.
     KeyHolder(const QString &program, const QKeySequence &sequence);
     ~KeyHolder();
     Q_DISABLE_COPY(KeyHolder)
 
-    /// Whether the other program has the key: false where none can be had.
+    /// Returns whether the other program has registered the key. False on platforms without
+    /// global hotkeys.
     bool holds() const { return mHolds; }
 
-    /// What the second program does: holds the key whose name in portable text is `sequence` until
-    /// its standard input ends. Needs an application object; returns the program's exit code.
+    /// Acts as the second program: holds the key `sequence`, in portable text, until the standard
+    /// input ends. Needs an application object. Returns the exit code of the program.
     static int run(const QString &sequence);
 
 private:

@@ -31,7 +31,7 @@ QString levelColor(QtMsgType level)
 LogPane::LogPane(const MessageLog &log, QWidget *parent) : QPlainTextEdit(parent), mLog(log)
 {
     setReadOnly(true);
-    setMaximumBlockCount(MessageLog::Capacity);
+    setMaximumBlockCount(MessageLog::sCapacity);
     retranslate();
     refresh();
     connect(&log, &MessageLog::messageLogged, this, &LogPane::addLine);

@@ -4,7 +4,7 @@
 
 #include <QPlainTextEdit>
 
-/// Shows a message log as it grows, newest at the bottom: time, level, text.
+/// Shows a message log: time, level and text of each message, the newest at the bottom.
 class LogPane : public QPlainTextEdit
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     explicit LogPane(const MessageLog &log, QWidget *parent = nullptr);
 
 public Q_SLOTS:
-    /// Writes all lines again, in the colours of the current theme.
+    /// Rewrites all lines in the colours of the current theme.
     void refresh();
 
 protected:

@@ -11,8 +11,8 @@ class QLabel;
 class QPushButton;
 class QTableView;
 
-/// The program's main window: its variables as they change, the log, and the way to the settings.
-/// Closing it closes the settings window and saves.
+/// The main window: shows the variables and the log, and opens the settings window. Closing it
+/// closes the settings window and saves.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     /// Shows `session` and `log`, which must outlive the window.
     MainWindow(DemoSession &session, const MessageLog &log);
 
-    /// Opens the settings window at `page`, or at its first page. On the very first start it is
-    /// put beside this window if the screen has room for both.
+    /// Opens the settings window at `page`, or at its first page if that is empty. On the first
+    /// start the window is placed beside this one if the screen is large enough for both.
     void showSettings(const QString &page);
 
 protected:

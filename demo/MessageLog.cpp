@@ -5,7 +5,7 @@
 
 namespace {
 
-// Held while the handler uses the log, so that the log does not go meanwhile in another thread.
+// Locked while the handler uses the log, so that another thread cannot destroy it meanwhile.
 QBasicMutex sMutex;
 MessageLog *sLog = nullptr;
 QtMessageHandler sPrevious = nullptr;
@@ -17,7 +17,7 @@ MessageLog::MessageLog(QObject *parent) : QObject(parent)
     const QtMessageHandler previous = qInstallMessageHandler(&MessageLog::handle);
     const QMutexLocker lock(&sMutex);
     sLog = this;
-    // Somebody who put a handler on top of an earlier log may have brought ours back since.
+    // A handler that was installed after an earlier log may have restored ours since.
     if (previous != &MessageLog::handle)
         sPrevious = previous;
 }
@@ -28,7 +28,7 @@ MessageLog::~MessageLog()
         const QMutexLocker lock(&sMutex);
         sLog = nullptr;
     }
-    // Somebody may have put a handler on top of ours, which stays.
+    // Keep a handler that was installed after ours.
     const QtMessageHandler current = qInstallMessageHandler(sPrevious);
     if (current != &MessageLog::handle)
         qInstallMessageHandler(current);
@@ -53,7 +53,7 @@ void MessageLog::handle(QtMsgType level, const QMessageLogContext &context, cons
 void MessageLog::append(const Message &message)
 {
     mMessages.append(message);
-    if (mMessages.size() > Capacity)
+    if (mMessages.size() > sCapacity)
         mMessages.removeFirst();
     Q_EMIT messageLogged(message);
 }

@@ -5,10 +5,10 @@
 #include <QObject>
 #include <QString>
 
-/// Everything that goes to Qt's message log, from any thread, while this object lives; the messages
-/// also go where they went before. The handler of before comes back at the end.
+/// Collects the messages of Qt's log from all threads while this object exists, and passes them on
+/// to the previous message handler. The destructor restores that handler.
 ///
-/// There is one at a time.
+/// One log exists at a time.
 class MessageLog : public QObject
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ public:
     explicit MessageLog(QObject *parent = nullptr);
     ~MessageLog() override;
 
-    /// The newest messages, at most `Capacity`, oldest first.
+    /// Returns the newest messages, at most `sCapacity`, oldest first.
     const QList<Message> &messages() const { return mMessages; }
 
-    static constexpr int Capacity = 500;
+    static constexpr int sCapacity = 500;
 
 Q_SIGNALS:
-    /// Emitted by the event loop of this object's thread.
+    /// Emitted from the event loop of this object's thread.
     void messageLogged(const MessageLog::Message &message);
 
 private:

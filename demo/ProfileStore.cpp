@@ -41,7 +41,7 @@ ProfileStore::ProfileStore(QObject *parent) : QObject(parent)
 
 ProfileStore::~ProfileStore()
 {
-    // The store lives on and would use the variables.
+    // The store lives on and must not use the variables any more.
     ConfStorage *store = ConfStorage::instance();
     store->mDynamicConfClasses.removeAll(&mClass);
     for (const auto &entry : mProfiles) {
@@ -68,8 +68,8 @@ void ProfileStore::create(const QString &key, const QJsonValue &value)
 
 void ProfileStore::announceChange()
 {
-    // Afterwards: the store is in the middle of its work, and still holds the key of a variable
-    // that has gone.
+    // Delayed: the store calls in the middle of an operation, and still has the key of a variable
+    // that was just destroyed.
     QMetaObject::invokeMethod(this, &ProfileStore::profilesChanged, Qt::QueuedConnection);
 }
 
@@ -119,7 +119,7 @@ QString ProfileStore::add()
     QString newName = tr("New profile");
     for (int number = 2; !nameError(QString(), newName).isEmpty(); ++number)
         newName = tr("New profile %1").arg(number);
-    // Not made of the name: two computers that share their configuration may add the same name.
+    // Not derived from the name: two computers that share a configuration may add the same name.
     const QString key = prefix() + QUuid::createUuid().toString(QUuid::Id128);
     ConfStorage::instance()->createDynamicConf(
         key, makeProfile(newName, 1280, 720, QStringLiteral("#d13438")), &mClass);

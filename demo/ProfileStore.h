@@ -8,47 +8,47 @@
 
 #include <map>
 
-/// The capture profiles: settings that a person adds and deletes while the program runs, each one a
-/// key of the store, "Profiles.<id>", with a JSON object as its value.
+/// The capture profiles: dynamic entries that the user adds and deletes at run time. Each profile
+/// is a key of the store, "Profiles.<id>", whose value is a JSON object.
 ///
-/// It owns the variables of these keys and tells the store how they come and go. Three presets
-/// exist from the start, can be deleted, and come back with `restorePresets`.
+/// This class owns the variables of these keys, and creates and removes them for the store. Three
+/// presets exist by default. The user can delete them, and `restorePresets` restores them.
 class ProfileStore : public QObject
 {
     Q_OBJECT
 public:
-    /// Declares the profiles to the store; loading the local file then creates them.
+    /// Declares the profiles to the store. Loading the local file creates them.
     explicit ProfileStore(QObject *parent = nullptr);
     ~ProfileStore() override;
 
-    /// What the keys of all profiles begin with.
+    /// Returns the prefix of the keys of all profiles.
     static QString prefix();
-    /// The keys of all profiles, by name.
+    /// Returns the keys of all profiles, sorted by the names of the profiles.
     QStringList keys() const;
-    /// The values of a profile: "name", "width", "height" (pixels), "color", "pointer". Empty for
-    /// an unknown key.
+    /// Returns the values of a profile: "name", "width" and "height" (in pixels), "color",
+    /// "pointer". Empty for an unknown key.
     QJsonObject profile(const QString &key) const;
-    /// The name of a profile.
+    /// Returns the name of a profile. Empty for an unknown key.
     QString name(const QString &key) const;
-    /// Whether a profile is as the program came with it. One that a person added never is.
+    /// Returns whether a profile is an unchanged preset.
     bool isUntouchedPreset(const QString &key) const;
 
-    /// Why `name` cannot be that of the profile `key`, in the person's language; empty when it can.
+    /// Returns why the profile `key` cannot have the name `name`, translated, or an empty text.
     QString nameError(const QString &key, const QString &name) const;
 
-    /// Adds a profile with a name of its own and returns its key.
+    /// Adds a profile with an unused name and returns its key.
     QString add();
-    /// Renames a profile unless `nameError` has something to say.
+    /// Renames a profile. Does nothing if `nameError` returns an error.
     void rename(const QString &key, const QString &name);
-    /// Changes one value of a profile; nothing for an unknown key.
+    /// Changes one value of a profile. Does nothing for an unknown key.
     void setValue(const QString &key, const QString &member, const QJsonValue &value);
-    /// Deletes a profile; nothing for an unknown key.
+    /// Deletes a profile. Does nothing for an unknown key.
     void remove(const QString &key);
-    /// Brings the presets back and deletes all others.
+    /// Restores the presets and deletes all other profiles.
     void restorePresets();
 
 Q_SIGNALS:
-    /// A profile came, went or changed. Emitted by the event loop, after the store's work.
+    /// Emitted from the event loop after a profile was added, removed or changed.
     void profilesChanged();
 
 private:
@@ -56,5 +56,5 @@ private:
     void announceChange();
 
     ConfStorage::DynamicConfClass mClass;
-    std::map<QString, QJsonObject> mProfiles; // a map: its elements stay where they are
+    std::map<QString, QJsonObject> mProfiles; // a map, because its elements keep their addresses
 };

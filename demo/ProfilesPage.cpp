@@ -29,13 +29,13 @@ QIcon swatch(const QColor &color, int size)
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    // White around it, or the accent would not be seen in the selected row.
+    // The white border keeps the accent colour visible in the selected row.
     painter.setPen(QPen(Qt::white, qMax(1, size / 8)));
     painter.setBrush(color);
     painter.drawEllipse(pixmap.rect().adjusted(1, 1, -1, -1));
     painter.end();
     QIcon icon(pixmap);
-    // Qt would tint the colour of the selected row.
+    // Otherwise Qt tints the icon of the selected row.
     icon.addPixmap(pixmap, QIcon::Selected);
     return icon;
 }
@@ -222,7 +222,7 @@ void ProfilesPage::showProfile()
     const QJsonObject profile = mProfiles.profile(key);
     const QSignalBlocker widthBlocker(mWidth);
     const QSignalBlocker heightBlocker(mHeight);
-    // A name that is being typed stays while other values of the profile change.
+    // Keep a name that is being typed when other values of the profile change.
     if (another || !mName->hasFocus())
         mName->setText(mProfiles.name(key));
     mWidth->setValue(profile.value(QLatin1String("width")).toInt());

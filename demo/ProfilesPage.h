@@ -12,8 +12,8 @@ class QListWidget;
 class QPushButton;
 class QSpinBox;
 
-/// The page of the capture profiles: a list with buttons to add and delete, the values of the
-/// chosen profile beside it, and a way to get the presets back.
+/// The page of the capture profiles: the list with buttons to add and delete profiles and to
+/// restore the presets, and beside it the values of the selected profile.
 class ProfilesPage : public QWidget
 {
     Q_OBJECT

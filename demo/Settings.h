@@ -6,20 +6,20 @@
 #include <QString>
 #include <Qt>
 
-/// What the program can be told: one plain variable for each setting, holding the default.
+/// The settings of the program: one plain variable for each, initialised with its default.
 ///
-/// The rest of the program just reads these variables. Whatever writes them (a file, the settings
-/// window, a restore) goes through the library, which was told their addresses by
-/// `declareSettings`; so the object must stay where it is, and outlive the library's use of it.
+/// The rest of the program just reads these variables. `declareSettings` binds them to the library,
+/// which writes them when a file is loaded, or when the user changes or restores a setting. So the
+/// object must keep its address, and outlive its keys in the store.
 struct Settings
 {
     // General
-    QString language = QStringLiteral("auto"); ///< code of the interface's language
+    QString language = QStringLiteral("auto"); ///< the code of the interface language
     bool startAtLogin = false;
     bool showTrayIcon = true;
     bool playSound = true;
     bool showTips = true;
-    int recentCaptures = 20; ///< how many are kept in the menu
+    int recentCaptures = 20; ///< the number of captures in the menu
     bool checkUpdates = true;
     int updateInterval = 7; ///< days
     bool betaUpdates = false;
@@ -28,7 +28,7 @@ struct Settings
     int theme = 0; ///< a `QThemeCtrl::Theme`: system, light, dark
     QColor frameColor{0x2a, 0x67, 0xd8};
     int frameWidth = 2;               ///< pixels
-    QColor shadeColor{0, 0, 0, 0x73}; ///< over what is not selected
+    QColor shadeColor{0, 0, 0, 0x73}; ///< covers the area that is not selected
     bool showMagnifier = true;
     int magnifierZoom = 4; ///< times
     bool showSize = true;
@@ -58,7 +58,7 @@ struct Settings
     int zoomAction = 0x04000000 | 64;    ///< the wheel with Ctrl (Command on macOS)
     int opacityAction = 0x02000000 | 64; ///< the wheel with Shift
     int menuAction = 4;                  ///< a right click
-    int closeAction = 8;                 ///< a right double click: in conflict with the menu
+    int closeAction = 8;                 ///< a right double click, which conflicts with the menu
     int copyAction = 16;                 ///< a middle click
     int hideAction = 0;                  ///< none
     int moveAction = 128;                ///< dragging
@@ -71,7 +71,7 @@ struct Settings
     QString format = QStringLiteral("PNG");
     int quality = 90;          ///< percent
     int scale = 100;           ///< percent
-    QString watermark;         ///< empty: none
+    QString watermark;         ///< empty for none
     int watermarkOpacity = 40; ///< percent
     bool copyAfterCapture = true;
     bool saveAfterCapture = false;

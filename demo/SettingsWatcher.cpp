@@ -30,7 +30,7 @@ void SettingsWatcher::announceChange()
     if (mPending)
         return;
     mPending = true;
-    // Later: the store has not finished its work when it calls back.
+    // Delayed, because the store calls in the middle of an operation.
     QTimer::singleShot(0, this, [this] {
         mPending = false;
         Q_EMIT settingsChanged();

@@ -4,22 +4,22 @@
 
 class QString;
 
-/// Tells when stored settings have changed, whoever changed them.
+/// Emits a signal when stored settings change, whatever changes them.
 ///
-/// It stands in the change callbacks of the keys, in front of those that are there already.
+/// It wraps the change callbacks of the keys: the existing callback of a key is called first.
 class SettingsWatcher : public QObject
 {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    /// Watches every key that the store holds now.
+    /// Watches every key that is in the store now.
     void watchAll();
-    /// Announces a change that the watched keys do not tell of.
+    /// Reports a change of something that is not watched.
     void announceChange();
 
 Q_SIGNALS:
-    /// Something has changed. Emitted once by the event loop for all changes of one turn.
+    /// Emitted from the event loop, once for all changes of one turn.
     void settingsChanged();
 
 private:

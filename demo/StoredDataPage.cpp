@@ -28,7 +28,7 @@ StoredDataPage::StoredDataPage(const SettingsWatcher &watcher, QWidget *parent)
     mText->setObjectName(QStringLiteral("storedData"));
     mText->setReadOnly(true);
     mText->setLineWrapMode(QPlainTextEdit::NoWrap);
-    // By a sheet: the window's sheet sets the family of every widget.
+    // A style sheet, because the window's sheet overrides the font of every widget.
     mText->setStyleSheet(QStringLiteral("font-family: \"%1\", monospace; font-size: 11pt;")
                              .arg(QFontDatabase::systemFont(QFontDatabase::FixedFont).family()));
 

@@ -6,12 +6,12 @@ class QLabel;
 class QPlainTextEdit;
 class SettingsWatcher;
 
-/// A page that shows what the local file will hold, as it changes.
+/// A page that shows the future content of the local file.
 class StoredDataPage : public QWidget
 {
     Q_OBJECT
 public:
-    /// Shows the data again whenever `watcher` tells of a change.
+    /// Updates the text whenever `watcher` reports a change.
     StoredDataPage(const SettingsWatcher &watcher, QWidget *parent);
 
 protected:

@@ -5,17 +5,17 @@
 class QLineEdit;
 class QSpinBox;
 
-/// An editor of the program's own: a text, and beside it a sub-item of the same setting, the
-/// opacity in percent. Both count when the caption tells whether the setting was changed.
+/// A custom editor for a text and, beside it, the opacity in percent, which is a sub-item of the
+/// same setting. The caption shows the setting as changed if either differs from its default.
 class WatermarkEditor : public MtConf::ConfigItemWidget
 {
     Q_OBJECT
 public:
     WatermarkEditor(MtConf::ConfItem *item, QWidget *parent);
 
-    /// Makes the editor: what `addConfQString` is given.
+    /// Creates an editor. This is the factory for `addConfQString`.
     static MtConf::ConfigItemWidget *create(MtConf::ConfItem *item, QWidget *parent);
-    /// The name of the sub-item that holds the opacity.
+    /// Returns the name of the sub-item with the opacity.
     static QString opacityName();
 
     void loadConf() override;

@@ -4,8 +4,8 @@
 
 class QWidget;
 
-/// Pixels per point on the screen of `widget`: sizes are designed in points, as in the style
-/// sheets.
+/// Returns the pixels per point on the screen of `widget`. Sizes are designed in points, as in the
+/// style sheets.
 inline double designScale(const QWidget *widget)
 {
     return OrvScreenManager::instance()->widgetScreen(widget).dpi / 72;

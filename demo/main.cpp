@@ -25,8 +25,8 @@ int fail(const QString &message)
     return sBadArguments;
 }
 
-/// The settings window keeps its geometry in the working directory: that of the local file, so that
-/// both stay together wherever the program is started from.
+/// Makes the folder of the local file the working directory, where the settings window saves its
+/// geometry. So both files are together, wherever the program is started.
 bool enterFolderOf(const QString &localFile)
 {
     return QDir::setCurrent(QFileInfo(localFile).path());
@@ -51,7 +51,7 @@ int run(const DemoArguments &arguments)
 
 int drawPictures(const DemoArguments &arguments)
 {
-    // Nothing is written beside a person's own settings, not even the geometry of the window.
+    // Nothing is written into the user's folders, not even the geometry of the window.
     const QTemporaryDir folder;
     const QString localFile = arguments.localFile.isEmpty()
                                   ? folder.filePath(QStringLiteral("settings.json"))
@@ -69,7 +69,7 @@ int drawPictures(const DemoArguments &arguments)
         error = takePictures(session, window, arguments.picturesFolder);
         ConfStorage::instance()->mChanged = false; // so that closing the window saves nothing
     }
-    QDir::setCurrent(QDir::rootPath()); // the folder cannot go while we are in it
+    QDir::setCurrent(QDir::rootPath()); // a working directory cannot be removed
     return error.isEmpty() ? 0 : fail(error);
 }
 
@@ -81,8 +81,8 @@ int main(int argc, char **argv)
     DemoArguments arguments;
     DemoArguments::Outcome outcome;
     {
-        // Before there are windows: help and complaints need no display, and the dots per inch are
-        // read when the real application object is made.
+        // Help and errors need no display, and the dots per inch must be set before the
+        // QApplication is created.
         const QCoreApplication early(argc, argv);
         outcome = arguments.parse(QCoreApplication::arguments());
         if (outcome == DemoArguments::Outcome::Failed)

@@ -18,8 +18,8 @@ namespace {
 
 constexpr int sMostRounds = 100;
 
-/// Runs the event loop until `window` looks the same twice: layouts, late polishing and deletions
-/// are done then.
+/// Runs the event loop until two pictures of `window` are equal, and returns the last one. Layouts,
+/// delayed polishing and deletions are complete then.
 QImage settledPicture(QWidget *window)
 {
     QImage picture;

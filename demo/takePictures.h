@@ -5,7 +5,7 @@
 class DemoSession;
 class QWidget;
 
-/// Draws `mainWindow` and every page of the settings window, in the light and in the dark theme,
-/// into `folder`: "<page>-<theme>.png". Prints the path of each picture. Pages that need scrolling
-/// get a window that is large enough. Returns what went wrong; empty when nothing did.
+/// Saves pictures of `mainWindow` and of every page of the settings window, in the light and in the
+/// dark theme, as "<page>-<theme>.png" in `folder`. Prints the path of each picture. The window is
+/// enlarged for pages that need scrolling. Returns an error message, or an empty text.
 QString takePictures(DemoSession &session, QWidget &mainWindow, const QString &folder);
