@@ -1,11 +1,9 @@
-#include "support/LogCapture.h"
 #include "support/TestMain.h"
 #include "support/WindowFixture.h"
 
 #include <QGridLayout>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSpinBox>
 
 using MtConf::ConfigItemWidget;
 using MtConf::ConfItem;
@@ -41,15 +39,6 @@ private Q_SLOTS:
     void pageOfAThousandItemsIsShown();
     void oldEditorsAreDeletedAtOnce();
     void itemDeclaredLaterAppearsWhenThePageIsBuiltAgain();
-    void callbackMayOpenAnotherPage_fromACheckBox();
-    void callbackMayOpenAnotherPage_fromASpinBox();
-    void editorLivesUntilTheCallbackThatReplacesItsPageReturns();
-    void callbackMayCloseTheWindow();
-    void factoryMayOpenAnotherPage();
-    void factoryMayDeleteTheWindow_data();
-    void factoryMayDeleteTheWindow();
-    void filterAndFactoryMayReplaceThemselves();
-    void hostMayDeleteAnEditorItself();
 
 private:
     ConfItem *addBool(const char *name, const char *subName = "", const char *major = "General")
@@ -332,156 +321,6 @@ void tst_ConfigurationWindowPage::itemDeclaredLaterAppearsWhenThePageIsBuiltAgai
     QVERIFY(!late->editor);
     mFixture->window()->switchToView("General");
     QVERIFY(late->editor);
-}
-
-void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromACheckBox()
-{
-    const ConfItem *item = addBool("a");
-    const ConfItem *other = addBool("b", "", "Other");
-    item->setConfChangedCallback(
-        [&](const QString &, const ConfValue *) { mFixture->manager->ShowWindow("Other"); });
-    mFixture->open();
-    mFixture->clickBox(mFixture->checkBox(item));
-    QVERIFY(!*mFlags.at(0));
-    QVERIFY(other->editor);
-    QCOMPARE(mFixture->captions(), QStringList("Other"));
-    QTRY_VERIFY(!item->editor);
-}
-
-void tst_ConfigurationWindowPage::callbackMayOpenAnotherPage_fromASpinBox()
-{
-    mNumber = 3;
-    const ConfItem *item = mFixture->manager->addConfInt32("n", &mNumber, "General", "n");
-    addBool("b", "", "Other");
-    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->ShowWindow("General"); // rebuilds the page during the key press
-    });
-    mFixture->open();
-    auto *box = item->editor->findChild<QSpinBox *>();
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Up);
-    QCOMPARE(mNumber, 4);
-    QVERIFY(item->editor);
-    QCOMPARE(item->editor->findChild<QSpinBox *>()->value(), 4);
-    QTRY_COMPARE(mFixture->window()->findChildren<QSpinBox *>().size(), 1);
-}
-
-void tst_ConfigurationWindowPage::editorLivesUntilTheCallbackThatReplacesItsPageReturns()
-{
-    const ConfItem *item = addBool("a");
-    addBool("b", "", "Other");
-    QPointer<QWidget> editor;
-    bool isHidden = false;
-    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        editor = item->editor;
-        mFixture->manager->ShowWindow("Other");
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        isHidden = editor && !editor->isVisible();
-    });
-    mFixture->open();
-    mFixture->clickBox(mFixture->checkBox(item));
-    QVERIFY(isHidden);
-    QTRY_VERIFY(!editor);
-}
-
-void tst_ConfigurationWindowPage::callbackMayCloseTheWindow()
-{
-    const ConfItem *item = addBool("a");
-    bool isWindowThere = false;
-    item->setConfChangedCallback([&](const QString &, const ConfValue *) {
-        mFixture->manager->closeConfigWindow();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        isWindowThere = mFixture->window();
-    });
-    mFixture->open();
-    mFixture->clickBox(mFixture->checkBox(item));
-    QVERIFY(isWindowThere);
-    QTRY_VERIFY(!mFixture->window());
-    QVERIFY(!*mFlags.at(0));
-}
-
-void tst_ConfigurationWindowPage::factoryMayOpenAnotherPage()
-{
-    int asked = 0;
-    mFixture->manager->setMajorWidget("Custom", [&](QWidget *parent) {
-        if (++asked == 1)
-            mFixture->manager->ShowWindow("Other");
-        return new QLabel("custom", parent);
-    });
-    const ConfItem *other = addBool("b", "", "Other");
-    QVERIFY(mFixture->open());
-    QTRY_VERIFY(other->editor);
-    QCOMPARE(mFixture->captions(), QStringList("Other"));
-}
-
-void tst_ConfigurationWindowPage::factoryMayDeleteTheWindow_data()
-{
-    QTest::addColumn<QString>("where");
-    QTest::newRow("custom page") << "page";
-    QTest::newRow("filter") << "filter";
-    QTest::newRow("editor") << "editor";
-}
-
-void tst_ConfigurationWindowPage::factoryMayDeleteTheWindow()
-{
-    QFETCH(QString, where);
-    addBool("first", "", "First");
-    ConfItem *item = addBool("a");
-    addBool("b");
-    addBool("c", "Group");
-    if (where == "page") {
-        mFixture->manager->setMajorWidget("General", [](QWidget *) -> QWidget * {
-            delete WindowFixture::window();
-            return nullptr;
-        });
-    } else if (where == "filter") {
-        item->flags = 0x1;
-        mFixture->manager->itemFilter = [](ConfItem &) {
-            delete WindowFixture::window();
-            return true;
-        };
-    } else {
-        item->widgetCreator = [](ConfItem *, QWidget *) -> ConfigItemWidget * {
-            delete WindowFixture::window();
-            return nullptr;
-        };
-    }
-    mFixture->open();
-    QVERIFY(!mFixture->manager->ShowWindow("General"));
-    QVERIFY(!mFixture->window());
-    // The same for the first page, which the constructor builds.
-    mFixture->manager->majorItems.move(1, 0);
-    QVERIFY(!mFixture->manager->ShowWindow());
-}
-
-void tst_ConfigurationWindowPage::filterAndFactoryMayReplaceThemselves()
-{
-    ConfItem *item = addBool("a");
-    item->flags = 0x1;
-    const QString captured(1000, 'c');
-    QStringList seen;
-    mFixture->manager->itemFilter = [&, captured](ConfItem &) {
-        mFixture->manager->itemFilter = nullptr;
-        seen << captured;
-        return true;
-    };
-    item->widgetCreator = [&, captured](ConfItem *edited, QWidget *) -> ConfigItemWidget * {
-        edited->widgetCreator = nullptr;
-        seen << captured;
-        return nullptr;
-    };
-    mFixture->open();
-    QCOMPARE(seen.count(captured), 2);
-}
-
-void tst_ConfigurationWindowPage::hostMayDeleteAnEditorItself()
-{
-    const ConfItem *item = addBool("a");
-    mFixture->open();
-    delete item->editor;
-    mFixture->window()->retranslateUi();
-    QVERIFY(mFixture->clickAndAnswer(mFixture->restorePageButton(), QMessageBox::Yes));
-    QVERIFY(item->editor);
 }
 
 int main(int argc, char **argv)
