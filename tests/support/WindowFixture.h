@@ -18,6 +18,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <vector>
 
 /// A manager with an empty store, and the settings window that a test opens with it.
 class WindowFixture
@@ -123,5 +124,14 @@ public:
         });
     }
 
+    /// Declares a switch that is on, with a variable of its own in `flags`.
+    MtConf::ConfItem *addBool(const char *name, const char *subName = "",
+                              const char *major = "General")
+    {
+        flags.push_back(std::make_unique<bool>(true));
+        return manager->addConfBool(name, flags.back().get(), major, name, subName);
+    }
+
+    std::vector<std::unique_ptr<bool>> flags;
     std::unique_ptr<MtConf::MtConfManage> manager;
 };

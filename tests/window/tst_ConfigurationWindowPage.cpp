@@ -14,11 +14,7 @@ class tst_ConfigurationWindowPage : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void init() { mFixture = std::make_unique<WindowFixture>(); }
-    void cleanup()
-    {
-        mFixture.reset();
-        mFlags.clear();
-    }
+    void cleanup() { mFixture.reset(); }
 
     void ungroupedItemsShareOneGroupUnderTheClassName();
     void subNamedItemsAreGroupedByName();
@@ -41,11 +37,6 @@ private Q_SLOTS:
     void itemDeclaredLaterAppearsWhenThePageIsBuiltAgain();
 
 private:
-    ConfItem *addBool(const char *name, const char *subName = "", const char *major = "General")
-    {
-        mFlags.push_back(std::make_unique<bool>(true));
-        return mFixture->manager->addConfBool(name, mFlags.back().get(), major, name, subName);
-    }
     static int separators(const QWidget *box)
     {
         int count = 0;
@@ -60,15 +51,14 @@ private:
     }
 
     std::unique_ptr<WindowFixture> mFixture;
-    std::vector<std::unique_ptr<bool>> mFlags;
     int mNumber = 0;
     QString mText;
 };
 
 void tst_ConfigurationWindowPage::ungroupedItemsShareOneGroupUnderTheClassName()
 {
-    addBool("a");
-    addBool("b");
+    mFixture->addBool("a");
+    mFixture->addBool("b");
     mFixture->open();
     QCOMPARE(mFixture->captions(), QStringList("General"));
     QCOMPARE(mFixture->groups().size(), 1);
@@ -79,10 +69,10 @@ void tst_ConfigurationWindowPage::ungroupedItemsShareOneGroupUnderTheClassName()
 
 void tst_ConfigurationWindowPage::subNamedItemsAreGroupedByName()
 {
-    addBool("Hotkey", "Left");
-    addBool("Zoom", "In");
-    const ConfItem *plain = addBool("Plain");
-    addBool("Hotkey", "Right");
+    mFixture->addBool("Hotkey", "Left");
+    mFixture->addBool("Zoom", "In");
+    const ConfItem *plain = mFixture->addBool("Plain");
+    mFixture->addBool("Hotkey", "Right");
     mFixture->open();
     QCOMPARE(mFixture->captions(), (QStringList{"General", "Hotkey", "Zoom"}));
     const QList<QGroupBox *> groups = mFixture->groups();
@@ -94,7 +84,7 @@ void tst_ConfigurationWindowPage::subNamedItemsAreGroupedByName()
 
 void tst_ConfigurationWindowPage::classWithOnlySubNamedItemsHasNoGroupOfItsName()
 {
-    addBool("Hotkey", "Left");
+    mFixture->addBool("Hotkey", "Left");
     mFixture->open();
     QCOMPARE(mFixture->captions(), QStringList("Hotkey"));
 }
@@ -113,7 +103,7 @@ void tst_ConfigurationWindowPage::separatorsAreBetweenItems()
     QFETCH(int, items);
     const char *const names[] = {"a", "b", "c"};
     for (int i = 0; i < items; ++i)
-        addBool(names[i]);
+        mFixture->addBool(names[i]);
     mFixture->open();
     QTEST(separators(mFixture->groups().first()), "lines");
 }
@@ -162,7 +152,7 @@ void tst_ConfigurationWindowPage::editorWithoutCaptionTakesTheWholeRow()
 
 void tst_ConfigurationWindowPage::gridIsSpacedByTheScale()
 {
-    addBool("a");
+    mFixture->addBool("a");
     mFixture->open();
     const QLayout *grid = mFixture->groups().first()->layout();
     // 12 units at 96 dots per inch.
@@ -174,8 +164,8 @@ void tst_ConfigurationWindowPage::gridIsSpacedByTheScale()
 
 void tst_ConfigurationWindowPage::classFlag1HidesCaptionsAndPanels()
 {
-    addBool("a");
-    addBool("Group", "b");
+    mFixture->addBool("a");
+    mFixture->addBool("Group", "b");
     mFixture->manager->setConfigClassFlag("General", 0x1);
     mFixture->open();
     QCOMPARE(mFixture->captions(), QStringList());
@@ -191,8 +181,8 @@ void tst_ConfigurationWindowPage::classFlag1HidesCaptionsAndPanels()
 
 void tst_ConfigurationWindowPage::classFlag4HidesTheRestoreButton()
 {
-    addBool("a");
-    addBool("b", "", "Other");
+    mFixture->addBool("a");
+    mFixture->addBool("b", "", "Other");
     mFixture->manager->setConfigClassFlag("General", 0x4 | 0x100);
     mFixture->open();
     QVERIFY(!mFixture->restorePageButton()->isVisible());
@@ -203,14 +193,14 @@ void tst_ConfigurationWindowPage::classFlag4HidesTheRestoreButton()
 
 void tst_ConfigurationWindowPage::customPageIsShownAlone()
 {
-    addBool("a");
+    mFixture->addBool("a");
     QWidget *givenParent = nullptr;
     QPointer<QLabel> page;
     mFixture->manager->setMajorWidget("General", [&](QWidget *parent) {
         givenParent = parent;
         return page = new QLabel("custom", parent);
     });
-    addBool("b", "", "Other");
+    mFixture->addBool("b", "", "Other");
     mFixture->open();
     QCOMPARE(givenParent, mFixture->window());
     QCOMPARE(mFixture->page()->count(), 1);
@@ -241,10 +231,10 @@ void tst_ConfigurationWindowPage::filteredItems_data()
 void tst_ConfigurationWindowPage::filteredItems()
 {
     QFETCH(QVariant, answer);
-    addBool("a");
-    addBool("b")->flags = 0x1;
-    addBool("c")->flags = 0x3;
-    addBool("d")->flags = 0x2;
+    mFixture->addBool("a");
+    mFixture->addBool("b")->flags = 0x1;
+    mFixture->addBool("c")->flags = 0x3;
+    mFixture->addBool("d")->flags = 0x2;
     QStringList asked;
     if (answer.isValid()) {
         mFixture->manager->itemFilter = [&](ConfItem &item) {
@@ -266,7 +256,7 @@ void tst_ConfigurationWindowPage::filteredItems()
 void tst_ConfigurationWindowPage::itemWithoutEditorIsNotShown()
 {
     mFixture->manager->addConfQString("Text", &mText, "General", "t");
-    addBool("a");
+    mFixture->addBool("a");
     mFixture->manager->addConfQString("Null", &mText, "General", "n", "",
                                       [](ConfItem *, QWidget *) { return nullptr; });
     mFixture->open();
@@ -277,8 +267,8 @@ void tst_ConfigurationWindowPage::itemWithoutEditorIsNotShown()
 void tst_ConfigurationWindowPage::pageEndsWithASpacerAndIsScrolledToTheTop()
 {
     for (int i = 0; i < 40; ++i)
-        addBool("many", QByteArray::number(i).constData());
-    addBool("few", "", "Other");
+        mFixture->addBool("many", QByteArray::number(i).constData());
+    mFixture->addBool("few", "", "Other");
     mFixture->open();
     const QLayout *page = mFixture->page();
     const QSpacerItem *spacer = page->itemAt(page->count() - 1)->spacerItem();
@@ -294,8 +284,9 @@ void tst_ConfigurationWindowPage::pageEndsWithASpacerAndIsScrolledToTheTop()
 void tst_ConfigurationWindowPage::pageOfAThousandItemsIsShown()
 {
     for (int i = 0; i < 1000; ++i) {
-        mFlags.push_back(std::make_unique<bool>(false));
-        mFixture->manager->addConfBool("item", mFlags.back().get(), "General", QString::number(i));
+        mFixture->flags.push_back(std::make_unique<bool>(false));
+        mFixture->manager->addConfBool("item", mFixture->flags.back().get(), "General",
+                                       QString::number(i));
     }
     mFixture->open();
     QCOMPARE(mFixture->groups().first()->findChildren<QCheckBox *>().size(), 1000);
@@ -304,8 +295,8 @@ void tst_ConfigurationWindowPage::pageOfAThousandItemsIsShown()
 
 void tst_ConfigurationWindowPage::oldEditorsAreDeletedAtOnce()
 {
-    const ConfItem *item = addBool("a");
-    addBool("b", "", "Other");
+    const ConfItem *item = mFixture->addBool("a");
+    mFixture->addBool("b", "", "Other");
     mFixture->open();
     const QPointer<QWidget> editor = item->editor;
     mFixture->window()->switchToView("Other");
@@ -315,9 +306,9 @@ void tst_ConfigurationWindowPage::oldEditorsAreDeletedAtOnce()
 
 void tst_ConfigurationWindowPage::itemDeclaredLaterAppearsWhenThePageIsBuiltAgain()
 {
-    addBool("a");
+    mFixture->addBool("a");
     mFixture->open();
-    const ConfItem *late = addBool("b");
+    const ConfItem *late = mFixture->addBool("b");
     QVERIFY(!late->editor);
     mFixture->window()->switchToView("General");
     QVERIFY(late->editor);

@@ -12,11 +12,7 @@ class tst_PageReentrancy : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void init() { mFixture = std::make_unique<WindowFixture>(); }
-    void cleanup()
-    {
-        mFixture.reset();
-        mFlags.clear();
-    }
+    void cleanup() { mFixture.reset(); }
 
     void callbackMayOpenAnotherPage_fromACheckBox();
     void callbackMayOpenAnotherPage_fromASpinBox();
@@ -29,26 +25,19 @@ private Q_SLOTS:
     void hostMayDeleteAnEditorItself();
 
 private:
-    ConfItem *addBool(const char *name, const char *subName = "", const char *major = "General")
-    {
-        mFlags.push_back(std::make_unique<bool>(true));
-        return mFixture->manager->addConfBool(name, mFlags.back().get(), major, name, subName);
-    }
-
     std::unique_ptr<WindowFixture> mFixture;
-    std::vector<std::unique_ptr<bool>> mFlags;
     int mNumber = 0;
 };
 
 void tst_PageReentrancy::callbackMayOpenAnotherPage_fromACheckBox()
 {
-    const ConfItem *item = addBool("a");
-    const ConfItem *other = addBool("b", "", "Other");
+    const ConfItem *item = mFixture->addBool("a");
+    const ConfItem *other = mFixture->addBool("b", "", "Other");
     item->setConfChangedCallback(
         [&](const QString &, const ConfValue *) { mFixture->manager->ShowWindow("Other"); });
     mFixture->open();
     mFixture->clickBox(mFixture->checkBox(item));
-    QVERIFY(!*mFlags.at(0));
+    QVERIFY(!*mFixture->flags.at(0));
     QVERIFY(other->editor);
     QCOMPARE(mFixture->captions(), QStringList("Other"));
     QTRY_VERIFY(!item->editor);
@@ -58,7 +47,7 @@ void tst_PageReentrancy::callbackMayOpenAnotherPage_fromASpinBox()
 {
     mNumber = 3;
     const ConfItem *item = mFixture->manager->addConfInt32("n", &mNumber, "General", "n");
-    addBool("b", "", "Other");
+    mFixture->addBool("b", "", "Other");
     item->setConfChangedCallback([&](const QString &, const ConfValue *) {
         mFixture->manager->ShowWindow("General"); // rebuilds the page during the key press
     });
@@ -74,8 +63,8 @@ void tst_PageReentrancy::callbackMayOpenAnotherPage_fromASpinBox()
 
 void tst_PageReentrancy::editorLivesUntilTheCallbackThatReplacesItsPageReturns()
 {
-    const ConfItem *item = addBool("a");
-    addBool("b", "", "Other");
+    const ConfItem *item = mFixture->addBool("a");
+    mFixture->addBool("b", "", "Other");
     QPointer<QWidget> editor;
     bool isHidden = false;
     item->setConfChangedCallback([&](const QString &, const ConfValue *) {
@@ -92,7 +81,7 @@ void tst_PageReentrancy::editorLivesUntilTheCallbackThatReplacesItsPageReturns()
 
 void tst_PageReentrancy::callbackMayCloseTheWindow()
 {
-    const ConfItem *item = addBool("a");
+    const ConfItem *item = mFixture->addBool("a");
     bool isWindowThere = false;
     item->setConfChangedCallback([&](const QString &, const ConfValue *) {
         mFixture->manager->closeConfigWindow();
@@ -103,7 +92,7 @@ void tst_PageReentrancy::callbackMayCloseTheWindow()
     mFixture->clickBox(mFixture->checkBox(item));
     QVERIFY(isWindowThere);
     QTRY_VERIFY(!mFixture->window());
-    QVERIFY(!*mFlags.at(0));
+    QVERIFY(!*mFixture->flags.at(0));
 }
 
 void tst_PageReentrancy::factoryMayOpenAnotherPage()
@@ -114,7 +103,7 @@ void tst_PageReentrancy::factoryMayOpenAnotherPage()
             mFixture->manager->ShowWindow("Other");
         return new QLabel("custom", parent);
     });
-    const ConfItem *other = addBool("b", "", "Other");
+    const ConfItem *other = mFixture->addBool("b", "", "Other");
     QVERIFY(mFixture->open());
     QTRY_VERIFY(other->editor);
     QCOMPARE(mFixture->captions(), QStringList("Other"));
@@ -131,10 +120,10 @@ void tst_PageReentrancy::factoryMayDeleteTheWindow_data()
 void tst_PageReentrancy::factoryMayDeleteTheWindow()
 {
     QFETCH(QString, where);
-    addBool("first", "", "First");
-    ConfItem *item = addBool("a");
-    addBool("b");
-    addBool("c", "Group");
+    mFixture->addBool("first", "", "First");
+    ConfItem *item = mFixture->addBool("a");
+    mFixture->addBool("b");
+    mFixture->addBool("c", "Group");
     if (where == "page") {
         mFixture->manager->setMajorWidget("General", [](QWidget *) -> QWidget * {
             delete WindowFixture::window();
@@ -162,7 +151,7 @@ void tst_PageReentrancy::factoryMayDeleteTheWindow()
 
 void tst_PageReentrancy::filterAndFactoryMayReplaceThemselves()
 {
-    ConfItem *item = addBool("a");
+    ConfItem *item = mFixture->addBool("a");
     item->flags = 0x1;
     const QString captured(1000, 'c');
     QStringList seen;
@@ -182,7 +171,7 @@ void tst_PageReentrancy::filterAndFactoryMayReplaceThemselves()
 
 void tst_PageReentrancy::hostMayDeleteAnEditorItself()
 {
-    const ConfItem *item = addBool("a");
+    const ConfItem *item = mFixture->addBool("a");
     mFixture->open();
     delete item->editor;
     mFixture->window()->retranslateUi();
