@@ -32,7 +32,12 @@ public:
     ~Private() override { giveBack(); }
     Q_DISABLE_COPY(Private)
 
-    static bool isGuiThread() { return qApp && QThread::currentThread() == qApp->thread(); }
+    static bool isGuiThread()
+    {
+        // Not qApp, which casts to QGuiApplication: there may be a QCoreApplication only.
+        const auto *application = QCoreApplication::instance();
+        return application && QThread::currentThread() == application->thread();
+    }
 
     bool isValid() const { return mRegistry && mRegistry->isRegistered(mChord); }
 
