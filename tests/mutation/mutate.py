@@ -154,13 +154,12 @@ class Copy:
         subprocess.run(["rsync", "-a", "--checksum", "--no-times", "--files-from=-",
                         str(ROOT), str(self.tree)], input=names, text=True, check=True)
 
-    def prepare(self, qt):
+    def prepare(self, qt, folders):
         if not (self.build / "build.ninja").exists():
             subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build,
                             "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
                             "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DMALTO_QT_MAJOR=" + qt],
                            check=True, stdout=subprocess.DEVNULL)
-        folders = sorted({folder for group in TEST_FOLDERS.values() for folder in group})
         targets = ["tests/%s/all" % folder for folder in folders]
         if not self.compiles(targets):
             sys.exit("the tree does not build without a mutant: see %s" % self.log)
@@ -290,7 +289,8 @@ def main():
         report(drawn, quota, results)
         return
     copy = Copy(options.work.resolve())
-    copy.prepare(options.qt)
+    copy.prepare(options.qt, {folder for name in drawn
+                              for folder in TEST_FOLDERS[str(Path(name).parent)]})
     tests = Tests(copy.build, options.work)
     tests.measure(sorted({test for name in drawn for test in tests.relevant(name)}))
     try_all(drawn, quota, copy, tests, results)
