@@ -46,14 +46,7 @@ DemoSession::~DemoSession()
 {
     // Destroy the window first. The store lives on and must not use our variables any more.
     mManager.reset();
-    ConfStorage *store = ConfStorage::instance();
-    store->mConfValues.clear();
-    store->mConfMetas.clear();
-    store->mRemovedDynamicConfs.clear();
-    store->mPresetDynamicConfs.clear();
-    store->mLocalSaveFile.clear();
-    store->mChanged = false;
-    store->mLocalLoaded = false;
+    ConfStorage::instance()->clear();
 }
 
 MtConf::ConfItem *DemoSession::item(const char *page, const char *name)

@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -18,6 +19,13 @@ ConfStorage *ConfStorage::instance()
 {
     static ConfStorage *sInstance = new ConfStorage;
     return sInstance;
+}
+
+void ConfStorage::clear()
+{
+    // Constructed again in place, because a list of the members would miss the next one.
+    this->~ConfStorage();
+    new (this) ConfStorage;
 }
 
 void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current)

@@ -107,6 +107,11 @@ public:
     ConfStorage() = default;
     Q_DISABLE_COPY(ConfStorage)
 
+    /// Makes the store as it was when it was constructed: without keys, presets, classes,
+    /// tombstones and path. For hosts whose variables are destroyed before the process ends. Writes
+    /// no file and calls no callback.
+    void clear();
+
     /// Binds `key` to `*ptr`, whose current content becomes the default value. Reserving a key
     /// again binds it to the new variable and resets its callback, timestamp and flags. Calls no
     /// callback. `T` is `int`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence` or another type

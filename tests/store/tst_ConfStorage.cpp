@@ -13,6 +13,7 @@ private Q_SLOTS:
     void init() { mStore = std::make_unique<ConfStorage>(); }
 
     void instanceIsASingletonThatStartsEmpty();
+    void clearForgetsEverything();
     void recordStartsAtItsDefault();
     void reservingBindsTheVariable();
     void reservingCallsNoCallbackAndDoesNotMarkTheStore();
@@ -67,6 +68,33 @@ void tst_ConfStorage::instanceIsASingletonThatStartsEmpty()
     QVERIFY(store->mConfMetas.isEmpty());
     QVERIFY(store->mLocalSaveFile.isEmpty());
     QVERIFY(store->mDynamicConfClasses.isEmpty());
+}
+
+void tst_ConfStorage::clearForgetsEverything()
+{
+    int size = 7;
+    ConfStorage::DynamicConfClass profiles;
+    mStore->reserveConf(key(), &size);
+    mStore->set<int>(key(), 8);
+    mStore->mDynamicConfClasses.append(&profiles);
+    mStore->mPresetDynamicConfs["Profile.Web"] = QJsonObject();
+    mStore->mRemovedDynamicConfs["Profile.Mail"] = QDateTime::currentDateTimeUtc();
+    mStore->mLocalSaveFile = "settings.json";
+    mStore->mLocalLoaded = true;
+    mStore->mSafeSave = true;
+    countCalls();
+    mStore->clear();
+    QCOMPARE(mCalls, 0);
+    QCOMPARE(size, 8);
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QVERIFY(mStore->mConfMetas.isEmpty());
+    QVERIFY(mStore->mDynamicConfClasses.isEmpty());
+    QVERIFY(mStore->mPresetDynamicConfs.isEmpty());
+    QVERIFY(mStore->mRemovedDynamicConfs.isEmpty());
+    QVERIFY(mStore->mLocalSaveFile.isEmpty());
+    QVERIFY(!mStore->mChanged);
+    QVERIFY(!mStore->mLocalLoaded);
+    QVERIFY(!mStore->mSafeSave);
 }
 
 void tst_ConfStorage::recordStartsAtItsDefault()

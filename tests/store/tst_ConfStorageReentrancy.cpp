@@ -152,20 +152,28 @@ void tst_ConfStorageReentrancy::callbackMayReserveItsKeyAgain()
 void tst_ConfStorageReentrancy::callbackMayEmptyTheStore_data()
 {
     QTest::addColumn<QString>("change");
-    for (const char *change : {"set", "setToDefault", "loadValueFromJson", "loadConf"})
-        QTest::newRow(change) << change;
+    QTest::addColumn<bool>("isCleared");
+    for (const char *change : {"set", "setToDefault", "loadValueFromJson", "loadConf"}) {
+        QTest::addRow("%s, maps", change) << change << false;
+        QTest::addRow("%s, clear", change) << change << true;
+    }
 }
 
 void tst_ConfStorageReentrancy::callbackMayEmptyTheStore()
 {
     QFETCH(QString, change);
+    QFETCH(bool, isCleared);
     mStore->set<int>(key(), 8);
     mStore->mConfMetas[key()].lastChangeTime = QDateTime::fromSecsSinceEpoch(5, Qt::UTC);
     int calls = 0;
     mStore->setConfChangedCallback(key(), [&](const QString &, const ConfValue *) {
         ++calls;
-        mStore->mConfValues.clear();
-        mStore->mConfMetas.clear();
+        if (isCleared) {
+            mStore->clear();
+        } else {
+            mStore->mConfValues.clear();
+            mStore->mConfMetas.clear();
+        }
     });
     if (change == "set")
         mStore->set<int>(key(), 9);
