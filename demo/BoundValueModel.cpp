@@ -16,7 +16,7 @@ BoundValueModel::BoundValueModel(const MtConf::MtConfManage &manager, QObject *p
 
 int BoundValueModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : mKeys.size();
+    return parent.isValid() ? 0 : static_cast<int>(mKeys.size());
 }
 
 int BoundValueModel::columnCount(const QModelIndex &parent) const
@@ -74,7 +74,7 @@ void BoundValueModel::refresh()
         mKeys = keys;
         endResetModel();
     } else if (!mKeys.isEmpty()) {
-        Q_EMIT dataChanged(index(0, 0), index(mKeys.size() - 1, ColumnCount - 1));
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
     }
 }
 

@@ -26,7 +26,7 @@ public:
     int changedCount() const;
 
     /// Returns the row of the setting `key`, or -1 if there is none.
-    int rowOf(const QString &key) const { return mKeys.indexOf(key); }
+    int rowOf(const QString &key) const { return static_cast<int>(mKeys.indexOf(key)); }
 
 public Q_SLOTS:
     /// Reads all variables again. Call it when settings have changed.

@@ -111,13 +111,14 @@ QPushButton *MainWindow::addButton(const char *name)
 void MainWindow::buildMenu()
 {
     mFileMenu = menuBar()->addMenu(QString());
-    mSettingsAction = mFileMenu->addAction(
-        QString(), this, [this] { showSettings(QString()); },
-        QKeySequence(Qt::CTRL + Qt::Key_Comma));
-    mSaveAction = mFileMenu->addAction(QString(), this, &MainWindow::save, QKeySequence::Save);
+    mSettingsAction = mFileMenu->addAction(QString(), this, [this] { showSettings(QString()); });
+    mSettingsAction->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    mSaveAction = mFileMenu->addAction(QString(), this, &MainWindow::save);
+    mSaveAction->setShortcut(QKeySequence::Save);
     mRestoreAction = mFileMenu->addAction(QString(), this, &MainWindow::restoreAll);
     mFileMenu->addSeparator();
-    mQuitAction = mFileMenu->addAction(QString(), this, &QWidget::close, QKeySequence::Quit);
+    mQuitAction = mFileMenu->addAction(QString(), this, &QWidget::close);
+    mQuitAction->setShortcut(QKeySequence::Quit);
 
     mThemeMenu = menuBar()->addMenu(QString());
     mThemes = new QActionGroup(this);

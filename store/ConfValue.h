@@ -156,6 +156,7 @@ template<class T> constexpr ConfValue::ConfType ConfValue::typeOf()
 
 template<class T> ConfValue ConfValue::bound(T *variable)
 {
+    qMetaTypeId<T *>(); // registers the name of the pointer type, which Qt 6 does not do by itself
     return ConfValue(QVariant::fromValue(variable), true, typeOf<T>());
 }
 

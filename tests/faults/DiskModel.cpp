@@ -148,10 +148,10 @@ void DiskModel::write(File &file, const Faults::Call &call)
 
 void DiskModel::apply(const Change &change, Content &content)
 {
-    const int offset = static_cast<int>(change.offset);
+    const auto offset = static_cast<QByteArray::size_type>(change.offset);
     if (change.isCut)
         content.truncate(offset);
-    const int end = offset + change.data.size();
+    const auto end = offset + change.data.size();
     if (content.size() < end)
         content.append(QByteArray(end - content.size(), '\0'));
     content.replace(offset, change.data.size(), change.data);

@@ -68,7 +68,7 @@ void tst_ConfStorageFaults::callsOfASave()
         const LogCapture log;
         const Scope faults(SavedSettings::folder(), [&](const Call &call) {
             const QString name = QString::fromUtf8(call.path);
-            const int last = qMax(name.lastIndexOf('.'), name.lastIndexOf('/'));
+            const auto last = qMax(name.lastIndexOf('.'), name.lastIndexOf('/'));
             const QString text = names.value(call.kind) + " " + name.mid(last + 1);
             // The save tries to remove an unfinished journal, and Qt may read to the end of the
             // file in any number of calls.
@@ -151,7 +151,7 @@ void tst_ConfStorageFaults::plainSaveOnAFullDiskTruncatesTheFile()
         QCOMPARE(next.number(), space == whole.size() ? 2 : 0);
         QVERIFY(log.messages().isEmpty());
     }
-    qInfo("disk space tried: 0 to %d bytes", whole.size());
+    qInfo("disk space tried: 0 to %d bytes", static_cast<int>(whole.size()));
 }
 
 void tst_ConfStorageFaults::readOnlyFolder_data()

@@ -17,6 +17,16 @@ ConfValue ofUnknownType(quint32 type)
     return value;
 }
 
+/// Whether a bound value makes the name known to Qt, as that of a pointer to `T`.
+template<class T> bool bindingRegisters(const char *name)
+{
+    const ConfValue value = ConfValue::bound<T>(nullptr);
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // Qt 6 looks up names by another function, which Qt 5 lacks
+    return QMetaType::type(name) == value.mValue.userType();
+    QT_WARNING_POP
+}
+
 QKeySequence keys(int first, int second = 0)
 {
     return QKeySequence(first, second);
@@ -71,15 +81,15 @@ void tst_ConfValue::defaultConstructedIsEmpty()
 
 void tst_ConfValue::pointerTypesAreRegisteredByName()
 {
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QColor *>()), "TyQColorPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<int *>()), "TyInt32Ptr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<qreal *>()), "TyQrealPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<bool *>()), "TyBoolPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QString *>()), "TyQStringPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QFont *>()), "TyQFontPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QKeySequence *>()), "TyQKeySequencePtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QJsonObject *>()), "TyQJsonObjectPtr");
-    QCOMPARE(QMetaType::typeName(qMetaTypeId<QJsonArray *>()), "TyQJsonArrayPtr");
+    QVERIFY(bindingRegisters<QColor>("TyQColorPtr"));
+    QVERIFY(bindingRegisters<int>("TyInt32Ptr"));
+    QVERIFY(bindingRegisters<qreal>("TyQrealPtr"));
+    QVERIFY(bindingRegisters<bool>("TyBoolPtr"));
+    QVERIFY(bindingRegisters<QString>("TyQStringPtr"));
+    QVERIFY(bindingRegisters<QFont>("TyQFontPtr"));
+    QVERIFY(bindingRegisters<QKeySequence>("TyQKeySequencePtr"));
+    QVERIFY(bindingRegisters<QJsonObject>("TyQJsonObjectPtr"));
+    QVERIFY(bindingRegisters<QJsonArray>("TyQJsonArrayPtr"));
     int number = 0;
     QCOMPARE(qvariant_cast<int *>(ConfValue::bound(&number).mValue), &number);
 }
@@ -261,7 +271,7 @@ void tst_ConfValue::toJson_data()
     QTest::newRow("real") << own(0.5) << QJsonValue(0.5);
     QTest::newRow("boolean") << own(true) << QJsonValue(true);
     QTest::newRow("text") << own(QString::fromUtf8("é")) << QJsonValue(QString::fromUtf8("é"));
-    QTest::newRow("keys") << own(keys(Qt::CTRL + Qt::Key_A, Qt::Key_F5))
+    QTest::newRow("keys") << own(keys(int(Qt::CTRL) | Qt::Key_A, Qt::Key_F5))
                           << QJsonValue("Ctrl+A, F5");
     QTest::newRow("no keys") << own(QKeySequence()) << QJsonValue("");
     QTest::newRow("object") << own(QJsonObject{{"a", 1}}) << QJsonValue(QJsonObject{{"a", 1}});
@@ -308,7 +318,7 @@ void tst_ConfValue::fromJson_data()
     QTest::newRow("text") << text << QJsonValue("new") << own(QString("new"));
     QTest::newRow("text from an object") << text << QJsonValue(QJsonObject()) << own(QString());
     QTest::newRow("keys") << sequence << QJsonValue("Ctrl+A, F5")
-                          << own(keys(Qt::CTRL + Qt::Key_A, Qt::Key_F5));
+                          << own(keys(int(Qt::CTRL) | Qt::Key_A, Qt::Key_F5));
     QTest::newRow("no keys") << sequence << QJsonValue("") << own(QKeySequence());
     QTest::newRow("object") << own(QJsonObject()) << QJsonValue(QJsonObject{{"b", 2}})
                             << own(QJsonObject{{"b", 2}});

@@ -150,7 +150,7 @@ public:
     int bits = 1;
     QColor colour = Qt::red;
     QFont font;
-    QKeySequence key{Qt::CTRL + Qt::SHIFT + Qt::Key_F9};
+    QKeySequence key{Qt::CTRL | Qt::SHIFT | Qt::Key_F9};
     int mouse = 2;
     QString language = "auto";
     bool host = true;

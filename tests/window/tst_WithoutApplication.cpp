@@ -60,7 +60,7 @@ void tst_WithoutApplication::hotkeysAreNotRegistered()
     const auto application = hasApplication ? std::make_unique<QCoreApplication>(count, arguments)
                                             : nullptr;
     QVERIFY(!QxtGlobalShortcut::isSupported());
-    QxtGlobalShortcut shortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
+    QxtGlobalShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
     QVERIFY(shortcut.isEnabled());
     QVERIFY(!shortcut.isValid());
 }

@@ -136,7 +136,7 @@ void tst_QxtGlobalShortcutX11Keyboard::letterOfTheSecondLayoutIsFound()
 void tst_QxtGlobalShortcutX11Keyboard::numLockOnAnotherModifierIsFound()
 {
     // Move Num Lock from the fifth row of the map, Mod2, to the sixth, Mod3, which has no keys.
-    const int keysPerModifier = mModifiers.size() / 8;
+    const auto keysPerModifier = static_cast<int>(mModifiers.size() / 8);
     QVector<xcb_keycode_t> moved = mModifiers;
     for (int i = 0; i < keysPerModifier; ++i)
         qSwap(moved[4 * keysPerModifier + i], moved[5 * keysPerModifier + i]);
@@ -154,7 +154,7 @@ void tst_QxtGlobalShortcutX11Keyboard::keyWithoutModifiersWorksAfterNumLockMoves
     QxtGlobalShortcut shortcut(mKeys);
     QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
     QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
-    const int keysPerModifier = mModifiers.size() / 8;
+    const auto keysPerModifier = static_cast<int>(mModifiers.size() / 8);
     QVector<xcb_keycode_t> moved = mModifiers;
     for (int i = 0; i < keysPerModifier; ++i)
         moved[4 * keysPerModifier + i] = 0;

@@ -87,7 +87,7 @@ void tst_X11KeySymbols::unknownKeyHasNoSymbol_data()
 {
     QTest::addColumn<int>("chord");
     QTest::newRow("zero") << 0;
-    QTest::newRow("modifiersWithoutKey") << int(Qt::CTRL + Qt::ALT);
+    QTest::newRow("modifiersWithoutKey") << int(Qt::CTRL) + int(Qt::ALT);
     QTest::newRow("unknown") << int(Qt::Key_unknown);
     QTest::newRow("controlCharacter") << 0x1b;
     QTest::newRow("afterTilde") << 0x7f;

@@ -64,7 +64,10 @@ void tst_QIconfontScaled::iconForTheSelectedModeIsSharp()
 int main(int argc, char **argv)
 {
     qputenv("QT_SCALE_FACTOR", "2");
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // Qt 6 always has them
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QT_WARNING_POP
     return runTest<tst_QIconfontScaled>(argc, argv);
 }
 

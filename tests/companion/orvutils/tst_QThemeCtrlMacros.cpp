@@ -277,7 +277,7 @@ void tst_QThemeCtrlMacros::largeSheetIsExpanded()
 {
     QFETCH(QString, piece);
     QFETCH(QString, expectedPiece);
-    const int pieces = 5000000 / piece.size();
+    const auto pieces = static_cast<int>(5000000 / piece.size());
     QVERIFY(expand(piece.repeated(pieces), 2) == expectedPiece.repeated(pieces));
 }
 

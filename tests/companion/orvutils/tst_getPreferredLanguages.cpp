@@ -45,9 +45,9 @@ void tst_getPreferredLanguages::mostPreferredLanguageIsFirst()
     const QStringList languages = languagesWith(QStringLiteral("fr:de"),
                                                 QStringLiteral("en_US.UTF-8"));
     // Each language may be listed in several forms: "fr", "fr-FR", "fr-Latn-FR".
-    const int firstGerman = languages.indexOf(QRegularExpression(QStringLiteral("^de.*")));
+    const auto firstGerman = languages.indexOf(QRegularExpression(QStringLiteral("^de.*")));
     QVERIFY(firstGerman > 0);
-    for (int i = 0; i < firstGerman; ++i)
+    for (QStringList::size_type i = 0; i < firstGerman; ++i)
         QCOMPARE(languages.at(i).left(2), QStringLiteral("fr"));
 }
 
