@@ -1,7 +1,8 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "JsonText_p.h"
+
+#include <QJsonValue>
 
 #include <algorithm>
 
@@ -25,9 +26,9 @@ QString valueText(const ConfValue &value)
 {
     if (value.mType == ConfValue::TyNone)
         return nothing();
-    const QByteArray json = QJsonDocument(QJsonArray{value.toJsonValue()})
-                                .toJson(QJsonDocument::Compact);
-    const QString text = QString::fromUtf8(json.mid(1, json.size() - 2));
+    QByteArray json;
+    appendJsonValue(json, value.toJsonValue());
+    const QString text = QString::fromUtf8(json);
     return text.size() > sMostCharacters ? text.left(sMostCharacters - 1) + QChar(0x2026) : text;
 }
 

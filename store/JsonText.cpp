@@ -3,7 +3,9 @@
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QJsonValue>
+#include <QLocale>
 #include <QString>
 
 #include <cmath>
@@ -11,6 +13,8 @@
 namespace {
 
 constexpr double sLargestExactInteger = 9007199254740992.0; // 2^53
+constexpr double sBeyond64Bits = 18446744073709551616.0;    // 2^64
+constexpr double sSmallestDecimal = 0.0001;                 // smaller numbers have an exponent
 
 /// Serializes `value` as the only element of an array: QJsonDocument accepts no other values.
 void appendByDocument(QByteArray &text, const QJsonValue &value)
@@ -23,6 +27,54 @@ void appendByDocument(QByteArray &text, const QJsonValue &value)
 bool isPlain(ushort character)
 {
     return character >= 0x20 && character < 0x7f && character != '"' && character != '\\';
+}
+
+/// Returns the text of the QJsonDocument of Qt 5. That of Qt 6 writes whole numbers that no double
+/// can hold, and chooses an exponent for other numbers than Qt 5, as for 0.0004 and 1e17.
+QByteArray fractionText(double number)
+{
+    const double size = std::abs(number);
+    const QByteArray decimal = QByteArray::number(number, 'f', QLocale::FloatingPointShortest);
+    if (size >= sSmallestDecimal && size < sBeyond64Bits)
+        return decimal;
+    const QByteArray scientific = QByteArray::number(number, 'e', QLocale::FloatingPointShortest);
+    return size < sSmallestDecimal || scientific.size() < decimal.size() ? scientific : decimal;
+}
+
+void appendNumber(QByteArray &text, double number)
+{
+    if (number == 0 || !std::isfinite(number))
+        appendByDocument(text, number); // zero may be negative, and JSON has no infinity
+    else if (std::trunc(number) == number && std::abs(number) < sLargestExactInteger)
+        text += QByteArray::number(static_cast<qint64>(number));
+    else
+        text += fractionText(number);
+}
+
+void appendArray(QByteArray &text, const QJsonArray &array)
+{
+    text += '[';
+    const auto start = text.size();
+    for (const QJsonValue &element : array) {
+        if (text.size() > start)
+            text += ',';
+        appendJsonValue(text, element);
+    }
+    text += ']';
+}
+
+void appendObject(QByteArray &text, const QJsonObject &object)
+{
+    text += '{';
+    const auto start = text.size();
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
+        if (text.size() > start)
+            text += ',';
+        appendJsonString(text, member.key());
+        text += ':';
+        appendJsonValue(text, member.value());
+    }
+    text += '}';
 }
 
 } // namespace
@@ -49,17 +101,10 @@ void appendJsonValue(QByteArray &text, const QJsonValue &value)
     switch (value.type()) {
     case QJsonValue::Bool: text += value.toBool() ? "true" : "false"; return;
     case QJsonValue::String: appendJsonString(text, value.toString()); return;
-    case QJsonValue::Double: {
-        const double number = value.toDouble();
-        // QJsonDocument decides about zero, which may be negative.
-        if (number != 0 && std::abs(number) < sLargestExactInteger
-            && std::trunc(number) == number) {
-            text += QByteArray::number(static_cast<qint64>(number));
-            return;
-        }
-        break;
+    case QJsonValue::Double: appendNumber(text, value.toDouble()); return;
+    case QJsonValue::Array: appendArray(text, value.toArray()); return;
+    case QJsonValue::Object: appendObject(text, value.toObject()); return;
+    case QJsonValue::Null:
+    case QJsonValue::Undefined: text += "null"; return;
     }
-    default: break;
-    }
-    appendByDocument(text, value);
 }
