@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/store/ConfValue.h>
 
+#include "ValueText_p.h"
+
 #include <QDebug>
 #include <QJsonValue>
 
@@ -29,11 +31,11 @@ template<class Visitor> void visitType(ConfValue::ConfType type, Visitor visitor
 
 QJsonValue toJson(const QColor &color)
 {
-    return color.isValid() ? QString::number(color.rgba(), 16) : QStringLiteral("None");
+    return color.isValid() ? QString::number(toRgba(color), 16) : QStringLiteral("None");
 }
 QJsonValue toJson(const QFont &font)
 {
-    return font.toString();
+    return toFontText(font);
 }
 QJsonValue toJson(const QKeySequence &keys)
 {
@@ -78,7 +80,7 @@ bool hasUsableSize(const QFont &font)
 void fromJson(const QJsonValue &json, QFont &font)
 {
     QFont read;
-    if (!read.fromString(json.toString()))
+    if (!readFontText(json.toString(), &read))
         return;
     if (hasUsableSize(read))
         font = read;
@@ -96,6 +98,17 @@ void fromJson(const QJsonValue &json, QJsonObject &object)
 void fromJson(const QJsonValue &json, QJsonArray &array)
 {
     array = json.toArray();
+}
+
+/// What QVariant::isNull() says with Qt 5: with Qt 6 it no longer asks the text that it holds, and
+/// says yes to a pointer that is null.
+bool isNull(const ConfValue &value)
+{
+    const QVariant &content = value.mValue;
+    if (value.mIsPtr)
+        return !content.isValid();
+    return content.isNull()
+           || (content.userType() == QMetaType::QString && content.toString().isNull());
 }
 
 } // namespace
@@ -131,7 +144,7 @@ bool ConfValue::operator==(const ConfValue &other) const
 
 QJsonValue ConfValue::toJsonValue() const
 {
-    if (mType == TyNone || mValue.isNull())
+    if (mType == TyNone || isNull(*this))
         return QJsonValue();
     QJsonValue json;
     visitType(mType, [&](auto *type) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QTextStream>
@@ -12,6 +13,12 @@ namespace QtCompat {
 inline int chordAt(const QKeySequence &keys, int index)
 {
     return keys[static_cast<uint>(index)].toCombined();
+}
+
+/// Gives the font a weight, which is passed in the scale of Qt 5 and in that of Qt 6.
+inline void setWeight(QFont *font, int, int qt6Weight)
+{
+    font->setWeight(static_cast<QFont::Weight>(qt6Weight));
 }
 
 /// Lets the stream read and write UTF-8; a byte order mark of another encoding still counts.

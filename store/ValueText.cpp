@@ -1,0 +1,177 @@
+#include "ValueText_p.h"
+
+#include "QtCompat_p.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace {
+
+// Fields of a font's text.
+constexpr int sWeightField = 4;
+constexpr int sQt5Fields = 10;
+constexpr int sQt6Fields = 16;
+
+constexpr int sHueSteps = 36000;   // of a QColor
+constexpr double sSteps = 65535.0; // of its other components
+
+struct WeightRow
+{
+    int qt5;
+    int openType;
+};
+
+/// The named weights, from thin to black, and the greatest ones. Between them both scales are
+/// straight.
+constexpr WeightRow sWeights[] = {{0, 100},  {12, 200}, {25, 300}, {50, 400}, {57, 500},
+                                  {63, 600}, {75, 700}, {81, 800}, {87, 900}, {99, 1000}};
+
+/// Converts `value` from the scale `from` to the scale `to`.
+int converted(int value, int WeightRow::*from, int WeightRow::*to)
+{
+    const WeightRow *const last = std::end(sWeights) - 1;
+    value = qBound(sWeights->*from, value, last->*from);
+    const WeightRow *upper = std::find_if(std::begin(sWeights) + 1, last,
+                                          [&](const WeightRow &row) { return value <= row.*from; });
+    const WeightRow *lower = upper - 1;
+    const double share = double(value - lower->*from) / (upper->*from - lower->*from);
+    return qRound(lower->*to + share * (upper->*to - lower->*to));
+}
+
+/// Qt 3 wrote nine fields, without the size in pixels, and italic instead of the style.
+QStringList withPixelSize(QStringList fields)
+{
+    fields.insert(2, QStringLiteral("-1"));
+    fields[5] = QString::number(fields.at(5).toInt() != 0 ? 1 : 0);
+    return fields;
+}
+
+QStringList withoutQt6Fields(const QStringList &fields)
+{
+    QStringList kept = fields.mid(0, sQt5Fields) + fields.mid(sQt6Fields);
+    kept[sWeightField] = QString::number(qt5Weight(kept.at(sWeightField).toInt()));
+    return kept;
+}
+
+using Rgb = std::array<double, 3>;
+
+/// The hue goes from 0 to 6, the others go from 0 to 1.
+Rgb rgbOfHsv(double hue, double saturation, double value)
+{
+    const int sector = static_cast<int>(hue);
+    const double part = hue - sector;
+    const double least = value * (1 - saturation);
+    const double falling = value * (1 - saturation * part);
+    const double rising = value * (1 - saturation * (1 - part));
+    switch (sector) {
+    case 0: return {value, rising, least};
+    case 1: return {falling, value, least};
+    case 2: return {least, value, rising};
+    case 3: return {least, falling, value};
+    case 4: return {rising, least, value};
+    default: return {value, least, falling};
+    }
+}
+
+/// All go from 0 to 1.
+Rgb rgbOfHsl(double hue, double saturation, double lightness)
+{
+    const double upper = lightness < 0.5 ? lightness * (1 + saturation)
+                                         : lightness + saturation - lightness * saturation;
+    const double lower = 2 * lightness - upper;
+    const auto component = [&](double place) {
+        place += place < 0 ? 1 : place > 1 ? -1 : 0;
+        if (place * 6 < 1)
+            return lower + (upper - lower) * (place * 6);
+        if (place * 2 < 1)
+            return upper;
+        if (place * 3 < 2)
+            return lower + (upper - lower) * (2 / 3.0 - place) * 6;
+        return lower;
+    };
+    return {component(hue + 1 / 3.0), component(hue), component(hue - 1 / 3.0)};
+}
+
+/// QColor keeps its components in steps of 16 bits.
+int toSteps(double share)
+{
+    return qRound(share * sSteps);
+}
+
+} // namespace
+
+int openTypeWeight(int qt5Weight)
+{
+    return converted(qt5Weight, &WeightRow::qt5, &WeightRow::openType);
+}
+
+int qt5Weight(int openTypeWeight)
+{
+    return converted(openTypeWeight, &WeightRow::openType, &WeightRow::qt5);
+}
+
+QString toQt5FontText(const QString &text)
+{
+    const QStringList fields = text.trimmed().split(QLatin1Char(','));
+    if (fields.first().isEmpty())
+        return QString();
+    switch (fields.size()) {
+    case 1:
+    case 2:
+    case 10:
+    case 11: return text;
+    case 9: return withPixelSize(fields).join(QLatin1Char(','));
+    case 16:
+    case 17: return withoutQt6Fields(fields).join(QLatin1Char(','));
+    default: return QString();
+    }
+}
+
+QString toFontText(const QFont &font)
+{
+    const QString text = font.toString();
+    const QString qt5Text = toQt5FontText(text);
+    return qt5Text.isNull() ? text : qt5Text;
+}
+
+bool readFontText(const QString &text, QFont *font)
+{
+    const QString qt5Text = toQt5FontText(text);
+    if (qt5Text.isNull()) {
+        qWarning("QFont::fromString: Invalid description '%s'",
+                 text.isEmpty() ? "(empty)" : text.toLatin1().constData());
+        return false;
+    }
+    if (!font->fromString(qt5Text))
+        return false;
+    const QStringList fields = qt5Text.split(QLatin1Char(','));
+    if (fields.size() >= sQt5Fields) {
+        const int weight = qBound(0, fields.at(sWeightField).toInt(), 99);
+        QtCompat::setWeight(font, weight, openTypeWeight(weight));
+    }
+    return true;
+}
+
+QRgb toRgba(const QColor &color)
+{
+    const bool isHsv = color.spec() == QColor::Hsv;
+    if (!isHsv && color.spec() != QColor::Hsl)
+        return color.rgba();
+    const double hue = isHsv ? color.hsvHueF() : color.hslHueF();
+    const double saturation = isHsv ? color.hsvSaturationF() : color.hslSaturationF();
+    const double brightness = isHsv ? color.valueF() : color.lightnessF();
+    // Through the steps, because Qt 6 returns the shares with less precision.
+    const double s = toSteps(saturation) / sSteps;
+    const double b = toSteps(brightness) / sSteps;
+    Rgb rgb{b, b, b};
+    if (hue >= 0 && s > 0) {
+        const int hueSteps = qRound(hue * sHueSteps) % sHueSteps;
+        rgb = isHsv ? rgbOfHsv(hueSteps * 6.0 / sHueSteps, s, b)
+                    : rgbOfHsl(hueSteps / double(sHueSteps), s, b);
+    }
+    const auto byte = [](double share) { return qRound(toSteps(share) / 257.0); };
+    return qRgba(byte(rgb[0]), byte(rgb[1]), byte(rgb[2]), color.alpha());
+}
