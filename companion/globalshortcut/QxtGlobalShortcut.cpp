@@ -11,15 +11,17 @@
 
 namespace {
 
-/// Returns whether the key of `chord` is a known key with a name. A text from a file may name no
-/// key and give an unknown key, and a key without a name cannot be saved. Neither may reach the
-/// system: on an X server key 0 grabs the whole keyboard.
+/// Returns whether the key of `chord` is a known key with a name, and no modifier key, which has a
+/// name in Qt 6 only. A text from a file may name no key and give an unknown key, and a key without
+/// a name cannot be saved. Neither may reach the system: on an X server key 0 grabs the whole
+/// keyboard.
 bool namesAKey(int chord)
 {
     const QString name = QKeySequence(keyOf(chord)).toString(QKeySequence::PortableText);
     const QKeySequence read = QKeySequence::fromString(name, QKeySequence::PortableText);
     const int key = QtCompat::chordAt(read, 0);
-    return key != 0 && key != Qt::Key_unknown;
+    const bool isModifier = key >= Qt::Key_Shift && key <= Qt::Key_Alt;
+    return key != 0 && key != Qt::Key_unknown && !isModifier;
 }
 
 } // namespace

@@ -385,6 +385,7 @@ void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
     QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_F9,
                                                int(Qt::CTRL) + Qt::Key_F7);
     QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
+    QTest::newRow("modifierWithoutState") << QKeySequence(Qt::Key_Shift);
     QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
     QTest::newRow("keyMissingOnThisKeyboard") << QKeySequence(0x0424);
     QTest::newRow("keyMissingOnTheKeypad") << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A);
