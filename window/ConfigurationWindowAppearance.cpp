@@ -4,6 +4,8 @@
 #include "WindowGeometryFile_p.h"
 #include "ui_ConfigurationWindow.h"
 
+#include "QtCompat_p.h"
+
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <OrvUtils/OrvScreenManager.h>
@@ -38,11 +40,33 @@ QString firstExisting(const QStringList &sources)
     return *found;
 }
 
-/// Returns whether a saved geometry is inside one of the present screens and touches no edge of it.
-bool isInsideScreen(const QRect &geometry)
+/// Multiplies the size, and the distance from `origin`, by `factor`. Qt scales a window in the same
+/// way: the upper left corner of a screen is the same point in both kinds of pixels.
+QRect scaled(const QRect &geometry, const QPoint &origin, qreal factor)
 {
-    const QScreen *screen = QGuiApplication::screenAt(geometry.center());
-    return screen && screen->geometry().contains(geometry, true);
+    return {(geometry.topLeft() - origin) * factor + origin, geometry.size() * factor};
+}
+
+/// Returns the geometry for the pixels of the geometry file.
+QRect toSaved(const QRect &geometry, const QScreen *screen)
+{
+    return scaled(geometry, screen->geometry().topLeft(), QtCompat::savedPixelRatio(screen));
+}
+
+/// Returns the geometry of the window for a saved one, or an invalid one if the saved one is not
+/// inside one of the present screens or touches an edge of it.
+QRect fromSaved(const QRect &saved)
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {
+        const QRect area = toSaved(screen->geometry(), screen);
+        if (area.contains(saved.center())) {
+            if (!area.contains(saved, true))
+                return QRect();
+            return scaled(saved, area.topLeft(), 1 / QtCompat::savedPixelRatio(screen));
+        }
+    }
+    return QRect();
 }
 
 } // namespace
@@ -71,8 +95,9 @@ void ConfigurationWindow::initAppearance()
     if (saved.found) {
         // With a geometry that no longer fits, the window keeps the size of its form. The default
         // geometry is for users who never moved the window.
-        if (saved.geometry.isValid() && isInsideScreen(saved.geometry))
-            setGeometry(saved.geometry);
+        const QRect geometry = saved.geometry.isValid() ? fromSaved(saved.geometry) : QRect();
+        if (geometry.isValid())
+            setGeometry(geometry);
     } else {
         applyDefaultGeometry();
     }
@@ -97,7 +122,9 @@ void ConfigurationWindow::applyDefaultGeometry()
 
 void ConfigurationWindow::saveGeometryToFile() const
 {
-    geometryFile().write(geometry());
+    // There is no screen any more if the window outlives the application.
+    const QScreen *present = screen();
+    geometryFile().write(present ? toSaved(geometry(), present) : geometry());
 }
 
 void ConfigurationWindow::loadQss()

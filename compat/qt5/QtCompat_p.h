@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QKeySequence>
+#include <QScreen>
 #include <QTextStream>
 
 /// What is called otherwise in Qt 5 than in Qt 6. CMake chooses this header or the one of the same
@@ -32,6 +33,13 @@ template<class Receiver, class Slot>
 void connectPaletteChanged(QGuiApplication *application, Receiver *receiver, Slot slot)
 {
     QObject::connect(application, &QGuiApplication::paletteChanged, receiver, slot);
+}
+
+/// Returns the number of pixels of the geometry file for each pixel that Qt counts on the screen.
+/// The file has the pixels that Qt 5 counts.
+inline qreal savedPixelRatio(const QScreen *)
+{
+    return 1;
 }
 
 } // namespace QtCompat

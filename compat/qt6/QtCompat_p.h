@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QKeySequence>
+#include <QScreen>
 #include <QTextStream>
 
 /// What is called otherwise in Qt 6 than in Qt 5. CMake chooses this header or the one of the same
@@ -36,6 +37,23 @@ void connectPaletteChanged(QGuiApplication *application, Receiver *receiver, Slo
     QT_WARNING_DISABLE_DEPRECATED
     QObject::connect(application, &QGuiApplication::paletteChanged, receiver, slot);
     QT_WARNING_POP
+}
+
+/// Returns the number of pixels of the geometry file for each pixel that Qt counts on the screen.
+/// The file has the pixels that Qt 5 counts: those of the screen, where Qt 6 always scales and Qt 5
+/// does so only if the host asks for it with Qt::AA_EnableHighDpiScaling. macOS and Wayland scale
+/// by themselves, for both.
+inline qreal savedPixelRatio(const QScreen *screen)
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    const bool scalesInQt5 = QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling);
+    QT_WARNING_POP
+    const QString platform = QGuiApplication::platformName();
+    if (scalesInQt5 || platform == QLatin1String("cocoa")
+        || platform.startsWith(QLatin1String("wayland")))
+        return 1;
+    return screen->devicePixelRatio();
 }
 
 } // namespace QtCompat
