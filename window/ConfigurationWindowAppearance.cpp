@@ -155,8 +155,9 @@ void ConfigurationWindow::refreshItemIcon()
         // The selected row has white text on the main colour, and a white icon. It needs the same
         // sizes as the normal icon, or the list draws one larger than the other.
         for (const int factor : {1, 2, 3}) {
-            icon.addPixmap(QIconfont::Pixmap(*glyph, Qt::white, size * factor, QMargins()),
-                           QIcon::Selected);
+            QPixmap pixmap = QIconfont::Pixmap(*glyph, Qt::white, size * factor, QMargins());
+            pixmap.setDevicePixelRatio(1);
+            icon.addPixmap(pixmap, QIcon::Selected);
         }
         row.key()->setIcon(icon);
     }

@@ -81,7 +81,6 @@ QPixmap draw(const QChar &glyph, const QColor &color, int size, const QMargins &
         painter.scale(qreal(side) / sEm, qreal(side) / sEm);
         painter.fillPath(outline(glyph), color);
     }
-    pixmap.setDevicePixelRatio(scale);
     return pixmap;
 }
 
@@ -92,6 +91,8 @@ QIcon QIconfont::Icon(const QChar &glyph, const QColor &color, int size, QMargin
     QIcon icon;
     if (!canDraw(color, size))
         return icon;
+    // The pixmaps have no device pixel ratio of their own: for a larger size Qt 6 would choose the
+    // one with the ratio of the screen, and not the one of this size.
     for (int scale = 1; scale <= sLargestScale; ++scale)
         icon.addPixmap(draw(glyph, color, size, margins, scale));
     return icon;
@@ -101,8 +102,11 @@ QPixmap QIconfont::Pixmap(const QChar &glyph, const QColor &color, int size, QMa
 {
     if (!canDraw(color, size))
         return nullPixmap();
-    const int scale = static_cast<int>(std::ceil(application()->devicePixelRatio()));
-    return draw(glyph, color, size, margins, qBound(1, scale, sLargestScale));
+    const int scale = qBound(1, static_cast<int>(std::ceil(application()->devicePixelRatio())),
+                             sLargestScale);
+    QPixmap pixmap = draw(glyph, color, size, margins, scale);
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
 }
 
 bool QIconfont::load()
