@@ -161,9 +161,16 @@ void ConfigurationWindow::switchToView(QString className)
 void ConfigurationWindow::openPage(const QPersistentModelIndex &index)
 {
     const QPointer<ConfigurationWindow> self(this);
+    const QModelIndex previous = mUi->configList->currentIndex();
+    // Host code that builds part of the page may delete the window, which Qt 6 uses after the
+    // signal. So the page is built after the call.
+    mOpeningPage = true;
     mUi->configList->setCurrentIndex(index);
-    // If the row was not current yet, its page is built twice: by onClassItemChange() and here.
-    // Hosts see both in the calls of their factories, so it stays.
+    mOpeningPage = false;
+    // If the row was not current yet, its page is built twice. Hosts see both in the calls of their
+    // factories, so it stays.
+    if (mUi->configList->currentIndex() != previous)
+        onClassItemClick(index);
     if (self)
         onClassItemClick(index);
 }
@@ -190,7 +197,8 @@ void ConfigurationWindow::closeEvent(QCloseEvent *event)
 void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QModelIndex &previous)
 {
     Q_UNUSED(previous)
-    onClassItemClick(current);
+    if (!mOpeningPage)
+        onClassItemClick(current);
 }
 
 void ConfigurationWindow::restorePageDefault()

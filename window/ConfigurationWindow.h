@@ -172,6 +172,7 @@ private:
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
     QPersistentModelIndex mNextPage;
+    bool mOpeningPage = false;
     bool mBuildingPage = false;
     bool mIsNextPageWanted = false;
     bool mHasResigned = false;
