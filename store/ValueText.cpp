@@ -141,8 +141,9 @@ bool readFontText(const QString &text, QFont *font)
 {
     const QString qt5Text = toQt5FontText(text);
     if (qt5Text.isNull()) {
-        qWarning("QFont::fromString: Invalid description '%s'",
-                 text.isEmpty() ? "(empty)" : text.toLatin1().constData());
+        qWarning().nospace().noquote()
+            << "QFont::fromString: Invalid description '"
+            << (text.isEmpty() ? QStringLiteral("(empty)") : text) << '\'';
         return false;
     }
     if (!font->fromString(qt5Text))
