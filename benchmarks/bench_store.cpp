@@ -30,7 +30,7 @@ template<class T> class BoundStore
 {
 public:
     explicit BoundStore(const QVector<SettingName> &names)
-        : mKeys(keysOf(names)), mVariables(names.size())
+        : mKeys(keysOf(names)), mVariables(static_cast<int>(names.size()))
     {
         for (int i = 0; i < names.size(); ++i)
             mStore.reserveConf(key(i), mVariables.address(i));

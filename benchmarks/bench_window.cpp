@@ -156,9 +156,9 @@ private:
 
 int controlsOf(QWidget *window)
 {
-    return window->findChildren<QAbstractSpinBox *>().size()
-           + window->findChildren<QAbstractButton *>().size()
-           + window->findChildren<QComboBox *>().size();
+    return static_cast<int>(window->findChildren<QAbstractSpinBox *>().size()
+                            + window->findChildren<QAbstractButton *>().size()
+                            + window->findChildren<QComboBox *>().size());
 }
 
 void checkControls(benchmark::State &state, QWidget *window)

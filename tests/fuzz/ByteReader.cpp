@@ -7,7 +7,7 @@ QString ByteReader::text(int most)
 {
     const int length = below(most + 1);
     const QString result = QString::fromUtf8(mBytes.mid(mPosition, length));
-    mPosition = qMin(mPosition + length, mBytes.size());
+    mPosition = qMin(mPosition + length, size());
     return result;
 }
 
@@ -43,6 +43,6 @@ QJsonValue ByteReader::json(int depth)
 QByteArray ByteReader::rest()
 {
     const QByteArray result = mBytes.mid(mPosition);
-    mPosition = mBytes.size();
+    mPosition = size();
     return result;
 }

@@ -11,11 +11,14 @@ class ByteReader
 public:
     explicit ByteReader(const QByteArray &bytes) : mBytes(bytes) {}
 
-    bool atEnd() const { return mPosition >= mBytes.size(); }
+    bool atEnd() const { return mPosition >= size(); }
     int byte() { return atEnd() ? 0 : static_cast<uchar>(mBytes.at(mPosition++)); }
     int below(int count) { return byte() % count; }
     bool flag() { return byte() & 1; }
-    QString oneOf(const QStringList &choices) { return choices.at(below(choices.size())); }
+    QString oneOf(const QStringList &choices)
+    {
+        return choices.at(below(static_cast<int>(choices.size())));
+    }
     /// Returns up to `most` bytes as UTF-8, including invalid sequences.
     QString text(int most);
     /// Returns any JSON value, nested at most `depth` deep.
@@ -23,6 +26,8 @@ public:
     QByteArray rest();
 
 private:
+    int size() const { return static_cast<int>(mBytes.size()); }
+
     const QByteArray mBytes;
     int mPosition = 0;
 };

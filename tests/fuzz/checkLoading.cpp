@@ -14,7 +14,7 @@ QByteArray jsonText(const QJsonObject &object)
 /// Returns the key of a member of a configuration, or null if it belongs to another system.
 QString storeKey(const QString &member)
 {
-    const int mark = member.lastIndexOf('#');
+    const auto mark = member.lastIndexOf('#');
     if (mark < 0)
         return member;
     return member.mid(mark) == "#s.mac" ? member.left(mark) : QString();

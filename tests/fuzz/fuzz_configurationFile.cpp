@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QTextCodec>
 
 namespace {
 
@@ -88,9 +87,7 @@ Calls expectedCalls(const QJsonObject &members)
 /// mark and no invalid UTF-8.
 bool isReadAsItStands(const QByteArray &content)
 {
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(content.constData(), content.size(), &state);
-    const bool isUtf8 = state.invalidChars == 0 && state.remainingChars == 0;
+    const bool isUtf8 = QString::fromUtf8(content).toUtf8() == content;
     return isUtf8 && !content.contains('\r') && !content.startsWith("\xef\xbb\xbf")
            && !content.startsWith(QByteArray(2, '\0'));
 }

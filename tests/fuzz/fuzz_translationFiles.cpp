@@ -64,7 +64,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     startFuzzing();
     static const QByteArray sFolder = translationsFolder();
     const QByteArray input = bytesOf(data, size);
-    const int gap = input.indexOf("\n\n");
+    const auto gap = input.indexOf("\n\n");
     const QByteArrayList files = makeFiles(sFolder, input.left(gap).split('\n'));
     const QString stored = gap < 0 ? QString("auto") : QString::fromUtf8(input.mid(gap + 2));
 

@@ -119,8 +119,8 @@ void tst_KeySequenceEdit::sequenceIsRendered_data()
         << QKeySequence(Qt::KeypadModifier | Qt::Key_1, Qt::KeypadModifier | Qt::Key_Plus)
         << "Num 1, Num +";
     QTest::newRow("the NumLock key") << QKeySequence(Qt::Key_NumLock) << "NumLock";
-    QTest::newRow("four chords") << QKeySequence(Qt::Key_A, Qt::Key_Space, Qt::CTRL | Qt::Key_B,
-                                                 Qt::Key_Home)
+    QTest::newRow("four chords") << QKeySequence(Qt::Key_A, Qt::Key_Space,
+                                                 int(Qt::CTRL) + Qt::Key_B, Qt::Key_Home)
                                  << "A, Space, Ctrl+B, Home";
 }
 

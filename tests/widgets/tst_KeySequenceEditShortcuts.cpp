@@ -1,6 +1,8 @@
 #include "KeySequenceEditFixture.h"
 #include "support/TestMain.h"
 
+#include "QtCompat_p.h"
+
 #include <QDialog>
 #include <QLabel>
 #include <QMenuBar>
@@ -68,7 +70,7 @@ void tst_KeySequenceEditShortcuts::shortcutIsRecordedInEveryContext()
     auto *shortcut = new QShortcut(QKeySequence(keys), owner);
     shortcut->setContext(Qt::ShortcutContext(context));
     QSignalSpy activations(shortcut, &QShortcut::activated);
-    const int chord = QKeySequence(keys)[0];
+    const int chord = QtCompat::chordAt(QKeySequence(keys), 0);
     QTest::keyClick(mParent->windowHandle(), Qt::Key(chord & 0x01ffffff),
                     Qt::KeyboardModifiers(chord & ~0x01ffffff));
     QCOMPARE(mField->text(), keys);
@@ -150,7 +152,7 @@ void tst_KeySequenceEditShortcuts::editingKeysOfTheSystemAreRecorded()
         const auto bindings = QKeySequence::keyBindings(
             static_cast<QKeySequence::StandardKey>(standard));
         for (const QKeySequence &keys : bindings) {
-            const int chord = keys[0];
+            const int chord = QtCompat::chordAt(keys, 0);
             const int key = chord & 0x01ffffff;
             if (keys.count() != 1 || key == Qt::Key_Backtab)
                 continue;

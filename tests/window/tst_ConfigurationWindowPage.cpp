@@ -124,7 +124,8 @@ void tst_ConfigurationWindowPage::captionsAreLeftOfTheirEditors()
                           &columnSpan);
     QCOMPARE(row, 1);
     QCOMPARE(column, 0);
-    QVERIFY(item->editor->label()->mapToGlobal({}).x() < item->editor->mapToGlobal({}).x());
+    QVERIFY(item->editor->label()->mapToGlobal(QPoint()).x()
+            < item->editor->mapToGlobal(QPoint()).x());
 }
 
 void tst_ConfigurationWindowPage::editorWithoutCaptionTakesTheWholeRow()

@@ -65,7 +65,7 @@ private:
     Census census() const
     {
         Census now;
-        now.widgets = QApplication::allWidgets().size();
+        now.widgets = int(QApplication::allWidgets().size());
         for (const QObject *object :
              {static_cast<QObject *>(qApp), static_cast<QObject *>(QThemeCtrl::instance()),
               static_cast<QObject *>(mFixture->manager.get()),
