@@ -48,7 +48,7 @@ endmacro()
 # is cached, so that a Qt that is installed later does not change an existing build folder.
 # (`find_package(QT NAMES Qt6 Qt5)` would depend on the order of the folders on the disk.)
 macro(_malto_find_newest_qt result)
-    foreach(major IN ITEMS ${MALTO_QT_FOUND} 5 6)
+    foreach(major IN ITEMS ${MALTO_QT_FOUND} 6 5)
         find_package(Qt${major} QUIET COMPONENTS Core Gui Widgets)
         if(Qt${major}_FOUND AND NOT Qt${major}_VERSION VERSION_LESS MALTO_MINIMUM_QT${major})
             set(${result} ${major})

@@ -13,12 +13,12 @@ choose_qt() {
     set_qt_packages
 }
 
-# Sets the package lists, which have the packages of the chosen Qt only.
+# Sets the package lists, which have the packages of the chosen Qt only: Qt 6 by default.
 set_qt_packages() {
     case ${MALTO_QT_FOLDER:-} in
         -qt5) qt_major=5 ;;
         -qt6) qt_major=6 ;;
-        *) qt_major=$(default_qt) ;;
+        *) qt_major=6 ;;
     esac
     if [ "$qt_major" = 6 ]; then
         macos_qt=qt
@@ -34,11 +34,6 @@ set_qt_packages() {
     BUILD_PACKAGES=(g++ cmake ninja-build pkg-config "${QT_PACKAGES[@]}"
                     libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
     BENCHMARK_PACKAGES=(libbenchmark-dev python3 ${KCONFIG_PACKAGES[@]+"${KCONFIG_PACKAGES[@]}"})
-}
-
-# Qt 6 on macOS, because Homebrew phases Qt 5 out.
-default_qt() {
-    if [ "$(uname)" = Darwin ]; then echo 6; else echo 5; fi
 }
 
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
