@@ -2,6 +2,7 @@
 
 #include "QtCompat_p.h"
 
+#include <QDebug>
 #include <QStringList>
 
 #include <algorithm>
