@@ -39,7 +39,7 @@ QJsonValue toJson(const QFont &font)
 }
 QJsonValue toJson(const QKeySequence &keys)
 {
-    return keys.toString(QKeySequence::PortableText);
+    return toKeysText(keys);
 }
 template<class T> QJsonValue toJson(const T &value)
 {
@@ -89,7 +89,7 @@ void fromJson(const QJsonValue &json, QFont &font)
 }
 void fromJson(const QJsonValue &json, QKeySequence &keys)
 {
-    keys = QKeySequence::fromString(json.toString(), QKeySequence::PortableText);
+    keys = readKeysText(json.toString());
 }
 void fromJson(const QJsonValue &json, QJsonObject &object)
 {

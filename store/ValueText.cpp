@@ -4,6 +4,7 @@
 
 #include <QDebug>
 #include <QStringList>
+#include <QVector>
 
 #include <algorithm>
 #include <array>
@@ -15,6 +16,8 @@ namespace {
 constexpr int sWeightField = 4;
 constexpr int sQt5Fields = 10;
 constexpr int sQt6Fields = 16;
+
+constexpr int sMostChords = 4; // of a QKeySequence
 
 constexpr int sHueSteps = 36000;   // of a QColor
 constexpr double sSteps = 65535.0; // of its other components
@@ -55,6 +58,39 @@ QStringList withoutQt6Fields(const QStringList &fields)
     QStringList kept = fields.mid(0, sQt5Fields) + fields.mid(sQt6Fields);
     kept[sWeightField] = QString::number(qt5Weight(kept.at(sWeightField).toInt()));
     return kept;
+}
+
+QVector<int> chordsOf(const QKeySequence &keys)
+{
+    QVector<int> chords;
+    for (int i = 0; i < keys.count(); ++i)
+        chords.append(QtCompat::chordAt(keys, i));
+    return chords;
+}
+
+int keyOf(int chord)
+{
+    return chord & ~static_cast<int>(Qt::KeyboardModifierMask);
+}
+
+/// Returns whether the key of the chord is a modifier. Qt 6 knows the names of these keys, Qt 5
+/// does not.
+bool isModifierAlone(int chord)
+{
+    const int key = keyOf(chord);
+    return key >= Qt::Key_Shift && key <= Qt::Key_Alt;
+}
+
+QString chordText(int chord)
+{
+    if (!isModifierAlone(chord))
+        return QKeySequence(chord).toString(QKeySequence::PortableText);
+    const int key = keyOf(chord);
+    QString text = QKeySequence(chord - key + Qt::Key_A).toString(QKeySequence::PortableText);
+    text.chop(1);
+    // Qt 5 takes the number of a key without a name for that of a character.
+    const auto number = static_cast<uint>(key);
+    return text + QChar(QChar::highSurrogate(number)) + QChar(QChar::lowSurrogate(number));
 }
 
 using Rgb = std::array<double, 3>;
@@ -133,9 +169,16 @@ QString toQt5FontText(const QString &text)
 
 QString toFontText(const QFont &font)
 {
-    const QString text = font.toString();
-    const QString qt5Text = toQt5FontText(text);
-    return qt5Text.isNull() ? text : qt5Text;
+    // Not from the text of Qt 6: the family may contain commas.
+    QStringList fields{font.family(), QString::number(font.pointSizeF())};
+    for (const int number :
+         {font.pixelSize(), int(font.styleHint()), QtCompat::qt5Weight(font, &qt5Weight),
+          int(font.style()), int(font.underline()), int(font.strikeOut()), int(font.fixedPitch()),
+          0})
+        fields.append(QString::number(number));
+    if (!font.styleName().isEmpty())
+        fields.append(font.styleName());
+    return fields.join(QLatin1Char(','));
 }
 
 bool readFontText(const QString &text, QFont *font)
@@ -155,6 +198,28 @@ bool readFontText(const QString &text, QFont *font)
         QtCompat::setWeight(font, weight, openTypeWeight(weight));
     }
     return true;
+}
+
+QString toKeysText(const QKeySequence &keys)
+{
+    const QVector<int> chords = chordsOf(keys);
+    if (std::none_of(chords.begin(), chords.end(), isModifierAlone))
+        return keys.toString(QKeySequence::PortableText);
+    QStringList texts;
+    for (const int chord : chords)
+        texts.append(chordText(chord));
+    return texts.join(QLatin1String(", "));
+}
+
+QKeySequence readKeysText(const QString &text)
+{
+    const QKeySequence keys = QKeySequence::fromString(text, QKeySequence::PortableText);
+    QVector<int> chords = chordsOf(keys);
+    if (std::none_of(chords.begin(), chords.end(), isModifierAlone))
+        return keys;
+    std::replace_if(chords.begin(), chords.end(), isModifierAlone, int(Qt::Key_unknown));
+    chords.resize(sMostChords); // the others are 0, which is no chord
+    return QKeySequence(chords[0], chords[1], chords[2], chords[3]);
 }
 
 QRgb toRgba(const QColor &color)

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QKeySequence>
 #include <QString>
 
 // The texts of values in files. They are those of Qt 5, whichever Qt is used, because programs that
@@ -11,10 +12,11 @@
 /// and in pixels, style hint, weight, style, underline, strike-out, fixed pitch, 0 and, if there is
 /// one, the name of the style. Qt 6 writes more fields, and Qt 5 refuses such a text.
 ///
-/// This text cannot hold, so that a font that is written and read loses: further families after the
-/// first; capitalization; letter and word spacing; stretch; style strategy; hinting preference;
-/// overline; kerning. Its weights are the 100 of Qt 5, on which the 1000 of Qt 6 are rounded; the
-/// named ones are exact.
+/// A font that is written and read loses what this text cannot hold: all families but
+/// `QFont::family()`, capitalization, letter and word spacing, stretch, style strategy, hinting
+/// preference, overline and kerning. A size in points keeps six digits. Weights are the 100 of Qt 5,
+/// to which the 1000 of Qt 6 are rounded; the named ones are exact. Commas are not quoted: a family
+/// or a style name that contains one is read as other fields.
 QString toFontText(const QFont &font);
 
 /// Reads the text that QFont::toString() writes with Qt 5 or Qt 6; both versions of Qt read the
@@ -32,6 +34,15 @@ int openTypeWeight(int qt5Weight);
 /// Converts a weight of Qt 6, 1 to 1000, to the nearest of Qt 5. Every weight of Qt 5 that is
 /// converted to Qt 6 comes back from here.
 int qt5Weight(int openTypeWeight);
+
+/// Returns the portable text of `keys` as Qt 5 writes it. A chord whose key is Shift, Control, Meta
+/// or Alt has no name there: instead of the name it gets two characters, from which neither Qt
+/// reads the key back.
+QString toKeysText(const QKeySequence &keys);
+
+/// Reads a portable text as Qt 5 does: a chord that ends in the name of a modifier becomes
+/// `Qt::Key_unknown`.
+QKeySequence readKeysText(const QString &text);
 
 /// Returns the ARGB value of `color` as the QColor::rgba() of Qt 5 computes it. That of Qt 6
 /// computes with less precision, and so one in about a thousand colours that are defined by hue and

@@ -22,6 +22,13 @@ inline void setWeight(QFont *font, int qt5Weight, int)
     font->setWeight(qt5Weight);
 }
 
+/// Returns the weight of the font in the scale of Qt 5; `toQt5` converts one from the scale of
+/// Qt 6.
+inline int qt5Weight(const QFont &font, int (*)(int))
+{
+    return font.weight();
+}
+
 /// Lets the stream read and write UTF-8; a byte order mark of another encoding still counts.
 inline void setUtf8(QTextStream &stream)
 {

@@ -22,6 +22,13 @@ inline void setWeight(QFont *font, int, int qt6Weight)
     font->setWeight(static_cast<QFont::Weight>(qt6Weight));
 }
 
+/// Returns the weight of the font in the scale of Qt 5; `toQt5` converts one from the scale of
+/// Qt 6.
+inline int qt5Weight(const QFont &font, int (*toQt5)(int))
+{
+    return toQt5(font.weight());
+}
+
 /// Lets the stream read and write UTF-8; a byte order mark of another encoding still counts.
 inline void setUtf8(QTextStream &stream)
 {

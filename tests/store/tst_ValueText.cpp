@@ -22,6 +22,10 @@ private Q_SLOTS:
     void namedWeightsAreExact();
     void everyWeightOfQt5ComesBackFromQt6();
     void weightsOutOfRangeAreLimited();
+    void keysAreWrittenAndReadAsInQt5_data();
+    void keysAreWrittenAndReadAsInQt5();
+    void modifierAloneIsReadAsUnknownKey_data();
+    void modifierAloneIsReadAsUnknownKey();
     void colorsAreThoseOfQt5_data();
     void colorsAreThoseOfQt5();
 };
@@ -87,6 +91,11 @@ void tst_ValueText::fontsAreWrittenInTheFormOfQt5_data()
     row("Sans,10.25,-1,5,50,0,0,0,0,0", [](QFont &font) { font.setPointSizeF(10.25); });
     row("Sans,12,-1,2,50,0,0,0,0,0", [](QFont &font) { font.setStyleHint(QFont::TypeWriter); });
     row("Sans,12,-1,5,50,0,0,0,0,0,Condensed", [](QFont &font) { font.setStyleName("Condensed"); });
+    // Not quoted, so that readers take the parts for fields of their own.
+    row("A,B,12,-1,5,50,0,0,0,0,0", [](QFont &font) { font.setFamily("A,B"); });
+    row("\"A\",12,-1,5,50,0,0,0,0,0", [](QFont &font) { font.setFamily("\"A\""); });
+    row(",12,-1,5,50,0,0,0,0,0", [](QFont &font) { font.setFamily(""); });
+    row("Sans,12,-1,5,50,0,0,0,0,0,Wide,Bold", [](QFont &font) { font.setStyleName("Wide,Bold"); });
     // What the form has no place for.
     row("Sans,12,-1,5,50,0,0,0,0,0", [](QFont &font) {
         font.setStretch(QFont::Condensed);
@@ -202,6 +211,60 @@ void tst_ValueText::weightsOutOfRangeAreLimited()
     QCOMPARE(openTypeWeight(700), 1000);
     QCOMPARE(qt5Weight(1), 0);
     QCOMPARE(qt5Weight(5000), 99);
+}
+
+void tst_ValueText::keysAreWrittenAndReadAsInQt5_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("readBack");
+    const auto same = [](const char *text, const QKeySequence &keys) {
+        QTest::newRow(text) << keys << text << text;
+    };
+    same("", QKeySequence());
+    same("Ctrl+A, Shift+Tab, Num+Enter, Meta+Volume Up",
+         QKeySequence(int(Qt::CTRL) | int(Qt::Key_A), int(Qt::SHIFT) | int(Qt::Key_Tab),
+                      int(Qt::KeypadModifier) | int(Qt::Key_Enter),
+                      int(Qt::META) | int(Qt::Key_VolumeUp)));
+    // Qt 6 writes and reads the names of modifiers.
+    const auto lost = [](const char *name, const QKeySequence &keys, const QString &text,
+                         const QString &readBack) {
+        QTest::newRow(name) << keys << text << readBack;
+    };
+    const QString shift = QString(QChar(0x17c0)) + QChar(0xdc20);
+    const QString alt = QString(QChar(0x17c0)) + QChar(0xdc23);
+    lost("shift", QKeySequence(int(Qt::Key_Shift)), shift, "");
+    lost("alt with modifiers", QKeySequence(int(Qt::SHIFT) | int(Qt::CTRL) | int(Qt::Key_Alt)),
+         "Ctrl+Shift+" + alt, "");
+    lost("among other chords",
+         QKeySequence(int(Qt::Key_A), int(Qt::CTRL) | int(Qt::Key_Shift), int(Qt::Key_F5)),
+         "A, Ctrl+" + shift + ", F5", "A, , F5");
+}
+
+void tst_ValueText::keysAreWrittenAndReadAsInQt5()
+{
+    QFETCH(QKeySequence, keys);
+    QFETCH(QString, text);
+    QCOMPARE(toKeysText(keys), text);
+    QTEST(toKeysText(readKeysText(text)), "readBack");
+}
+
+void tst_ValueText::modifierAloneIsReadAsUnknownKey_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QKeySequence>("keys");
+    const int unknown = Qt::Key_unknown;
+    QTest::newRow("alone") << "Shift" << QKeySequence(unknown);
+    QTest::newRow("with a modifier") << "Ctrl+Alt" << QKeySequence(unknown);
+    QTest::newRow("among other chords")
+        << "A, Ctrl+Meta, B, Alt" << QKeySequence(Qt::Key_A, unknown, Qt::Key_B, unknown);
+    QTest::newRow("a key with a modifier") << "Shift+A" << QKeySequence(Qt::SHIFT | Qt::Key_A);
+}
+
+void tst_ValueText::modifierAloneIsReadAsUnknownKey()
+{
+    QFETCH(QString, text);
+    QTEST(readKeysText(text), "keys");
 }
 
 void tst_ValueText::colorsAreThoseOfQt5_data()
