@@ -24,7 +24,8 @@ public:
     Saved read() const;
 
     /// Saves `geometry` and keeps the other values of the file, unless they are dangerous to read.
-    /// Anything but a regular file is left unchanged, and the same warning is logged.
+    /// The file is written in ASCII: characters of other values are escaped. Anything but a regular
+    /// file is left unchanged, and the same warning is logged.
     void write(const QRect &geometry) const;
 
     /// Returns whether QSettings can parse `text` without ending the process.
@@ -33,6 +34,8 @@ public:
 private:
     enum class Content { Missing, Foreign, Dangerous, Harmless };
     Content content() const;
+    /// The QSettings of Qt 6 writes these characters as UTF-8, which that of Qt 5 reads as Latin-1.
+    void escapeOtherValues() const;
     void warn() const;
 
     QString mPath;

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void savedGeometryIsRead();
     void fileWithOtherKeysHasNoGeometry();
     void otherKeysAreKept();
+    void otherValuesAreEscapedAsInQt5_data();
+    void otherValuesAreEscapedAsInQt5();
     void hiddenVariantIsDetected_data();
     void hiddenVariantIsDetected();
     void ordinaryTextIsHarmless_data();
@@ -77,6 +79,33 @@ void tst_WindowGeometryFile::otherKeysAreKept()
     QCOMPARE(settings.value("Geometry").toRect(), QRect(1, 2, 3, 4));
 }
 
+void tst_WindowGeometryFile::otherValuesAreEscapedAsInQt5_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("letters") << QString::fromUtf8("né à") << QByteArray("n\\xe9 \\xe0");
+    QTest::newRow("digits behind a letter")
+        << QString::fromUtf8("é12fg") << QByteArray("\\xe9\\x31\\x32\\x66g");
+    QTest::newRow("beyond Latin-1") << QString::fromUtf8("日本; \U0001f600")
+                                    << QByteArray("\"\\x65e5\\x672c; \\xd83d\\xde00\"");
+    QTest::newRow("control characters")
+        << QString::fromUtf8("\x7f\x01éa\n") << QByteArray("\\x7f\\x1\\xe9\\x61\\n");
+    QTest::newRow("ASCII") << QString("C:\\a, b") << QByteArray("\"C:\\\\a, b\"");
+}
+
+void tst_WindowGeometryFile::otherValuesAreEscapedAsInQt5()
+{
+    QFETCH(QString, value);
+    QFETCH(QByteArray, text);
+    QSettings(sPath, QSettings::IniFormat).setValue("Other/Text", value);
+    WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
+    const QByteArray written = "[General]\nGeometry=@Rect(1 2 3 4)\n\n[Other]\nText=" + text + '\n';
+    QCOMPARE(fileText(), written);
+    QCOMPARE(QSettings(sPath, QSettings::IniFormat).value("Other/Text").toString(), value);
+    WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
+    QCOMPARE(fileText(), written);
+}
+
 void tst_WindowGeometryFile::hiddenVariantIsDetected_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -90,6 +119,7 @@ void tst_WindowGeometryFile::hiddenVariantIsDetected_data()
     QTest::newRow("blanks after a quote") << QByteArray("x=\"@\"  Variant(1)");
     QTest::newRow("octal letter") << QByteArray("x=@\\126ariant(1)");
     QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56\"ariant(1)\"");
+    QTest::newRow("byte order marks") << QByteArray("\xef\xbb\xbfx=@\"\xef\xbb\xbfVariant(1)\"");
     QTest::newRow("unknown escape") << QByteArray("x=@\\zVariant(1)");
     QTest::newRow("continued line of another system") << QByteArray("x=@\\\r\nVariant(1)");
     QTest::newRow("continued line") << QByteArray("x=@\\\nVariant(1)");
