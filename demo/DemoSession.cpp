@@ -18,6 +18,8 @@
 #include <QPalette>
 #include <QTimer>
 
+#include <utility>
+
 namespace {
 
 /// Returns the hotkey of `item`, or null if it has none.
@@ -106,7 +108,7 @@ void DemoSession::addHotkeyCallbacks()
 
 void DemoSession::registerHotkeys()
 {
-    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
+    for (const MtConf::ConfItem &declared : std::as_const(mManager->items)) {
         if (QxtGlobalShortcut *shortcut = shortcutOf(declared))
             shortcut->setShortcut(
                 ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
@@ -170,7 +172,7 @@ void DemoSession::rebuildPageOf(const MtConf::ConfItem *changed)
 
 void DemoSession::reloadEditors()
 {
-    for (const MtConf::ConfItem &declared : qAsConst(mManager->items)) {
+    for (const MtConf::ConfItem &declared : std::as_const(mManager->items)) {
         if (!declared.editor)
             continue;
         declared.editor->loadConf();

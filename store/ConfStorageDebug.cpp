@@ -5,6 +5,7 @@
 #include <QJsonValue>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -79,7 +80,7 @@ QString ConfStorage::debugTable() const
             keys.append(meta.key());
     }
     std::sort(keys.begin(), keys.end());
-    for (const QString &key : qAsConst(keys)) {
+    for (const QString &key : std::as_const(keys)) {
         const ConfMeta meta = mConfMetas.value(key);
         rows.append({keyText(key), valueText(mConfValues.value(key)), valueText(meta.defaultValue),
                      isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),

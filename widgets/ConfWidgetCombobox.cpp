@@ -9,6 +9,8 @@
 #include <QListView>
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace MtConf {
 
 ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
@@ -44,7 +46,7 @@ void ConfWidgetCombobox::setSelectItem(QStringList texts)
 {
     {
         const QSignalBlocker blocker(mComboBox);
-        for (const QString &text : qAsConst(texts))
+        for (const QString &text : std::as_const(texts))
             mComboBox->addItem(text);
     }
     loadConf();
@@ -76,7 +78,7 @@ void ConfWidgetCombobox::retranslateUi()
     ConfigItemWidget::retranslateUi();
     mComboBox->setAccessibleName(translatedText());
     QStringList texts;
-    for (const char *text : qAsConst(mItemTexts))
+    for (const char *text : std::as_const(mItemTexts))
         texts.append(text ? QObject::tr(text) : QString());
     if (auto *multi = qobject_cast<MultiSelectComboBox *>(mComboBox)) {
         multi->setItemTexts(texts);

@@ -14,6 +14,8 @@
 #include <QListView>
 #include <QStyle>
 
+#include <utility>
+
 namespace MtConf {
 
 namespace {
@@ -172,7 +174,7 @@ void ConfWidgetMouseAction::refreshConflictState()
 const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const
 {
     const int key = conflictKey(mCurrentValue);
-    for (const ConfWidgetMouseAction *other : qAsConst(sConflictList)) {
+    for (const ConfWidgetMouseAction *other : std::as_const(sConflictList)) {
         if (other == this)
             continue;
         // The stored value counts: the controls may show a left click that is not stored.
@@ -185,7 +187,7 @@ const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const
 
 void ConfWidgetMouseAction::refreshAllConflictState()
 {
-    for (ConfWidgetMouseAction *widget : qAsConst(sConflictList))
+    for (ConfWidgetMouseAction *widget : std::as_const(sConflictList))
         widget->refreshConflictState();
 }
 

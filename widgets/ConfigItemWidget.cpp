@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QStyle>
 
+#include <utility>
+
 namespace MtConf {
 
 namespace {
@@ -100,7 +102,7 @@ void ConfigItemWidget::leaveControls()
     // A control that is the caption may have another parent.
     if (mLabel && mLabel->parent() != this)
         controls.append(mLabel);
-    for (QWidget *control : qAsConst(controls)) {
+    for (QWidget *control : std::as_const(controls)) {
         control->disconnect(this);
         control->setParent(nullptr);
         mHostCode->deleteWidget(control);
@@ -133,7 +135,7 @@ void ConfigItemWidget::describeControls(const QString &group)
         controls.prepend(mLabel);
     // The frame too, because on some systems combo boxes report their value instead of their name.
     setNameUnlessOwn(this, translatedText());
-    for (QWidget *control : qAsConst(controls)) {
+    for (QWidget *control : std::as_const(controls)) {
         if (control != mLabel)
             setNameUnlessOwn(control, translatedText());
         setDescriptionUnlessOwn(control, group);

@@ -16,6 +16,8 @@
 #include <QPersistentModelIndex>
 #include <QStandardItemModel>
 
+#include <utility>
+
 namespace MtConf {
 
 namespace {
@@ -266,7 +268,7 @@ void ConfigurationWindow::initConfigClassList()
     mUi->configList->setIconSize(QSize(iconSize, iconSize));
     if (!mManager)
         return;
-    for (const MajorConfItem &major : qAsConst(mManager->majorItems)) {
+    for (const MajorConfItem &major : std::as_const(mManager->majorItems)) {
         auto *row = new QStandardItem(translatedName(major.name));
         mItemIcons.insert(row, major.name);
         row->setData(major.name, sClassNameRole);

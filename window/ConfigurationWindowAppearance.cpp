@@ -22,6 +22,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace MtConf {
 
@@ -180,7 +181,7 @@ void ConfigurationWindow::retranslateUi()
     }
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
         row.key()->setText(translatedName(row.value()));
-    for (QLabel *caption : qAsConst(mClassCaptions))
+    for (QLabel *caption : std::as_const(mClassCaptions))
         caption->setText(translatedName(caption->property("SourceText").toString()));
     describePage();
 }

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 
 namespace MtConf {
 
@@ -89,7 +90,7 @@ void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
     const QPointer<ConfigurationWindow> self(this);
     if (!ungrouped.isEmpty())
         addClassItemWidgets(className, ungrouped, classFlag);
-    for (const QString &name : qAsConst(groupNames)) {
+    for (const QString &name : std::as_const(groupNames)) {
         if (self && mManager)
             addClassItemWidgets(name, groups.value(name), classFlag);
     }
@@ -186,7 +187,7 @@ void ConfigurationWindow::describePage()
     const QString page = mUi->configList->currentIndex().data().toString();
     mUi->scrollArea->setAccessibleName(page);
     mUi->gboxConfigBoard->setAccessibleName(page);
-    for (const QPointer<ConfigItemWidget> &editor : qAsConst(mEditors)) {
+    for (const QPointer<ConfigItemWidget> &editor : std::as_const(mEditors)) {
         QWidget *box = editor ? editor->parentWidget() : nullptr;
         if (!box) // a host may have deleted the editor or moved it
             continue;

@@ -20,14 +20,14 @@ MtConfManage::~MtConfManage()
         if (window && window->manager() == this)
             windows.append(window);
     }
-    for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
+    for (const QPointer<ConfigurationWindow> &window : std::as_const(windows)) {
         if (window)
             window->close();
     }
     // Moved, not copied, so that the items keep their addresses.
     using Items = std::pair<ItemList<ConfItem>, QList<ItemList<ConfItem>>>;
     const auto kept = std::make_shared<Items>(std::move(items), std::move(mSharedItems));
-    for (const QPointer<ConfigurationWindow> &window : qAsConst(windows)) {
+    for (const QPointer<ConfigurationWindow> &window : std::as_const(windows)) {
         if (window)
             window->detachManager(kept);
     }

@@ -3,6 +3,8 @@
 #include <QScopedPointer>
 #include <QSocketNotifier>
 
+#include <utility>
+
 // This C header has a member whose name is a C++ keyword.
 #define explicit explicit_
 #include <xcb/xkb.h>
@@ -87,14 +89,14 @@ bool X11ShortcutBackend::grab(const KeyCombination &combination)
 {
     const QVector<quint16> states = modifierStates(combination);
     QVector<xcb_void_cookie_t> requests;
-    for (const xcb_window_t root : qAsConst(mRoots)) {
+    for (const xcb_window_t root : std::as_const(mRoots)) {
         for (const quint16 state : states)
             requests.append(xcb_grab_key_checked(mConnection, false, root, state,
                                                  static_cast<xcb_keycode_t>(combination.key),
                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
     bool granted = isSupported();
-    for (const xcb_void_cookie_t request : qAsConst(requests)) {
+    for (const xcb_void_cookie_t request : std::as_const(requests)) {
         const XcbPointer<xcb_generic_error_t> error(xcb_request_check(mConnection, request));
         granted = granted && !error;
     }
@@ -107,7 +109,7 @@ bool X11ShortcutBackend::grab(const KeyCombination &combination)
 void X11ShortcutBackend::ungrab(const KeyCombination &combination)
 {
     const QVector<quint16> states = modifierStates(combination);
-    for (const xcb_window_t root : qAsConst(mRoots)) {
+    for (const xcb_window_t root : std::as_const(mRoots)) {
         for (const quint16 state : states)
             xcb_ungrab_key(mConnection, static_cast<xcb_keycode_t>(combination.key), root, state);
     }

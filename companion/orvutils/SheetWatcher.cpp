@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -44,7 +45,7 @@ void SheetWatcher::watch(QWidget *widget, const QHash<QString, QByteArray> &shee
 void SheetWatcher::watchFiles()
 {
     QSet<QString> paths;
-    for (const Use &use : qAsConst(mUses)) {
+    for (const Use &use : std::as_const(mUses)) {
         for (auto sheet = use.sheets.cbegin(); use.widget && sheet != use.sheets.cend(); ++sheet) {
             const QFileInfo file(sheet.key());
             // Watch the folder too, because a replaced file is no longer watched.

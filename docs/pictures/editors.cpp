@@ -9,6 +9,8 @@
 #include <QScrollArea>
 #include <QTemporaryDir>
 
+#include <utility>
+
 using MtConf::ConfItem;
 
 namespace {
@@ -75,7 +77,7 @@ int main(int argc, char **argv)
     QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
     manager.ShowWindow()->resize(920, 1000);
     settle();
-    for (const ConfItem &item : qAsConst(manager.items)) {
+    for (const ConfItem &item : std::as_const(manager.items)) {
         if (!pictureOf(item).save(folder + '/' + item.name + ".png"))
             qFatal("cannot write to %s", qPrintable(folder));
     }

@@ -14,6 +14,8 @@
 #include <QComboBox>
 #include <QSignalSpy>
 
+#include <utility>
+
 using MtConf::ConfigItemWidget;
 using MtConf::ConfItem;
 using MtConf::ItemList;
@@ -372,7 +374,7 @@ void tst_MtConfManage::classesAppearInTheOrderOfFirstMention()
     manager->setMajorWidget("Alpha", nullptr);
     manager->addConfBool("b", &flag, "Third by name", "b");
     QStringList names;
-    for (const MtConf::MajorConfItem &major : qAsConst(manager->majorItems))
+    for (const MtConf::MajorConfItem &major : std::as_const(manager->majorItems))
         names << major.name;
     QCOMPARE(names, (QStringList{"Third by name", "Second", "Alpha"}));
 }

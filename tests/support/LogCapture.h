@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <utility>
+
 /// One message of Qt's log.
 struct LoggedMessage
 {
@@ -35,7 +37,7 @@ public:
     static QStringList texts(QtMsgType level)
     {
         QStringList result;
-        for (const LoggedMessage &message : qAsConst(messages())) {
+        for (const LoggedMessage &message : std::as_const(messages())) {
             if (message.level == level)
                 result.append(message.text);
         }

@@ -19,6 +19,7 @@
 #include <QStyleOptionFrame>
 
 #include <algorithm>
+#include <utility>
 
 using MtConf::ConfWidgetLanguage;
 
@@ -160,7 +161,7 @@ void tst_TranslatedDemo::everyDeclaredTextIsTranslated()
     const QStringList pages = pageNames();
     for (const QString &page : pages)
         QVERIFY2(isTranslated("MtConf::ConfigurationWindow", page), qPrintable(page));
-    for (const MtConf::ConfItem &item : qAsConst(session.manager().items)) {
+    for (const MtConf::ConfItem &item : std::as_const(session.manager().items)) {
         QVERIFY2(isTranslated("QObject", item.displayText), item.displayText);
         QVERIFY2(pages.contains(item.majorName), qPrintable(item.majorName));
         QVERIFY2(item.subName.isEmpty() || isTranslated("MtConf::ConfigurationWindow", item.name),
@@ -174,7 +175,7 @@ void tst_TranslatedDemo::everyTextFitsItsPage_data()
     QStringList codes = ConfWidgetLanguage::loadSupportLanguageCode();
     codes.removeOne("auto");
     QCOMPARE(codes.size(), 18);
-    for (const QString &code : qAsConst(codes))
+    for (const QString &code : std::as_const(codes))
         QTest::newRow(qPrintable(code)) << code;
 }
 

@@ -14,6 +14,8 @@
 #include <QStyleOptionComboBox>
 #include <QxtGlobalShortcut>
 
+#include <utility>
+
 using MtConf::ConfItem;
 
 /// Editors of hotkeys and mouse actions on pages of the settings window, with its style sheet.
@@ -109,7 +111,7 @@ void tst_HotkeyAndMousePages::controlsAreAlignedInColumns()
     QTRY_COMPARE(WindowFixture::window()->width(), width);
     QCOMPARE(Editor::sConflictList.size(), 3);
     const QList<QWidget *> first = parts(Editor::sConflictList.at(0));
-    for (const Editor *editor : qAsConst(Editor::sConflictList)) {
+    for (const Editor *editor : std::as_const(Editor::sConflictList)) {
         const QList<QWidget *> row = parts(editor);
         for (int i = 0; i < 4; ++i) {
             QTRY_COMPARE(row.at(i)->x(), first.at(i)->x());

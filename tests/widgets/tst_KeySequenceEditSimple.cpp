@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QSignalSpy>
 
+#include <utility>
+
 class tst_KeySequenceEditSimple : public KeySequenceEditFixture
 {
     Q_OBJECT
@@ -71,7 +73,7 @@ void tst_KeySequenceEditSimple::simpleKeysAreRejected()
     BoxWatcher boxes(clickOk);
     KeySequenceEdit edit(QKeySequence(), nullptr);
     edit.allowSimpleHotkey = false;
-    for (const int key : qAsConst(keys)) {
+    for (const int key : std::as_const(keys)) {
         const QKeySequence sequence(key | modifiers);
         if (sequence.isEmpty())
             continue;

@@ -5,6 +5,7 @@
 #include <QStyleOptionComboBox>
 
 #include <functional>
+#include <utility>
 
 Q_DECLARE_METATYPE(std::function<void(QComboBox *)>)
 
@@ -85,7 +86,7 @@ void tst_MultiSelectComboBoxText::shownText()
     QFETCH(QList<int>, checked);
     mBox->addItems(texts);
     QCOMPARE(mBox->count(), texts.size());
-    for (int index : qAsConst(checked))
+    for (int index : std::as_const(checked))
         mBox->setItemChecked(index, true);
     QTEST(mText->text(), "shown");
     QTEST(mText->toolTip(), "toolTip");

@@ -10,6 +10,8 @@
 #include <QSpinBox>
 #include <QTranslator>
 
+#include <utility>
+
 using MtConf::ConfItem;
 
 namespace {
@@ -281,7 +283,7 @@ void tst_Accessibility::focusIsVisible()
         controls << firstControl(name);
     // For the image without focus, the focus is in the scroll area, which draws no focus frame.
     auto *area = WindowFixture::child<QScrollArea>("scrollArea");
-    for (QWidget *control : qAsConst(controls)) {
+    for (QWidget *control : std::as_const(controls)) {
         area->setFocus();
         const QImage without = control->grab().toImage();
         control->setFocus(Qt::TabFocusReason);
