@@ -1,15 +1,25 @@
 # Installs two components: Runtime, which programs need, and Development, which is needed to build them.
 # All paths are relative, so that the installed tree can be moved.
+#
+# The builds for Qt 5 and Qt 6 can be installed into one folder: libraries, modules of pkg-config,
+# Debian packages and folders of the build for Qt 6 have a suffix. Include lines are the same for
+# both, so the headers for Qt 6, some of which differ, have a folder of their own.
 include(CMakePackageConfigHelpers)
 
-set(MALTO_DATA_DIR ${CMAKE_INSTALL_DATADIR}/MaltoConfiguration)
-set(MALTO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/MaltoConfiguration)
+set(MALTO_SUFFIX)
+set(MALTO_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR})
+if(MALTO_QT_MAJOR EQUAL 6)
+    set(MALTO_SUFFIX -qt6)
+    set(MALTO_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/MaltoConfiguration${MALTO_SUFFIX})
+endif()
+set(MALTO_DATA_DIR ${CMAKE_INSTALL_DATADIR}/MaltoConfiguration${MALTO_SUFFIX})
+set(MALTO_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/MaltoConfiguration${MALTO_SUFFIX})
 
 # malto_install_library(<target> <pkg-config name> <description> <folder of headers> <entry>...):
 # installs the library, its target for the CMake package, its pkg-config file, and its headers: each
-# entry of the current source folder as include/<folder>/<entry>.
+# entry of the current source folder as <folder>/<entry>. The suffix is added to the module's name.
 function(malto_install_library target module description folder)
-    set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+    set(include_dir ${MALTO_HEADER_DIR}/${folder})
     install(TARGETS ${target} EXPORT MaltoConfigurationTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
             COMPONENT Runtime NAMELINK_COMPONENT Development)
@@ -22,8 +32,8 @@ function(malto_install_library target module description folder)
         endif()
     endforeach()
     file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-    set(PC_MODULE ${module})
-    set(PC_TARGET ${target})
+    set(PC_MODULE ${module}${MALTO_SUFFIX})
+    set(PC_LIBRARY ${target}${MALTO_SUFFIX})
     set(PC_DESCRIPTION ${description})
     string(REGEX REPLACE "/$" "" to_prefix ${to_prefix})
     set(PC_PREFIX \${pcfiledir}/${to_prefix})
@@ -32,8 +42,8 @@ function(malto_install_library target module description folder)
         string(APPEND PC_INCLUDES " -I\${includedir}/${folder}")
     endif()
     configure_file(${PROJECT_SOURCE_DIR}/packaging/module.pc.in
-                   ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc
+                   ${PROJECT_BINARY_DIR}/pkgconfig/${PC_MODULE}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${PC_MODULE}.pc
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()
 
@@ -41,7 +51,7 @@ endfunction()
 function(malto_install_generated_header header)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${MALTO_INCLUDE_DIR}/${header}
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)
+        DESTINATION ${MALTO_HEADER_DIR}/${folder} COMPONENT Development)
 endfunction()
 
 # Installs the CMake package, and the translations, style sheets and font that hosts may use.

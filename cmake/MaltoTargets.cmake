@@ -39,15 +39,18 @@ function(malto_own_code target)
         $<$<BOOL:${MALTO_DEVELOPER}>:-Werror>)
 endfunction()
 
-# malto_library(<target>): makes a target a shared library of the project, with hidden symbols and
-# the include tree.
+# malto_library(<target>): makes a target a shared library of the project, with hidden symbols, the
+# include tree and a name for its Qt. CMake's check of mixed Qts names the libraries, too, because
+# they have the property that Qt's targets have.
 function(malto_library target)
     malto_own_code(${target})
     set_target_properties(${target} PROPERTIES
-        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON POSITION_INDEPENDENT_CODE ON)
+        OUTPUT_NAME ${target}${MALTO_SUFFIX}
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON POSITION_INDEPENDENT_CODE ON
+        INTERFACE_QT_MAJOR_VERSION ${MALTO_QT_MAJOR} COMPATIBLE_INTERFACE_STRING QT_MAJOR_VERSION)
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_include_directories(${target} PUBLIC
-        $<BUILD_INTERFACE:${MALTO_INCLUDE_DIR}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+        $<BUILD_INTERFACE:${MALTO_INCLUDE_DIR}> $<INSTALL_INTERFACE:${MALTO_HEADER_DIR}>)
 endfunction()
 
 # malto_companion(<name> <folder> <option> <header>): defines MaltoConfiguration::<name>, built from

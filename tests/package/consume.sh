@@ -40,7 +40,10 @@ pkgconfig)
     install_and_move
     modules=$(find "$work/moved/here" -name pkgconfig)
     export PKG_CONFIG_PATH=$modules
-    names=(MaltoConfiguration MaltoOrvUtils MaltoQIconfont MaltoQxtGlobalShortcut)
+    suffix=
+    [ "$qt_major" = 5 ] || suffix=-qt$qt_major
+    names=(MaltoConfiguration"$suffix" MaltoOrvUtils"$suffix" MaltoQIconfont"$suffix"
+           MaltoQxtGlobalShortcut"$suffix")
     # Qt requires position-independent code.
     # shellcheck disable=SC2046,SC2086
     $compiler $flags -std=c++17 -fPIC "$consumer/main.cpp" -o "$work/consumer" \
