@@ -54,22 +54,29 @@ function(malto_install_generated_header header)
         DESTINATION ${MALTO_HEADER_DIR}/${folder} COMPONENT Development)
 endfunction()
 
-# Installs the CMake package, and the translations, style sheets and font that hosts may use.
+# Installs the CMake package, and the translations, style sheets and font that hosts may use. The
+# package consists of two: MaltoConfiguration finds the right build, MaltoConfiguration-qt<major>.
 function(malto_install_package)
+    set(build ${PROJECT_BINARY_DIR}/MaltoConfiguration-qt${MALTO_QT_MAJOR})
     install(EXPORT MaltoConfigurationTargets NAMESPACE MaltoConfiguration::
         DESTINATION ${MALTO_CMAKE_DIR} COMPONENT Development)
     configure_package_config_file(
-        ${PROJECT_SOURCE_DIR}/packaging/MaltoConfigurationConfig.cmake.in
-        ${PROJECT_BINARY_DIR}/MaltoConfigurationConfig.cmake
+        ${PROJECT_SOURCE_DIR}/packaging/MaltoConfiguration-qtConfig.cmake.in
+        ${build}Config.cmake
         INSTALL_DESTINATION ${MALTO_CMAKE_DIR}
         PATH_VARS MALTO_DATA_DIR)
-    # Before 1.0 a minor version may be incompatible.
+    # Both packages have the same version. Before 1.0 a minor version may be incompatible.
     write_basic_package_version_file(
-        ${PROJECT_BINARY_DIR}/MaltoConfigurationConfigVersion.cmake
+        ${build}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
+    install(FILES ${build}ConfigVersion.cmake
+        DESTINATION ${MALTO_CMAKE_DIR} RENAME MaltoConfigurationConfigVersion.cmake COMPONENT Development)
     install(FILES
-            ${PROJECT_BINARY_DIR}/MaltoConfigurationConfig.cmake
-            ${PROJECT_BINARY_DIR}/MaltoConfigurationConfigVersion.cmake
+            ${build}Config.cmake
+            ${build}ConfigVersion.cmake
+            ${PROJECT_SOURCE_DIR}/packaging/MaltoConfigurationConfig.cmake
+            ${PROJECT_SOURCE_DIR}/cmake/MaltoCheckLinks.cmake
+            ${PROJECT_SOURCE_DIR}/cmake/MaltoHostQt.cmake
             ${PROJECT_SOURCE_DIR}/cmake/MaltoTranslations.cmake
         DESTINATION ${MALTO_CMAKE_DIR} COMPONENT Development)
 

@@ -4,6 +4,8 @@
 # work: in a host that has found both Qts they belong to the first one, a host can disable them, and
 # the installed package must name the Qt that it was built with.
 
+include(${CMAKE_CURRENT_LIST_DIR}/MaltoHostQt.cmake)
+
 set(MALTO_MINIMUM_QT5 5.15)
 set(MALTO_MINIMUM_QT6 6.4)
 
@@ -15,31 +17,16 @@ endif()
 
 # _malto_choose_qt(<result>): sets the result to 5 or 6, or to nothing if neither is found.
 macro(_malto_choose_qt result)
-    set(${result} ${MALTO_QT_MAJOR})
-    if(NOT "${MALTO_QT_MAJOR}" MATCHES "^[56]?$")
-        message(FATAL_ERROR
-            "MALTO_QT_MAJOR is \"${MALTO_QT_MAJOR}\", but MaltoConfiguration is built with Qt 5 or 6.")
-    elseif(MALTO_QT_MAJOR)
-        _malto_check_qt_of_host(${MALTO_QT_MAJOR}
-            "but MALTO_QT_MAJOR chooses Qt ${MALTO_QT_MAJOR} for MaltoConfiguration")
-    elseif(TARGET Qt5::Core AND TARGET Qt6::Core)
-        message(FATAL_ERROR
-            "This project has found both Qt 5 and Qt 6: set MALTO_QT_MAJOR to the one that "
-            "MaltoConfiguration is to be built with.")
-    elseif(TARGET Qt5::Core)
-        set(${result} 5)
-    elseif(TARGET Qt6::Core)
-        set(${result} 6)
-    elseif(QT_VERSION_MAJOR MATCHES "^[56]$")
-        set(${result} ${QT_VERSION_MAJOR})
-    else()
+    malto_qt_of_host(${result} malto_problem)
+    if(malto_problem)
+        message(FATAL_ERROR "${malto_problem}")
+    elseif(NOT ${result})
         _malto_find_newest_qt(${result})
         if(NOT MALTO_IS_TOP_LEVEL AND NOT CMAKE_VERSION VERSION_LESS 3.19)
             # The host may call find_package() for its Qt later, and find the other one.
             cmake_language(EVAL CODE "
-                cmake_language(DEFER DIRECTORY [[${CMAKE_SOURCE_DIR}]] CALL _malto_check_qt_of_host
-                    [[${${result}}]]
-                    [[but had not when it added MaltoConfiguration, which took Qt ${${result}}]])")
+                cmake_language(DEFER DIRECTORY [[${CMAKE_SOURCE_DIR}]] CALL _malto_check_qt_found_later
+                    [[${${result}}]])")
         endif()
     endif()
 endmacro()
@@ -60,13 +47,12 @@ macro(_malto_find_newest_qt result)
     set(MALTO_QT_FOUND "${${result}}" CACHE INTERNAL "The Qt that was found first")
 endmacro()
 
-# _malto_check_qt_of_host(<major> <objection>): fails if the host has found the other Qt but not
-# this one.
-function(_malto_check_qt_of_host major objection)
-    math(EXPR other "11 - ${major}")
-    if(TARGET Qt${other}::Core AND NOT TARGET Qt${major}::Core)
-        message(FATAL_ERROR
-            "This project has found Qt ${other}, ${objection}: set MALTO_QT_MAJOR to ${other}.")
+function(_malto_check_qt_found_later major)
+    set(problem)
+    malto_check_qt_of_host(problem ${major}
+        "but had not when it added MaltoConfiguration, which took Qt ${major}")
+    if(problem)
+        message(FATAL_ERROR "${problem}")
     endif()
 endfunction()
 

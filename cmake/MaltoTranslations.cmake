@@ -20,16 +20,18 @@
 #   DESTINATION  a folder to use instead of <folder of the executable>/../Resources.
 #
 # Call it in the CMakeLists.txt that defines the target. It needs Qt's linguist tools; Qt's own
-# texts come from the translations that Qt has installed (Debian: qttranslations5-l10n). A language
-# for which there are none is left out with a message, and its standard buttons stay English.
+# texts come from the translations that Qt has installed (Debian: qttranslations5-l10n or
+# qt6-translations-l10n). A language for which there are none is left out with a message, and its
+# standard buttons stay English.
 
 if(NOT DEFINED MALTO_TRANSLATIONS_DIR)
     get_filename_component(MALTO_TRANSLATIONS_DIR
                            ${CMAKE_CURRENT_LIST_DIR}/../translations ABSOLUTE)
+    set(MALTO_TRANSLATIONS_QT_MAJOR ${MALTO_QT_MAJOR})
 endif()
 # The functions can be called in any folder, where the variables of this one are not set.
 set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_DIR ${MALTO_TRANSLATIONS_DIR})
-set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR ${MALTO_QT_MAJOR})
+set_property(GLOBAL PROPERTY MALTO_TRANSLATIONS_QT_MAJOR ${MALTO_TRANSLATIONS_QT_MAJOR})
 
 function(malto_add_translations target)
     cmake_parse_arguments(ARG "" "TS_DIR;DESTINATION" "LANGUAGES" ${ARGN})

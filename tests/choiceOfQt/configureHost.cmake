@@ -1,35 +1,6 @@
-# Writes the packages and the host, configures the host and checks its output.
+# Writes the packages of Qt and the host, configures the host and checks its output.
 cmake_minimum_required(VERSION 3.16)
-
-# install_qt(<major>:<version>[:<module that it lacks>])
-function(install_qt qt)
-    string(REPLACE ":" ";" parts ${qt})
-    list(GET parts 0 major)
-    list(GET parts 1 version)
-    foreach(module IN ITEMS Core Gui Widgets)
-        if(NOT module IN_LIST parts)
-            write_package(Qt${major}${module} ${version} "
-                if(NOT TARGET Qt${major}::${module})
-                    add_library(Qt${major}::${module} INTERFACE IMPORTED)
-                endif()")
-        endif()
-    endforeach()
-    write_package(Qt${major} ${version} "
-        foreach(module IN LISTS \${CMAKE_FIND_PACKAGE_NAME}_FIND_COMPONENTS)
-            find_package(Qt${major}\${module} QUIET PATHS \${CMAKE_CURRENT_LIST_DIR}/.. NO_DEFAULT_PATH)
-            if(NOT Qt${major}\${module}_FOUND)
-                set(\${CMAKE_FIND_PACKAGE_NAME}_FOUND FALSE)
-            endif()
-        endforeach()")
-endfunction()
-
-function(write_package name version code)
-    set(path ${FOLDER}/qt/${name}/${name}Config)
-    file(WRITE ${path}.cmake "${code}\n")
-    file(WRITE ${path}Version.cmake "
-        set(PACKAGE_VERSION ${version})
-        set(PACKAGE_VERSION_COMPATIBLE TRUE)\n")
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/fakeQt.cmake)
 
 function(configure_host)
     execute_process(
@@ -53,12 +24,12 @@ file(WRITE ${FOLDER}/host/CMakeLists.txt "
     cmake_minimum_required(VERSION 3.16)
     project(host LANGUAGES NONE)
     # Find only these packages.
-    set(CMAKE_PREFIX_PATH ${FOLDER}/qt)
+    set(CMAKE_PREFIX_PATH ${FOLDER}/qt ${PREFIXES})
     set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)
     set(CMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH OFF)
     set(CMAKE_FIND_USE_PACKAGE_REGISTRY OFF)
     ${BEFORE}
-    add_subdirectory(library)
+    ${ADD}
     ${AFTER}\n")
 file(WRITE ${FOLDER}/host/library/CMakeLists.txt "
     include(${SOURCE_DIR}/cmake/MaltoQt.cmake)
