@@ -4,6 +4,10 @@
 
 #include <QList>
 
+static_assert(QT_VERSION_MAJOR == 5,
+              "These headers of MaltoConfiguration are for Qt 5: use those for Qt 6, in the folder "
+              "include/MaltoConfiguration-qt6.");
+
 namespace MtConf {
 
 /// The type of the lists of `MtConfManage`. With Qt 5 it is a `QList`, which allocates each element

@@ -4,6 +4,12 @@
 
 #include <MaltoConfiguration/manage/StableList.h>
 
+#include <QtGlobal>
+
+static_assert(QT_VERSION_MAJOR == 6,
+              "These headers of MaltoConfiguration are for Qt 6: use those for Qt 5, in the folder "
+              "include.");
+
 namespace MtConf {
 
 /// The type of the lists of `MtConfManage`. With Qt 6, whose `QList` moves its elements when it
