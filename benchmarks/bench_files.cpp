@@ -13,8 +13,7 @@ namespace {
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 struct Numbers
@@ -97,8 +96,8 @@ public:
     {
         const QByteArray text = QJsonDocument::fromJson(contentOf(path)).toJson();
         QFile file(path);
-        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        file.write(text);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            file.write(text);
     }
 };
 
@@ -120,8 +119,8 @@ public:
     void save(int)
     {
         QFile file(mPath);
-        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-        file.write(QJsonDocument(mObject).toJson(QJsonDocument::Compact));
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            file.write(QJsonDocument(mObject).toJson(QJsonDocument::Compact));
     }
 
 private:

@@ -26,8 +26,9 @@ function(malto_own_code target)
     set_target_properties(${target} PROPERTIES
         AUTOMOC ON AUTOUIC ON AUTORCC ON
         CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF)
+    # Qt 6.4 has no replacement yet for what later versions deprecate.
     target_compile_definitions(${target} PRIVATE
-        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS)
+        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_WARN_DEPRECATED_UP_TO=0x060400)
     if(NOT "CASTS" IN_LIST ARGN)
         target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     endif()

@@ -108,8 +108,7 @@ QColor QThemeCtrl::color(const QString &name) const
 
 QColor QThemeCtrl::colorOf(const QMap<QString, QString> &values, const QString &name) const
 {
-    const QString text = expanded(values, values.value(name), 1).trimmed();
-    return QColor::isValidColor(text) ? QColor(text) : QColor();
+    return QColor(expanded(values, values.value(name), 1).trimmed());
 }
 
 void QThemeCtrl::setValue(Theme theme, const QString &name, const QString &value)
