@@ -33,7 +33,7 @@ bool isPlainOrBeyondAscii(char byte)
 
 QString textOf(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+    return QString::fromUtf8(utf8.data(), static_cast<QString::size_type>(utf8.size()));
 }
 
 /// Returns whether the text is valid UTF-8. False as well for text that contains the replacement
@@ -146,7 +146,8 @@ bool Scanner::takeParsedValue(PlainMember *member)
     const char *const end = endOfValue();
     if (!end)
         return false;
-    const QByteArray text = QByteArray::fromRawData(mNext, static_cast<int>(end - mNext));
+    const auto size = static_cast<QByteArray::size_type>(end - mNext);
+    const QByteArray text = QByteArray::fromRawData(mNext, size);
     // Parsed as the only element of an array: QJsonDocument accepts no other values.
     const QJsonArray array = QJsonDocument::fromJson('[' + text + ']').array();
     if (array.size() != 1)
@@ -202,7 +203,7 @@ bool Scanner::takeMember(PlainMember *member)
 
 QString PlainMember::key() const
 {
-    return QString::fromLatin1(name.data(), static_cast<int>(name.size()));
+    return QString::fromLatin1(name.data(), static_cast<QString::size_type>(name.size()));
 }
 
 std::optional<int> PlainMember::time() const
