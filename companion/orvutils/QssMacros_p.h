@@ -17,8 +17,7 @@ public:
     /// name.
     using Report = std::function<void(const QString &problem)>;
 
-    /// `values` are the values by name and must outlive the object; `scale` is the factor of
-    /// `sca()`.
+    /// `values` are the values by name; `scale` is the factor of `sca()`.
     QssMacros(const QMap<QString, QString> &values, double scale, const Report &report);
 
     /// Returns `text` with its macros expanded.
@@ -37,7 +36,7 @@ private:
     QString scaled(const QString &argument, bool *ok) const;
     QString resolved(const QString &name, bool *ok);
 
-    const QMap<QString, QString> &mValues;
+    const QMap<QString, QString> mValues; // a copy, because a report may change the values
     const double mScale;
     const Report mReport;
     QHash<QString, QString> mResolved;

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void unusableScaleCountsAsOne_data();
     void unusableScaleCountsAsOne();
     void unknownNameIsRemovedAndLoggedOnce();
+    void logHandlerMayChangeTheValueThatIsExpanded();
     void nameThatRefersToItselfIsKeptAndLoggedOnce();
     void textThatIsNotANumberIsKeptAndLoggedOnce();
     void exponentiallyGrowingValueIsNotExpanded();
@@ -148,6 +149,21 @@ void tst_QThemeCtrlMacros::unknownNameIsRemovedAndLoggedOnce()
     const QStringList expected{QStringLiteral("QThemeCtrl::handleQssFile unknown name: Nobody"),
                                QStringLiteral("QThemeCtrl::handleQssFile unknown name: Else")};
     QCOMPARE(LogCapture::texts(QtWarningMsg), expected);
+}
+
+void tst_QThemeCtrlMacros::logHandlerMayChangeTheValueThatIsExpanded()
+{
+    QThemeCtrl::instance()->setValue(QThemeCtrl::Theme::System, QStringLiteral("Changing"),
+                                     QStringLiteral("var(Missing) kept"));
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) {
+            QThemeCtrl::instance()->setValue(QThemeCtrl::Theme::System, QStringLiteral("Changing"),
+                                             QStringLiteral("new"));
+        });
+    const QString expanded = expand(QStringLiteral("[var(Changing)]"), 1);
+    qInstallMessageHandler(previous);
+    QCOMPARE(expanded, QStringLiteral("[ kept]"));
+    QCOMPARE(expand(QStringLiteral("[var(Changing)]"), 1), QStringLiteral("[new]"));
 }
 
 void tst_QThemeCtrlMacros::nameThatRefersToItselfIsKeptAndLoggedOnce()
