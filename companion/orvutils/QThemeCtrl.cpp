@@ -38,7 +38,9 @@ void QThemeCtrl::handleQssFile(QWidget *widget, const QStringList &files, double
             qWarning().noquote().nospace() << "QThemeCtrl::handleQssFile cannot read: " << file;
             continue;
         }
-        sheet += QString::fromUtf8(content) + QLatin1Char('\n');
+        // Up to a zero byte, at which the overload for QByteArray stops with Qt 5 but not with
+        // Qt 6.
+        sheet += QString::fromUtf8(content.constData()) + QLatin1Char('\n');
         if (!file.startsWith(QLatin1Char(':')))
             diskSheets.insert(QFileInfo(file).absoluteFilePath(), content);
     }

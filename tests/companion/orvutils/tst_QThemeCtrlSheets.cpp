@@ -45,6 +45,7 @@ private Q_SLOTS:
     void unreadableSheetIsLoggedAndTheOthersAreUsed();
     void emptyListOfSheetsClearsTheStyle();
     void encodingIsUtf8WithOrWithoutByteOrderMark();
+    void sheetEndsAtAZeroByte();
     void resourceIsReadAndNotWatched();
     void nullWidgetIsIgnored();
     void sheetIsAppliedToTheWidget();
@@ -127,6 +128,13 @@ void tst_QThemeCtrlSheets::encodingIsUtf8WithOrWithoutByteOrderMark()
     writeSheet("broken.qss", "/* \xff\xfe */");
     apply(mLabel.get(), {QStringLiteral("broken.qss")});
     QVERIFY(mLabel->styleSheet().startsWith(QStringLiteral("/* ")));
+}
+
+void tst_QThemeCtrlSheets::sheetEndsAtAZeroByte()
+{
+    writeSheet("zero.qss", QByteArray("QLabel { margin: 1px }\0QLabel { margin: 2px }", 45));
+    apply(mLabel.get(), {QStringLiteral("zero.qss")});
+    QCOMPARE(mLabel->styleSheet(), QStringLiteral("QLabel { margin: 1px }\n"));
 }
 
 void tst_QThemeCtrlSheets::resourceIsReadAndNotWatched()
