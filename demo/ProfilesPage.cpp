@@ -23,16 +23,19 @@ namespace {
 
 constexpr int sLargestSide = 16384; // pixels
 
-QIcon swatch(const QColor &color, int size)
+/// Returns an icon of `size` logical pixels for a screen with the device pixel ratio `ratio`.
+QIcon swatch(const QColor &color, int size, qreal ratio)
 {
-    QPixmap pixmap(size, size);
+    const QRect rect(0, 0, size, size);
+    QPixmap pixmap(rect.size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     // The white border keeps the accent colour visible in the selected row.
     painter.setPen(QPen(Qt::white, qMax(1, size / 8)));
     painter.setBrush(color);
-    painter.drawEllipse(pixmap.rect().adjusted(1, 1, -1, -1));
+    painter.drawEllipse(rect.adjusted(1, 1, -1, -1));
     painter.end();
     QIcon icon(pixmap);
     // Otherwise Qt tints the icon of the selected row.
@@ -200,7 +203,8 @@ void ProfilesPage::refresh()
         const QStringList keys = mProfiles.keys();
         for (const QString &key : keys) {
             const QColor color(mProfiles.profile(key).value(QLatin1String("color")).toString());
-            auto *item = new QListWidgetItem(swatch(color, iconSize), mProfiles.name(key), mList);
+            const QIcon icon = swatch(color, iconSize, devicePixelRatioF());
+            auto *item = new QListWidgetItem(icon, mProfiles.name(key), mList);
             item->setData(Qt::UserRole, key);
         }
         selectKey(shown);
