@@ -9,14 +9,14 @@
 class EntryKey
 {
 public:
-    constexpr explicit EntryKey(char name) : mText{'"', name, '"', ':'} {}
+    constexpr explicit EntryKey(char name) : mText{'"', name, '"', ':', '\0'} {}
 
     constexpr QLatin1String name() const { return QLatin1String(mText + 1, 1); }
     /// The name as compact JSON has it, with quotes and colon.
-    constexpr QLatin1String inText() const { return QLatin1String(mText, sizeof mText); }
+    constexpr QLatin1String inText() const { return QLatin1String(mText, sizeof mText - 1); }
 
 private:
-    char mText[4];
+    char mText[5]; // terminated, because GCC warns about a QLatin1String that is not
 };
 
 inline constexpr EntryKey sTimeKey('t');  ///< when the value changed, in seconds since 1970
