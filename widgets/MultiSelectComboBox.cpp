@@ -165,7 +165,7 @@ int MultiSelectComboBox::findItemByUserData(const QVariant &userData) const
 {
     for (int i = 0; i < count(); ++i) {
         const QCheckBox *box = checkBox(i);
-        if (box && box->property(sUserData) == userData)
+        if (box && QtCompat::isEqual(box->property(sUserData), userData))
             return i;
     }
     return -1;

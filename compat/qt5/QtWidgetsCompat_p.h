@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QSize>
+#include <QVariant>
 
 // What QtCompat_p.h holds, for what needs Qt Widgets.
 namespace QtCompat {
@@ -13,6 +14,13 @@ inline QSize globalStrut()
     QT_WARNING_DISABLE_DEPRECATED
     return QApplication::globalStrut();
     QT_WARNING_POP
+}
+
+/// Returns whether the values are equal after one is converted to the type of the other, as an enum
+/// to an int.
+inline bool isEqual(const QVariant &a, const QVariant &b)
+{
+    return a == b;
 }
 
 } // namespace QtCompat

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QSize>
+#include <QVariant>
 
 // What QtCompat_p.h holds, for what needs Qt Widgets.
 namespace QtCompat {
@@ -11,6 +12,13 @@ namespace QtCompat {
 inline QSize globalStrut()
 {
     return QSize(0, 0);
+}
+
+/// Returns whether the values are equal after one is converted to the type of the other, as an enum
+/// to an int. Qt 6 itself does that for numbers and texts only.
+inline bool isEqual(const QVariant &a, QVariant b)
+{
+    return a == b || (b.convert(a.metaType()) && a == b);
 }
 
 } // namespace QtCompat

@@ -10,12 +10,17 @@
 class tst_MultiSelectComboBox : public QObject, private MultiSelectFixture
 {
     Q_OBJECT
+public:
+    enum Mode { FirstMode = 1, SecondMode = 2 };
+    Q_ENUM(Mode)
+
 private Q_SLOTS:
     void init() { QVERIFY(open()); }
     void cleanup() { close(); }
 
     void newBoxIsEmptyAndReadOnly();
     void userDataIsStoredAndFound();
+    void userDataOfAnotherTypeAreConvertedToBeFound();
     void addItemsHaveNoUserData();
     void setCurrentTextChecksAndNeverUnchecks();
     void setCurrentTextWithASingleStringDoesNothing();
@@ -69,6 +74,21 @@ void tst_MultiSelectComboBox::userDataIsStoredAndFound()
     QCOMPARE(mBox->findItemByUserData("text"), 1);
     QCOMPARE(mBox->findItemByUserData(QVariant()), 3);
     QCOMPARE(mBox->findItemByUserData(5), -1);
+}
+
+void tst_MultiSelectComboBox::userDataOfAnotherTypeAreConvertedToBeFound()
+{
+    mBox->addItem("A", QVariant::fromValue(FirstMode));
+    mBox->addItem("B", SecondMode); // an int
+    mBox->addItem("C", QByteArray("text"));
+    mBox->addItem("D", QVariant::fromValue<void *>(nullptr));
+    QCOMPARE(mBox->findItemByUserData(1), 0);
+    QCOMPARE(mBox->findItemByUserData(QVariant::fromValue(SecondMode)), 1);
+    QCOMPARE(mBox->findItemByUserData("2"), 1);
+    QCOMPARE(mBox->findItemByUserData("text"), 2);
+    QCOMPARE(mBox->findItemByUserData(0), -1);
+    QCOMPARE(mBox->findItemByUserData("other"), -1);
+    QCOMPARE(mBox->findItemByUserData(QVariant()), -1);
 }
 
 void tst_MultiSelectComboBox::addItemsHaveNoUserData()
