@@ -18,7 +18,8 @@ namespace {
 
 constexpr qint64 sFirstTime = 1700000000;
 constexpr quint32 sFlags[] = {ConfStorage::FlagSystemIndependent, ConfStorage::FlagLocalOnly, 0};
-constexpr int sRoundLength = 100; // in seconds; short, so that hosts change settings at once
+constexpr quint64 sGeometryPeriod = 20; // not each time, because QSettings waits for the disk
+constexpr int sRoundLength = 100;       // in seconds; short, so that hosts change settings at once
 
 const char sLocal[] = "local.json";
 const char sShared[] = "shared.json";
@@ -199,11 +200,18 @@ QByteArray randomConfiguration(Random &random)
     for (const ConfiguredType &member : sConfiguredTypes) {
         if (text.endsWith('}'))
             text += ',';
-        text += space() + "\"Page." + member.name + "\":" + space()
-                + "{\"subConf\":{\"Sub\":" + randomInput(random, member.type) + '}' + space()
-                + ",\"value\":" + randomInput(random, member.type) + '}';
+        // One call in each statement, so that every compiler keeps their order.
+        text += space();
+        text += QByteArray("\"Page.") + member.name + ".Sub\":";
+        text += space();
+        text += randomInput(random, member.type);
+        text += QByteArray(",\"Page.") + member.name + "\":{\"value\":";
+        text += randomInput(random, member.type);
+        text += space();
+        text += '}';
     }
-    return text + space() + '}';
+    text += space();
+    return text + '}';
 }
 
 /// Returns the local file of a host that has loaded a configuration file.
@@ -261,7 +269,8 @@ Files writtenFiles(quint64 seed)
     files[sConfiguration] = randomConfiguration(random);
     files[sConfigured] = configuredText(files[sConfiguration]);
     const int x = random.between(-4000, 4000), y = random.between(-4000, 4000);
-    files[sGeometry] = geometryText(QRect(x, y, random.below(4000), 700));
+    if (seed % sGeometryPeriod == 0)
+        files[sGeometry] = geometryText(QRect(x, y, random.below(4000), 700));
     files[sLog] = run.log();
     return files;
 }
@@ -287,7 +296,8 @@ Files rewrittenFiles(const Files &files)
         rewritten[sChanged] = dumpText(host.store, ConfStorage::DumpChangedOnly);
     }
     rewritten[sConfigured] = configuredText(files.at(sConfiguration));
-    rewritten[sGeometry] = geometryText(geometryIn(files.at(sGeometry)));
+    if (files.count(sGeometry))
+        rewritten[sGeometry] = geometryText(geometryIn(files.at(sGeometry)));
     rewritten[sLog] = run.log();
     return rewritten;
 }

@@ -15,7 +15,8 @@ using Files = std::map<QString, QByteArray>;
 
 /// Returns the files of a host with random settings: "local.json"; the dumps "shared.json" and
 /// "changed.json"; "table.txt", for debugging; "configuration.json", as a user may write it, and
-/// "configured.json", what a host saves that has loaded it; "geometry.ini"; "log.txt".
+/// "configured.json", what a host saves that has loaded it; "log.txt"; for some seeds
+/// "geometry.ini".
 Files writtenFiles(quint64 seed);
 
 /// Returns what a host writes that has read `files`, each into a new store.

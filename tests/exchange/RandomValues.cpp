@@ -17,7 +17,10 @@ double randomDouble(Random &random)
     case 1: return random.between(-100000, 100000) / 1e5;
     case 2: return std::ldexp(1.0, random.between(-40, 70)); // around 2^53 and 2^64
     case 3: return static_cast<double>(random.next() >> random.below(40));
-    case 4: return random.between(1, 9999) / std::pow(10.0, random.between(-18, 9));
+    case 4: {
+        const QByteArray digits = QByteArray::number(random.between(1, 9999));
+        return (digits + 'e' + QByteArray::number(random.between(-9, 18))).toDouble();
+    }
     case 5:
         return random.oneOf<double>(
             {0.0, -0.0, 1e300, -1e-300, 5e-324, 1e21, 1e17, 0.0001, 0.1, 9007199254740991.0,
