@@ -101,9 +101,9 @@ public:
     bool operator!=(const ConfValue &other) const { return !(*this == other); }
 
     /// Returns the value as JSON: a colour as the hexadecimal digits of its ARGB value, or "None"
-    /// if it is invalid; a font as `QFont::toString`; a key sequence as its portable text; an empty
-    /// value as null; other values as they are. Logs the critical message
-    /// "restoreDefault: unknow type: " with the type if the type is unknown.
+    /// if it is invalid; a font as the `QFont::toString` of Qt 5 and a key sequence as the portable
+    /// text of Qt 5, also with Qt 6; an empty value as null; other values as they are. Logs the
+    /// critical message "restoreDefault: unknow type: " with the type if the type is unknown.
     QJsonValue toJsonValue() const;
 
     /// Sets the value from JSON as `toJsonValue` returns it. JSON of another type is converted by

@@ -14,9 +14,9 @@
 ///
 /// A font that is written and read loses what this text cannot hold: all families but
 /// `QFont::family()`, capitalization, letter and word spacing, stretch, style strategy, hinting
-/// preference, overline and kerning. A size in points keeps six digits. Weights are the 100 of Qt 5,
-/// to which the 1000 of Qt 6 are rounded; the named ones are exact. Commas are not quoted: a family
-/// or a style name that contains one is read as other fields.
+/// preference, overline and kerning. A size in points keeps six digits. Weights are the 100 of Qt
+/// 5, to which the 1000 of Qt 6 are rounded; the named ones are exact. Commas are not quoted: a
+/// family or a style name that contains one is read as other fields.
 QString toFontText(const QFont &font);
 
 /// Reads the text that QFont::toString() writes with Qt 5 or Qt 6; both versions of Qt read the
