@@ -1,119 +1,133 @@
 #include "WindowGeometryFile_p.h"
 
+#include "MaltoConfiguration/store/PosixFile_p.h"
+
 #include <QDebug>
 #include <QFile>
-#include <QFileInfo>
+#include <QLockFile>
 #include <QRegularExpression>
-#include <QSettings>
-
-#include <algorithm>
-#include <cctype>
 
 namespace {
 
+using Status = PosixFile::Status;
+
 constexpr qint64 sMaxFileSize = 64 * 1024;
+constexpr int sLockMilliseconds = 500;
 
-QString geometryKey()
+const QByteArray &sectionLine()
 {
-    return QStringLiteral("Geometry");
+    static const QByteArray sLine = "[General]";
+    return sLine;
 }
 
-/// Also for DEL, which Qt 5 escapes, too.
-bool isBeyondAscii(char byte)
+/// The lines of a file, with the line of the geometry.
+class Lines
 {
-    return static_cast<uchar>(byte) >= 0x7f;
-}
-
-bool isHexadecimalDigit(QChar character)
-{
-    return character.unicode() < 0x80 && std::isxdigit(character.unicode());
-}
-
-/// Escapes characters as the QSettings of Qt 5 does in values. An escape ends at the first
-/// character that is no digit, so digits behind it are escaped, too.
-QByteArray escaped(const QString &text)
-{
-    QByteArray result;
-    bool isBehindEscape = false;
-    for (const QChar character : text) {
-        isBehindEscape = character.unicode() >= 0x7f
-                         || (isBehindEscape && isHexadecimalDigit(character));
-        if (isBehindEscape)
-            result += "\\x" + QByteArray::number(character.unicode(), 16);
-        else
-            result += static_cast<char>(character.unicode());
+public:
+    explicit Lines(const QByteArray &text)
+    {
+        if (!text.isEmpty())
+            mLines = text.split('\n');
+        bool isGeneral = true; // values before the first section
+        for (int i = 0; i < mLines.size(); ++i) {
+            const QByteArray line = mLines.at(i).trimmed();
+            if (line.startsWith('['))
+                isGeneral = line.toLower() == sectionLine().toLower();
+            if (isGeneral && line.startsWith('['))
+                mSection = i;
+            const auto equals = line.indexOf('=');
+            if (isGeneral && equals != -1 && line.left(equals).trimmed() == "Geometry")
+                mGeometry = i;
+        }
     }
-    return result;
-}
+
+    bool hasGeometry() const { return mGeometry != -1; }
+
+    QRect geometry() const
+    {
+        static const QRegularExpression sRectangle(
+            QStringLiteral("=\\s*\"?@Rect\\((-?\\d+) (-?\\d+) (-?\\d+) (-?\\d+)\\)\"?\\s*$"));
+        const auto found = sRectangle.match(QString::fromLatin1(mLines.at(mGeometry)));
+        int numbers[4] = {};
+        for (int i = 0; i < 4; ++i) {
+            bool isInRange = false;
+            numbers[i] = found.captured(i + 1).toInt(&isInRange);
+            if (!isInRange)
+                return QRect();
+        }
+        return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+    }
+
+    QByteArray with(const QRect &geometry)
+    {
+        const QByteArray line = "Geometry=@Rect(" + QByteArray::number(geometry.x()) + ' '
+                                + QByteArray::number(geometry.y()) + ' '
+                                + QByteArray::number(geometry.width()) + ' '
+                                + QByteArray::number(geometry.height()) + ')';
+        if (hasGeometry()) {
+            mLines[mGeometry] = line;
+        } else if (mSection != -1) {
+            mLines.insert(mSection + 1, line);
+        } else {
+            if (!mLines.isEmpty())
+                mLines.prepend(QByteArray()); // between two sections
+            mLines.prepend(line);
+            mLines.prepend(sectionLine());
+        }
+        QByteArray text = mLines.join('\n');
+        return text.endsWith('\n') ? text : text + '\n';
+    }
+
+private:
+    QList<QByteArray> mLines;
+    int mSection = -1;
+    int mGeometry = -1;
+};
 
 } // namespace
 
 WindowGeometryFile::Saved WindowGeometryFile::read() const
 {
-    switch (content()) {
-    case Content::Missing: return {};
-    case Content::Foreign: warn(); return {};
-    case Content::Dangerous: warn(); return {true, QRect()};
-    case Content::Harmless: break;
+    const PosixFile::Content content = PosixFile::read(mPath, sMaxFileSize);
+    if (content.status == Status::Missing)
+        return {};
+    if (content.status != Status::Done) {
+        warn();
+        return {content.status == Status::TooLarge, QRect()};
     }
-    const QSettings settings(mPath, QSettings::IniFormat);
-    return {settings.contains(geometryKey()), settings.value(geometryKey()).toRect()};
+    const Lines lines(content.bytes);
+    return {lines.hasGeometry(), lines.hasGeometry() ? lines.geometry() : QRect()};
 }
 
 void WindowGeometryFile::write(const QRect &geometry) const
 {
-    const Content present = content();
-    if (present == Content::Foreign) {
+    if (!replace(geometry))
         warn();
-        return;
-    }
-    if (present == Content::Dangerous)
-        QFile::remove(mPath);
-    QSettings(mPath, QSettings::IniFormat).setValue(geometryKey(), geometry);
-    escapeOtherValues();
 }
 
-void WindowGeometryFile::escapeOtherValues() const
+bool WindowGeometryFile::replace(const QRect &geometry) const
 {
-    QFile file(mPath);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        return;
-    const QByteArray text = file.readAll();
-    if (std::none_of(text.begin(), text.end(), isBeyondAscii))
-        return;
-    file.resize(0);
-    file.seek(0);
-    file.write(escaped(QString::fromUtf8(text)));
-}
-
-bool WindowGeometryFile::isHarmless(const QByteArray &text)
-{
-    // QSettings parses every value of the file, whichever key is read. For "@Variant(" and
-    // "@DateTime(" it deserializes a stream of any type: eight bytes that announce a list of four
-    // thousand million entries end the process. Before that it removes quotes and decodes escapes.
-    // So the at sign and the letter may be plain or escaped, with quotes, blanks, byte order marks,
-    // unknown escapes and continued lines between them.
-    static const QRegularExpression danger(QStringLiteral(
-        R"((?:@|\\x(?:[0-9a-fA-F]*00|0?)40(?![0-9a-fA-F])|\\[0-7]*100))"
-        R"((?:["\t ]|\xef\xbb\xbf|\\(?:\r\n|\n\r|[^x0-7abfnrtv"?'\\]))*+)"
-        R"((?:[VD]|\\x(?:[0-9a-fA-F]*00|0?)(?:56|44)(?![0-9a-fA-F])|\\[0-7]*(?:126|104)))"));
-    // With the size, because a zero byte does not end the text. A search that hits the limits of
-    // the regular expression engine proves nothing.
-    const auto found = danger.match(QString::fromLatin1(text.constData(), text.size()));
-    return found.isValid() && !found.hasMatch();
-}
-
-WindowGeometryFile::Content WindowGeometryFile::content() const
-{
-    const QFileInfo info(mPath);
-    if (!info.exists())
-        return Content::Missing;
-    // Reading a pipe or a device may block forever.
-    QFile file(mPath);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
-        return Content::Foreign;
-    const QByteArray text = file.read(sMaxFileSize + 1);
-    return text.size() <= sMaxFileSize && isHarmless(text) ? Content::Harmless : Content::Dangerous;
+    PosixFile file;
+    const Status opened = file.open(mPath, PosixFile::Mode::EditNoLink);
+    // The QSettings of other programs uses the same lock, and would wait for ever.
+    QLockFile lock(mPath + QLatin1String(".lock"));
+    if ((opened != Status::Done && opened != Status::Missing) || !lock.tryLock(sLockMilliseconds))
+        return false;
+    const bool exists = opened == Status::Done;
+    const PosixFile::Content content = exists ? file.read(sMaxFileSize) : PosixFile::Content();
+    if (content.status == Status::Failed)
+        return false;
+    // Renamed into place, so that a crash leaves the old or the new file.
+    PosixFile next;
+    const QString path = next.create(mPath + QLatin1String(".new"));
+    if (path.isEmpty())
+        return false;
+    const bool written = (!exists || next.copyAccess(file))
+                         && next.write(Lines(content.bytes).with(geometry))
+                         && PosixFile::rename(path, mPath);
+    if (!written)
+        QFile::remove(path);
+    return written;
 }
 
 void WindowGeometryFile::warn() const

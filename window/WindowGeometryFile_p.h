@@ -4,8 +4,9 @@
 #include <QRect>
 #include <QString>
 
-/// The INI file in which the settings window saves its geometry. Its content is checked before
-/// QSettings reads it.
+/// The INI file in which the settings window saves its geometry, as `QSettings` writes it.
+/// QSettings parses every value of a file, and some values end the process; so the one value is
+/// read and written as text, and all else stays as it is.
 class WindowGeometryFile
 {
 public:
@@ -18,24 +19,18 @@ public:
 
     explicit WindowGeometryFile(const QString &path) : mPath(path) {}
 
-    /// Returns what was saved. Anything but a regular file counts as missing, and a file that is
-    /// dangerous to read as one with an unusable geometry. Both log the warning
+    /// Returns what was saved. Anything but a readable regular file counts as missing, and a file
+    /// that is too large as one with an unusable geometry. Both log the warning
     /// "ConfigurationWindow geometry file is not usable: " and the path.
     Saved read() const;
 
-    /// Saves `geometry` and keeps the other values of the file, unless they are dangerous to read.
-    /// The file is written in ASCII: characters of other values are escaped. Anything but a regular
-    /// file is left unchanged, and the same warning is logged.
+    /// Saves `geometry` and keeps the rest of the file. A link or anything but a regular file is
+    /// left unchanged, and so is a file that another program keeps locked; the same warning is
+    /// logged. A file that is too large is replaced.
     void write(const QRect &geometry) const;
 
-    /// Returns whether QSettings can parse `text` without ending the process.
-    static bool isHarmless(const QByteArray &text);
-
 private:
-    enum class Content { Missing, Foreign, Dangerous, Harmless };
-    Content content() const;
-    /// The QSettings of Qt 6 writes these characters as UTF-8, which that of Qt 5 reads as Latin-1.
-    void escapeOtherValues() const;
+    bool replace(const QRect &geometry) const;
     void warn() const;
 
     QString mPath;

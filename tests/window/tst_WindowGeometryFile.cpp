@@ -10,6 +10,7 @@
 namespace {
 
 const char sPath[] = "geometry.ini";
+const QString sWarning = "ConfigurationWindow geometry file is not usable:  \"%1\"";
 
 void writeFile(const QByteArray &content)
 {
@@ -34,15 +35,12 @@ private Q_SLOTS:
     void missingFileHasNoGeometry();
     void savedGeometryIsRead();
     void fileWithOtherKeysHasNoGeometry();
-    void otherKeysAreKept();
-    void otherValuesAreEscapedAsInQt5_data();
-    void otherValuesAreEscapedAsInQt5();
-    void hiddenVariantIsDetected_data();
-    void hiddenVariantIsDetected();
-    void ordinaryTextIsHarmless_data();
-    void ordinaryTextIsHarmless();
-    void dangerousFileIsUnusableAndReplaced();
-    void hugeFileIsUnusable();
+    void unusualFilesAreReadAndWritten_data();
+    void unusualFilesAreReadAndWritten();
+    void otherSectionsAreKept();
+    void hugeFileIsUnusableAndReplaced();
+    void lockedFileIsNotWritten();
+    void targetOfALinkIsNotWritten();
     void pipesAndDevicesAreLeftAlone_data();
     void pipesAndDevicesAreLeftAlone();
 };
@@ -70,113 +68,107 @@ void tst_WindowGeometryFile::fileWithOtherKeysHasNoGeometry()
     QVERIFY(!WindowGeometryFile(sPath).read().found);
 }
 
-void tst_WindowGeometryFile::otherKeysAreKept()
+void tst_WindowGeometryFile::unusualFilesAreReadAndWritten_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QRect>("geometry"); // invalid: the value is unusable
+    QTest::addColumn<QByteArray>("written");
+    const QRect saved(1, 2, 3, 4);
+    const QByteArray line = "Geometry=@Rect(5 6 7 8)\n";
+    const auto row = [](const char *name, const QByteArray &text, const QRect &geometry,
+                        const QByteArray &written) {
+        QTest::newRow(name) << text << geometry << written;
+    };
+    row("before a section", "Geometry=@Rect(1 2 3 4)\n[Other]\nx=1\n", saved,
+        line + "[Other]\nx=1\n");
+    row("second of two sections", "[Other]\nGeometry=1\n[General]\nGeometry=@Rect(1 2 3 4)\n",
+        saved, "[Other]\nGeometry=1\n[General]\n" + line);
+    row("last of two values", "Geometry=@Rect(9 9 9 9)\nGeometry=@Rect(1 2 3 4)\n", saved,
+        "Geometry=@Rect(9 9 9 9)\n" + line);
+    row("blanks and quotes", "[general]\r\nGeometry = \"@Rect(1 2 3 4)\"\r\n", saved,
+        "[general]\r\n" + line);
+    row("no line end", "Geometry=@Rect(1 2 3 4)", saved, line);
+    row("negative", "Geometry=@Rect(-5 -6 3 4)\n", QRect(-5, -6, 3, 4), line);
+    row("other value",
+        "[General]\nx=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n"
+        "Geometry=@Rect(1 2 3 4)\n",
+        saved, "[General]\nx=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n" + line);
+    row("variant", "Geometry=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n", QRect(), line);
+    row("byte order marks in a variant",
+        "\xef\xbb\xbfGeometry=@\"\xef\xbb\xbfVariant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\"\n",
+        QRect(),
+        "[General]\n" + line
+            + "\n\xef\xbb\xbfGeometry=@\"\xef\xbb\xbfVariant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)"
+              "\"\n");
+    row("three numbers", "Geometry=@Rect(1 2 3)\n", QRect(), line);
+    row("number out of range", "Geometry=@Rect(1 2 3 99999999999)\n", QRect(), line);
+    row("text behind", "Geometry=@Rect(1 2 3 4), 5\n", QRect(), line);
+}
+
+void tst_WindowGeometryFile::unusualFilesAreReadAndWritten()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QRect, geometry);
+    QFETCH(QByteArray, written);
+    writeFile(text);
+    const LogCapture log;
+    QCOMPARE(WindowGeometryFile(sPath).read().geometry, geometry);
+    WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
+    QCOMPARE(fileText(), written);
+    QCOMPARE(WindowGeometryFile(sPath).read().geometry, QRect(5, 6, 7, 8));
+    QVERIFY(log.messages().isEmpty());
+}
+
+void tst_WindowGeometryFile::otherSectionsAreKept()
 {
     writeFile("[Other]\nPath=\"C:\\\\a, b\"\n");
     WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
+    QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(1 2 3 4)\n\n"
+                                    "[Other]\nPath=\"C:\\\\a, b\"\n"));
     const QSettings settings(sPath, QSettings::IniFormat);
     QCOMPARE(settings.value("Other/Path").toString(), QString("C:\\a, b"));
     QCOMPARE(settings.value("Geometry").toRect(), QRect(1, 2, 3, 4));
 }
 
-void tst_WindowGeometryFile::otherValuesAreEscapedAsInQt5_data()
+void tst_WindowGeometryFile::hugeFileIsUnusableAndReplaced()
 {
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("letters") << QString::fromUtf8("né à") << QByteArray("n\\xe9 \\xe0");
-    QTest::newRow("digits behind a letter")
-        << QString::fromUtf8("é12fg") << QByteArray("\\xe9\\x31\\x32\\x66g");
-    QTest::newRow("beyond Latin-1") << QString::fromUtf8("日本; \U0001f600")
-                                    << QByteArray("\"\\x65e5\\x672c; \\xd83d\\xde00\"");
-    QTest::newRow("control characters")
-        << QString::fromUtf8("\x7f\x01éa\n") << QByteArray("\\x7f\\x1\\xe9\\x61\\n");
-    QTest::newRow("ASCII") << QString("C:\\a, b") << QByteArray("\"C:\\\\a, b\"");
-}
-
-void tst_WindowGeometryFile::otherValuesAreEscapedAsInQt5()
-{
-    QFETCH(QString, value);
-    QFETCH(QByteArray, text);
-    QSettings(sPath, QSettings::IniFormat).setValue("Other/Text", value);
-    WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
-    const QByteArray written = "[General]\nGeometry=@Rect(1 2 3 4)\n\n[Other]\nText=" + text + '\n';
-    QCOMPARE(fileText(), written);
-    QCOMPARE(QSettings(sPath, QSettings::IniFormat).value("Other/Text").toString(), value);
-    WindowGeometryFile(sPath).write(QRect(1, 2, 3, 4));
-    QCOMPARE(fileText(), written);
-}
-
-void tst_WindowGeometryFile::hiddenVariantIsDetected_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("plain") << QByteArray("x=@Variant(1)");
-    QTest::newRow("date") << QByteArray("x=@DateTime(1)");
-    QTest::newRow("quoted") << QByteArray("x=\"@Variant(1)\"");
-    QTest::newRow("quote inside") << QByteArray("x=@\"Variant(1)\"");
-    QTest::newRow("hexadecimal @") << QByteArray("x=\\x40Variant(1)");
-    QTest::newRow("hexadecimal @ with leading digits") << QByteArray("x=\\x10040Variant(1)");
-    QTest::newRow("octal @") << QByteArray("x=\\100Variant(1)");
-    QTest::newRow("blanks after a quote") << QByteArray("x=\"@\"  Variant(1)");
-    QTest::newRow("octal letter") << QByteArray("x=@\\126ariant(1)");
-    QTest::newRow("hexadecimal letter") << QByteArray("x=@\\x56\"ariant(1)\"");
-    QTest::newRow("byte order marks") << QByteArray("\xef\xbb\xbfx=@\"\xef\xbb\xbfVariant(1)\"");
-    QTest::newRow("unknown escape") << QByteArray("x=@\\zVariant(1)");
-    QTest::newRow("continued line of another system") << QByteArray("x=@\\\r\nVariant(1)");
-    QTest::newRow("continued line") << QByteArray("x=@\\\nVariant(1)");
-    QTest::newRow("after a zero byte") << QByteArray("\0x=@Variant(1)", 14);
-    QTest::newRow("far after the @") << "x=@" + QByteArray(60000, '"') + "Variant(1)";
-    QTest::newRow("in a list") << QByteArray("x=a, @Variant(1)");
-}
-
-void tst_WindowGeometryFile::hiddenVariantIsDetected()
-{
-    QFETCH(QByteArray, text);
-    QVERIFY(!WindowGeometryFile::isHarmless(text));
-}
-
-void tst_WindowGeometryFile::ordinaryTextIsHarmless_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("rectangle") << QByteArray("[General]\nGeometry=@Rect(1 2 3 4)\n");
-    QTest::newRow("address") << QByteArray("x=me@example.org\n");
-    QTest::newRow("Latin-1 letter after the @") << QByteArray("x=me@\\xe9\\x63ole\n");
-    QTest::newRow("escaped character after the @") << QByteArray("x=@\\bV\n");
-    QTest::newRow("letter beyond Latin-1 after the @") << QByteArray("x=@\\x144\\x5644\n");
-    QTest::newRow("letter on the next line") << QByteArray("x=me@\nVersion=1\n");
-    QTest::newRow("byte array") << QByteArray("x=@ByteArray(\\0\\xff)\n");
-    QTest::newRow("@ at the start of a text") << QByteArray("x=@@home\n");
-}
-
-void tst_WindowGeometryFile::ordinaryTextIsHarmless()
-{
-    QFETCH(QByteArray, text);
-    QVERIFY(WindowGeometryFile::isHarmless(text));
-}
-
-void tst_WindowGeometryFile::dangerousFileIsUnusableAndReplaced()
-{
-    writeFile("[General]\nGeometry=@Rect(1 2 3 4)\n"
-              "x=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n");
+    QFile file(sPath);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));
     const LogCapture log;
     const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
     QVERIFY(saved.found);
     QVERIFY(!saved.geometry.isValid());
-    QCOMPARE(log.messages(),
-             QList<LoggedMessage>(
-                 {{QtWarningMsg,
-                   "ConfigurationWindow geometry file is not usable:  \"geometry.ini\""}}));
+    QCOMPARE(log.texts(QtWarningMsg), QStringList(sWarning.arg(sPath)));
     WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
     QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
 }
 
-void tst_WindowGeometryFile::hugeFileIsUnusable()
+void tst_WindowGeometryFile::lockedFileIsNotWritten()
 {
-    QFile file(sPath);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 40));
-    QVERIFY(!WindowGeometryFile(sPath).read().geometry.isValid());
+    // An empty lock file, as a program leaves it that is killed while it makes one.
+    writeFile("Geometry=@Rect(1 2 3 4)\n");
+    QFile lock(QString(sPath) + ".lock");
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    const LogCapture log;
     WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
-    QCOMPARE(fileText(), QByteArray("[General]\nGeometry=@Rect(5 6 7 8)\n"));
+    QCOMPARE(log.messages(), (QList<LoggedMessage>{{QtWarningMsg, sWarning.arg(sPath)}}));
+    QCOMPARE(fileText(), QByteArray("Geometry=@Rect(1 2 3 4)\n"));
+    QVERIFY(lock.remove());
+}
+
+void tst_WindowGeometryFile::targetOfALinkIsNotWritten()
+{
+    QFile::remove("target");
+    QFile target("target");
+    QVERIFY(target.open(QIODevice::WriteOnly) && target.write("mine") == 4);
+    target.close();
+    QVERIFY(QFile::link("target", sPath));
+    const LogCapture log;
+    WindowGeometryFile(sPath).write(QRect(5, 6, 7, 8));
+    QCOMPARE(log.messages(), (QList<LoggedMessage>{{QtWarningMsg, sWarning.arg(sPath)}}));
+    QCOMPARE(fileText(), QByteArray("mine"));
+    QVERIFY(QFileInfo(sPath).isSymLink());
 }
 
 void tst_WindowGeometryFile::pipesAndDevicesAreLeftAlone_data()
@@ -196,9 +188,7 @@ void tst_WindowGeometryFile::pipesAndDevicesAreLeftAlone()
     QVERIFY(!WindowGeometryFile(path).read().found);
     WindowGeometryFile(path).write(QRect(5, 6, 7, 8));
     QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
-    const QString warning = QString("ConfigurationWindow geometry file is not usable:  \"%1\"")
-                                .arg(path);
-    QCOMPARE(log.texts(QtWarningMsg), QStringList({warning, warning}));
+    QCOMPARE(log.texts(QtWarningMsg), QStringList({sWarning.arg(path), sWarning.arg(path)}));
 }
 
 int main(int argc, char **argv)
