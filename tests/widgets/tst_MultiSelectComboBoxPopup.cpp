@@ -181,7 +181,8 @@ void tst_MultiSelectComboBoxPopup::eventFilterConsumesNoMouseEvents()
 {
     mBox->addItems({"A"});
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent event(type, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton, Qt::NoButton,
+                          Qt::NoModifier);
         QVERIFY(!mBox->eventFilter(mText, &event));
         QVERIFY(!mBox->eventFilter(mOther, &event));
     }
