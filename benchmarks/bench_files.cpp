@@ -78,13 +78,13 @@ private:
 
 using LocalFile = StoredFile<Numbers>;
 
-/// The same with `mSafeSave`.
+/// The same with `SafeSave`.
 class SafeLocalFile : public LocalFile
 {
 public:
     SafeLocalFile(const QVector<SettingName> &names, const QString &path) : LocalFile(names, path)
     {
-        store().mSafeSave = true;
+        store().mFileOptions = ConfStorage::SafeSave;
     }
 };
 

@@ -1,13 +1,13 @@
 #include <MaltoConfiguration/manage/helpers.h>
 
+#include "MaltoConfiguration/store/Limits_p.h"
 #include "MaltoConfiguration/store/PosixFile_p.h"
 
 #include "QtCompat_p.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QFile>
-#include <QFileInfo>
+#include <QIODevice>
 #include <QJsonParseError>
 #include <QTextStream>
 
@@ -21,19 +21,16 @@ QString getIndexName(const QString &a, const QString &b, const QString &c)
 
 QJsonDocument readJsonFromFile(QString path)
 {
-    QFile file(path);
-    if (!file.exists())
+    const PosixFile::Content content = PosixFile::read(path, Limits::sMaxConfigFileSize);
+    if (content.status == PosixFile::Status::Missing)
         return QJsonDocument();
-    // Reading a pipe or a device might never end, and larger files could exhaust memory.
-    const bool isUsable = QFileInfo(path).isFile() && file.size() <= PosixFile::sMaxSize;
-    if (!isUsable || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (content.status != PosixFile::Status::Done) {
         qCritical() << "can't open config file" << path;
         return QJsonDocument();
     }
-    QTextStream stream(&file);
+    QTextStream stream(content.bytes, QIODevice::ReadOnly | QIODevice::Text);
     QtCompat::setUtf8(stream);
     const QByteArray text = stream.readAll().toUtf8();
-    file.close();
 
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);

@@ -18,7 +18,7 @@ MALTO_EXPORT QString getIndexName(const QString &a, const QString &b, const QStr
 /// Reads a JSON file in UTF-8. Returns a null document if the file does not exist or is not JSON;
 /// neither is logged. Logs the critical message "can't open config file" with the path and returns
 /// a null document if the file cannot be opened. Folders, pipes, devices and files of more than
-/// 128 MiB count as files that cannot be opened. (The critical message "read config faild: " with
+/// 16 MiB count as files that cannot be opened. (The critical message "read config faild: " with
 /// an error code is for a document with a parse error, which Qt never returns.)
 ///
 /// @since 0.1

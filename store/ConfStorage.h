@@ -99,6 +99,21 @@ public:
                             ///< flagged default
     };
 
+    /// Bits of `mFileOptions`.
+    enum ConfFileOption : quint32 {
+        /// Makes saves atomic: after a crash, a full disk or a loss of power at any moment, the
+        /// next load returns the content from before the save, or the new content. The file is
+        /// still rewritten in place. During a save a journal is kept beside it, so its folder must
+        /// be writable, and each save waits for the disk.
+        ///
+        /// A save can then fail in more ways, each with a critical message that starts with
+        /// "ConfStorage::saveToLocalConfFile() ", and with the save still pending. "file could not
+        /// be loaded: " (the last load could not read the file or its journal), "file has several
+        /// names: " (hard links), "content could not be read back: " and "write journal failed: "
+        /// leave the file unchanged. After "write file failed: " the new content is in the journal.
+        SafeSave = 1
+    };
+
     /// Returns the store of the process. The first call creates it, empty; it is never destroyed.
     static ConfStorage *instance();
 
@@ -212,10 +227,15 @@ public:
     /// creator loads an entry of the key that it is creating.
     bool loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls);
 
+    /// Sets all bits of `mFileOptions` that a new host should have: `SafeSave`.
+    void useRobustFiles();
+
     /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed
     /// since the file was last written or loaded. The file is rewritten in place. Logs the debug
     /// message "ConfStorage::saveToLocalConfFile() save to file: " with the path. Whether all of
-    /// the text reaches the file is checked with `mSafeSave` only.
+    /// the text reaches the file is checked with `SafeSave` only. A text of more than
+    /// `mMaxFileSize` bytes is not written, with the critical message
+    /// "ConfStorage::saveToLocalConfFile() content could not be read back: " and the path.
     ///
     /// Logs the critical messages "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()" if
     /// no path is set, and "ConfStorage::saveToLocalConfFile() open file failed: " with the path if
@@ -224,14 +244,13 @@ public:
 
     /// Merges `mLocalSaveFile` and creates the missing presets. A file that is missing, unreadable
     /// or not a JSON object counts as an empty configuration, silently. So does a file of more than
-    /// 128 MiB, with the critical message "ConfStorage::loadLocalConfFile() file too large: " and
-    /// the path. Logs the critical message
-    /// "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()" and does nothing if no path is
-    /// set.
+    /// `mMaxFileSize` bytes, with the critical message "ConfStorage::loadLocalConfFile() file too
+    /// large: " and the path. Logs the critical message "ConfStorage::loadLocalConfFile()
+    /// mLocalSaveFile.isEmpty()" and does nothing if no path is set.
     ///
-    /// If a save with `mSafeSave` was interrupted, its content is recovered from the journal, even
-    /// if `mSafeSave` is off by then. One message that starts with
-    /// "ConfStorage::loadLocalConfFile() " says so; docs/file-formats.md lists these messages.
+    /// If a save with `SafeSave` was interrupted, its content is recovered from the journal, even
+    /// if `SafeSave` is off by then. One message that starts with "ConfStorage::loadLocalConfFile()
+    /// " says so; docs/file-formats.md lists these messages.
     void loadLocalConfFile();
 
     /// Returns the content of the store as a table for debugging: for each key its value, its
@@ -242,16 +261,14 @@ public:
     bool mChanged = false;     ///< something has changed since the local file was written or loaded
     bool mLocalLoaded = false; ///< `loadLocalConfFile` has run
 
-    /// Set by the host before it saves. Makes saves atomic: after a crash, a full disk or a loss of
-    /// power at any moment, the next load returns the content from before the save, or the new
-    /// content. The file is still rewritten in place. During a save a journal is kept beside it, so
-    /// its folder must be writable, and each save waits for the disk.
+    /// `ConfFileOption` bits, set by the host before it loads or saves.
     ///
-    /// A save can then fail in three more ways, each with a critical message and with the save
-    /// still pending. "ConfStorage::saveToLocalConfFile() content could not be read back: " and
-    /// "ConfStorage::saveToLocalConfFile() write journal failed: " leave the file unchanged. After
-    /// "ConfStorage::saveToLocalConfFile() write file failed: " the new content is in the journal.
-    bool mSafeSave = false;
+    /// @see useRobustFiles
+    quint32 mFileOptions = 0;
+
+    /// The largest local file in bytes, and the largest journal. Larger ones are neither read nor
+    /// written. Parsing a file can take up to 25 times its size in memory.
+    qint64 mMaxFileSize = 16 * 1024 * 1024;
 
     QMap<QString, ConfValue> mConfValues;          ///< the values by key
     QMap<QString, ConfMeta> mConfMetas;            ///< the records by key
@@ -273,6 +290,7 @@ private:
     static void logGetNotFound(const QString &key);
     static void logSetNotFound(const QString &key);
 
+    QString mUnloadedFile; // the local file, if the last load could not read it or its journal
     int mCallbackDepth = 0;
     bool mCallbacksStopped = false;
     QSet<QString> mBusyDynamicConfs; // whose creator or remover is running

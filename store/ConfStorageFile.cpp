@@ -6,7 +6,6 @@
 #include "SafeFile_p.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QJsonDocument>
 
 namespace {
@@ -16,9 +15,16 @@ void logOpenFailed(const QString &path)
     qCritical() << "ConfStorage::saveToLocalConfFile() open file failed: " << path;
 }
 
-void logRecovery(SafeFile::Recovery recovery, const SafeFile &file)
+void logNotReadable(const QString &path)
 {
-    switch (recovery) {
+    qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: " << path;
+}
+
+void logLoad(const SafeFile::Loaded &loaded, const SafeFile &file)
+{
+    if (loaded.file == PosixFile::Status::TooLarge)
+        qCritical() << "ConfStorage::loadLocalConfFile() file too large: " << file.path();
+    switch (loaded.recovery) {
     case SafeFile::Recovery::None: break;
     case SafeFile::Recovery::Replayed:
         qWarning() << "ConfStorage::loadLocalConfFile() recovered from journal: " << file.path();
@@ -29,16 +35,25 @@ void logRecovery(SafeFile::Recovery recovery, const SafeFile &file)
         break;
     case SafeFile::Recovery::Dropped:
         qWarning() << "ConfStorage::loadLocalConfFile() damaged journal dropped: "
-                   << file.journal().path();
+                   << file.journalPath();
         break;
     case SafeFile::Recovery::KeptAside:
         qWarning() << "ConfStorage::loadLocalConfFile() journal of another content kept aside: "
-                   << file.journal().path();
+                   << file.journalPath();
+        break;
+    case SafeFile::Recovery::JournalUnreadable:
+        qCritical() << "ConfStorage::loadLocalConfFile() journal could not be read: "
+                    << file.journalPath();
         break;
     }
 }
 
 } // namespace
+
+void ConfStorage::useRobustFiles()
+{
+    mFileOptions |= SafeSave;
+}
 
 void ConfStorage::saveToLocalConfFile()
 {
@@ -48,7 +63,7 @@ void ConfStorage::saveToLocalConfFile()
     }
     if (!mChanged)
         return;
-    if (!(mSafeSave ? saveSafely() : saveInPlace()))
+    if (!(mFileOptions & SafeSave ? saveSafely() : saveInPlace()))
         return;
     qDebug() << "ConfStorage::saveToLocalConfFile() save to file: " << mLocalSaveFile;
     mChanged = false;
@@ -57,44 +72,51 @@ void ConfStorage::saveToLocalConfFile()
 /// Rewrites the file in place, so that links and permissions set by the user are kept.
 bool ConfStorage::saveInPlace() const
 {
-    QFile file;
-    const int descriptor = PosixFile::openForWriting(mLocalSaveFile);
-    if (descriptor == -1
-        || !file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+    PosixFile file;
+    if (file.open(mLocalSaveFile, PosixFile::Mode::WriteOrDevice) != PosixFile::Status::Done) {
         logOpenFailed(mLocalSaveFile);
         return false;
     }
     // Composes the text before truncating the file: composing may run out of memory, and may log
-    // messages, whose handler may read the file. A device cannot be truncated.
+    // messages, whose handler may read the file.
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
-    if (!file.isSequential() && !file.resize(0)) {
+    if (text.size() > mMaxFileSize) {
+        logNotReadable(mLocalSaveFile);
+        return false;
+    }
+    if (!file.clear()) {
         logOpenFailed(mLocalSaveFile);
         return false;
     }
-    file.write(text);
+    file.write(text); // a failure is not checked
     return true;
 }
 
 bool ConfStorage::saveSafely() const
 {
-    SafeFile file(mLocalSaveFile);
-    if (!file.open()) {
-        logOpenFailed(mLocalSaveFile);
+    if (mUnloadedFile == mLocalSaveFile) {
+        qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: "
+                    << mLocalSaveFile;
         return false;
     }
     const QByteArray text = ConfDump(*this, DumpLocal).toText();
     // QJsonDocument writes values that are nested too deeply to be parsed again, and loading
     // rejects files that are too large.
-    if (text.size() > PosixFile::sMaxSize || !QJsonDocument::fromJson(text).isObject()) {
-        qCritical() << "ConfStorage::saveToLocalConfFile() content could not be read back: "
-                    << mLocalSaveFile;
+    if (text.size() > mMaxFileSize || !QJsonDocument::fromJson(text).isObject()) {
+        logNotReadable(mLocalSaveFile);
         return false;
     }
+    SafeFile file(mLocalSaveFile, mMaxFileSize);
     switch (file.save(text)) {
     case SafeFile::Saved::Whole: return true;
+    case SafeFile::Saved::OpenFailed: logOpenFailed(mLocalSaveFile); return false;
+    case SafeFile::Saved::SeveralNames:
+        qCritical() << "ConfStorage::saveToLocalConfFile() file has several names: "
+                    << mLocalSaveFile;
+        return false;
     case SafeFile::Saved::JournalFailed:
         qCritical() << "ConfStorage::saveToLocalConfFile() write journal failed: "
-                    << file.journal().path();
+                    << file.journalPath();
         return false;
     case SafeFile::Saved::FileFailed:
         qCritical() << "ConfStorage::saveToLocalConfFile() write file failed: " << mLocalSaveFile;
@@ -109,16 +131,11 @@ void ConfStorage::loadLocalConfFile()
         qCritical() << "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()";
         return;
     }
-    QByteArray text;
-    {
-        SafeFile file(mLocalSaveFile);
-        if (file.isTooLarge())
-            qCritical() << "ConfStorage::loadLocalConfFile() file too large: " << mLocalSaveFile;
-        SafeFile::Recovery recovery = SafeFile::Recovery::None;
-        text = file.load(&recovery);
-        logRecovery(recovery, file);
-    }
-    ConfLoad(*this, LoadLocal).loadText(text);
+    SafeFile file(mLocalSaveFile, mMaxFileSize);
+    const SafeFile::Loaded loaded = file.load();
+    mUnloadedFile = loaded.isComplete() ? QString() : mLocalSaveFile;
+    logLoad(loaded, file);
+    ConfLoad(*this, LoadLocal).loadText(loaded.text);
     loadPresetDynamicConf();
     mChanged = false;
     mLocalLoaded = true;

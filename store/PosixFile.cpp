@@ -1,98 +1,253 @@
 #include "PosixFile_p.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
-namespace PosixFile {
+#ifdef Q_OS_LINUX
+#include <sys/xattr.h>
+#endif
 
 namespace {
 
-mode_t toMode(QFile::Permissions permissions)
+constexpr qint64 sBlockSize = 64 * 1024;
+constexpr int sRandomLength = 7; // 32 bits in base 36
+
+/// Repeats `call` as long as a signal interrupts it.
+template<class Call> auto uninterrupted(Call call)
 {
-    mode_t mode = 0;
-    const auto add = [&](QFile::Permission permission, mode_t bit) {
-        if (permissions & permission)
-            mode |= bit;
-    };
-    add(QFile::ReadOwner, S_IRUSR);
-    add(QFile::WriteOwner, S_IWUSR);
-    add(QFile::ReadGroup, S_IRGRP);
-    add(QFile::WriteGroup, S_IWGRP);
-    add(QFile::ReadOther, S_IROTH);
-    add(QFile::WriteOther, S_IWOTH);
-    return mode;
+    auto result = call();
+    while (result == -1 && errno == EINTR)
+        result = call();
+    return result;
 }
 
-bool isPipe(const QByteArray &name)
+int openDescriptor(const QByteArray &name, int flags, mode_t mode = 0)
 {
-    struct stat status = {};
-    return ::stat(name.constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+    return uninterrupted([&] { return ::open(name.constData(), flags | O_CLOEXEC, mode); });
 }
 
-/// Retries if a signal interrupts the call. Returns a descriptor, or -1.
-int openUninterrupted(const QByteArray &name, int flags, mode_t mode = 0)
+int flagsOf(PosixFile::Mode mode)
 {
-    int descriptor = -1;
-    do {
-        descriptor = ::open(name.constData(), flags | O_CLOEXEC, mode);
-    } while (descriptor == -1 && errno == EINTR);
-    return descriptor;
+    // Without O_NONBLOCK opening a pipe waits for another program. It changes nothing else.
+    switch (mode) {
+    case PosixFile::Mode::Read: return O_RDONLY | O_NONBLOCK;
+    case PosixFile::Mode::ReadNoLink: return O_RDONLY | O_NOFOLLOW | O_NONBLOCK;
+    case PosixFile::Mode::ReadWrite: return O_RDWR | O_CREAT | O_NONBLOCK;
+    case PosixFile::Mode::EditNoLink: return O_RDWR | O_NOFOLLOW | O_NONBLOCK;
+    case PosixFile::Mode::WriteOrDevice: break;
+    }
+    return O_WRONLY | O_CREAT | O_NONBLOCK;
 }
 
-} // namespace
-
-int openForWriting(const QString &path)
+/// Returns the absolute path without links, or an empty text if it cannot be found.
+QString pathOfDescriptor(int descriptor)
 {
-    constexpr mode_t sEverybody = 0666; // without the bits of the umask, as Qt creates files
-    const QByteArray name = QFile::encodeName(path);
-    return isPipe(name) ? -1 : openUninterrupted(name, O_WRONLY | O_CREAT, sEverybody);
+#ifdef F_GETPATH
+    QByteArray path(MAXPATHLEN, '\0');
+    return ::fcntl(descriptor, F_GETPATH, path.data()) == 0 ? QFile::decodeName(path.constData())
+                                                            : QString();
+#else
+    return QFileInfo(QStringLiteral("/proc/self/fd/%1").arg(descriptor)).symLinkTarget();
+#endif
 }
 
-int createNew(const QString &path, QFile::Permissions permissions)
-{
-    const QByteArray name = QFile::encodeName(path);
-    ::unlink(name.constData());
-    // Other users cannot read the file before it has its permissions.
-    const int descriptor = openUninterrupted(name, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
-    if (descriptor != -1)
-        ::fchmod(descriptor, toMode(permissions));
-    return descriptor;
-}
-
-bool replace(const QString &from, const QString &to)
-{
-    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
-}
-
-bool sync(int descriptor)
+bool syncDescriptor(int descriptor)
 {
 #ifdef F_FULLFSYNC
     // On macOS fsync() leaves the content in the cache of the drive.
     if (::fcntl(descriptor, F_FULLFSYNC) == 0)
         return true;
 #endif
-    int result = 0;
-    do {
-        result = ::fsync(descriptor);
-    } while (result == -1 && errno == EINTR);
-    return result == 0;
+    return uninterrupted([&] { return ::fsync(descriptor); }) == 0;
 }
 
-bool syncFolderOf(const QString &path)
+} // namespace
+
+PosixFile::Status PosixFile::open(const QString &path, Mode mode)
+{
+    constexpr mode_t sEverybody = 0666; // without the bits of the umask, as Qt creates files
+    close();
+    mPath = path;
+    mDescriptor = openDescriptor(QFile::encodeName(path), flagsOf(mode), sEverybody);
+    if (mDescriptor == -1) {
+        switch (errno) {
+        case ENOENT:
+        case ENOTDIR: return Status::Missing;
+        case EISDIR:
+        case ENXIO: // a pipe that nobody reads, or a socket
+        case ELOOP: return Status::Refused;
+        default: return Status::Failed;
+        }
+    }
+    struct stat found = {};
+    if (!status(&found)) {
+        close();
+        return Status::Failed;
+    }
+    const bool isDevice = mode == Mode::WriteOrDevice && S_ISCHR(found.st_mode);
+    if (S_ISREG(found.st_mode) || isDevice)
+        return Status::Done;
+    close();
+    return Status::Refused;
+}
+
+QString PosixFile::create(const QString &path)
+{
+    constexpr int sTries = 100; // that many random names are not all taken
+    QString tried = path;
+    close();
+    ::unlink(QFile::encodeName(path).constData());
+    for (int i = 0; i < sTries; ++i) {
+        mDescriptor = openDescriptor(QFile::encodeName(tried), O_WRONLY | O_CREAT | O_EXCL,
+                                     S_IRUSR | S_IWUSR);
+        if (mDescriptor != -1)
+            return tried;
+        if (errno != EEXIST)
+            break;
+        tried = uniquePath(path);
+    }
+    return QString();
+}
+
+void PosixFile::close()
+{
+    if (mDescriptor != -1)
+        ::close(std::exchange(mDescriptor, -1));
+}
+
+PosixFile::Content PosixFile::read(qint64 limit) const
+{
+    // The size that the system reports may be wrong, as for the files in /proc.
+    QByteArray bytes;
+    ::lseek(mDescriptor, 0, SEEK_SET);
+    while (bytes.size() <= limit) {
+        const auto size = bytes.size();
+        const auto room = static_cast<int>(qMin(sBlockSize, limit + 1 - size));
+        bytes.resize(size + room);
+        const auto count = uninterrupted(
+            [&] { return ::read(mDescriptor, bytes.data() + size, static_cast<size_t>(room)); });
+        if (count < 0)
+            return {Status::Failed, QByteArray()};
+        bytes.resize(size + static_cast<int>(count));
+        if (count == 0)
+            return {Status::Done, bytes};
+    }
+    return {Status::TooLarge, QByteArray()};
+}
+
+bool PosixFile::clear() const
+{
+    struct stat found = {};
+    if (!status(&found))
+        return false;
+    return !S_ISREG(found.st_mode)
+           || uninterrupted([&] { return ::ftruncate(mDescriptor, 0); }) == 0;
+}
+
+bool PosixFile::write(const QByteArray &bytes) const
+{
+    ::lseek(mDescriptor, 0, SEEK_SET);
+    for (qint64 written = 0; written < bytes.size();) {
+        const auto count = uninterrupted([&] {
+            return ::write(mDescriptor, bytes.constData() + written,
+                           static_cast<size_t>(bytes.size() - written));
+        });
+        if (count < 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+bool PosixFile::sync() const
+{
+    return syncDescriptor(mDescriptor);
+}
+
+bool PosixFile::status(struct stat *result) const
+{
+    return ::fstat(mDescriptor, result) == 0;
+}
+
+bool PosixFile::copyAccess(const PosixFile &other) const
+{
+    constexpr auto sUnchanged = static_cast<uid_t>(-1);
+    struct stat ours = {};
+    struct stat theirs = {};
+    if (!status(&ours) || !other.status(&theirs))
+        return false;
+    if (ours.st_uid != theirs.st_uid && ::fchown(mDescriptor, theirs.st_uid, sUnchanged) != 0)
+        return false;
+    const bool hasGroup = ours.st_gid == theirs.st_gid
+                          || ::fchown(mDescriptor, sUnchanged, theirs.st_gid) == 0;
+    const bool isShared = hasGroup && !other.hasAccessControlList();
+    const mode_t mode = isShared ? theirs.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)
+                                 : S_IRUSR | S_IWUSR;
+    return ::fchmod(mDescriptor, mode) == 0;
+}
+
+bool PosixFile::hasAccessControlList() const
+{
+#ifdef Q_OS_LINUX
+    return ::fgetxattr(mDescriptor, "system.posix_acl_access", nullptr, 0) > 0;
+#else
+    return true; // it may have one
+#endif
+}
+
+QString PosixFile::resolvedPath() const
+{
+    const QString path = pathOfDescriptor(mDescriptor);
+    // The folder /proc may be missing in a container.
+    const QFileInfo given(mPath);
+    if (path.isEmpty())
+        return given.canonicalFilePath();
+    return path == QDir::cleanPath(given.absoluteFilePath()) ? mPath : path;
+}
+
+PosixFile::Content PosixFile::read(const QString &path, qint64 limit)
+{
+    PosixFile file;
+    const Status opened = file.open(path, Mode::Read);
+    return opened == Status::Done ? file.read(limit) : Content{opened, QByteArray()};
+}
+
+QString PosixFile::uniquePath(const QString &path)
+{
+    constexpr int sBase = 36; // digits and letters
+    const quint32 random = QRandomGenerator::system()->generate();
+    return path + QLatin1Char('-')
+           + QString::number(random, sBase).rightJustified(sRandomLength, QLatin1Char('0'));
+}
+
+bool PosixFile::isUniquePath(const QString &path, const QString &original)
+{
+    return path.size() == original.size() + 1 + sRandomLength
+           && path.startsWith(original + QLatin1Char('-'));
+}
+
+bool PosixFile::rename(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+bool PosixFile::syncFolderOf(const QString &path)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
-    const int descriptor = openUninterrupted(folder, O_RDONLY | O_DIRECTORY);
+    const int descriptor = openDescriptor(folder, O_RDONLY | O_DIRECTORY);
     if (descriptor == -1)
         return false;
     // Some file systems cannot sync folders and return EINVAL.
-    const bool synced = sync(descriptor) || errno == EINVAL;
+    const bool synced = syncDescriptor(descriptor) || errno == EINVAL;
     ::close(descriptor);
     return synced;
 }
-
-} // namespace PosixFile

@@ -1,42 +1,32 @@
 #include "SafeFile_p.h"
 
-#include "PosixFile_p.h"
-
-#include <QFileInfo>
 #include <QJsonDocument>
 
-namespace {
+#include <sys/stat.h>
 
-constexpr int sMaxLinks = 40; // links may form a circle; the system has the same limit
+using Status = PosixFile::Status;
 
-/// Returns the target of the link `path`, which need not exist.
-QString followLinks(QString path)
+SafeFile::SafeFile(const QString &path, qint64 limit) : mPath(path), mLimit(limit), mJournal(path)
 {
-    for (int i = 0; i < sMaxLinks && QFileInfo(path).isSymLink(); ++i) {
-        const QString existing = QFileInfo(path).canonicalFilePath();
-        if (!existing.isEmpty())
-            return existing;
-        path = QFileInfo(path).symLinkTarget();
-    }
-    return path;
 }
 
-} // namespace
-
-SafeFile::SafeFile(const QString &path) : mFile(followLinks(path)), mJournal(mFile.fileName()) {}
-
-bool SafeFile::open()
+bool SafeFile::Loaded::isComplete() const
 {
-    const QFileInfo info(mFile);
-    if (info.exists() && !info.isFile())
-        return false;
-    return mFile.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    return file != Status::Failed && file != Status::TooLarge
+           && recovery != Recovery::JournalUnreadable;
 }
 
 SafeFile::Saved SafeFile::save(const QByteArray &text)
 {
-    const QByteArray oldText = isTooLarge() ? QByteArray() : mFile.readAll();
-    if (!mJournal.write(oldText, text, mFile.permissions()))
+    struct stat status = {};
+    if (mFile.open(mPath, PosixFile::Mode::ReadWrite) != Status::Done || !mFile.status(&status))
+        return Saved::OpenFailed;
+    // A program that opens the file by its other name would look for the journal there.
+    if (status.st_nlink != 1)
+        return Saved::SeveralNames;
+    mJournal = SaveJournal(mFile.resolvedPath());
+    const QByteArray oldText = mFile.read(mLimit).bytes;
+    if (!mJournal.write(oldText, text, mFile))
         return Saved::JournalFailed;
     if (!rewrite(text))
         return Saved::FileFailed;
@@ -44,60 +34,66 @@ SafeFile::Saved SafeFile::save(const QByteArray &text)
     return Saved::Whole;
 }
 
-QByteArray SafeFile::load(Recovery *recovery)
+SafeFile::Loaded SafeFile::load()
 {
-    *recovery = Recovery::None;
-    const QByteArray text = readFile();
+    Loaded loaded;
+    loaded.file = mFile.open(mPath, PosixFile::Mode::Read);
+    if (loaded.file == Status::Done) {
+        PosixFile::Content content = mFile.read(mLimit);
+        loaded.file = content.status;
+        loaded.text = content.bytes;
+        mJournal = SaveJournal(mFile.resolvedPath());
+    }
+    // An interrupted save leaves a truncated text.
+    const bool isFileDamaged = !loaded.text.trimmed().endsWith('}');
     SaveJournal::Entry entry;
-    const SaveJournal::State state = mJournal.read(&entry);
-    if (state == SaveJournal::State::None)
-        return text;
-    if (state == SaveJournal::State::Invalid) {
+    switch (mJournal.read(&entry, mLimit, isFileDamaged)) {
+    case SaveJournal::State::None: break;
+    case SaveJournal::State::Unreadable: loaded.recovery = Recovery::JournalUnreadable; break;
+    case SaveJournal::State::Invalid:
         mJournal.remove();
-        *recovery = Recovery::Dropped;
-        return text;
+        loaded.recovery = Recovery::Dropped;
+        break;
+    case SaveJournal::State::Valid: recover(entry, &loaded); break;
     }
-    const QByteArray found = SaveJournal::hash(text);
-    if (found == entry.newHash) {
-        // The program may have ended before the text that it wrote was on the disk.
-        if (syncFile())
-            mJournal.remove();
-        return text;
-    }
-    if (found != entry.oldHash && QJsonDocument::fromJson(text).isObject()) {
-        mJournal.keepAside();
-        *recovery = Recovery::KeptAside;
-        return text;
-    }
-    *recovery = Recovery::ReplayedInMemory;
-    // The journal must be on the disk before the file is changed. A program that ended while it
-    // wrote the journal may not have synced it.
-    if (open() && PosixFile::syncFolderOf(path()) && rewrite(entry.newText)) {
-        mJournal.remove();
-        *recovery = Recovery::Replayed;
-    }
-    return entry.newText;
+    return loaded;
 }
 
-bool SafeFile::rewrite(const QByteArray &text)
+void SafeFile::recover(const SaveJournal::Entry &entry, Loaded *loaded)
+{
+    const QByteArray found = SaveJournal::hash(loaded->text);
+    if (found == entry.newHash) {
+        // The program may have ended before the text was on the disk. If a sync failed, the system
+        // no longer tries to write the text, so it is written again.
+        if (replay(entry.newText))
+            mJournal.remove();
+        return;
+    }
+    if (found != entry.oldHash && QJsonDocument::fromJson(loaded->text).isObject()) {
+        mJournal.keepAside();
+        loaded->recovery = Recovery::KeptAside;
+        return;
+    }
+    loaded->recovery = Recovery::ReplayedInMemory;
+    loaded->text = entry.newText;
+    // A file that could not be read may contain something else than a damaged text.
+    if (loaded->isComplete() && replay(entry.newText)) {
+        mJournal.remove();
+        loaded->recovery = Recovery::Replayed;
+    }
+}
+
+bool SafeFile::replay(const QByteArray &text)
+{
+    // The journal must be on the disk before the file is changed. A program that ended while it
+    // wrote the journal may not have synced it.
+    return mFile.open(mPath, PosixFile::Mode::ReadWrite) == Status::Done
+           && PosixFile::syncFolderOf(mJournal.path()) && rewrite(text);
+}
+
+bool SafeFile::rewrite(const QByteArray &text) const
 {
     // Syncs the truncation before the text is written: a mix of both texts on the disk could be
     // valid JSON with settings that never existed.
-    return mFile.resize(0) && PosixFile::sync(mFile.handle()) && mFile.seek(0)
-           && mFile.write(text) == text.size() && PosixFile::sync(mFile.handle());
-}
-
-QByteArray SafeFile::readFile()
-{
-    QFile file(path());
-    // Reading a pipe or a device could block or never end.
-    if (!QFileInfo(file).isFile() || isTooLarge() || !file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll();
-}
-
-bool SafeFile::syncFile()
-{
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) && PosixFile::sync(file.handle());
+    return mFile.clear() && mFile.sync() && mFile.write(text) && mFile.sync();
 }

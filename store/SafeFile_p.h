@@ -3,7 +3,7 @@
 #include "PosixFile_p.h"
 #include "SaveJournal_p.h"
 
-#include <QFile>
+#include <QByteArray>
 #include <QString>
 
 /// A JSON file that is rewritten in place, so that links and permissions are kept. After a crash, a
@@ -14,44 +14,57 @@ class SafeFile
 public:
     enum class Saved {
         Whole,
+        OpenFailed,    ///< not a regular file, or an error; the file is untouched
+        SeveralNames,  ///< the file has hard links, where its journal would not be found; untouched
         JournalFailed, ///< the file is untouched
         FileFailed     ///< the file is damaged, and the journal contains the new text
     };
 
     enum class Recovery {
-        None,             ///< the text of the file was loaded; there was no journal
-        Replayed,         ///< the text of the journal was loaded and written to the file
-        ReplayedInMemory, ///< the text of the journal was loaded; the file could not be written
-        Dropped,          ///< the text of the file was loaded, and a damaged journal removed
-        KeptAside         ///< the text of the file was loaded; the journal did not belong to it
-                          ///< and was renamed
+        None,              ///< the text of the file was loaded; there was no journal
+        Replayed,          ///< the text of the journal was loaded and written to the file
+        ReplayedInMemory,  ///< the text of the journal was loaded; the file could not be written
+        Dropped,           ///< the text of the file was loaded, and a damaged journal removed
+        KeptAside,         ///< the text of the file was loaded; the journal did not belong to it
+                           ///< and was renamed
+        JournalUnreadable, ///< the text of the file was loaded, which may be damaged; the journal
+                           ///< could not be read and was kept
     };
 
-    /// `path` may be a link: the file is the one that it points to, with the journal beside it.
-    explicit SafeFile(const QString &path);
+    /// What a load found.
+    struct Loaded
+    {
+        QByteArray text;                                     ///< empty without a readable file
+        PosixFile::Status file = PosixFile::Status::Missing; ///< of the file itself
+        Recovery recovery = Recovery::None;
 
-    /// Opens the file for `save` and creates it if it is missing. Returns false if that fails or if
-    /// the file is not a regular one.
-    bool open();
+        /// Whether everything that exists could be read. Otherwise a save could overwrite settings
+        /// that were not loaded.
+        bool isComplete() const;
+    };
 
-    /// Replaces the content of the open file with `text`, a JSON object.
+    /// `path` may be a link: the operating system follows it, and the journal is beside the file
+    /// that it leads to. Files with more than `limit` bytes are not read.
+    SafeFile(const QString &path, qint64 limit);
+
+    /// Replaces the content of the file with `text`, a JSON object, and creates the file if it is
+    /// missing.
     Saved save(const QByteArray &text);
 
-    /// Returns whether the file is larger than `PosixFile::sMaxSize`.
-    bool isTooLarge() const { return mFile.size() > PosixFile::sMaxSize; }
+    /// Returns the text of the file, or of the journal if a save was interrupted.
+    Loaded load();
 
-    /// Returns the text of the file, or of the journal if a save was interrupted. A file that is
-    /// unreadable or too large counts as empty.
-    QByteArray load(Recovery *recovery);
-
-    QString path() const { return mFile.fileName(); }
-    const SaveJournal &journal() const { return mJournal; }
+    QString path() const { return mPath; }
+    /// The path of the journal, after a save or a load.
+    QString journalPath() const { return mJournal.path(); }
 
 private:
-    bool rewrite(const QByteArray &text);
-    QByteArray readFile();
-    bool syncFile();
+    bool rewrite(const QByteArray &text) const;
+    bool replay(const QByteArray &text);
+    void recover(const SaveJournal::Entry &entry, Loaded *loaded);
 
-    QFile mFile;
+    QString mPath;
+    qint64 mLimit;
+    PosixFile mFile;
     SaveJournal mJournal;
 };

@@ -3,9 +3,12 @@
 #include "PosixFile_p.h"
 
 #include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QList>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -47,45 +50,80 @@ SaveJournal::SaveJournal(const QString &filePath)
 {
 }
 
-bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText,
-                        QFile::Permissions permissions) const
+bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file)
 {
     const QByteArray body = toBody({hash(oldText), hash(newText), newText});
     const QByteArray content = sMagic + hash(body) + '\n' + body;
 
     // Written under another name: if an earlier save failed halfway, its journal may be the only
     // intact copy of the settings.
-    const QString unfinished = mPath + QLatin1String(".new");
-    QFile file;
-    const int descriptor = PosixFile::createNew(unfinished, permissions);
-    if (descriptor == -1
-        || !file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered,
-                      QFileDevice::AutoCloseHandle))
+    PosixFile journal;
+    const QString unfinished = journal.create(mPath + QLatin1String(".new"));
+    if (unfinished.isEmpty())
         return false;
-    const bool whole = file.write(content) == content.size() && PosixFile::sync(descriptor);
-    file.close();
-    if (!whole || !PosixFile::replace(unfinished, mPath)) {
+    const bool whole = journal.copyAccess(file) && journal.write(content) && journal.sync();
+    journal.close();
+    if (!whole || !moveInPlace(unfinished)) {
         QFile::remove(unfinished);
         return false;
     }
     return PosixFile::syncFolderOf(mPath);
 }
 
-SaveJournal::State SaveJournal::read(Entry *entry) const
+bool SaveJournal::moveInPlace(const QString &unfinished)
 {
-    if (!isOurs())
+    if (PosixFile::rename(unfinished, mPath))
+        return true;
+    // In a folder where every user may create files, another user may have taken the name.
+    const QString other = PosixFile::uniquePath(mPath);
+    if (!PosixFile::rename(unfinished, other))
+        return false;
+    mPath = other;
+    return true;
+}
+
+SaveJournal::State SaveJournal::read(Entry *entry, qint64 limit, bool isFileDamaged)
+{
+    const State state = readAt(mPath, entry, limit);
+    if (state != State::None || !isFileDamaged)
+        return state;
+    const QDir folder = QFileInfo(mPath).dir();
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QString &name : names) {
+        const QString path = folder.filePath(name);
+        if (PosixFile::isUniquePath(path, mPath) && readAt(path, entry, limit) == State::Valid) {
+            mPath = path;
+            return State::Valid;
+        }
+    }
+    return State::None;
+}
+
+SaveJournal::State SaveJournal::readAt(const QString &path, Entry *entry, qint64 limit) const
+{
+    PosixFile file;
+    struct stat status = {};
+    switch (file.open(path, PosixFile::Mode::ReadNoLink)) {
+    case PosixFile::Status::Done: break;
+    case PosixFile::Status::Failed:
+        return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && !isOurs(status)
+                   ? State::None
+                   : State::Unreadable;
+    default: return State::None;
+    }
+    if (!file.status(&status))
+        return State::Unreadable;
+    if (!isOurs(status))
         return State::None;
-    QFile file(mPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return State::None;
-    // A longer journal is truncated here, and then invalid.
-    const QByteArray content = file.read(qMin(file.size(), PosixFile::sMaxSize + sMaxHeaderSize));
-    if (!content.startsWith(sMagic))
+    const PosixFile::Content content = file.read(limit + sMaxHeaderSize);
+    if (content.status != PosixFile::Status::Done)
+        return State::Unreadable;
+    if (!content.bytes.startsWith(sMagic))
         return State::None;
     const int magicSize = int(sizeof(sMagic)) - 1;
-    const auto checksumEnd = content.indexOf('\n', magicSize);
-    const QByteArray checksum = content.mid(magicSize, checksumEnd - magicSize);
-    const QByteArray body = content.mid(checksumEnd + 1);
+    const auto checksumEnd = content.bytes.indexOf('\n', magicSize);
+    const QByteArray checksum = content.bytes.mid(magicSize, checksumEnd - magicSize);
+    const QByteArray body = content.bytes.mid(checksumEnd + 1);
     if (checksumEnd == -1 || checksum != hash(body) || !fromBody(body, entry))
         return State::Invalid;
     return State::Valid;
@@ -98,7 +136,9 @@ void SaveJournal::remove() const
 
 void SaveJournal::keepAside() const
 {
-    PosixFile::replace(mPath, mPath + QLatin1String(".kept"));
+    const QString kept = mPath + QLatin1String(".kept");
+    if (!PosixFile::rename(mPath, kept))
+        PosixFile::rename(mPath, PosixFile::uniquePath(kept));
 }
 
 QByteArray SaveJournal::hash(const QByteArray &text)
@@ -107,9 +147,10 @@ QByteArray SaveJournal::hash(const QByteArray &text)
 }
 
 /// In a folder where every user may create files, another user's journal could change the settings.
-bool SaveJournal::isOurs() const
+bool SaveJournal::isOurs(const struct stat &status) const
 {
-    const QFileInfo info(mPath);
-    return !info.isSymLink() && info.isFile()
-           && (info.ownerId() == ::geteuid() || info.ownerId() == QFileInfo(mFilePath).ownerId());
+    struct stat file = {};
+    return status.st_uid == ::geteuid()
+           || (::stat(QFile::encodeName(mFilePath).constData(), &file) == 0
+               && status.st_uid == file.st_uid);
 }

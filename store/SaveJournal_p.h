@@ -1,7 +1,10 @@
 #pragma once
 
-#include <QFile>
+#include <QByteArray>
 #include <QString>
+
+class PosixFile;
+struct stat;
 
 /// The redo journal of a file: the new content of the file, kept beside it while it is rewritten.
 /// docs/file-formats.md describes the format.
@@ -16,23 +19,27 @@ public:
     };
 
     enum class State {
-        None,    ///< no journal, or a file of that name from another program or user
-        Invalid, ///< a damaged journal
+        None,       ///< no journal, or a file of that name from another program or user
+        Unreadable, ///< a journal may exist, but the system could not read it
+        Invalid,    ///< a damaged journal
         Valid
     };
 
     /// The journal is beside the file `filePath`, which must not be a link.
     explicit SaveJournal(const QString &filePath);
 
+    /// Returns the path of the journal that was written or read.
     QString path() const { return mPath; }
 
-    /// Writes the journal with `permissions` and waits until it is on the disk. Returns false if
-    /// that fails. An existing journal is replaced by a complete one or not at all.
-    bool write(const QByteArray &oldText, const QByteArray &newText,
-               QFile::Permissions permissions) const;
+    /// Writes the journal of `file`, with the same access, and waits until it is on the disk.
+    /// Returns false if that fails. An existing journal is replaced by a complete one or not at
+    /// all. If the name of the journal is taken by another user, it gets another one.
+    bool write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file);
 
-    /// Reads the journal into `entry`, which stays unchanged if the journal is not valid.
-    State read(Entry *entry) const;
+    /// Reads the journal into `entry`, which stays unchanged if the journal is not valid. Reads at
+    /// most `limit` bytes of new text. If `isFileDamaged`, also looks for journals with other
+    /// names.
+    State read(Entry *entry, qint64 limit, bool isFileDamaged);
 
     void remove() const;
 
@@ -42,7 +49,9 @@ public:
     static QByteArray hash(const QByteArray &text);
 
 private:
-    bool isOurs() const;
+    bool moveInPlace(const QString &unfinished);
+    State readAt(const QString &path, Entry *entry, qint64 limit) const;
+    bool isOurs(const struct stat &status) const;
 
     QString mFilePath;
     QString mPath;

@@ -86,6 +86,7 @@ struct Gate
         case Answer::Partly: return proceed(std::min(answer.size, call.size));
         case Answer::PartlyThenDie: proceed(std::min(answer.size, call.size)); ::_exit(sDeathCode);
         case Answer::Skip: return 0;
+        case Answer::Fill: return static_cast<ssize_t>(call.size);
         case Answer::Proceed: break;
         }
         return call.kind == Kind::Close ? 0 : proceed(call.size);

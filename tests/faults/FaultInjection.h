@@ -27,7 +27,7 @@ struct Call
 /// How a call is handled.
 struct Answer
 {
-    enum Action { Proceed, Fail, Partly, PartlyThenDie, Skip };
+    enum Action { Proceed, Fail, Partly, PartlyThenDie, Skip, Fill };
     Action action = Proceed;
     int error = 0;   ///< for Fail: errno. A close that fails still closes the descriptor
     qint64 size = 0; ///< for Partly and PartlyThenDie: the number of bytes to read or write
@@ -54,6 +54,12 @@ inline Answer partlyThenDie(qint64 size)
 inline Answer skip()
 {
     return {Answer::Skip, 0, 0};
+}
+
+/// Reads as many bytes as are asked for, whatever the file contains.
+inline Answer fill()
+{
+    return {Answer::Fill, 0, 0};
 }
 
 /// Exit code of a process that the injection has ended.

@@ -20,7 +20,7 @@ public:
 
     explicit SavedSettings(bool safe)
     {
-        store.mSafeSave = safe;
+        store.mFileOptions = safe ? ConfStorage::SafeSave : 0U;
         store.mLocalSaveFile = path();
         store.reserveConf("size", &size);
         store.reserveConf("text", &text);
@@ -78,7 +78,7 @@ public:
                "\"box/local.json.save-journal\"";
     }
 
-    /// Loads the file as the next run of the host does, with and without `mSafeSave`, and returns
+    /// Loads the file as the next run of the host does, with and without `SafeSave`, and returns
     /// the number of the loaded values.
     static int nextRun()
     {

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void fileSizeLimit();
     void failedLoadIsAnEmptyConfiguration_data();
     void failedLoadIsAnEmptyConfiguration();
+    void endlessFileCountsAsTooLarge();
+    void fileThatBecomesAPipeDoesNotBlock();
     void specialFiles_data();
     void specialFiles();
     void saveCreatesTheTargetOfADanglingLink_data();
@@ -257,6 +259,43 @@ void tst_ConfStorageFaults::failedLoadIsAnEmptyConfiguration()
     settings.store.loadLocalConfFile();
     QCOMPARE(settings.number(), 1);
     QVERIFY(!QFile::exists(SavedSettings::path()));
+}
+
+void tst_ConfStorageFaults::endlessFileCountsAsTooLarge()
+{
+    // As some files of the system, whose size is 0.
+    SavedSettings settings(false);
+    qint64 bytes = 0;
+    const LogCapture log;
+    const Scope faults(SavedSettings::folder(), [&bytes](const Call &call) {
+        bytes += call.kind == Kind::Read ? call.size : 0;
+        return call.kind == Kind::Read ? fill() : proceed();
+    });
+    settings.store.loadLocalConfFile();
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too "
+                                                   "large:  \"box/local.json\""}}));
+    QCOMPARE(settings.number(), 0);
+    QCOMPARE(bytes, settings.store.mMaxFileSize + 1);
+}
+
+void tst_ConfStorageFaults::fileThatBecomesAPipeDoesNotBlock()
+{
+    SavedSettings settings(false);
+    const LogCapture log;
+    const Scope faults(SavedSettings::folder(), [](const Call &call) {
+        if (call.kind == Kind::Open && call.path.endsWith(".json")) {
+            QFile::remove(SavedSettings::path());
+            ::mkfifo(qPrintable(SavedSettings::path()), 0600);
+        }
+        return proceed();
+    });
+    settings.store.loadLocalConfFile();
+    QCOMPARE(settings.number(), 0);
+    settings.change(2);
+    settings.store.saveToLocalConfFile();
+    QCOMPARE(log.messages(), (QList<LoggedMessage>{{QtCriticalMsg, SavedSettings::openFailed()}}));
+    QVERIFY(settings.store.mChanged);
 }
 
 void tst_ConfStorageFaults::specialFiles_data()

@@ -161,7 +161,7 @@ void tst_ConfStorageKills::plainSaveLeavesALoadableFile()
             SavedSettings::makeFolder();
             QVERIFY(SavedSettings::write(SavedSettings::fileText(1)));
             died = diesAtCall(call, halfway, [] { save(false, 2); });
-            // Without mSafeSave a truncated file is lost and loads as an empty configuration.
+            // Without SafeSave a truncated file is lost and loads as an empty configuration.
             const QByteArray content = SavedSettings::content();
             const int found = content == SavedSettings::fileText(1)   ? 1
                               : content == SavedSettings::fileText(2) ? 2

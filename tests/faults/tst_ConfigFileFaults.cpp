@@ -48,11 +48,11 @@ void tst_ConfigFileFaults::failedLoadChangesNothing_data()
         QTest::newRow(name) << fault << loaded << message;
     };
     row("no permission", {Kind::Open, "conf.json", 0, fail(EACCES)}, false, openFailed());
-    row("removed after it was found", {Kind::Open, "conf.json", 0, fail(ENOENT)}, false,
-        openFailed());
+    row("missing", {Kind::Open, "conf.json", 0, fail(ENOENT)}, false);
     row("disk error at opening", {Kind::Open, "conf.json", 0, fail(EIO)}, false, openFailed());
     row("interrupted opening", {Kind::Open, "conf.json", 0, fail(EINTR), false}, true);
-    row("disk error at reading", {Kind::Read, "conf.json", 0, fail(EIO)}, false);
+    row("disk error at reading", {Kind::Read, "conf.json", 0, fail(EIO)}, false, openFailed());
+    row("disk error in the middle", {Kind::Read, "conf.json", 1, fail(EIO)}, false, openFailed());
     row("interrupted reading", {Kind::Read, "conf.json", 0, fail(EINTR), false}, true);
     row("one byte at a time", {Kind::Read, "conf.json", 0, partly(1)}, true);
     row("disk error at closing", {Kind::Close, "conf.json", 0, fail(EIO)}, true);

@@ -14,6 +14,10 @@ const QString sOpenFailed = SavedSettings::openFailed();
 const QString sJournalFailed = SavedSettings::journalFailed();
 const QString sFileFailed =
     "ConfStorage::saveToLocalConfFile() write file failed:  \"box/local.json\"";
+const QString sJournalUnreadable = "ConfStorage::loadLocalConfFile() journal could not be read:  "
+                                   "\"box/local.json.save-journal\"";
+const QString sNotLoaded =
+    "ConfStorage::saveToLocalConfFile() file could not be loaded:  \"box/local.json\"";
 const QString sRecoveredInMemory = "ConfStorage::loadLocalConfFile() recovered from journal, write "
                                    "failed:  \"box/local.json\"";
 
@@ -45,6 +49,8 @@ private Q_SLOTS:
     void fullDiskLosesNothing();
     void failedRecoveryKeepsTheJournal_data();
     void failedRecoveryKeepsTheJournal();
+    void nothingIsSavedUntilALoadSucceeds_data();
+    void nothingIsSavedUntilALoadSucceeds();
     void journalHasThePermissionsOfTheFile_data();
     void journalHasThePermissionsOfTheFile();
 };
@@ -154,8 +160,11 @@ void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal_data()
                         const QString &message) {
         QTest::newRow(name) << fault << loaded << message;
     };
-    row("journal cannot be opened", failing(Kind::Open, "-journal", 0, EACCES), 1, QString());
-    row("journal cannot be read", failing(Kind::Read, "-journal", 0, EIO), 1, QString());
+    row("journal cannot be opened", failing(Kind::Open, "-journal", 0, EACCES), 1,
+        sJournalUnreadable);
+    row("journal cannot be read", failing(Kind::Read, "-journal", 0, EIO), 1, sJournalUnreadable);
+    row("disk error in the middle of the journal", failing(Kind::Read, "-journal", 1, EIO), 1,
+        sJournalUnreadable);
     row("file cannot be opened", failing(Kind::Open, ".json", 0, EACCES), 2, sRecoveredInMemory);
     row("file cannot be opened again", failing(Kind::Open, ".json", 1, EACCES), 2,
         sRecoveredInMemory);
@@ -185,6 +194,48 @@ void tst_SafeSaveFaults::failedRecoveryKeepsTheJournal()
     QCOMPARE(SavedSettings::nextRun(), 2);
     QVERIFY(!QFile::exists(SavedSettings::journalPath()));
     QCOMPARE(SavedSettings::content(), SavedSettings::fileText(2));
+}
+
+void tst_SafeSaveFaults::nothingIsSavedUntilALoadSucceeds_data()
+{
+    QTest::addColumn<OneFault>("fault");
+    QTest::addColumn<bool>("interrupted");
+    const auto row = [](const char *name, const OneFault &fault, bool interrupted) {
+        QTest::newRow(name) << fault << interrupted;
+    };
+    row("file cannot be opened", failing(Kind::Open, ".json", 0, EIO), false);
+    row("too many open files", failing(Kind::Open, ".json", 0, EMFILE), false);
+    row("no permission", failing(Kind::Open, ".json", 0, EACCES), false);
+    row("file cannot be read", failing(Kind::Read, ".json", 0, EIO), false);
+    row("disk error in the middle of the file", failing(Kind::Read, ".json", 1, EIO), false);
+    row("journal cannot be opened", failing(Kind::Open, "-journal", 0, EMFILE), true);
+    row("journal cannot be read", failing(Kind::Read, "-journal", 1, EIO), true);
+}
+
+void tst_SafeSaveFaults::nothingIsSavedUntilALoadSucceeds()
+{
+    QFETCH(OneFault, fault);
+    QFETCH(bool, interrupted);
+    if (interrupted)
+        QVERIFY(interruptSave());
+    SavedSettings settings(true);
+    const LogCapture log;
+    {
+        const Scope faults(SavedSettings::folder(), fault.hook());
+        settings.store.loadLocalConfFile();
+    }
+    settings.change(3);
+    LogCapture::messages().clear();
+    settings.store.saveToLocalConfFile();
+    QCOMPARE(log.messages(), (QList<LoggedMessage>{{QtCriticalMsg, sNotLoaded}}));
+    QVERIFY(settings.store.mChanged);
+    QCOMPARE(SavedSettings::nextRun(), interrupted ? 2 : 1);
+
+    settings.store.loadLocalConfFile();
+    settings.change(3);
+    settings.store.saveToLocalConfFile();
+    QVERIFY(!settings.store.mChanged);
+    QCOMPARE(SavedSettings::content(), SavedSettings::fileText(3));
 }
 
 void tst_SafeSaveFaults::journalHasThePermissionsOfTheFile_data()

@@ -81,7 +81,7 @@ void tst_ConfStorage::clearForgetsEverything()
     mStore->mRemovedDynamicConfs["Profile.Mail"] = QDateTime::currentDateTimeUtc();
     mStore->mLocalSaveFile = "settings.json";
     mStore->mLocalLoaded = true;
-    mStore->mSafeSave = true;
+    mStore->mFileOptions = ConfStorage::SafeSave;
     countCalls();
     mStore->clear();
     QCOMPARE(mCalls, 0);
@@ -94,7 +94,7 @@ void tst_ConfStorage::clearForgetsEverything()
     QVERIFY(mStore->mLocalSaveFile.isEmpty());
     QVERIFY(!mStore->mChanged);
     QVERIFY(!mStore->mLocalLoaded);
-    QVERIFY(!mStore->mSafeSave);
+    QCOMPARE(mStore->mFileOptions, 0U);
 }
 
 void tst_ConfStorage::recordStartsAtItsDefault()

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void fileWithoutAJsonObjectCountsAsEmpty_data();
     void fileWithoutAJsonObjectCountsAsEmpty();
     void hugeFileCountsAsEmptyAndIsLogged();
+    void hostChoosesTheLargestFile_data();
+    void hostChoosesTheLargestFile();
     void firstStartCreatesPresetsWithoutSaving();
     void loadingWithoutAPathCreatesNoPresets();
     void newerChangesOfTheStoreAreKept();
@@ -370,14 +372,40 @@ void tst_ConfStorageFile::hugeFileCountsAsEmptyAndIsLogged()
         log.messages(),
         (QList<LoggedMessage>{{QtCriticalMsg, "ConfStorage::loadLocalConfFile() file too large:  "
                                               "\"local.json\""}}));
-    // Saving replaces it with a valid file, with and without the journal.
-    for (const bool safely : {false, true}) {
-        QVERIFY(QFile::resize(path(), qint64(1) << 36));
-        mStore->mSafeSave = safely;
-        change(9, 100);
-        mStore->saveToLocalConfFile();
-        QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":9}}"));
-    }
+    // Saving replaces it with a valid file.
+    change(9, 100);
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(), QByteArray("{\"size\":{\"t\":100,\"v\":9}}"));
+}
+
+void tst_ConfStorageFile::hostChoosesTheLargestFile_data()
+{
+    QTest::addColumn<bool>("safely");
+    QTest::newRow("plain") << false;
+    QTest::newRow("safe") << true;
+}
+
+void tst_ConfStorageFile::hostChoosesTheLargestFile()
+{
+    QFETCH(bool, safely);
+    const QByteArray text = "{\"size\":{\"t\":100,\"v\":9}}";
+    mStore->mFileOptions = safely ? ConfStorage::SafeSave : 0U;
+    write(text);
+    mStore->mMaxFileSize = text.size();
+    mStore->loadLocalConfFile();
+    QCOMPARE(mSize, 9);
+    change(10, 200); // one byte more
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::saveToLocalConfFile() content could not be read back:  "
+                         "\"local.json\""));
+    QVERIFY(mStore->mChanged);
+    QCOMPARE(content(), text);
+    mStore->mMaxFileSize = text.size() + 1;
+    mStore->saveToLocalConfFile();
+    QVERIFY(!mStore->mChanged);
+    QCOMPARE(content(), QByteArray("{\"size\":{\"t\":200,\"v\":10}}"));
 }
 
 void tst_ConfStorageFile::firstStartCreatesPresetsWithoutSaving()

@@ -32,7 +32,7 @@ const QString sWarning = "ConfStorage::loadLocalConfFile() ";
 
 } // namespace
 
-/// The local file with `mSafeSave`, and the journal beside it. Crashes and write errors are tested
+/// The local file with `SafeSave`, and the journal beside it. Crashes and write errors are tested
 /// in tests/faults.
 class tst_ConfStorageSafeSave : public QObject
 {
@@ -50,14 +50,15 @@ private Q_SLOTS:
     void safeSaveWritesTheSameBytesAsAPlainSave();
     void shorterContentTruncatesTheFile();
     void linksAndPermissionsArePreserved();
+    void fileWithSeveralNamesIsNotSaved();
     void unreadableContentIsNotSaved();
-    void saveFailsIfTheJournalCannotBeWritten();
+    void journalGetsAnotherNameIfItsNameIsTaken();
     void recoveryDependsOnTheContentOfTheFile_data();
     void recoveryDependsOnTheContentOfTheFile();
     void journalIsBesideTheTargetOfALink();
     void damagedJournalIsDropped_data();
     void damagedJournalIsDropped();
-    void hugeJournalIsDropped();
+    void hugeJournalIsKept();
     void filesThatAreNotJournalsAreLeftAlone_data();
     void filesThatAreNotJournalsAreLeftAlone();
     void journalOfAnotherUserIsLeftAlone();
@@ -69,7 +70,7 @@ private:
     std::unique_ptr<ConfStorage> makeStore()
     {
         auto store = std::make_unique<ConfStorage>();
-        store->mSafeSave = true;
+        store->mFileOptions = ConfStorage::SafeSave;
         store->mLocalSaveFile = path();
         store->reserveConf("size", &mSize);
         return store;
@@ -101,7 +102,7 @@ private:
 
 void tst_ConfStorageSafeSave::switchIsOffByDefault()
 {
-    QVERIFY(!ConfStorage().mSafeSave);
+    QCOMPARE(ConfStorage().mFileOptions, 0U);
 }
 
 void tst_ConfStorageSafeSave::safeSaveWritesTheSameBytesAsAPlainSave()
@@ -133,17 +134,35 @@ void tst_ConfStorageSafeSave::linksAndPermissionsArePreserved()
     write("box/far/target.json", sOld);
     const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther;
     QVERIFY(QFile::setPermissions("box/far/target.json", permissions));
-    QCOMPARE(::link("box/far/target.json", "box/far/hard.json"), 0);
     QCOMPARE(::symlink("far/target.json", qPrintable(path())), 0);
     change(9, 200);
     mStore->saveToLocalConfFile();
     QVERIFY(QFileInfo(path()).isSymLink());
     QCOMPARE(content("box/far/target.json"), sNew);
-    QCOMPARE(content("box/far/hard.json"), sNew);
     const QFile::Permissions checked = permissions | QFile::ReadGroup | QFile::WriteGroup
                                        | QFile::WriteOther | QFile::ExeOwner;
     QCOMPARE(QFile::permissions("box/far/target.json") & checked, permissions);
-    QCOMPARE(filesIn("box/far"), (QStringList{"hard.json", "target.json"}));
+    QCOMPARE(filesIn("box/far"), QStringList("target.json"));
+}
+
+void tst_ConfStorageSafeSave::fileWithSeveralNamesIsNotSaved()
+{
+    // A program that opens the file by its other name would not find the journal.
+    write(path(), sOld);
+    QVERIFY(QDir("box").mkdir("far"));
+    QCOMPARE(::link(qPrintable(path()), "box/far/hard.json"), 0);
+    change(9, 200);
+    const LogCapture log;
+    mStore->saveToLocalConfFile();
+    QCOMPARE(log.messages(),
+             (QList<LoggedMessage>{{QtCriticalMsg,
+                                    "ConfStorage::saveToLocalConfFile() file has several names:  "
+                                    "\"box/local.json\""}}));
+    QVERIFY(mStore->mChanged);
+    QCOMPARE(content(path()), sOld);
+    QVERIFY(QFile::remove("box/far/hard.json"));
+    mStore->saveToLocalConfFile();
+    QCOMPARE(content(path()), sNew);
 }
 
 void tst_ConfStorageSafeSave::unreadableContentIsNotSaved()
@@ -165,19 +184,21 @@ void tst_ConfStorageSafeSave::unreadableContentIsNotSaved()
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
-void tst_ConfStorageSafeSave::saveFailsIfTheJournalCannotBeWritten()
+void tst_ConfStorageSafeSave::journalGetsAnotherNameIfItsNameIsTaken()
 {
     write(path(), sOld);
     QVERIFY(QDir().mkdir(journalPath()));
+    QVERIFY(QDir().mkdir(journalPath() + ".new"));
     change(9, 200);
-    const LogCapture log;
     mStore->saveToLocalConfFile();
-    QCOMPARE(log.messages(),
-             (QList<LoggedMessage>{{QtCriticalMsg,
-                                    "ConfStorage::saveToLocalConfFile() write journal failed:  "
-                                    "\"box/local.json.save-journal\""}}));
-    QVERIFY(mStore->mChanged);
-    QCOMPARE(content(path()), sOld);
+    QVERIFY(!mStore->mChanged);
+    QCOMPARE(content(path()), sNew);
+    QCOMPARE(filesIn("box"), QStringList("local.json"));
+
+    write(path(), sNew.left(5));
+    write(journalPath() + "-0abcdef", sJournal);
+    mStore->loadLocalConfFile();
+    QCOMPARE(content(path()), sNew);
     QCOMPARE(filesIn("box"), QStringList("local.json"));
 }
 
@@ -212,7 +233,7 @@ void tst_ConfStorageSafeSave::recoveryDependsOnTheContentOfTheFile()
         write(journalPath(), sJournal);
         mSize = 7;
         mStore = makeStore();
-        mStore->mSafeSave = safe;
+        mStore->mFileOptions = safe ? ConfStorage::SafeSave : 0U;
         const LogCapture log;
         mStore->loadLocalConfFile();
         QTEST(mSize, "size");
@@ -283,7 +304,7 @@ void tst_ConfStorageSafeSave::damagedJournalIsDropped()
     QCOMPARE(content(path()), sOld);
 }
 
-void tst_ConfStorageSafeSave::hugeJournalIsDropped()
+void tst_ConfStorageSafeSave::hugeJournalIsKept()
 {
     write(path(), sOld);
     write(journalPath(), sJournal);
@@ -291,10 +312,10 @@ void tst_ConfStorageSafeSave::hugeJournalIsDropped()
     const LogCapture log;
     mStore->loadLocalConfFile();
     QCOMPARE(mSize, 8);
-    QCOMPARE(log.texts(QtWarningMsg), QStringList(sWarning
-                                                  + "damaged journal dropped:  "
-                                                    "\"box/local.json.save-journal\""));
-    QCOMPARE(filesIn("box"), QStringList("local.json"));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::loadLocalConfFile() journal could not be read:  "
+                         "\"box/local.json.save-journal\""));
+    QVERIFY(QFile::exists(journalPath()));
 }
 
 void tst_ConfStorageSafeSave::filesThatAreNotJournalsAreLeftAlone_data()
@@ -338,7 +359,7 @@ void tst_ConfStorageSafeSave::plainSaveLeavesAJournalAlone()
 {
     write(path(), sOld);
     write(journalPath(), sJournal);
-    mStore->mSafeSave = false;
+    mStore->mFileOptions = 0;
     change(5, 300);
     const LogCapture log;
     mStore->saveToLocalConfFile();
