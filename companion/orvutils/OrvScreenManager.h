@@ -16,7 +16,7 @@ class QWidget;
 /// @since 0.1
 struct OrvScreen
 {
-    QRect rect; ///< the rectangle in the virtual desktop, in pixels
+    QRect rect; ///< the rectangle in the virtual desktop, in pixels (Qt 6: device-independent ones)
     double dpi; ///< the logical dots per inch, always positive
 };
 
