@@ -48,16 +48,14 @@ void DiskModel::note(const Faults::Call &call)
     File *file = known != mNames.end() ? &mFiles[static_cast<size_t>(known->second)] : nullptr;
     switch (call.kind) {
     case Kind::Open: noteOpen(call, name); break;
-    case Kind::Truncate: file->pending.push_back({true, call.offset, {}}); break;
+    case Kind::Truncate: file->pending.push_back({true, call.offset, {}, Change::Pending}); break;
     case Kind::Write: write(*file, call); break;
     case Kind::Sync:
         if (call.path == mPath) {
             mNamesOnDisk = mNames;
             mPendingNames.clear();
         } else {
-            for (const Change &change : file->pending)
-                apply(change, file->onDisk);
-            file->pending.clear();
+            sync(*file);
         }
         break;
     case Kind::Rename:
@@ -73,6 +71,35 @@ void DiskModel::note(const Faults::Call &call)
         break;
     case Kind::Read:
     case Kind::Close: break;
+    }
+}
+
+void DiskModel::noteFailedSync(const Faults::Call &call)
+{
+    const auto known = mNames.find(nameOf(call.path));
+    if (known == mNames.end())
+        return;
+    for (Change &change : mFiles[static_cast<size_t>(known->second)].pending) {
+        if (change.state == Change::Pending)
+            change.state = Change::Forgotten;
+    }
+}
+
+void DiskModel::sync(File &file)
+{
+    auto &pending = file.pending;
+    auto irrelevant = pending.begin();
+    for (auto change = pending.begin(); change != pending.end(); ++change) {
+        if (change->state == Change::Pending)
+            change->state = Change::OnDisk;
+        // What came before does not matter if the file was emptied on the disk.
+        if (change->state == Change::OnDisk && change->isCut && change->offset == 0)
+            irrelevant = change;
+    }
+    pending.erase(pending.begin(), irrelevant);
+    while (!pending.empty() && pending.front().state == Change::OnDisk) {
+        apply(pending.front(), file.onDisk);
+        pending.erase(pending.begin());
     }
 }
 
@@ -121,7 +148,8 @@ void DiskModel::noteOpen(const Faults::Call &call, const QByteArray &name)
     const auto known = mNames.find(name);
     if (known != mNames.end()) {
         if (call.flags & O_TRUNC)
-            mFiles[static_cast<size_t>(known->second)].pending.push_back({true, 0, {}});
+            mFiles[static_cast<size_t>(known->second)].pending.push_back(
+                {true, 0, {}, Change::Pending});
     } else if (call.flags & O_CREAT) {
         const int number = static_cast<int>(mFiles.size());
         mFiles.push_back({});
@@ -141,7 +169,7 @@ void DiskModel::write(File &file, const Faults::Call &call)
         const qint64 offset = call.offset + done;
         const qint64 size = std::min(call.size - done, sBlock - offset % sBlock);
         file.pending.push_back(
-            {false, offset, QByteArray(call.data + done, static_cast<int>(size))});
+            {false, offset, QByteArray(call.data + done, static_cast<int>(size)), Change::Pending});
         done += size;
     }
 }
@@ -163,7 +191,8 @@ std::vector<DiskModel::Content> DiskModel::possibleContents(const File &file)
     for (const quint64 selection : selections(file.pending.size())) {
         Content content = file.onDisk;
         for (size_t i = 0; i < file.pending.size(); ++i) {
-            if (selection & (quint64(1) << i))
+            const bool isOnDisk = file.pending[i].state == Change::OnDisk;
+            if (isOnDisk || selection & (quint64(1) << i))
                 apply(file.pending[i], content);
         }
         result.push_back(content);

@@ -24,6 +24,10 @@ public:
     /// Records a successful call.
     void note(const Faults::Call &call);
 
+    /// Records a sync of a file that failed. The system reports an error once and then counts the
+    /// changes as written: no later sync writes them.
+    void noteFailedSync(const Faults::Call &call);
+
     /// Calls `check` with every possible content of the folder after a loss of power now.
     void eachLoss(const std::function<void(const Folder &)> &check) const;
 
@@ -37,11 +41,12 @@ private:
         bool isCut;
         qint64 offset;
         QByteArray data;
+        enum State { Pending, Forgotten, OnDisk } state = Pending;
     };
     struct File
     {
         Content onDisk;
-        std::vector<Change> pending;
+        std::vector<Change> pending; // those that may be missing on the disk, and later ones
     };
     using Names = std::map<QByteArray, int>; // index into mFiles by file name
     using NameChange = std::function<void(Names &)>;
@@ -50,6 +55,7 @@ private:
     void noteOpen(const Faults::Call &call, const QByteArray &name);
     void change(const NameChange &nameChange);
     void write(File &file, const Faults::Call &call);
+    static void sync(File &file);
     static void apply(const Change &change, Content &content);
     static std::vector<Content> possibleContents(const File &file);
     static Folder folderOf(const Names &names, const std::vector<Content> &contents);
