@@ -124,8 +124,12 @@ SaveJournal::State SaveJournal::readAt(const QString &path, Entry *entry, qint64
     const auto checksumEnd = content.bytes.indexOf('\n', magicSize);
     const QByteArray checksum = content.bytes.mid(magicSize, checksumEnd - magicSize);
     const QByteArray body = content.bytes.mid(checksumEnd + 1);
-    if (checksumEnd == -1 || checksum != hash(body) || !fromBody(body, entry))
+    Entry found;
+    if (checksumEnd == -1 || checksum != hash(body) || !fromBody(body, &found))
         return State::Invalid;
+    if (found.newText.size() > limit)
+        return State::Unreadable;
+    *entry = found;
     return State::Valid;
 }
 
