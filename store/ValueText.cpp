@@ -37,7 +37,7 @@ constexpr WeightRow sWeights[] = {{0, 100},  {12, 200}, {25, 300}, {50, 400}, {5
 int converted(int value, int WeightRow::*from, int WeightRow::*to)
 {
     const WeightRow *const last = std::end(sWeights) - 1;
-    value = qBound(sWeights->*from, value, last->*from);
+    value = qBound(sWeights[0].*from, value, last->*from);
     const WeightRow *upper = std::find_if(std::begin(sWeights) + 1, last,
                                           [&](const WeightRow &row) { return value <= row.*from; });
     const WeightRow *lower = upper - 1;
