@@ -61,6 +61,12 @@ SafeFile::Loaded SafeFile::load()
 
 void SafeFile::recover(const SaveJournal::Entry &entry, Loaded *loaded)
 {
+    if (!loaded->isComplete()) {
+        // The file may contain something else than a damaged text.
+        loaded->recovery = Recovery::ReplayedInMemory;
+        loaded->text = entry.newText;
+        return;
+    }
     const QByteArray found = SaveJournal::hash(loaded->text);
     if (found == entry.newHash) {
         // The program may have ended before the text was on the disk. If a sync failed, the system
@@ -76,8 +82,7 @@ void SafeFile::recover(const SaveJournal::Entry &entry, Loaded *loaded)
     }
     loaded->recovery = Recovery::ReplayedInMemory;
     loaded->text = entry.newText;
-    // A file that could not be read may contain something else than a damaged text.
-    if (loaded->isComplete() && replay(entry.newText)) {
+    if (replay(entry.newText)) {
         mJournal.remove();
         loaded->recovery = Recovery::Replayed;
     }

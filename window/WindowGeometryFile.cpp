@@ -55,6 +55,12 @@ public:
             if (!isInRange)
                 return QRect();
         }
+        // QRect adds the size to the position and does not check the sum.
+        for (int i = 0; i < 2; ++i) {
+            const qint64 end = qint64(numbers[i]) + numbers[i + 2] - 1;
+            if (end != static_cast<int>(end))
+                return QRect();
+        }
         return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
     }
 
