@@ -6,12 +6,20 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 void append(QByteArray &text, QLatin1String part)
 {
     text.append(part.data(), part.size());
+}
+
+/// Returns whether JSON has the value. Infinity and NaN would become null, which unbinds the key
+/// when it is loaded; dumped without a value, the setting gets its default value.
+bool hasJson(const ConfValue &value)
+{
+    return value.mType != ConfValue::TyQreal || std::isfinite(value.get<qreal>());
 }
 
 } // namespace
@@ -40,7 +48,7 @@ void ConfDump::collectValues()
             continue;
         if (mType != ConfStorage::DumpLocal && (flags & ConfStorage::FlagLocalOnly))
             continue;
-        const bool isDefault = flags & ConfStorage::FlagIsDefault;
+        const bool isDefault = (flags & ConfStorage::FlagIsDefault) || !hasJson(*value);
         qint64 time = 0;
         if (mType == ConfStorage::DumpChangedOnly) {
             if (isDefault)

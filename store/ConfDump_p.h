@@ -20,7 +20,8 @@ public:
     QJsonObject toObject() const;
 
     /// Returns the bytes of `QJsonDocument(toObject()).toJson(QJsonDocument::Compact)` without
-    /// creating the object, which would cost more than writing its text.
+    /// creating the object, which would cost more than writing its text. Strings and numbers that
+    /// QJsonDocument would lose are kept; JsonText_p.h lists them.
     QByteArray toText() const;
 
 private:
@@ -30,7 +31,7 @@ private:
         QString name;
         qint64 time;
         const ConfValue *value;
-        bool isDefault;
+        bool isDefault; // dumped without a value
     };
 
     void collectValues();

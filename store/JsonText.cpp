@@ -29,6 +29,19 @@ bool isPlain(ushort character)
     return character >= 0x20 && character < 0x7f && character != '"' && character != '\\';
 }
 
+/// Appends a string that needs more than quotes. Qt's parsers drop U+FEFF at the start of a string
+/// as a byte order mark, unless it is an escape.
+void appendOtherString(QByteArray &text, const QString &string)
+{
+    if (!string.startsWith(QChar(QChar::ByteOrderMark))) {
+        appendByDocument(text, string);
+        return;
+    }
+    const auto start = text.size();
+    appendByDocument(text, string.mid(1));
+    text.insert(start + 1, "\\ufeff");
+}
+
 /// Returns the text of the QJsonDocument of Qt 5. That of Qt 6 writes whole numbers that no double
 /// can hold, and chooses an exponent for other numbers than Qt 5, as for 0.0004 and 1e17.
 QByteArray fractionText(double number)
@@ -43,8 +56,10 @@ QByteArray fractionText(double number)
 
 void appendNumber(QByteArray &text, double number)
 {
-    if (number == 0 || !std::isfinite(number))
-        appendByDocument(text, number); // zero may be negative, and JSON has no infinity
+    if (number == 0)
+        appendByDocument(text, number); // may be negative
+    else if (!std::isfinite(number))
+        text += std::isnan(number) ? "\"nan\"" : number > 0 ? "\"inf\"" : "\"-inf\"";
     else if (std::trunc(number) == number && std::abs(number) < sLargestExactInteger)
         text += QByteArray::number(static_cast<qint64>(number));
     else
@@ -88,7 +103,7 @@ void appendJsonString(QByteArray &text, const QString &string)
     for (const QChar character : string) {
         if (!isPlain(character.unicode())) {
             text.truncate(start);
-            appendByDocument(text, string);
+            appendOtherString(text, string);
             return;
         }
         *out++ = static_cast<char>(character.unicode());

@@ -5,7 +5,10 @@ class QJsonValue;
 class QString;
 
 // Serializes JSON value by value. The bytes are those of the QJsonDocument of Qt 5 in its compact
-// form, whichever Qt is used: that of Qt 6 writes some numbers differently.
+// form, whichever Qt is used: that of Qt 6 writes some numbers differently. There are two
+// exceptions, which Qt would write so that they are lost: U+FEFF at the start of a string is an
+// escape, and the numbers that JSON does not have are the texts "nan", "inf" and "-inf" instead of
+// null.
 
 /// Appends `string` in quotes.
 void appendJsonString(QByteArray &text, const QString &string);

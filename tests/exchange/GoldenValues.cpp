@@ -45,8 +45,6 @@ void addNumbers(Rows &rows)
     add(rows, "Real.10^21", 1e21, "1e+21");
     add(rows, "Real.10^300", 1e300, "1e+300");
     add(rows, "Real.largest", std::numeric_limits<double>::max(), "1.7976931348623157e+308");
-    add(rows, "Real.infinity", std::numeric_limits<double>::infinity(), "null");
-    add(rows, "Real.notANumber", std::numeric_limits<double>::quiet_NaN(), "null");
 }
 
 void addTexts(Rows &rows)

@@ -5,7 +5,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// The JSON that the library writes. Every expected text is one that Qt 5.15 writes.
+/// The JSON that the library writes. Every expected text is one that Qt 5.15 writes, but for
+/// infinity, NaN and U+FEFF at the start of a string.
 class tst_JsonText : public QObject
 {
     Q_OBJECT
@@ -54,7 +55,16 @@ void tst_JsonText::textIsThatOfQt5_data()
         << QJsonValue(qint64(9223372036854775807)) << QByteArray("9223372036854776000");
     QTest::newRow("smallest integer")
         << QJsonValue(std::numeric_limits<qint64>::min()) << QByteArray("-9223372036854776000");
-    QTest::newRow("infinity") << QJsonValue(qInf()) << QByteArray("null");
+    QTest::newRow("infinity") << QJsonValue(qInf()) << QByteArray("\"inf\"");
+    QTest::newRow("minus infinity") << QJsonValue(-qInf()) << QByteArray("\"-inf\"");
+    QTest::newRow("not a number, inside")
+        << QJsonValue(QJsonObject{{"a", QJsonArray{qQNaN()}}}) << QByteArray(R"({"a":["nan"]})");
+    const QString mark(QChar(QChar::ByteOrderMark));
+    row(R"("\ufeff")", mark);
+    row("\"\\ufeff\xef\xbb\xbf\"", mark + mark);
+    row(R"("\ufeffa\"b\n")", mark + "a\"b\n");
+    row("\"a\xef\xbb\xbf\"", "a" + mark);
+    row(R"({"\ufeffk":["\ufeffv"]})", QJsonObject{{mark + "k", QJsonArray{mark + "v"}}});
     row("\"\"", "");
     row("\"plain\"", "plain");
     row("\"\\\"\\\\/\\n\"", "\"\\/\n");
@@ -88,6 +98,9 @@ void tst_JsonText::textIsReadBackAsTheSameValue()
     QFETCH(QByteArray, text);
     const QJsonArray read = QJsonDocument::fromJson('[' + text + ']').array();
     QCOMPARE(read.size(), 1);
+    QFETCH(QJsonValue, value);
+    if (value.isString())
+        QCOMPARE(read.first(), value);
     QByteArray again;
     appendJsonValue(again, read.first());
     QCOMPARE(again, text);
