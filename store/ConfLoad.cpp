@@ -1,6 +1,7 @@
 #include "ConfLoad_p.h"
 
 #include "DumpMember_p.h"
+#include "Limits_p.h"
 #include "PlainDump_p.h"
 
 #include <QDebug>
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr QLatin1Char sMarkSeparator('#');
+constexpr qint64 sSecondsOfADay = 24 * 60 * 60; // clocks and time zones differ by less
 
 /// The merge rule, for two times in the same unit: the newer change wins, and a tie keeps the
 /// stored one, so that loading a dump twice changes nothing.
@@ -27,7 +29,7 @@ bool storedWins(const QDateTime &stored, const QDateTime &incoming)
 }
 
 /// The time of a change in UTC. One without a time is made now.
-QDateTime timeOfChange(std::optional<int> seconds)
+QDateTime timeOfChange(std::optional<qint64> seconds)
 {
     return seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC)
                    : QDateTime::currentDateTimeUtc();
@@ -55,8 +57,25 @@ template<class Map> typename Map::iterator findFrom(Map &map,
 } // namespace
 
 ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
-    : mStore(store), mIsLocal(type == ConfStorage::LoadLocal), mSystemMark(addSysMark(QString()))
+    : mStore(store), mIsLocal(type == ConfStorage::LoadLocal),
+      mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
+      mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
+      mSystemMark(addSysMark(QString()))
 {
+    if (store.mFileOptions & ConfStorage::RefuseFutureTimes)
+        mLastTime = QDateTime::currentSecsSinceEpoch() + sSecondsOfADay;
+}
+
+ConfLoad::~ConfLoad()
+{
+    if (mAheadCount == 0)
+        return;
+    const QString first = mFirstAhead.left(Limits::sMaxLoggedLength);
+    if (mIsLocal)
+        qWarning() << "ConfStorage::loadConf() timestamps too far ahead: " << mAheadCount << first;
+    else
+        qWarning() << "ConfStorage::loadConf() timestamps too far ahead refused: " << mAheadCount
+                   << first;
 }
 
 QMap<QString, ConfValue>::iterator ConfLoad::valueOf(const QString &key)
@@ -77,7 +96,7 @@ void ConfLoad::forgetPosition()
 
 bool ConfLoad::loadText(const QByteArray &text)
 {
-    if (const auto members = readPlainDump(text)) {
+    if (const auto members = readPlainDump(text, mTimes)) {
         for (const PlainMember &member : *members)
             load(member.key(), member);
         return true;
@@ -94,18 +113,18 @@ void ConfLoad::loadObject(const QJsonObject &object)
     // The copy shares the data and keeps it alive if a callback changes the caller's object.
     const QJsonObject members = object;
     for (auto member = members.constBegin(); member != members.constEnd(); ++member)
-        load(member.key(), ParsedMember(member.value()));
+        load(member.key(), ParsedMember(member.value(), mTimes));
 }
 
 void ConfLoad::loadMember(const QString &key, const QJsonValue &entry)
 {
-    load(key, ParsedMember(entry));
+    load(key, ParsedMember(entry, mTimes));
 }
 
 bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
                                  const ConfStorage::DynamicConfClass *cls)
 {
-    return mergeDynamic(key, ParsedMember(entry), cls);
+    return mergeDynamic(key, ParsedMember(entry, mTimes), cls);
 }
 
 template<class Member> void ConfLoad::load(QString key, const Member &member)
@@ -114,8 +133,31 @@ template<class Member> void ConfLoad::load(QString key, const Member &member)
         key.chop(mSystemMark.size());
     else if (key.contains(sMarkSeparator))
         return;
+    if (mLastTime && isFromFuture(key, member) && !mIsLocal)
+        return;
     if (!member.isObject() || !loadDynamic(key, member))
         loadStatic(key, member);
+}
+
+/// Counts entries of the future for the message.
+template<class Member> bool ConfLoad::isFromFuture(const QString &key, const Member &member)
+{
+    const std::optional<qint64> removalTime = member.removalTime();
+    const std::optional<qint64> time = removalTime ? removalTime : member.time();
+    if (!time || *time <= *mLastTime)
+        return false;
+    if (!mStore.mConfValues.contains(key) && !mStore.findDynamicConfClass(key))
+        return false;
+    if (mAheadCount++ == 0)
+        mFirstAhead = key;
+    return true;
+}
+
+/// The value of a member; undefined if the entry sets the default value.
+template<class Member> QJsonValue ConfLoad::newValue(const Member &member) const
+{
+    const QJsonValue value = member.value();
+    return mNullIsDefault && value.isNull() ? QJsonValue(QJsonValue::Undefined) : value;
 }
 
 /// Returns whether nothing is left to do for the key.
@@ -133,8 +175,8 @@ template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Memb
 template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Member &member,
                                                    const ConfStorage::DynamicConfClass *cls)
 {
-    const std::optional<int> removalTime = member.removalTime();
-    const std::optional<int> time = member.time();
+    const std::optional<qint64> removalTime = member.removalTime();
+    const std::optional<qint64> time = member.time();
     const QDateTime incoming = timeOfChange(removalTime ? removalTime : time);
 
     const auto record = mStore.mConfMetas.constFind(key);
@@ -148,7 +190,7 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
         mergeRemoval(key, incoming);
         return true;
     }
-    const QJsonValue value = member.value();
+    const QJsonValue value = newValue(member);
     if (value.isUndefined()) {
         mStore.setToDefault(key, true);
         const auto meta = mStore.mConfMetas.find(key);
@@ -180,7 +222,7 @@ void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
 
 template<class Member> void ConfLoad::loadStatic(const QString &key, const Member &member)
 {
-    const std::optional<int> time = member.time();
+    const std::optional<qint64> time = member.time();
 
     // Most entries of a copy are no newer than the store: their values need not be read.
     const auto known = metaOf(key);
@@ -197,7 +239,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
         return;
     meta->lastChangeTime = timeOfChange(time);
 
-    const QJsonValue value = member.value();
+    const QJsonValue value = newValue(member);
     if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;

@@ -2,14 +2,20 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "DumpMember_p.h"
+
 #include <optional>
 
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
 /// wins, and a tie keeps the stored one.
+///
+/// One object is one load: its destructor logs the timestamps that are too far ahead.
 class ConfLoad
 {
 public:
     ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type);
+    ~ConfLoad();
+    Q_DISABLE_COPY(ConfLoad)
 
     /// Returns whether `text` is a JSON object; nothing else is loaded.
     bool loadText(const QByteArray &text);
@@ -23,6 +29,8 @@ public:
 private:
     // `Member` has the functions of `ParsedMember`.
     template<class Member> void load(QString key, const Member &member);
+    template<class Member> bool isFromFuture(const QString &key, const Member &member);
+    template<class Member> QJsonValue newValue(const Member &member) const;
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
@@ -35,7 +43,13 @@ private:
 
     ConfStorage &mStore;
     const bool mIsLocal; // any type but LoadLocal is a shared load
+    const bool mNullIsDefault;
+    const TimeRange mTimes;
     const QString mSystemMark;
+
+    std::optional<qint64> mLastTime; // later timestamps are too far ahead; null: none is
+    int mAheadCount = 0;
+    QString mFirstAhead;
 
     // Where the next key probably is in both maps: the members of a dump are in the order of the
     // maps. Reset before callbacks and log handlers run, which may change the maps.

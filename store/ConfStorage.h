@@ -111,7 +111,21 @@ public:
         /// be loaded: " (the last load could not read the file or its journal), "file has several
         /// names: " (hard links), "content could not be read back: " and "write journal failed: "
         /// leave the file unchanged. After "write file failed: " the new content is in the journal.
-        SafeSave = 1
+        SafeSave = 1,
+        /// Reads timestamps up to 2^53 seconds. Without it a timestamp of more than 32 bits, which
+        /// is one after 19 January 2038, is saved as it is, but counts as 0 when it is loaded: the
+        /// change loses against every other one, and the next save drops it.
+        LongTimes = 2,
+        /// A null from a file or a dump sets the default value, as an entry without a value does.
+        /// Without it null unbinds the key from its variable; see `ConfValue::loadFromJsonValue`.
+        NullIsDefault = 4,
+        /// Entries with timestamps more than a day ahead are not merged by `LoadShared`: they would
+        /// win against every change until that time. `LoadLocal` merges them all the same, because
+        /// they are changes made here while the clock was wrong. Each load logs at most one
+        /// message, the warning "ConfStorage::loadConf() timestamps too far ahead refused: " or
+        /// "ConfStorage::loadConf() timestamps too far ahead: " with the number of these entries
+        /// and the first key. Without it they are merged by every load, and nothing is logged.
+        RefuseFutureTimes = 8
     };
 
     /// Returns the store of the process. The first call creates it, empty; it is never destroyed.
@@ -159,7 +173,8 @@ public:
     void setConfChangedCallback(const QString &key, ConfChangedCallback cb);
 
     /// Sets the value of `key` from JSON like a change by the user: updates the timestamp and calls
-    /// the callback. Ignores an unknown key silently.
+    /// the callback. Ignores an unknown key silently. With `NullIsDefault` null restores the
+    /// default value like `setToDefault`.
     ///
     /// @see ConfValue::loadFromJsonValue
     void loadValueFromJson(QString key, QJsonValue value);
@@ -170,11 +185,15 @@ public:
     /// critical message "dumpConf findDynamicConfClass error : " with the key for a removed key
     /// without a class.
     ///
+    /// JSON has neither infinity nor NaN: a `double` with such a value is dumped as restored to its
+    /// default, and not at all by `DumpChangedOnly`.
+    ///
     /// @see loadConf
     QJsonObject dumpConf(DumpConfType type) const;
 
     /// Merges a dump entry by entry: the newer change wins, and the stored one wins a tie. Skips
-    /// unknown keys and keys with the mark of another system silently. Returns the number of
+    /// unknown keys and keys with the mark of another system silently. `LongTimes`, `NullIsDefault`
+    /// and `RefuseFutureTimes` in `mFileOptions` change what is merged. Returns the number of
     /// members of `conf`.
     ///
     /// @see dumpConf
@@ -227,7 +246,8 @@ public:
     /// creator loads an entry of the key that it is creating.
     bool loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls);
 
-    /// Sets all bits of `mFileOptions` that a new host should have: `SafeSave`.
+    /// Sets all bits of `mFileOptions` that a new host should have: `SafeSave`, `LongTimes`,
+    /// `NullIsDefault` and `RefuseFutureTimes`.
     void useRobustFiles();
 
     /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed

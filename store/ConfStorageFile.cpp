@@ -52,7 +52,7 @@ void logLoad(const SafeFile::Loaded &loaded, const SafeFile &file)
 
 void ConfStorage::useRobustFiles()
 {
-    mFileOptions |= SafeSave;
+    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes;
 }
 
 void ConfStorage::saveToLocalConfFile()

@@ -43,7 +43,11 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const Dynam
 
 void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
-    if (loadValue(key, value))
+    const bool isDefault = (mFileOptions & NullIsDefault)
+                           && (value.isNull() || value.isUndefined());
+    if (isDefault && mConfValues.contains(key))
+        setToDefault(key, true);
+    else if (loadValue(key, value))
         markUserChange(key, nullptr);
 }
 

@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 
+#include <cmath>
 #include <optional>
 
 /// The name of a member of an entry. Each is one character.
@@ -24,6 +25,20 @@ inline constexpr EntryKey sValueKey('v'); ///< the value as `ConfValue::toJsonVa
 inline constexpr EntryKey sRemovedKey(
     'd'); ///< when a dynamic key was removed, in seconds since 1970
 
+/// Which timestamps a load accepts. Any other counts as 0.
+enum class TimeRange {
+    Until2038, ///< whole numbers of 32 bits
+    Long       ///< whole numbers that a double has exactly, and a QDateTime in milliseconds
+};
+
+inline bool isInRange(double seconds, TimeRange range)
+{
+    constexpr double sLargestLong = 9007199254740991.0; // 2^53 - 1
+    constexpr double sLargestShort = 2147483647.0;
+    return range == TimeRange::Long ? std::abs(seconds) <= sLargestLong
+                                    : seconds >= -sLargestShort - 1 && seconds <= sLargestShort;
+}
+
 /// A member of a dump, from parsed JSON.
 ///
 /// A dump is one JSON object. Each of its members is a key of the store and an entry, an object
@@ -32,27 +47,32 @@ inline constexpr EntryKey sRemovedKey(
 class ParsedMember
 {
 public:
-    explicit ParsedMember(const QJsonValue &entry)
-        : mIsObject(entry.isObject()), mEntry(entry.toObject())
+    explicit ParsedMember(const QJsonValue &entry, TimeRange times)
+        : mIsObject(entry.isObject()), mTimes(times), mEntry(entry.toObject())
     {
     }
 
     /// Whether the entry is an object. Anything else counts as an empty one.
     bool isObject() const { return mIsObject; }
-    /// The member "t". Anything but a whole number of 32 bits counts as 0.
-    std::optional<int> time() const { return secondsOf(sTimeKey); }
+    /// The member "t". Anything but a whole number in range counts as 0.
+    std::optional<qint64> time() const { return secondsOf(sTimeKey); }
     /// The member "d", read like "t".
-    std::optional<int> removalTime() const { return secondsOf(sRemovedKey); }
+    std::optional<qint64> removalTime() const { return secondsOf(sRemovedKey); }
     /// The member "v"; undefined if there is none.
     QJsonValue value() const { return mEntry.value(sValueKey.name()); }
 
 private:
-    std::optional<int> secondsOf(const EntryKey &key) const
+    std::optional<qint64> secondsOf(const EntryKey &key) const
     {
-        const auto seconds = mEntry.constFind(key.name());
-        return seconds != mEntry.constEnd() ? std::make_optional(seconds->toInt()) : std::nullopt;
+        const auto member = mEntry.constFind(key.name());
+        if (member == mEntry.constEnd())
+            return std::nullopt;
+        const double seconds = member->toDouble();
+        const bool isTime = isInRange(seconds, mTimes) && std::trunc(seconds) == seconds;
+        return isTime ? static_cast<qint64>(seconds) : 0;
     }
 
     const bool mIsObject;
+    const TimeRange mTimes;
     const QJsonObject mEntry;
 };

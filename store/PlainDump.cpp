@@ -1,14 +1,11 @@
 #include "PlainDump_p.h"
 
-#include "DumpMember_p.h"
-
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 
 namespace {
 
@@ -48,7 +45,10 @@ bool isUnbroken(std::string_view utf8)
 class Scanner
 {
 public:
-    explicit Scanner(const QByteArray &text) : mNext(text.constData()), mEnd(mNext + text.size()) {}
+    Scanner(const QByteArray &text, TimeRange times)
+        : mTimes(times), mNext(text.constData()), mEnd(mNext + text.size())
+    {
+    }
 
     bool isAtEnd() const { return mNext == mEnd; }
     bool take(QLatin1String literal);
@@ -58,12 +58,13 @@ private:
     bool isNext(char byte) const { return mNext != mEnd && *mNext == byte; }
     bool takeQuoted(std::string_view *inside, bool (*isInside)(char));
     bool takeNumber(qint64 *number);
-    bool takeSeconds(int *seconds);
+    bool takeSeconds(qint64 *seconds);
     bool takeValue(PlainMember *member);
     bool takePlainValue(PlainMember *member);
     bool takeParsedValue(PlainMember *member);
     const char *endOfValue() const;
 
+    const TimeRange mTimes;
     const char *mNext;
     const char *const mEnd;
 };
@@ -107,14 +108,9 @@ bool Scanner::takeNumber(qint64 *number)
     return true;
 }
 
-bool Scanner::takeSeconds(int *seconds)
+bool Scanner::takeSeconds(qint64 *seconds)
 {
-    qint64 number = 0;
-    if (!takeNumber(&number) || number < std::numeric_limits<int>::min()
-        || number > std::numeric_limits<int>::max())
-        return false;
-    *seconds = static_cast<int>(number);
-    return true;
+    return takeNumber(seconds) && isInRange(static_cast<double>(*seconds), mTimes);
 }
 
 bool Scanner::takeValue(PlainMember *member)
@@ -206,12 +202,12 @@ QString PlainMember::key() const
     return QString::fromLatin1(name.data(), static_cast<QString::size_type>(name.size()));
 }
 
-std::optional<int> PlainMember::time() const
+std::optional<qint64> PlainMember::time() const
 {
     return isRemoval ? std::nullopt : std::make_optional(seconds);
 }
 
-std::optional<int> PlainMember::removalTime() const
+std::optional<qint64> PlainMember::removalTime() const
 {
     return isRemoval ? std::make_optional(seconds) : std::nullopt;
 }
@@ -221,9 +217,9 @@ QJsonValue PlainMember::value() const
     return string.data() ? QJsonValue(textOf(string)) : otherValue;
 }
 
-std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text)
+std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text, TimeRange times)
 {
-    Scanner scanner(text);
+    Scanner scanner(text, times);
     std::vector<PlainMember> members;
     if (!scanner.take(QLatin1String("{")))
         return std::nullopt;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DumpMember_p.h"
+
 #include <QJsonValue>
 #include <QString>
 
@@ -16,12 +18,12 @@ struct PlainMember
     QString key() const;
     /// Always true: `readPlainDump` accepts no other entries.
     bool isObject() const { return true; }
-    std::optional<int> time() const;
-    std::optional<int> removalTime() const;
+    std::optional<qint64> time() const;
+    std::optional<qint64> removalTime() const;
     QJsonValue value() const;
 
     std::string_view name; ///< in ASCII
-    int seconds = 0;
+    qint64 seconds = 0;
     bool isRemoval = false;  ///< `seconds` are those of "d" and not of "t"
     std::string_view string; ///< a string value without escapes in UTF-8, or else null
     QJsonValue otherValue{QJsonValue::Undefined};
@@ -31,8 +33,9 @@ struct PlainMember
 /// a load. The members point into `text`.
 ///
 /// Accepts text as the library writes it: compact, members in the order of their names, names of
-/// printable ASCII, times first. QJsonDocument parses single values that are neither a whole
-/// number, a boolean nor a string without escapes. Any other text is refused: nothing is returned,
-/// and the caller uses QJsonDocument. Both parsers accept the same texts and produce the same
-/// values.
-std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text);
+/// printable ASCII, times first and in range. QJsonDocument parses single values that are neither a
+/// whole number, a boolean nor a string without escapes. Any other text is refused: nothing is
+/// returned, and the caller uses QJsonDocument. Both parsers accept the same texts and produce the
+/// same values.
+std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text,
+                                                      TimeRange times = TimeRange::Until2038);

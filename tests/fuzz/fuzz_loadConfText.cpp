@@ -22,6 +22,28 @@ StoreDeclarations declarations()
     return all;
 }
 
+constexpr quint32 sLoadOptions = ConfStorage::LongTimes | ConfStorage::NullIsDefault
+                                 | ConfStorage::RefuseFutureTimes;
+
+/// A plain dump is loaded from its text without a QJsonDocument; the result must be the same.
+void expectSameFromObject(const StoreDeclarations &declared, const QString &text, quint32 options,
+                          ConfStorage::LoadConfType type)
+{
+    StoreHost host(declared);
+    host.store.mFileOptions = options;
+    host.store.loadConf(text, type);
+    StoreHost parsed(declared);
+    parsed.store.mFileOptions = options;
+    parsed.store.loadConf(QJsonDocument::fromJson(text.toUtf8()).object(), type);
+    expect(host.values() == parsed.values() && host.variables() == parsed.variables(),
+           "text and object give the same values");
+    expect(host.calls == parsed.calls, "text and object call the same callbacks");
+    if (options & ConfStorage::NullIsDefault) {
+        for (const ConfValue &value : std::as_const(host.store.mConfValues))
+            expect(value.mType != ConfValue::TyNone, "null unbinds nothing");
+    }
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -38,13 +60,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         expect(host.dump() == "{}" && host.calls.isEmpty(), "a failed load changes nothing");
         return 0;
     }
-    // A plain dump is loaded from its text without a QJsonDocument; the result must be the same.
-    StoreHost parsed(sDeclarations);
-    parsed.store.loadConf(document.object(), ConfStorage::LoadLocal);
-    expect(host.values() == parsed.values() && host.variables() == parsed.variables(),
-           "text and object give the same values");
-    expect(host.calls == parsed.calls, "text and object call the same callbacks");
-
+    const auto types = {ConfStorage::LoadLocal, ConfStorage::LoadShared};
+    for (const ConfStorage::LoadConfType type : types) {
+        expectSameFromObject(sDeclarations, text, 0, type);
+        expectSameFromObject(sDeclarations, text, sLoadOptions, type);
+    }
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadLocal);
     checkLoading(sDeclarations, document.object(), ConfStorage::LoadShared);
     return 0;

@@ -34,6 +34,8 @@ private Q_SLOTS:
     void plainDumpIsParsed_data();
     void plainDumpIsParsed();
     void membersReturnTheirTimeAndValue();
+    void rangeOfTimestamps_data();
+    void rangeOfTimestamps();
     void otherTextIsRejected_data();
     void otherTextIsRejected();
     void truncatedTextIsRejected();
@@ -74,6 +76,8 @@ void tst_PlainDump::plainDumpIsParsed_data()
         R"("\\")",
         R"("\\\"}")",
         R"("\u00e9")",
+        R"("\ufeff")",
+        "\"\\ufeff\357\273\277\"",
         "\"\303\251\"",
         "\"\177\"",
         "\"\357\273\277\"",
@@ -114,16 +118,50 @@ void tst_PlainDump::membersReturnTheirTimeAndValue()
     const auto members = readPlainDump(text);
     QVERIFY(members);
     QCOMPARE(members->size(), size_t(4));
-    QCOMPARE(members->at(0).time(), std::optional<int>(1));
+    QCOMPARE(members->at(0).time(), std::optional<qint64>(1));
     QVERIFY(!members->at(0).removalTime());
     QCOMPARE(members->at(0).value(), QJsonValue("x"));
-    QCOMPARE(members->at(1).time(), std::optional<int>(2));
+    QCOMPARE(members->at(1).time(), std::optional<qint64>(2));
     QVERIFY(members->at(1).value().isNull());
-    QCOMPARE(members->at(2).time(), std::optional<int>(3));
+    QCOMPARE(members->at(2).time(), std::optional<qint64>(3));
     QVERIFY(members->at(2).value().isUndefined());
     QVERIFY(!members->at(3).time());
-    QCOMPARE(members->at(3).removalTime(), std::optional<int>(4));
+    QCOMPARE(members->at(3).removalTime(), std::optional<qint64>(4));
     QVERIFY(members->at(3).value().isUndefined());
+}
+
+void tst_PlainDump::rangeOfTimestamps_data()
+{
+    QTest::addColumn<QByteArray>("time");
+    QTest::addColumn<bool>("isShort");
+    QTest::addColumn<bool>("isLong");
+    QTest::newRow("last second of 32 bits") << QByteArray("2147483647") << true << true;
+    QTest::newRow("one later") << QByteArray("2147483648") << false << true;
+    QTest::newRow("first second of 32 bits") << QByteArray("-2147483648") << true << true;
+    QTest::newRow("one earlier") << QByteArray("-2147483649") << false << true;
+    QTest::newRow("year 9999") << QByteArray("253370764800") << false << true;
+    QTest::newRow("2^53 - 1") << QByteArray("9007199254740991") << false << true;
+    QTest::newRow("2^53") << QByteArray("9007199254740992") << false << false;
+    QTest::newRow("-2^53 + 1") << QByteArray("-9007199254740991") << false << true;
+    QTest::newRow("-2^53") << QByteArray("-9007199254740992") << false << false;
+    QTest::newRow("18 digits") << QByteArray("999999999999999999") << false << false;
+}
+
+void tst_PlainDump::rangeOfTimestamps()
+{
+    QFETCH(QByteArray, time);
+    for (const auto range : {TimeRange::Until2038, TimeRange::Long}) {
+        QFETCH(bool, isShort);
+        QFETCH(bool, isLong);
+        const bool isAccepted = range == TimeRange::Long ? isLong : isShort;
+        for (const QByteArray &text :
+             {withTime(time), QByteArray(R"({"key":{"d":)" + time + "}}")}) {
+            QCOMPARE(readPlainDump(text, range).has_value(), isAccepted);
+            QVERIFY(!isMistaken(text, range));
+        }
+        const ParsedMember parsed(QJsonObject{{"t", time.toDouble()}}, range);
+        QCOMPARE(parsed.time(), std::optional<qint64>(isAccepted ? time.toLongLong() : 0));
+    }
 }
 
 void tst_PlainDump::otherTextIsRejected_data()

@@ -6,11 +6,11 @@
 #include <QJsonObject>
 #include <QStringList>
 
-/// Returns whether `readPlainDump` parses `text` differently from QJsonDocument. Rejecting it is
-/// not a mistake.
-inline bool isMistaken(const QByteArray &text)
+/// Returns whether `readPlainDump` parses `text` differently from QJsonDocument and `ParsedMember`.
+/// Rejecting it is not a mistake.
+inline bool isMistaken(const QByteArray &text, TimeRange times)
 {
-    const auto members = readPlainDump(text);
+    const auto members = readPlainDump(text, times);
     if (!members)
         return false;
     const QJsonDocument document = QJsonDocument::fromJson(text);
@@ -19,16 +19,19 @@ inline bool isMistaken(const QByteArray &text)
     QStringList names;
     for (const PlainMember &member : *members) {
         const QJsonObject entry = document.object().value(member.key()).toObject();
-        const auto isSame = [&](const char *name, const std::optional<int> &seconds) {
-            const auto parsed = entry.constFind(QLatin1String(name));
-            return parsed != entry.constEnd() ? seconds == parsed->toInt(-1) : !seconds;
-        };
+        const ParsedMember parsed(entry, times);
         const int count = int(member.time().has_value()) + int(member.removalTime().has_value())
                           + int(!member.value().isUndefined());
-        if (!isSame("t", member.time()) || !isSame("d", member.removalTime())
-            || member.value() != entry.value("v") || count != entry.size())
+        if (member.time() != parsed.time() || member.removalTime() != parsed.removalTime()
+            || member.value() != parsed.value() || count != entry.size())
             return true;
         names.append(member.key());
     }
     return names != document.object().keys();
+}
+
+/// The same for each range of timestamps.
+inline bool isMistaken(const QByteArray &text)
+{
+    return isMistaken(text, TimeRange::Until2038) || isMistaken(text, TimeRange::Long);
 }
