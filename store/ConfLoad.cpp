@@ -156,8 +156,10 @@ template<class Member> bool ConfLoad::isFromFuture(const QString &key, const Mem
 /// The value of a member; undefined if the entry sets the default value.
 template<class Member> QJsonValue ConfLoad::newValue(const Member &member) const
 {
-    const QJsonValue value = member.value();
-    return mNullIsDefault && value.isNull() ? QJsonValue(QJsonValue::Undefined) : value;
+    QJsonValue value = member.value();
+    if (mNullIsDefault && value.isNull())
+        value = QJsonValue(QJsonValue::Undefined);
+    return value;
 }
 
 /// Returns whether nothing is left to do for the key.

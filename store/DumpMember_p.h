@@ -67,6 +67,8 @@ private:
         const auto member = mEntry.constFind(key.name());
         if (member == mEntry.constEnd())
             return std::nullopt;
+        if (mTimes == TimeRange::Until2038)
+            return member->toInt(); // cheaper than the general case
         const double seconds = member->toDouble();
         const bool isTime = isInRange(seconds, mTimes) && std::trunc(seconds) == seconds;
         return isTime ? static_cast<qint64>(seconds) : 0;
