@@ -76,6 +76,8 @@ PosixFile::Status PosixFile::open(const QString &path, Mode mode)
 {
     constexpr mode_t sEverybody = 0666; // without the bits of the umask, as Qt creates files
     close();
+    if (path.contains(QChar(u'\0')))
+        return Status::Missing; // the system would open the path before the null character
     mPath = path;
     mDescriptor = openDescriptor(QFile::encodeName(path), flagsOf(mode), sEverybody);
     if (mDescriptor == -1) {

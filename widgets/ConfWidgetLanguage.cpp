@@ -1,6 +1,8 @@
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 
 #include "LangCodeTable_p.h"
+#include "MaltoConfiguration/store/Limits_p.h"
+#include "MaltoConfiguration/store/PosixFile_p.h"
 
 #include <OrvUtils/getPreferredLanguages.h>
 
@@ -26,19 +28,31 @@ bool isLanguage(const QStringList &supported, const QString &code)
     return code != sFollowSystem && supported.contains(code);
 }
 
-/// Loads `file` into `translator` and installs it. Returns false, with the translator removed from
-/// the application, if the file cannot be loaded.
-bool installFile(QTranslator *translator, const QString &file)
+/// A translator of the application, with the content of its file.
+class FileTranslator
 {
-    // A translator that is installed twice would be asked twice.
-    QCoreApplication::removeTranslator(translator);
-    // Load exactly this file: by default Qt also tries shorter file names.
-    const QString none = QLatin1String("");
-    if (!translator->load(file, none, none, none))
-        return false;
-    QCoreApplication::installTranslator(translator);
-    return true;
-}
+public:
+    /// Loads `file` and installs the translator. Returns false, with the translator removed from
+    /// the application, if the file cannot be loaded.
+    bool install(const QString &file)
+    {
+        // A translator that is installed twice would be asked twice.
+        remove();
+        const QByteArray content = PosixFile::read(file, Limits::sMaxSmallFileSize).bytes;
+        const bool isLoaded = mTranslator.load(reinterpret_cast<const uchar *>(content.constData()),
+                                               static_cast<int>(content.size()));
+        mContent = content;
+        if (isLoaded)
+            QCoreApplication::installTranslator(&mTranslator);
+        return isLoaded;
+    }
+
+    void remove() { QCoreApplication::removeTranslator(&mTranslator); }
+
+private:
+    QByteArray mContent; // the translator reads it as long as it exists
+    QTranslator mTranslator;
+};
 
 } // namespace
 
@@ -112,19 +126,19 @@ void ConfWidgetLanguage::installTranslator(QString code)
     if (!mSupportLangCodes.contains(code))
         code = mSupportLangCodes.first();
 
-    static QTranslator translator;
-    static QTranslator qt_translator;
+    static FileTranslator translator;
+    static FileTranslator qt_translator;
     if (code == sEnglish) {
-        QCoreApplication::removeTranslator(&translator);
-        QCoreApplication::removeTranslator(&qt_translator);
+        translator.remove();
+        qt_translator.remove();
         return;
     }
     const QString folder = QCoreApplication::applicationDirPath();
-    if (!installFile(&translator, folder + sLanguagePath + code + QLatin1String(".qm")))
+    if (!translator.install(folder + sLanguagePath + code + QLatin1String(".qm")))
         qWarning() << "Unable to load QTranslator";
     const QString qtFile = folder + sLanguageQtPath + QLatin1String("qt_") + code
                            + QLatin1String(".qm");
-    if (!installFile(&qt_translator, qtFile))
+    if (!qt_translator.install(qtFile))
         qWarning() << "Unable to load Qt office QTranslator : " << qtFile;
 }
 

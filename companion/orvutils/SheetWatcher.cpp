@@ -1,5 +1,8 @@
 #include "SheetWatcher_p.h"
 
+#include "MaltoFiles/Limits_p.h"
+#include "MaltoFiles/PosixFile_p.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -19,10 +22,19 @@ constexpr int sStillMilliseconds = 100;
 
 QByteArray readSheet(const QString &file)
 {
-    QFile sheet(file);
-    if (!QFileInfo(file).isFile() || !sheet.open(QIODevice::ReadOnly))
-        return QByteArray();
-    const QByteArray content = sheet.readAll();
+    const QString path = QFileInfo(file).filePath(); // without a prefix of QDir::setSearchPaths()
+    QByteArray content;
+    if (path.startsWith(QLatin1Char(':'))) {
+        QFile resource(path);
+        if (!QFileInfo(path).isFile() || !resource.open(QIODevice::ReadOnly))
+            return QByteArray();
+        content = resource.readAll();
+    } else {
+        const PosixFile::Content read = PosixFile::read(path, Limits::sMaxSmallFileSize);
+        if (read.status != PosixFile::Status::Done)
+            return QByteArray();
+        content = read.bytes;
+    }
     return content.isNull() ? QByteArray("") : content;
 }
 

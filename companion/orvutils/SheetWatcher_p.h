@@ -10,8 +10,8 @@
 class QFileSystemWatcher;
 class QWidget;
 
-/// Returns the content of a style sheet, a regular file or a resource; null if it cannot be read.
-/// Pipes and devices are not read, because reading could block forever.
+/// Returns the content of a style sheet, a regular file of at most 4 MiB or a resource; null if it
+/// cannot be read. Pipes and devices are not read, because reading could block forever.
 QByteArray readSheet(const QString &file);
 
 /// Watches the disk files of the style sheets that live widgets use.

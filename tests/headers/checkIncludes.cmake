@@ -1,5 +1,6 @@
 # Fails if a file includes a header of a higher folder:
 #   store <- manage <- widgets <- manage/MtConfManageDeclare.cpp <- window
+# A companion includes nothing but the private headers in MaltoFiles/.
 
 set(forbidden_store "MaltoConfiguration/(manage|widgets|window)/|OrvUtils/|QIconfont/|<Q(Widget|Application|Label)>")
 set(forbidden_manage "MaltoConfiguration/(widgets|window)/")
