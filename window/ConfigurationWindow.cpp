@@ -27,6 +27,7 @@ ConfigurationWindow *sWindow = nullptr;
 } // namespace
 
 QMap<QString, QChar> ConfigurationWindow::mIconMap;
+bool ConfigurationWindow::sSheetsOfWorkingDirectory = true;
 
 ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager)
 {

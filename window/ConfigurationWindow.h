@@ -53,6 +53,8 @@ MALTO_EXPORT void setStaysOnTopHint(bool on);
 /// - the window's sheet: the file "ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss", the
 ///   resource ":/qss/ConfigurationWindow".
 ///
+/// The two files are skipped if `ConfigurationWindow::sSheetsOfWorkingDirectory` is false.
+///
 /// @see ConfigurationWindow::loadQss, QThemeCtrl::handleQssFile
 /// @since 0.1
 MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);
@@ -101,6 +103,13 @@ public:
     ///
     /// @see MtConfManage::setIconMap
     static QMap<QString, QChar> mIconMap;
+
+    /// Whether `setQssForWidget`, and so the window, reads style sheets from the working directory.
+    /// Set it to false before the first window is created if others can write to that directory:
+    /// a style sheet can open files and set properties. True by default.
+    ///
+    /// @see setQssForWidget
+    static bool sSheetsOfWorkingDirectory;
 
 public Q_SLOTS:
     /// Applies the style sheets for the current screen and theme, and draws the icons of the

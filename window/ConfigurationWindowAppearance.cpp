@@ -33,9 +33,13 @@ WindowGeometryFile geometryFile()
     return WindowGeometryFile(QStringLiteral("ConfigurationWindowConfig.ini"));
 }
 
-/// Returns the first of `sources` that exists, or else the last.
-QString firstExisting(const QStringList &sources)
+/// Returns `file` if it exists and the host permits it, or else the first of `resources` that
+/// exists, or else the last.
+QString firstExisting(const QString &file, const QStringList &resources)
 {
+    QStringList sources = resources;
+    if (ConfigurationWindow::sSheetsOfWorkingDirectory)
+        sources.prepend(file);
     const auto found = std::find_if(sources.cbegin(), sources.cend() - 1,
                                     [](const QString &source) { return QFile::exists(source); });
     return *found;
@@ -75,12 +79,12 @@ QRect fromSaved(const QRect &saved)
 void setQssForWidget(QWidget *widget, double scale)
 {
     // The library's common sheet has a path of its own, so that a host can register its own.
-    const QString common = firstExisting({QStringLiteral("./res/qss/CommonWindow.qss"),
-                                          QStringLiteral(":/qss/CommonWindow"),
-                                          QStringLiteral(":/malto/qss/CommonWindow")});
+    const QString common = firstExisting(
+        QStringLiteral("./res/qss/CommonWindow.qss"),
+        {QStringLiteral(":/qss/CommonWindow"), QStringLiteral(":/malto/qss/CommonWindow")});
     const QString own = firstExisting(
-        {QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
-         QStringLiteral(":/qss/ConfigurationWindow")});
+        QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
+        {QStringLiteral(":/qss/ConfigurationWindow")});
     QThemeCtrl::instance()->handleQssFile(widget, {common, own}, scale);
 }
 

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup()
     {
         mFixture.reset();
+        MtConf::ConfigurationWindow::sSheetsOfWorkingDirectory = true;
         removeHostSheet();
         QDir("res").removeRecursively();
         QDir("ThirdParty").removeRecursively();
@@ -28,6 +29,8 @@ private Q_SLOTS:
     void sheetIsExpanded();
     void sheetOnDiskReplacesTheBuiltInOne_data();
     void sheetOnDiskReplacesTheBuiltInOne();
+    void sheetOnDiskIsSkippedIfTheHostForbidsIt_data();
+    void sheetOnDiskIsSkippedIfTheHostForbidsIt();
     void commonSheetOfTheHostReplacesTheBuiltInOne();
     void commonSheetOnDiskReplacesThatOfTheHost();
     void windowsSheetNamesEverySelectorThatTheCodeSets();
@@ -88,6 +91,23 @@ void tst_WindowStyleSheets::sheetOnDiskReplacesTheBuiltInOne()
         QVERIFY(sheet.indexOf("#onDisk") < sheet.indexOf("#configList"));
     else
         QVERIFY(sheet.indexOf("QToolTip") < sheet.indexOf("#onDisk"));
+}
+
+void tst_WindowStyleSheets::sheetOnDiskIsSkippedIfTheHostForbidsIt_data()
+{
+    sheetOnDiskReplacesTheBuiltInOne_data();
+}
+
+void tst_WindowStyleSheets::sheetOnDiskIsSkippedIfTheHostForbidsIt()
+{
+    QFETCH(QString, path);
+    MtConf::ConfigurationWindow::sSheetsOfWorkingDirectory = false;
+    addHostSheet();
+    writeSheet(path, "#onDisk { width: sca(3)px; }");
+    const QString sheet = mFixture->open()->styleSheet();
+    QVERIFY(!sheet.contains("#onDisk"));
+    QVERIFY(sheet.contains("#inHostResource { width: 4px; }"));
+    QVERIFY(sheet.contains("#configList"));
 }
 
 void tst_WindowStyleSheets::commonSheetOfTheHostReplacesTheBuiltInOne()
