@@ -1,5 +1,7 @@
 #include "ConfDump_p.h"
 
+#include "EntryLog_p.h"
+
 #include "DumpMember_p.h"
 #include "JsonText_p.h"
 
@@ -71,7 +73,9 @@ void ConfDump::collectRemoved(const ConfStorage &store)
         const ConfStorage::DynamicConfClass *cls = store.findDynamicConfClass(it.key());
         const bool marked = cls && (cls->flags & ConfStorage::FlagSystemIndependent);
         if (!cls)
-            qCritical() << "dumpConf findDynamicConfClass error : " << it.key();
+            if (EntryLog::permits())
+                qCritical() << "dumpConf findDynamicConfClass error : "
+                            << EntryLog::truncated(it.key());
         mMembers.push_back(
             {marked ? addSysMark(it.key()) : it.key(), it->toSecsSinceEpoch(), nullptr, false});
     }

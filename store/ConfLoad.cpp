@@ -1,5 +1,7 @@
 #include "ConfLoad_p.h"
 
+#include "EntryLog_p.h"
+
 #include "DumpMember_p.h"
 #include "Limits_p.h"
 #include "PlainDump_p.h"
@@ -207,8 +209,8 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     const auto meta = mStore.mConfMetas.find(key);
     if (meta != mStore.mConfMetas.end())
         meta->lastChangeTime = incoming;
-    else
-        qCritical() << "createDynamicConf Not create conf: " << key;
+    else if (EntryLog::permits())
+        qCritical() << "createDynamicConf Not create conf: " << EntryLog::truncated(key);
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "EntryLog_p.h"
+
 #include <QDebug>
 #include <QJsonObject>
 #include <QScopedValueRollback>
@@ -68,7 +70,8 @@ void ConfStorage::setToDefault(const QString &key, bool updateTime)
     const auto preset = mPresetDynamicConfs.constFind(key);
     if (preset == mPresetDynamicConfs.constEnd()) {
         // Deliberately the message of `set`: both mean that the key is not reserved.
-        qCritical() << "ConfStorage::set key not found: " << key;
+        if (EntryLog::permits())
+            qCritical() << "ConfStorage::set key not found: " << EntryLog::truncated(key);
         return;
     }
     // Copies, because the creator may change the presets.
@@ -122,7 +125,9 @@ void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, 
         // No callback is called until the outermost one returns: callbacks that cause two others
         // each would otherwise run almost forever below the limit.
         mCallbacksStopped = true;
-        qCritical() << "ConfStorage::callChangedCallback nested too deeply: " << key;
+        if (EntryLog::permits())
+            qCritical() << "ConfStorage::callChangedCallback nested too deeply: "
+                        << EntryLog::truncated(key);
         return;
     }
     // Copies, because the callback may remove or reserve its key again, and so destroy its record.

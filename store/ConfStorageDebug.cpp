@@ -1,6 +1,8 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "EntryLog_p.h"
 #include "JsonText_p.h"
+#include "Limits_p.h"
 
 #include <QJsonValue>
 
@@ -16,10 +18,9 @@ QString nothing()
     return QStringLiteral("-");
 }
 
-/// Puts a dynamic key, which may contain any character, on one line.
-QString keyText(QString key)
+QString keyText(const QString &key)
 {
-    return key.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    return EntryLog::printable(key, Limits::sMaxLoggedLength);
 }
 
 /// Returns one line of JSON, truncated if it is long.
@@ -29,8 +30,7 @@ QString valueText(const ConfValue &value)
         return nothing();
     QByteArray json;
     appendJsonValue(json, value.toJsonValue());
-    const QString text = QString::fromUtf8(json);
-    return text.size() > sMostCharacters ? text.left(sMostCharacters - 1) + QChar(0x2026) : text;
+    return EntryLog::printable(QString::fromUtf8(json), sMostCharacters);
 }
 
 QString timeText(const QDateTime &time)
@@ -81,14 +81,20 @@ QString ConfStorage::debugTable() const
     }
     std::sort(keys.begin(), keys.end());
     for (const QString &key : std::as_const(keys)) {
+        if (rows.size() > Limits::sMaxTableRows)
+            break;
         const ConfMeta meta = mConfMetas.value(key);
         rows.append({keyText(key), valueText(mConfValues.value(key)), valueText(meta.defaultValue),
                      isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),
                      timeText(meta.lastChangeTime), flagsText(meta.flags)});
     }
     for (auto removed = mRemovedDynamicConfs.cbegin(); removed != mRemovedDynamicConfs.cend();
-         ++removed)
+         ++removed) {
+        if (rows.size() > Limits::sMaxTableRows)
+            break;
         rows.append({keyText(removed.key()), nothing(), nothing(), QStringLiteral("removed"),
                      timeText(removed.value()), nothing()});
-    return aligned(rows);
+    }
+    const auto more = keys.size() + mRemovedDynamicConfs.size() - (rows.size() - 1);
+    return aligned(rows) + (more > 0 ? QStringLiteral("%1 more\n").arg(more) : QString());
 }

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "EntryLog_p.h"
+
 #include <QDebug>
 #include <QJsonValue>
 
@@ -10,7 +12,9 @@ namespace {
 void logClassNotFound(const QString &key)
 {
     // Removal logs the message of creation deliberately: both mean that the key has no class.
-    qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: " << key;
+    if (EntryLog::permits())
+        qCritical() << "ConfStorage::createDynamicConf() dynamicConfClass not found: "
+                    << EntryLog::truncated(key);
 }
 
 } // namespace
@@ -33,7 +37,9 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
         return;
     }
     if (mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
-        qCritical() << "ConfStorage::createDynamicConf() key already exists: " << key;
+        if (EntryLog::permits())
+            qCritical() << "ConfStorage::createDynamicConf() key already exists: "
+                        << EntryLog::truncated(key);
         return;
     }
     // Copies, because `key` may refer to a map that changes here, and the creator is code of the
@@ -66,7 +72,9 @@ void ConfStorage::removeDynamicConf(const QString &key)
         return;
     }
     if (!mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
-        qCritical() << "ConfStorage::removeDynamicConf() key not found: " << key;
+        if (EntryLog::permits())
+            qCritical() << "ConfStorage::removeDynamicConf() key not found: "
+                        << EntryLog::truncated(key);
         return;
     }
     // Copies, for the reasons given in createDynamicConf.
@@ -84,6 +92,7 @@ void ConfStorage::removeDynamicConf(const QString &key)
 
 void ConfStorage::restoreDynamicConf(const QString &prefix)
 {
+    const EntryLog log;
     const QString start = prefix; // which may refer to a class that a callback destroys
     const QList<QString> keys = mConfValues.keys();
     for (const QString &key : keys) {
@@ -106,6 +115,7 @@ void ConfStorage::restoreDynamicConf(const QString &prefix)
 
 void ConfStorage::loadPresetDynamicConf()
 {
+    const EntryLog log;
     const QList<QString> keys = mPresetDynamicConfs.keys();
     for (const QString &key : keys) {
         if (mConfValues.contains(key) || mRemovedDynamicConfs.contains(key))

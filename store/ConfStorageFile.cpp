@@ -2,6 +2,7 @@
 
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
+#include "EntryLog_p.h"
 #include "PosixFile_p.h"
 #include "SafeFile_p.h"
 
@@ -57,6 +58,7 @@ void ConfStorage::useRobustFiles()
 
 void ConfStorage::saveToLocalConfFile()
 {
+    const EntryLog log;
     if (mLocalSaveFile.isEmpty()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()";
         return;
@@ -127,6 +129,7 @@ bool ConfStorage::saveSafely() const
 
 void ConfStorage::loadLocalConfFile()
 {
+    const EntryLog log;
     if (mLocalSaveFile.isEmpty()) {
         qCritical() << "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()";
         return;

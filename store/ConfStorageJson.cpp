@@ -2,6 +2,7 @@
 
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
+#include "EntryLog_p.h"
 
 #include <QDebug>
 #include <QJsonObject>
@@ -13,11 +14,13 @@ QString addSysMark(const QString &key)
 
 QJsonObject ConfStorage::dumpConf(DumpConfType type) const
 {
+    const EntryLog log;
     return ConfDump(*this, type).toObject();
 }
 
 int ConfStorage::loadConf(const QJsonObject &conf, LoadConfType type)
 {
+    const EntryLog log;
     const auto count = static_cast<int>(conf.size()); // a callback may change it
     ConfLoad(*this, type).loadObject(conf);
     return count;
@@ -25,6 +28,7 @@ int ConfStorage::loadConf(const QJsonObject &conf, LoadConfType type)
 
 bool ConfStorage::loadConf(const QString &json, LoadConfType type)
 {
+    const EntryLog log;
     const bool isObject = ConfLoad(*this, type).loadText(json.toUtf8());
     if (!isObject)
         qCritical() << "ConfStorage::importConf() parse json failed";

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/store/ConfValue.h>
 
+#include "EntryLog_p.h"
+
 #include "ValueText_p.h"
 
 #include <QDebug>
@@ -84,8 +86,9 @@ void fromJson(const QJsonValue &json, QFont &font)
         return;
     if (hasUsableSize(read))
         font = read;
-    else
-        qWarning() << "ConfValue::loadFromJsonValue() font size out of range: " << json.toString();
+    else if (EntryLog::permits())
+        qWarning() << "ConfValue::loadFromJsonValue() font size out of range: "
+                   << EntryLog::truncated(json.toString());
 }
 void fromJson(const QJsonValue &json, QKeySequence &keys)
 {

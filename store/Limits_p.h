@@ -19,4 +19,7 @@ constexpr int sMaxLoggedLength = 200;
 /// Lines about single entries that one call logs. The rest is counted in one more line.
 constexpr int sMaxLoggedEntries = 20;
 
+/// Rows of the table that `ConfStorage::debugTable` returns. The rest is counted in one more line.
+constexpr int sMaxTableRows = 10000;
+
 } // namespace Limits

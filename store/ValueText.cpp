@@ -1,5 +1,8 @@
 #include "ValueText_p.h"
 
+#include "EntryLog_p.h"
+#include "Limits_p.h"
+
 #include "QtCompat_p.h"
 
 #include <QDebug>
@@ -185,9 +188,12 @@ bool readFontText(const QString &text, QFont *font)
 {
     const QString qt5Text = toQt5FontText(text);
     if (qt5Text.isNull()) {
-        qWarning().nospace().noquote()
-            << "QFont::fromString: Invalid description '"
-            << (text.isEmpty() ? QStringLiteral("(empty)") : text) << '\'';
+        if (EntryLog::permits())
+            qWarning().nospace().noquote()
+                << "QFont::fromString: Invalid description '"
+                << (text.isEmpty() ? QStringLiteral("(empty)")
+                                   : EntryLog::printable(text, Limits::sMaxLoggedLength))
+                << '\'';
         return false;
     }
     if (!font->fromString(qt5Text))

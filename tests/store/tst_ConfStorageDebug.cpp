@@ -14,6 +14,10 @@ private Q_SLOTS:
     void everyKeyHasARow();
     void keysWithoutValueOrRecordAreShown();
     void hostileKeysAndLongValuesStayOnOneLine();
+    void longKeysAreTruncated();
+    void controlCharactersAreEscaped_data();
+    void controlCharactersAreEscaped();
+    void tenThousandRowsAreShownAndTheRestIsCounted();
     void printingChangesNothing();
 };
 
@@ -67,6 +71,67 @@ void tst_ConfStorageDebug::hostileKeysAndLongValuesStayOnOneLine()
     const QStringList lines = store.debugTable().split('\n');
     QCOMPARE(lines.size(), 3);
     QVERIFY(lines[1].startsWith("a\\nb  \"" + QString(38, 'x') + QChar(0x2026) + "  "));
+}
+
+void tst_ConfStorageDebug::longKeysAreTruncated()
+{
+    // Every row is as wide as the widest key.
+    ConfStorage store;
+    for (int i = 0; i < 5000; ++i)
+        store.mConfMetas[QString::number(i)];
+    store.mConfMetas[QString(4000000, 'x')];
+    const QString table = store.debugTable();
+    QVERIFY(table.contains('\n' + QString(199, 'x') + QChar(0x2026) + "  -"));
+    QVERIFY(table.size() < 5010 * 300);
+}
+
+void tst_ConfStorageDebug::controlCharactersAreEscaped_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("escape") << "a\x1b[2Jb"
+                            << "a\\u001b[2Jb";
+    QTest::newRow("sequence introducer of one byte") << QString("a") + QChar(0x9b) << "a\\u009b";
+    QTest::newRow("carriage return") << "a\rb"
+                                     << "a\\u000db";
+    QTest::newRow("line separator") << QString("a") + QChar(0x2028) << "a\\u2028";
+    QTest::newRow("reversed direction") << QString("a") + QChar(0x202e) << "a\\u202e";
+    QTest::newRow("half of a pair") << QString("a") + QChar(0xd83d) << "a\\ud83d";
+    QTest::newRow("invisible character of a pair")
+        << QString::fromUtf8("a\xf3\xa0\x81\x81") << "a\\ue0041";
+    QTest::newRow("emoji") << QString::fromUtf8("a\xf0\x9f\x98\x80")
+                           << QString::fromUtf8("a\xf0\x9f\x98\x80");
+    QTest::newRow("pair at the limit") << QString(198, 'x') + QString::fromUtf8("\xf0\x9f\x98\x80")
+                                       << QString(198, 'x') + QString::fromUtf8("\xf0\x9f\x98\x80");
+    QTest::newRow("pair beyond the limit")
+        << QString(199, 'x') + QString::fromUtf8("\xf0\x9f\x98\x80")
+        << QString(199, 'x') + QChar(0x2026);
+}
+
+void tst_ConfStorageDebug::controlCharactersAreEscaped()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    ConfStorage store;
+    store.mConfMetas[text];
+    QVERIFY2(store.debugTable().split('\n')[1].startsWith(shown + "  -"),
+             qPrintable(store.debugTable()));
+}
+
+void tst_ConfStorageDebug::tenThousandRowsAreShownAndTheRestIsCounted()
+{
+    ConfStorage store;
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(1700000001, Qt::UTC);
+    for (int i = 0; i < 9000; ++i)
+        store.mConfMetas[QString::number(i)];
+    for (int i = 0; i < 1000; ++i)
+        store.mRemovedDynamicConfs[QString::number(i)] = time;
+    QVERIFY(!store.debugTable().contains("more"));
+    store.mRemovedDynamicConfs["x"] = time;
+    store.mRemovedDynamicConfs["y"] = time;
+    const QStringList lines = store.debugTable().split('\n');
+    QCOMPARE(lines.size(), 1 + 10000 + 2);
+    QCOMPARE(lines[10001], QString("2 more"));
 }
 
 void tst_ConfStorageDebug::printingChangesNothing()
