@@ -275,8 +275,8 @@ public:
 
     /// Returns the content of the store as a table for debugging: for each key its value, its
     /// default value, whether they differ, the timestamp (UTC) and the flags ("default", "system",
-    /// "local"); then the tombstones. Long keys and values are truncated, and control characters are
-    /// escaped. After 10,000 rows, a line counts the rest.
+    /// "local"); then the tombstones. Long keys and values are truncated, and control characters
+    /// are escaped. After 10,000 rows, a line counts the rest.
     QString debugTable() const;
 
     bool mChanged = false;     ///< something has changed since the local file was written or loaded
