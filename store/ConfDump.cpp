@@ -1,8 +1,7 @@
 #include "ConfDump_p.h"
 
-#include "EntryLog_p.h"
-
 #include "DumpMember_p.h"
+#include "EntryLog_p.h"
 #include "JsonText_p.h"
 
 #include <QDebug>
@@ -72,10 +71,9 @@ void ConfDump::collectRemoved(const ConfStorage &store)
     for (auto it = removed.cbegin(); it != removed.cend(); ++it) {
         const ConfStorage::DynamicConfClass *cls = store.findDynamicConfClass(it.key());
         const bool marked = cls && (cls->flags & ConfStorage::FlagSystemIndependent);
-        if (!cls)
-            if (EntryLog::permits())
-                qCritical() << "dumpConf findDynamicConfClass error : "
-                            << EntryLog::truncated(it.key());
+        if (!cls && EntryLog::permits())
+            qCritical() << "dumpConf findDynamicConfClass error : "
+                        << EntryLog::truncated(it.key());
         mMembers.push_back(
             {marked ? addSysMark(it.key()) : it.key(), it->toSecsSinceEpoch(), nullptr, false});
     }

@@ -1,8 +1,8 @@
 #include "ConfLoad_p.h"
 
-#include "EntryLog_p.h"
-
 #include "DumpMember_p.h"
+#include "EntryLog_p.h"
+#include "JsonText_p.h"
 #include "Limits_p.h"
 #include "PlainDump_p.h"
 
@@ -98,6 +98,8 @@ void ConfLoad::forgetPosition()
 
 bool ConfLoad::loadText(const QByteArray &text)
 {
+    constexpr qint64 sMostGrowth = 6; // of a control character, which becomes an escape
+    mIsSavable = sMostGrowth * text.size() <= mStore.mMaxFileSize;
     if (const auto members = readPlainDump(text, mTimes)) {
         for (const PlainMember &member : *members)
             load(member.key(), member);
@@ -164,6 +166,18 @@ template<class Member> QJsonValue ConfLoad::newValue(const Member &member) const
     return value;
 }
 
+/// Returns whether `value` would make all further saves fail, and logs this.
+bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
+{
+    if (mIsSavable || isSavable(value, mStore.mMaxFileSize))
+        return false;
+    forgetPosition();
+    if (EntryLog::permits())
+        qCritical() << "ConfStorage::loadConf() value could not be saved: "
+                    << EntryLog::truncated(key);
+    return true;
+}
+
 /// Returns whether nothing is left to do for the key.
 template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Member &member)
 {
@@ -202,8 +216,11 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
             meta->lastChangeTime = incoming;
         return true;
     }
+    const bool exists = mStore.mConfValues.contains(key);
+    if (!exists && isRefused(key, value))
+        return true;
     mStore.mRemovedDynamicConfs.remove(key);
-    if (mStore.mConfValues.contains(key))
+    if (exists)
         return false;
     mStore.createDynamicConf(key, value, cls);
     const auto meta = mStore.mConfMetas.find(key);
@@ -241,9 +258,11 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
+    const QJsonValue value = newValue(member);
+    if (isRefused(key, value))
+        return;
     meta->lastChangeTime = timeOfChange(time);
 
-    const QJsonValue value = newValue(member);
     if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;

@@ -31,6 +31,7 @@ private:
     template<class Member> void load(QString key, const Member &member);
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
+    bool isRefused(const QString &key, const QJsonValue &value);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
@@ -46,6 +47,7 @@ private:
     const bool mNullIsDefault;
     const TimeRange mTimes;
     const QString mSystemMark;
+    bool mIsSavable = false; // whether every value of the source can be saved
 
     std::optional<qint64> mLastTime; // later timestamps are too far ahead; null: none is
     int mAheadCount = 0;

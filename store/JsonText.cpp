@@ -1,5 +1,7 @@
 #include "JsonText_p.h"
 
+#include "Limits_p.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -8,6 +10,7 @@
 #include <QLocale>
 #include <QString>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -66,6 +69,41 @@ void appendNumber(QByteArray &text, double number)
         text += fractionText(number);
 }
 
+/// Returns the most bytes that the text of `value` can have, or more than `limit` if they are more
+/// or if `value` has more than `levels` levels.
+qint64 mostBytes(const QJsonValue &value, qint64 limit, int levels)
+{
+    constexpr qint64 sMostOfACharacter = 6; // an escape
+    constexpr qint64 sMostOfANumber = 32;
+    if (value.isString())
+        return sMostOfACharacter * value.toString().size() + 2;
+    if (!value.isArray() && !value.isObject())
+        return sMostOfANumber;
+    qint64 bytes = levels > 0 ? 2 : limit + 1;
+    const QJsonArray array = value.toArray();
+    for (auto it = array.begin(); it != array.end() && bytes <= limit; ++it)
+        bytes += 1 + mostBytes(*it, limit, levels - 1);
+    const QJsonObject object = value.toObject();
+    for (auto it = object.begin(); it != object.end() && bytes <= limit; ++it)
+        bytes += 4 + sMostOfACharacter * it.key().size() + mostBytes(*it, limit, levels - 1);
+    return bytes;
+}
+
+bool hasTooManyLevels(const QJsonValue &value, int levels)
+{
+    if (!value.isArray() && !value.isObject())
+        return false;
+    if (levels == 0)
+        return true;
+    const QJsonArray array = value.toArray();
+    const QJsonObject object = value.toObject();
+    const auto isTooDeep = [levels](const QJsonValue &child) {
+        return hasTooManyLevels(child, levels - 1);
+    };
+    return std::any_of(array.begin(), array.end(), isTooDeep)
+           || std::any_of(object.begin(), object.end(), isTooDeep);
+}
+
 void appendArray(QByteArray &text, const QJsonArray &array)
 {
     text += '[';
@@ -122,4 +160,15 @@ void appendJsonValue(QByteArray &text, const QJsonValue &value)
     case QJsonValue::Null:
     case QJsonValue::Undefined: text += "null"; return;
     }
+}
+
+bool isSavable(const QJsonValue &value, qint64 limit)
+{
+    if (mostBytes(value, limit, Limits::sMaxValueLevels) <= limit)
+        return true;
+    if (hasTooManyLevels(value, Limits::sMaxValueLevels))
+        return false;
+    QByteArray text;
+    appendJsonValue(text, value);
+    return text.size() <= limit;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QByteArray;
 class QJsonValue;
 class QString;
@@ -15,3 +17,6 @@ void appendJsonString(QByteArray &text, const QString &string);
 
 /// Appends a value of any type.
 void appendJsonValue(QByteArray &text, const QJsonValue &value);
+
+/// Returns whether a file with at most `limit` bytes can hold `value` and can be parsed again.
+bool isSavable(const QJsonValue &value, qint64 limit);

@@ -13,6 +13,9 @@ constexpr qint64 sMaxConfigFileSize = 16 * 1024 * 1024;
 /// Bytes of a style sheet, a translation, or the geometry file.
 constexpr qint64 sMaxSmallFileSize = 4 * 1024 * 1024;
 
+/// Levels of arrays and objects in a value. Qt's parser accepts 1,024, two of which the file needs.
+constexpr int sMaxValueLevels = 1022;
+
 /// Characters of a key or a value in one line of the log.
 constexpr int sMaxLoggedLength = 200;
 

@@ -45,6 +45,9 @@ private Q_SLOTS:
     void hugeFileCountsAsEmptyAndIsLogged();
     void hostChoosesTheLargestFile_data();
     void hostChoosesTheLargestFile();
+    void valueThatCouldNotBeSavedIsRefused_data();
+    void valueThatCouldNotBeSavedIsRefused();
+    void createdEntryThatCouldNotBeSavedIsRefused();
     void firstStartCreatesPresetsWithoutSaving();
     void loadingWithoutAPathCreatesNoPresets();
     void newerChangesOfTheStoreAreKept();
@@ -406,6 +409,77 @@ void tst_ConfStorageFile::hostChoosesTheLargestFile()
     mStore->saveToLocalConfFile();
     QVERIFY(!mStore->mChanged);
     QCOMPARE(content(), QByteArray("{\"size\":{\"t\":200,\"v\":10}}"));
+}
+
+void tst_ConfStorageFile::valueThatCouldNotBeSavedIsRefused_data()
+{
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<bool>("accepted");
+    const auto nested = [](int levels) {
+        QJsonArray array;
+        for (int i = 1; i < levels; ++i)
+            array = QJsonArray{array};
+        return array;
+    };
+    const auto row = [](const char *name, const QJsonValue &value, bool accepted) {
+        QTest::newRow(name) << value << accepted;
+    };
+    row("text of the limit", QString(9998, 'a'), true);
+    row("longer text", QString(9999, 'a'), false);
+    row("escapes below the limit", QString(1666, QChar(1)), true);
+    row("escapes beyond the limit", QString(1667, QChar(1)), false);
+    row("object", QJsonObject{{"a", QString(5000, 'a')}, {"b", QString(4985, 'b')}}, true);
+    row("larger object", QJsonObject{{"a", QString(5000, 'a')}, {"b", QString(4988, 'b')}}, false);
+    row("as deep as Qt reads", nested(1022), true);
+    row("deeper", nested(1023), false);
+}
+
+void tst_ConfStorageFile::valueThatCouldNotBeSavedIsRefused()
+{
+    QFETCH(QJsonValue, value);
+    QFETCH(bool, accepted);
+    QString text;
+    QJsonObject object;
+    QJsonArray array;
+    mStore->reserveConf("text", &text);
+    mStore->reserveConf("object", &object);
+    mStore->reserveConf("array", &array);
+    const QString key = value.isString() ? "text" : value.isObject() ? "object" : "array";
+    mStore->mMaxFileSize = 10000;
+    const LogCapture log;
+    mStore->loadConf(QJsonObject{{key, QJsonObject{{"t", 100}, {"v", value}}}},
+                     ConfStorage::LoadLocal);
+    const QString message = "ConfStorage::loadConf() value could not be saved:  \"%1\"";
+    QCOMPARE(log.texts(QtCriticalMsg), accepted ? QStringList() : QStringList(message.arg(key)));
+    QCOMPARE(mStore->mConfMetas[key].lastChangeTime.isValid(), accepted);
+    QCOMPARE(mStore->isEqualToDefault(key), !accepted);
+
+    mStore->mMaxFileSize = 20000;
+    mStore->mChanged = true;
+    mStore->saveToLocalConfFile();
+    text.clear();
+    object = {};
+    array = {};
+    mStore->mConfMetas[key].lastChangeTime = QDateTime();
+    mStore->loadLocalConfFile();
+    QCOMPARE(mStore->isEqualToDefault(key), !accepted);
+}
+
+void tst_ConfStorageFile::createdEntryThatCouldNotBeSavedIsRefused()
+{
+    QStringList created;
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "P.";
+    cls.creator = [&](QString key, const QJsonValue *) { created << key; };
+    mStore->mDynamicConfClasses = {&cls};
+    mStore->mMaxFileSize = 100;
+    const LogCapture log;
+    const QJsonObject large{{"x", QString(100, 'a')}};
+    mStore->loadConf(QJsonObject{{"P.a", QJsonObject{{"t", 100}, {"v", large}}}},
+                     ConfStorage::LoadLocal);
+    QVERIFY(created.isEmpty());
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::loadConf() value could not be saved:  \"P.a\""));
 }
 
 void tst_ConfStorageFile::firstStartCreatesPresetsWithoutSaving()
