@@ -196,9 +196,9 @@ public:
     /// and `RefuseFutureTimes` in `mFileOptions` change what is merged. Returns the number of
     /// members of `conf`.
     ///
-    /// A value that no local file could hold, because it is larger than `mMaxFileSize` or nested too
-    /// deeply, is not loaded. Logs the critical message
-    /// "ConfStorage::loadConf() value could not be saved: " with the key.
+    /// A value that no local file could hold, because it is larger than `mMaxFileSize` or nested
+    /// too deeply, is not loaded. Logs the critical message "ConfStorage::loadConf() value could
+    /// not be saved: " with the key.
     ///
     /// @see dumpConf
     int loadConf(const QJsonObject &conf, LoadConfType type);
