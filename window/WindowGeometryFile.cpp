@@ -55,13 +55,13 @@ public:
             if (!isInRange)
                 return QRect();
         }
-        // QRect adds the size to the position and does not check the sum.
-        for (int i = 0; i < 2; ++i) {
-            const qint64 end = qint64(numbers[i]) + numbers[i + 2] - 1;
-            if (end != static_cast<int>(end))
-                return QRect();
-        }
-        return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+        // Not given as a size, which QRect adds to the position without a check.
+        const qint64 right = qint64(numbers[0]) + numbers[2] - 1;
+        const qint64 bottom = qint64(numbers[1]) + numbers[3] - 1;
+        const QPoint end(static_cast<int>(right), static_cast<int>(bottom));
+        if (end.x() != right || end.y() != bottom)
+            return QRect();
+        return QRect(QPoint(numbers[0], numbers[1]), end);
     }
 
     QByteArray with(const QRect &geometry)

@@ -102,6 +102,8 @@ void tst_WindowGeometryFile::unusualFilesAreReadAndWritten_data()
               "\"\n");
     row("three numbers", "Geometry=@Rect(1 2 3)\n", QRect(), line);
     row("number out of range", "Geometry=@Rect(1 2 3 99999999999)\n", QRect(), line);
+    row("largest numbers", "Geometry=@Rect(1 1 2147483647 2147483647)\n",
+        QRect(QPoint(1, 1), QPoint(2147483647, 2147483647)), line);
     row("sum out of range", "Geometry=@Rect(2147483647 1 2 3)\n", QRect(), line);
     row("text behind", "Geometry=@Rect(1 2 3 4), 5\n", QRect(), line);
 }
