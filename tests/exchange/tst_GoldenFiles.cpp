@@ -1,4 +1,5 @@
 #include "GoldenValues.h"
+#include "support/IgnoreLeaks.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
@@ -261,7 +262,10 @@ void tst_GoldenFiles::fileIsReadAndWritten()
     declare(store, "k", ConfValue::TyInt32);
     writeFile(sLocalFile, text);
     store.mLocalSaveFile = sLocalFile;
-    store.loadLocalConfFile();
+    {
+        const IgnoreLeaks parser;
+        store.loadLocalConfFile();
+    }
     QVERIFY(mLog->messages().isEmpty());
     QTEST(localText(store), "written");
 }
