@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/param.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -163,7 +164,7 @@ bool PosixFile::write(const QByteArray &bytes) const
             return ::write(mDescriptor, bytes.constData() + written,
                            static_cast<size_t>(bytes.size() - written));
         });
-        if (count < 0)
+        if (count <= 0)
             return false;
         written += count;
     }

@@ -461,7 +461,7 @@ void tst_ConfStorageJson::newestTimeIsLocalAndRecordsAreUtc()
 {
     const auto restore = qScopeGuard(
         [zone = qgetenv("TZ")] { zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone); });
-    qputenv("TZ", "XXX-5"); // five hours east
+    qputenv("TZ", "EAST-5"); // five hours east
     ConfStorage::DynamicConfClass cls;
     cls.prefix = "P.";
     mStore->mDynamicConfClasses = {&cls};
