@@ -7,6 +7,9 @@
 #include <MaltoConfiguration/manage/MajorConfItem.h>
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/manage/helpers.h>
+#include <MaltoConfiguration/store/ConfChange.h>
+#include <MaltoConfiguration/store/ConfLoadReport.h>
+#include <MaltoConfiguration/store/ConfOperation.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 #include <MaltoConfiguration/store/ConfValue.h>
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>

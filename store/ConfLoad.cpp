@@ -1,5 +1,6 @@
 #include "ConfLoad_p.h"
 
+#include "ConfObservers_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
@@ -59,7 +60,8 @@ template<class Map> typename Map::iterator findFrom(Map &map,
 } // namespace
 
 ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
-    : mStore(store), mIsLocal(type == ConfStorage::LoadLocal),
+    : mStore(store), mOperation(&store, ConfChange::Cause::Loaded),
+      mIsLocal(type == ConfStorage::LoadLocal),
       mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
       mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
       mSystemMark(addSysMark(QString()))
@@ -210,10 +212,7 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     }
     const QJsonValue value = newValue(member);
     if (value.isUndefined()) {
-        mStore.setToDefault(key, true);
-        const auto meta = mStore.mConfMetas.find(key);
-        if (meta != mStore.mConfMetas.end() && time)
-            meta->lastChangeTime = incoming;
+        mergeDefault(key, incoming, time.has_value());
         return true;
     }
     const bool exists = mStore.mConfValues.contains(key);
@@ -222,23 +221,47 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     mStore.mRemovedDynamicConfs.remove(key);
     if (exists)
         return false;
-    mStore.createDynamicConf(key, value, cls);
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Created);
+    const bool isCreated = mStore.createDynamic(key, value, cls);
     const auto meta = mStore.mConfMetas.find(key);
     if (meta != mStore.mConfMetas.end())
         meta->lastChangeTime = incoming;
     else if (EntryLog::permits())
         qCritical() << "createDynamicConf Not create conf: " << EntryLog::truncated(key);
+    if (isCreated)
+        ConfObservers::finishChange(mStore, change);
     return true;
+}
+
+void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed)
+{
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
+    const auto known = mStore.mConfMetas.constFind(key);
+    const bool isPresent = mStore.mConfValues.contains(key);
+    const bool isDefault = known != mStore.mConfMetas.constEnd()
+                           && (known->flags & ConfStorage::FlagIsDefault);
+    if (isPresent)
+        mStore.restore(key, incoming);
+    else
+        mStore.restorePreset(key, incoming);
+    const auto meta = mStore.mConfMetas.find(key);
+    if (meta != mStore.mConfMetas.end() && isTimed)
+        meta->lastChangeTime = incoming;
+    if (isPresent && isDefault)
+        ConfObservers::finishChange(mStore, change); // only the timestamp has changed
 }
 
 void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
 {
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Removed);
     const bool isPresent = mStore.mConfValues.contains(key);
     if (isPresent)
-        mStore.removeDynamicConf(key);
+        mStore.removeDynamic(key);
     const QDateTime removed = mStore.mRemovedDynamicConfs.value(key);
-    if (isPresent || !storedWins(removed, incoming))
-        mStore.mRemovedDynamicConfs[key] = incoming;
+    if (!isPresent && storedWins(removed, incoming))
+        return;
+    mStore.mRemovedDynamicConfs[key] = incoming;
+    ConfObservers::finishChange(mStore, change);
 }
 
 template<class Member> void ConfLoad::loadStatic(const QString &key, const Member &member)
@@ -261,20 +284,29 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     const QJsonValue value = newValue(member);
     if (isRefused(key, value))
         return;
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     meta->lastChangeTime = timeOfChange(time);
 
-    if (!value.isUndefined() && !meta->changedCallback && isSilent(*stored)) {
+    if (!value.isUndefined() && !meta->changedCallback && !change && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;
         return;
     }
     forgetPosition();
     if (value.isUndefined()) {
-        mStore.setToDefault(key, false);
+        if (meta->flags & ConfStorage::FlagIsDefault)
+            ConfObservers::finishChange(mStore, change);
+        else
+            mStore.restore(key, QDateTime());
         return;
     }
     if (!mStore.loadValue(key, value))
         return;
+    if (change) {
+        mStore.mConfMetas[key].flags &= ~ConfStorage::FlagIsDefault;
+        mStore.finishChange(change);
+        return;
+    }
     mStore.callChangedCallback(key, mStore.mConfMetas[key]);
     // Looked up again: the callback may have removed the key.
     const auto record = mStore.mConfMetas.find(key);

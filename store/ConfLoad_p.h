@@ -1,5 +1,6 @@
 #pragma once
 
+#include <MaltoConfiguration/store/ConfOperation.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "DumpMember_p.h"
@@ -36,6 +37,7 @@ private:
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
     template<class Member> void loadStatic(const QString &key, const Member &member);
+    void mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed);
     void mergeRemoval(const QString &key, const QDateTime &incoming);
 
     QMap<QString, ConfValue>::iterator valueOf(const QString &key);
@@ -43,6 +45,7 @@ private:
     void forgetPosition();
 
     ConfStorage &mStore;
+    const ConfOperation mOperation;
     const bool mIsLocal; // any type but LoadLocal is a shared load
     const bool mNullIsDefault;
     const TimeRange mTimes;

@@ -1,6 +1,15 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "Autosave_p.h"
+#include "ConfObservers_p.h"
+#include "ConfVersions_p.h"
 #include "EntryLog_p.h"
+#include "FileSharing_p.h"
+#include "FileWatch_p.h"
+#include "KeptEntries_p.h"
+#include "LockedConfs_p.h"
+
+#include <MaltoConfiguration/store/ConfLoadReport.h>
 
 #include <QDebug>
 #include <QJsonObject>
@@ -16,6 +25,10 @@ namespace {
 constexpr int sMaxCallbackDepth = 200;
 
 } // namespace
+
+ConfStorage::ConfStorage() = default;
+
+ConfStorage::~ConfStorage() = default;
 
 ConfStorage *ConfStorage::instance()
 {
@@ -51,22 +64,43 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
     mConfMetas[exactKey] = meta;
 }
 
+void ConfStorage::releaseConf(const QString &key)
+{
+    const QString name = key; // which may refer to one of the maps
+    mConfValues.remove(name);
+    mConfMetas.remove(name);
+}
+
 void ConfStorage::setToDefault(const QString &key, bool updateTime)
 {
-    const auto value = mConfValues.find(key);
-    if (value != mConfValues.end()) {
-        const auto meta = mConfMetas.find(key);
-        if (meta == mConfMetas.end() || (meta->flags & FlagIsDefault))
-            return;
-        value->set(meta->defaultValue);
-        if (updateTime)
-            meta->lastChangeTime = QDateTime::currentDateTimeUtc();
-        meta->flags |= FlagIsDefault;
-        callChangedCallback(key, *meta);
-        mChanged = true;
-        return;
-    }
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (mConfValues.contains(key))
+        restore(key, updateTime ? now : QDateTime());
+    else
+        restorePreset(key, now);
+}
 
+/// Restores the default value of a key that exists. A null time keeps the timestamp.
+void ConfStorage::restore(const QString &key, const QDateTime &time)
+{
+    const auto meta = mConfMetas.find(key);
+    if (meta == mConfMetas.end() || (meta->flags & FlagIsDefault))
+        return;
+    const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Restored);
+    mConfValues[key].set(meta->defaultValue);
+    if (!time.isNull())
+        meta->lastChangeTime = time;
+    meta->flags |= FlagIsDefault;
+    if (change)
+        finishChange(change);
+    else
+        callChangedCallback(key, *meta);
+    mChanged = true;
+}
+
+/// Creates a key that does not exist from its preset, with the timestamp `time`.
+void ConfStorage::restorePreset(const QString &key, const QDateTime &time)
+{
     const auto preset = mPresetDynamicConfs.constFind(key);
     if (preset == mPresetDynamicConfs.constEnd()) {
         // Deliberately the message of `set`: both mean that the key is not reserved.
@@ -76,11 +110,17 @@ void ConfStorage::setToDefault(const QString &key, bool updateTime)
     }
     // Copies, because the creator may change the presets.
     const QString name = key;
-    const QJsonValue presetValue = *preset;
-    createDynamicConf(name, presetValue, nullptr);
+    const QJsonValue value = *preset;
+    const ChangePtr change = ConfObservers::beginChange(*this, name, ConfChange::Cause::Restored);
+    const bool isCreated = createDynamic(name, value, nullptr);
     const auto meta = mConfMetas.find(name);
-    if (meta != mConfMetas.end())
+    if (meta != mConfMetas.end()) {
         meta->flags |= FlagIsDefault;
+        if (isCreated || time.isNull())
+            meta->lastChangeTime = time;
+    }
+    if (isCreated)
+        ConfObservers::finishChange(*this, change);
     mChanged = true;
 }
 
@@ -104,13 +144,25 @@ void ConfStorage::setConfChangedCallback(const QString &key, ConfChangedCallback
 }
 
 /// `value` is the entry of the key if the caller knows that it is still valid, or else null.
-void ConfStorage::markUserChange(const QString &key, ConfValue *value)
+void ConfStorage::markUserChange(const QString &key, ConfValue *value, const ChangePtr &change)
 {
     ConfMeta &meta = mConfMetas[key];
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
     meta.flags &= ~FlagIsDefault;
-    callChangedCallback(key, meta, value);
+    if (change)
+        finishChange(change);
+    else
+        callChangedCallback(key, meta, value);
     mChanged = true;
+}
+
+/// Calls the observers, then the callback of the key, which an observer may have removed.
+void ConfStorage::finishChange(const ChangePtr &change)
+{
+    ConfObservers::finishChange(*this, change);
+    const auto meta = mConfMetas.constFind(change->key);
+    if (meta != mConfMetas.constEnd())
+        callChangedCallback(change->key, *meta);
 }
 
 void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value)
@@ -134,6 +186,7 @@ void ConfStorage::callChangedCallback(const QString &key, const ConfMeta &meta, 
     const QString name = key;
     const ConfChangedCallback callback = meta.changedCallback;
     const QScopedValueRollback<int> depth(mCallbackDepth, mCallbackDepth + 1);
+    const ConfObservers::HostCode hostCode(mObservers);
     callback(name, value ? value : &mConfValues[name]);
 }
 

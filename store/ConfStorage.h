@@ -11,10 +11,21 @@
 #include <QMap>
 #include <QSet>
 #include <QString>
+#include <QVector>
 
 #include <functional>
+#include <memory>
 
+class Autosave;
+class ConfObservers;
+class ConfVersions;
+class FileSharing;
+class FileWatch;
+class KeptEntries;
+class LockedConfs;
 class QJsonObject;
+struct ConfChange;
+struct ConfLoadReport;
 
 /// A callback that the store calls after the value of a key has changed. `value` points to the
 /// entry of the key in the store. It is valid until the callback removes the key or reserves it
@@ -125,7 +136,37 @@ public:
         /// message, the warning "ConfStorage::loadConf() timestamps too far ahead refused: " or
         /// "ConfStorage::loadConf() timestamps too far ahead: " with the number of these entries
         /// and the first key. Without it they are merged by every load, and nothing is logged.
-        RefuseFutureTimes = 8
+        RefuseFutureTimes = 8,
+        /// Lets several programs change the local file at the same time. A save reads the file
+        /// under a lock, merges it entry by entry and writes it. An entry that this store has not
+        /// changed since it last read the file keeps what the file says; the callbacks of such
+        /// entries are called after the save. See docs/guide/files.md.
+        SharedFile = 0x10,
+        /// Loads the changes that other programs make to the local file within a second. Needs an
+        /// event loop. Without `SharedFile` an entry is taken only if it is newer.
+        WatchFile = 0x20,
+        /// Copies a local file that cannot be parsed aside before it is overwritten, and loads the
+        /// content of the last good save. The copy is named as the file, with ".damaged-" and the
+        /// time in UTC; the newest three are kept. Keeps a backup of the file beside it, with the
+        /// ending ".backup".
+        KeepDamagedFiles = 0x40,
+        /// Keeps the entries of keys that are not declared, and writes them back to the local
+        /// file. They are merged as others are, and set the value when the key is reserved later,
+        /// without calling its callback. `DumpShared` and `DumpChangedOnly` leave them out.
+        KeepUnknownEntries = 0x80,
+        /// Refuses values whose JSON type is not that of the setting. The variable keeps its
+        /// value, and with `KeepUnknownEntries` or `SharedFile` the local file keeps the entry.
+        /// Without it such values are converted by Qt's lenient rules, `"12"` to the number 0.
+        StrictTypes = 0x100,
+        /// Decides ties by the content of the entries, so that all copies that merge each other's
+        /// dumps end with the same values. Without it each copy keeps its own value in a tie.
+        ResolveTies = 0x200,
+        /// Makes new files readable by their owner only: the local file, its journal and backup,
+        /// and copies of damaged files. Existing files keep their permissions.
+        OwnerOnlyFiles = 0x400,
+        /// Lets `MtConf::MtConfManage::loadFromFile` lock values: a member "locked" that is true
+        /// beside "value". See `isLocked`.
+        LockedValues = 0x800
     };
 
     /// Returns the store of the process. The first call creates it, empty; it is never destroyed.
@@ -133,7 +174,9 @@ public:
 
     /// Constructs an empty store. Hosts use `instance()`, as items and windows do. A separate store
     /// is for tools that merge copies of a configuration.
-    ConfStorage() = default;
+    ConfStorage();
+    /// Destroys the store without saving it.
+    ~ConfStorage();
     Q_DISABLE_COPY(ConfStorage)
 
     /// Makes the store as it was when it was constructed: without keys, presets, classes,
@@ -147,6 +190,12 @@ public:
     /// of `ConfValue`. Logs the critical message "ConfStorage::reserveConf null pointer: " with the
     /// key and reserves nothing if `ptr` is null.
     template<class T> void reserveConf(const QString &key, T *ptr);
+
+    /// Ends the binding of `key` to its variable, which may be destroyed afterwards, and removes
+    /// the callback. For plug-ins that are unloaded. With `KeepUnknownEntries` or `SharedFile` the
+    /// local file keeps the entry, and a later `reserveConf` gets its value. Calls no callback and
+    /// leaves no tombstone. Does nothing if the key is unknown.
+    void releaseConf(const QString &key);
 
     /// Returns the value of `key`. Logs the critical message "ConfStorage::get key not found: "
     /// with the key if it is unknown, or what `ConfValue::get` logs if it is reserved for another
@@ -171,6 +220,22 @@ public:
     /// Sets the callback of `key` and replaces an earlier one. Logs the debug message
     /// "ConfStorage::setConfChangedCallback key not found: " with the key if it is unknown.
     void setConfChangedCallback(const QString &key, ConfChangedCallback cb);
+
+    /// Calls `observer` for each operation on a key, once, before the callback of the key: for
+    /// changes by `set`, `setToDefault`, `loadValueFromJson` and loads, for the creation and the
+    /// removal of dynamic keys, and if `reserveConf` sets a value from a kept entry. Observers are
+    /// called in the order in which they were added. A host that writes its variable or the public
+    /// maps causes no event. Returns an id for `removeObserver`.
+    ///
+    /// Observers may change the store, and so cause further events. If more than 200 are nested,
+    /// the store logs the critical message "ConfStorage::addObserver nested too deeply: " with the
+    /// key, and calls no observer until the outermost one has returned.
+    ///
+    /// @see ConfChange, ConfOperation
+    int addObserver(std::function<void(const ConfChange &change)> observer);
+
+    /// Removes an observer, which is not called any more. Does nothing if `id` is unknown.
+    void removeObserver(int id);
 
     /// Sets the value of `key` from JSON like a change by the user: updates the timestamp and calls
     /// the callback. Ignores an unknown key silently. With `NullIsDefault` null restores the
@@ -206,6 +271,14 @@ public:
     /// Parses `json` and merges it. Returns false and logs the critical message
     /// "ConfStorage::importConf() parse json failed" if it is not a JSON object.
     bool loadConf(const QString &json, LoadConfType type);
+
+    /// Returns what the last call of `loadConf` or `loadLocalConfFile` did.
+    ConfLoadReport lastLoad() const;
+
+    /// Returns the changes that `loadConf` would make, without making them: key, state before and
+    /// after, cause and time. Creators, removers and callbacks are not called, so what they would
+    /// change in answer is not included.
+    QVector<ConfChange> previewLoad(const QJsonObject &conf, LoadConfType type) const;
 
     /// Merges one member of a dump. `key` may have a system mark.
     void loadSingleConf(QString key, const QJsonValue &value, LoadConfType type);
@@ -250,9 +323,39 @@ public:
     /// creator loads an entry of the key that it is creating.
     bool loadLoadDynamicConf(QString key, QJsonValue value, const DynamicConfClass *cls);
 
-    /// Sets all bits of `mFileOptions` that a new host should have: `SafeSave`, `LongTimes`,
-    /// `NullIsDefault` and `RefuseFutureTimes`.
+    /// Sets all bits of `mFileOptions`, as a new host should, and saves automatically one second
+    /// after the last change.
+    ///
+    /// @see setAutosave
     void useRobustFiles();
+
+    /// Saves the local file when nothing has changed for `quietTime` milliseconds, when the
+    /// application ends and when the session manager ends the session. A negative time switches
+    /// this off, as it is by default. Needs an event loop. Changes without an event, such as
+    /// writing a variable, are not noticed.
+    ///
+    /// @see addObserver
+    void setAutosave(int quietTime);
+
+    /// Returns whether an administrator has fixed the value of `key`. Then every change of it is
+    /// ignored, and the local file keeps the value of the user.
+    bool isLocked(const QString &key) const;
+
+    /// Fixes the value of `key` as `value`, in JSON as `ConfValue::toJsonValue` returns it, and
+    /// calls the callback if it changes. Does nothing if the key is unknown.
+    void lockConf(const QString &key, const QJsonValue &value);
+
+    /// Makes entries of `formerName` entries of `key`: the newest of both wins. With `keepEntry`
+    /// the local file keeps the entry of the former name for older versions of the program.
+    ///
+    /// @see MtConf::ConfItem::addFormerName
+    void addFormerName(const QString &key, const QString &formerName, bool keepEntry = true);
+
+    /// Sets the function that converts values of `key` in files and dumps from an older form to
+    /// the current one. It gets every value that is loaded for the key and must return values of
+    /// the current form unchanged.
+    void setConfConverter(const QString &key,
+                          std::function<QJsonValue(const QJsonValue &value)> converter);
 
     /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed
     /// since the file was last written or loaded. The file is rewritten in place. Logs the debug
@@ -305,13 +408,21 @@ public:
 
 private:
     friend class ConfLoad;
+    friend class ConfObservers;
+    friend class ConfOperation;
+    friend class FileSharing;
+    using ChangePtr = std::shared_ptr<ConfChange>;
     void reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current);
     bool loadValue(const QString &key, const QJsonValue &json);
-    void markUserChange(const QString &key, ConfValue *value);
+    void markUserChange(const QString &key, ConfValue *value, const ChangePtr &change);
+    ChangePtr beginSet(const QString &key) const;
+    void finishChange(const ChangePtr &change);
+    void restore(const QString &key, const QDateTime &time);
+    void restorePreset(const QString &key, const QDateTime &time);
+    bool createDynamic(const QString &key, const QJsonValue &value, const DynamicConfClass *cls);
+    bool removeDynamic(const QString &key);
     void callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value = nullptr);
     bool isDynamicWithoutPreset(const QString &key) const;
-    bool saveInPlace() const;
-    bool saveSafely() const;
     static void logNullPointer(const QString &key);
     static void logGetNotFound(const QString &key);
     static void logSetNotFound(const QString &key);
@@ -320,6 +431,16 @@ private:
     int mCallbackDepth = 0;
     bool mCallbacksStopped = false;
     QSet<QString> mBusyDynamicConfs; // whose creator or remover is running
+
+    // Null unless the host asks for them.
+    std::shared_ptr<ConfObservers> mObservers;
+    std::unique_ptr<ConfLoadReport> mLastLoad;
+    std::unique_ptr<KeptEntries> mKeptEntries;
+    std::unique_ptr<ConfVersions> mVersions;
+    std::unique_ptr<LockedConfs> mLockedConfs;
+    std::unique_ptr<FileSharing> mFileSharing;
+    std::unique_ptr<FileWatch> mFileWatch;
+    std::unique_ptr<Autosave> mAutosave;
 };
 
 template<class T> void ConfStorage::reserveConf(const QString &key, T *ptr)
@@ -341,10 +462,13 @@ template<class T> T ConfStorage::get(const QString &key) const
 
 template<class T> void ConfStorage::set(const QString &key, const T &value)
 {
+    if (mLockedConfs && isLocked(key))
+        return;
+    const ChangePtr change = mObservers ? beginSet(key) : nullptr;
     const auto stored = mConfValues.find(key);
     if (stored != mConfValues.end() && stored->mType == ConfValue::typeOf<T>()) {
         stored->template set<T>(value);
-        markUserChange(key, &*stored);
+        markUserChange(key, &*stored, change);
         return;
     }
     // Logging may call a handler of the host, which may change the store.
@@ -353,7 +477,7 @@ template<class T> void ConfStorage::set(const QString &key, const T &value)
     else
         logSetNotFound(key);
     // An unknown key gets a record, too: its timestamp counts in calcLastConfTime.
-    markUserChange(key, nullptr);
+    markUserChange(key, nullptr, change);
 }
 
 /// Returns the name under which a system-independent key is written: `key` + "#s.mac". There is one

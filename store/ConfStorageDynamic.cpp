@@ -1,6 +1,9 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfObservers_p.h"
 #include "EntryLog_p.h"
+
+#include <MaltoConfiguration/store/ConfOperation.h>
 
 #include <QDebug>
 #include <QJsonValue>
@@ -30,17 +33,26 @@ const ConfStorage::DynamicConfClass *ConfStorage::findDynamicConfClass(const QSt
 void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
                                     const DynamicConfClass *cls)
 {
+    const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Created);
+    if (createDynamic(key, value, cls))
+        ConfObservers::finishChange(*this, change);
+}
+
+/// Creates a key without calling the observers. Returns whether it was created.
+bool ConfStorage::createDynamic(const QString &key, const QJsonValue &value,
+                                const DynamicConfClass *cls)
+{
     if (!cls)
         cls = findDynamicConfClass(key);
     if (!cls) {
         logClassNotFound(key);
-        return;
+        return false;
     }
     if (mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
         if (EntryLog::permits())
             qCritical() << "ConfStorage::createDynamicConf() key already exists: "
                         << EntryLog::truncated(key);
-        return;
+        return false;
     }
     // Copies, because `key` may refer to a map that changes here, and the creator is code of the
     // host: it may even replace the class.
@@ -51,8 +63,10 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
 
     mRemovedDynamicConfs.remove(name);
     mBusyDynamicConfs.insert(name);
-    if (creator)
+    if (creator) {
+        const ConfObservers::HostCode hostCode(mObservers);
         creator(name, &initial);
+    }
     mBusyDynamicConfs.remove(name);
     // Again, because the creator may have loaded a removal of its own key. Creating a key drops its
     // tombstone whatever its timestamp, and is the newer change: it gets its own timestamp now.
@@ -62,37 +76,50 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
     meta.lastChangeTime = QDateTime::currentDateTimeUtc();
     meta.flags |= flags;
     mChanged = true;
+    return true;
 }
 
 void ConfStorage::removeDynamicConf(const QString &key)
 {
+    const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Removed);
+    if (removeDynamic(key))
+        ConfObservers::finishChange(*this, change);
+}
+
+/// Removes a key without calling the observers. Returns whether it was removed.
+bool ConfStorage::removeDynamic(const QString &key)
+{
     const DynamicConfClass *cls = findDynamicConfClass(key);
     if (!cls) {
         logClassNotFound(key);
-        return;
+        return false;
     }
     if (!mConfValues.contains(key) || mBusyDynamicConfs.contains(key)) {
         if (EntryLog::permits())
             qCritical() << "ConfStorage::removeDynamicConf() key not found: "
                         << EntryLog::truncated(key);
-        return;
+        return false;
     }
     // Copies, for the reasons given in createDynamicConf.
     const QString name = key;
     const auto remover = cls->remover;
     mBusyDynamicConfs.insert(name);
-    if (remover)
+    if (remover) {
+        const ConfObservers::HostCode hostCode(mObservers);
         remover(name);
+    }
     mBusyDynamicConfs.remove(name);
     mRemovedDynamicConfs[name] = QDateTime::currentDateTimeUtc();
     mConfValues.remove(name);
     mConfMetas.remove(name);
     mChanged = true;
+    return true;
 }
 
 void ConfStorage::restoreDynamicConf(const QString &prefix)
 {
     const EntryLog log;
+    const ConfOperation operation(this);
     const QString start = prefix; // which may refer to a class that a callback destroys
     const QList<QString> keys = mConfValues.keys();
     for (const QString &key : keys) {
@@ -116,14 +143,11 @@ void ConfStorage::restoreDynamicConf(const QString &prefix)
 void ConfStorage::loadPresetDynamicConf()
 {
     const EntryLog log;
+    const ConfOperation operation(this);
     const QList<QString> keys = mPresetDynamicConfs.keys();
     for (const QString &key : keys) {
-        if (mConfValues.contains(key) || mRemovedDynamicConfs.contains(key))
-            continue;
-        setToDefault(key, true);
         // A preset that was never changed is not dumped, and does not count as a change.
-        const auto meta = mConfMetas.find(key);
-        if (meta != mConfMetas.end())
-            meta->lastChangeTime = QDateTime();
+        if (!mConfValues.contains(key) && !mRemovedDynamicConfs.contains(key))
+            restorePreset(key, QDateTime());
     }
 }

@@ -2,6 +2,7 @@
 
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
+#include "ConfObservers_p.h"
 #include "EntryLog_p.h"
 
 #include <QDebug>
@@ -49,10 +50,13 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
     const bool isDefault = (mFileOptions & NullIsDefault)
                            && (value.isNull() || value.isUndefined());
-    if (isDefault && mConfValues.contains(key))
+    if (isDefault && mConfValues.contains(key)) {
         setToDefault(key, true);
-    else if (loadValue(key, value))
-        markUserChange(key, nullptr);
+        return;
+    }
+    const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Set);
+    if (loadValue(key, value))
+        markUserChange(key, nullptr, change);
 }
 
 /// Returns whether the key exists, before and after its value is loaded.

@@ -1,0 +1,37 @@
+#pragma once
+
+/// @file
+
+#include <QString>
+#include <QVector>
+
+/// What one load did.
+///
+/// @see ConfStorage::lastLoad
+/// @since 0.1
+struct ConfLoadReport
+{
+    /// Why an entry was refused.
+    enum class Reason {
+        WrongType,    ///< the value has another JSON type than the setting; see `StrictTypes`
+        NotSavable,   ///< no local file could hold the value
+        FutureTime,   ///< the timestamp is too far ahead; see `RefuseFutureTimes`
+        LimitExceeded ///< a key that is too long, or one key too many
+    };
+
+    /// An entry that was not merged.
+    struct Refusal
+    {
+        QString key;
+        Reason reason;
+    };
+
+    QString file;             ///< the path of the file; empty for a dump
+    int taken = 0;            ///< entries that changed the store, or are already in it
+    int newerHere = 0;        ///< entries that are not newer than the change in the store
+    int unknown = 0;          ///< entries of keys that are not declared
+    QVector<Refusal> refused; ///< at most 20, the first ones
+    int refusedCount = 0;     ///< of all refused entries
+    bool isDamaged = false;   ///< whether the file could not be parsed
+    QString damagedCopy;      ///< where a copy of the damaged file is; empty if there is none
+};

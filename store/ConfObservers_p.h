@@ -1,0 +1,68 @@
+#pragma once
+
+#include <MaltoConfiguration/store/ConfChange.h>
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QVector>
+
+#include <memory>
+#include <optional>
+
+/// The observers of a store, and the operation that is running. Exists only in a store that has, or
+/// had, an observer.
+class ConfObservers
+{
+public:
+    int add(ConfObserver observer);
+    void remove(int id);
+    bool isEmpty() const { return mObservers.isEmpty(); }
+
+    /// Begins an operation, whose direct changes have the cause `cause`, or keep their own cause if
+    /// it is null. Each call needs one of `end`.
+    void begin(std::optional<ConfChange::Cause> cause);
+    void end();
+
+    /// Begins a change of `key` with the cause `cause`, unless the running operation has another
+    /// one. Returns null if nobody observes `store`. The change is an operation as long as the
+    /// pointer is kept.
+    static std::shared_ptr<ConfChange> beginChange(const ConfStorage &store, const QString &key,
+                                                   ConfChange::Cause cause)
+    {
+        return store.mObservers ? newChange(store, key, cause) : nullptr;
+    }
+    /// Calls the observers with `change`, which is complete now. Does nothing if it is null.
+    static void finishChange(const ConfStorage &store, const std::shared_ptr<ConfChange> &change);
+
+    /// Marks that code of the host runs during the lifetime of the object: what it changes belongs
+    /// to the same operation and has causes of its own.
+    class HostCode
+    {
+    public:
+        explicit HostCode(const std::shared_ptr<ConfObservers> &observers);
+        ~HostCode();
+        Q_DISABLE_COPY(HostCode)
+
+    private:
+        const std::shared_ptr<ConfObservers> mObservers; // may be null
+    };
+
+private:
+    struct Entry
+    {
+        int id;
+        ConfObserver observer;
+    };
+
+    static std::shared_ptr<ConfChange> newChange(const ConfStorage &store, const QString &key,
+                                                 ConfChange::Cause cause);
+    const Entry *find(int id) const;
+    /// Calls every observer that was added before the call and is not removed during it.
+    void notify(const ConfChange &change);
+
+    QVector<Entry> mObservers;
+    int mLastId = 0;
+    int mNotifyDepth = 0;
+    bool mIsStopped = false;
+    quint64 mLastOperation = 0;
+    QVector<std::optional<ConfChange::Cause>> mCauses; // of the running operations
+};

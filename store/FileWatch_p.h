@@ -1,0 +1,6 @@
+#pragma once
+
+/// Hears when other programs change the local file.
+class FileWatch
+{
+};
