@@ -85,7 +85,12 @@ void ConfObservers::begin(std::optional<ConfChange::Cause> cause)
 {
     if (mCauses.isEmpty())
         ++mLastOperation;
-    mCauses.append(cause);
+    mCauses.append(cause || mCauses.isEmpty() ? cause : mCauses.last());
+}
+
+void ConfObservers::beginHostCode()
+{
+    mCauses.append(std::nullopt);
 }
 
 void ConfObservers::end()
@@ -130,7 +135,7 @@ ConfObservers::HostCode::HostCode(const std::shared_ptr<ConfObservers> &observer
     : mObservers(observers)
 {
     if (mObservers)
-        mObservers->begin(std::nullopt);
+        mObservers->beginHostCode();
 }
 
 ConfObservers::HostCode::~HostCode()

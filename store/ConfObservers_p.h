@@ -15,10 +15,10 @@ class ConfObservers
 public:
     int add(ConfObserver observer);
     void remove(int id);
-    bool isEmpty() const { return mObservers.isEmpty(); }
+    void removeAll() { mObservers.clear(); }
 
-    /// Begins an operation, whose direct changes have the cause `cause`, or keep their own cause if
-    /// it is null. Each call needs one of `end`.
+    /// Begins an operation, whose direct changes have the cause `cause`, or that of the operation
+    /// around it if it is null. Each call needs one of `end`.
     void begin(std::optional<ConfChange::Cause> cause);
     void end();
 
@@ -53,6 +53,7 @@ private:
         ConfObserver observer;
     };
 
+    void beginHostCode();
     static std::shared_ptr<ConfChange> newChange(const ConfStorage &store, const QString &key,
                                                  ConfChange::Cause cause);
     const Entry *find(int id) const;
@@ -64,5 +65,5 @@ private:
     int mNotifyDepth = 0;
     bool mIsStopped = false;
     quint64 mLastOperation = 0;
-    QVector<std::optional<ConfChange::Cause>> mCauses; // of the running operations
+    QVector<std::optional<ConfChange::Cause>> mCauses; // of the running operations; null: any
 };

@@ -38,6 +38,8 @@ ConfStorage *ConfStorage::instance()
 
 void ConfStorage::clear()
 {
+    if (mObservers)
+        mObservers->removeAll(); // some may be about to be called
     // Constructed again in place, because a list of the members would miss the next one.
     this->~ConfStorage();
     new (this) ConfStorage;
