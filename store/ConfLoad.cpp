@@ -180,6 +180,26 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
     return true;
 }
 
+/// Returns whether a file may not add the key to the store, and logs this.
+bool ConfLoad::isBeyondLimits(const QString &key) const
+{
+    const bool isLong = key.size() > Limits::sMaxKeyLength;
+    // Records, because a key has one even if its creator did not accept the value.
+    const bool isFull = mStore.mConfMetas.size() + mStore.mRemovedDynamicConfs.size()
+                        >= Limits::sMaxKeys;
+    if (!isLong && !isFull)
+        return false;
+    if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
+        return false; // adds nothing
+    if (!EntryLog::permits())
+        return true;
+    if (isLong)
+        qCritical() << "ConfStorage::loadConf() key too long: " << EntryLog::truncated(key);
+    else
+        qCritical() << "ConfStorage::loadConf() too many keys: " << EntryLog::truncated(key);
+    return true;
+}
+
 /// Returns whether nothing is left to do for the key.
 template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Member &member)
 {
@@ -216,7 +236,7 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
         return true;
     }
     const bool exists = mStore.mConfValues.contains(key);
-    if (!exists && isRefused(key, value))
+    if (!exists && (isBeyondLimits(key) || isRefused(key, value)))
         return true;
     mStore.mRemovedDynamicConfs.remove(key);
     if (exists)
@@ -253,6 +273,8 @@ void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool 
 
 void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
 {
+    if (isBeyondLimits(key))
+        return;
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Removed);
     const bool isPresent = mStore.mConfValues.contains(key);
     if (isPresent)

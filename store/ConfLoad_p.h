@@ -33,6 +33,7 @@ private:
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
+    bool isBeyondLimits(const QString &key) const;
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);

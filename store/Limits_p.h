@@ -10,11 +10,20 @@ namespace Limits {
 /// `ConfStorage::mMaxFileSize`, which has the same value.
 constexpr qint64 sMaxConfigFileSize = 16 * 1024 * 1024;
 
-/// Bytes of a style sheet, a translation, or the geometry file.
+/// Bytes of a style sheet or a translation.
 constexpr qint64 sMaxSmallFileSize = 4 * 1024 * 1024;
+
+/// Bytes of the file with the geometry of the window.
+constexpr qint64 sMaxGeometryFileSize = 64 * 1024;
 
 /// Levels of arrays and objects in a value. Qt's parser accepts 1,024, two of which the file needs.
 constexpr int sMaxValueLevels = 1022;
+
+/// Characters (UTF-16 units) of a dynamic key that a file or a dump adds.
+constexpr int sMaxKeyLength = 65536;
+
+/// Keys and tombstones of a store to which a file or a dump can add another one.
+constexpr int sMaxKeys = 1000000;
 
 /// Characters of a key or a value in one line of the log.
 constexpr int sMaxLoggedLength = 200;
