@@ -1,5 +1,6 @@
 #include "WindowGeometryFile_p.h"
 
+#include "MaltoConfiguration/store/Limits_p.h"
 #include "MaltoConfiguration/store/PosixFile_p.h"
 
 #include <QDebug>
@@ -11,7 +12,6 @@ namespace {
 
 using Status = PosixFile::Status;
 
-constexpr qint64 sMaxFileSize = 64 * 1024;
 constexpr int sLockMilliseconds = 500;
 
 const QByteArray &sectionLine()
@@ -94,7 +94,7 @@ private:
 
 WindowGeometryFile::Saved WindowGeometryFile::read() const
 {
-    const PosixFile::Content content = PosixFile::read(mPath, sMaxFileSize);
+    const PosixFile::Content content = PosixFile::read(mPath, Limits::sMaxGeometryFileSize);
     if (content.status == Status::Missing)
         return {};
     if (content.status != Status::Done) {
@@ -120,7 +120,8 @@ bool WindowGeometryFile::replace(const QRect &geometry) const
     if ((opened != Status::Done && opened != Status::Missing) || !lock.tryLock(sLockMilliseconds))
         return false;
     const bool exists = opened == Status::Done;
-    const PosixFile::Content content = exists ? file.read(sMaxFileSize) : PosixFile::Content();
+    const PosixFile::Content content = exists ? file.read(Limits::sMaxGeometryFileSize)
+                                              : PosixFile::Content();
     if (content.status == Status::Failed)
         return false;
     // Renamed into place, so that a crash leaves the old or the new file.

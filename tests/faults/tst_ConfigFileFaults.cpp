@@ -32,6 +32,8 @@ private Q_SLOTS:
     void failedLoadChangesNothing();
     void specialFilesCannotBeOpened_data();
     void specialFilesCannotBeOpened();
+    void fileOf16MebibytesIsLoaded_data();
+    void fileOf16MebibytesIsLoaded();
 
 private:
     static QString path() { return "box/conf.json"; }
@@ -98,6 +100,33 @@ void tst_ConfigFileFaults::specialFilesCannotBeOpened()
     manage.loadFromFile(path());
     QCOMPARE(log.texts(QtCriticalMsg), QStringList(openFailed()));
     QCOMPARE(delay, 3);
+}
+
+void tst_ConfigFileFaults::fileOf16MebibytesIsLoaded_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("isLoaded");
+    QTest::newRow("one byte less") << 16777215 << true;
+    QTest::newRow("exactly") << 16777216 << true;
+    QTest::newRow("one byte more") << 16777217 << false;
+}
+
+void tst_ConfigFileFaults::fileOf16MebibytesIsLoaded()
+{
+    QFETCH(int, size);
+    QFETCH(bool, isLoaded);
+    const QByteArray text = R"({"Capture.Delay":5})";
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text + QByteArray(size - static_cast<int>(text.size()), ' '));
+    file.close();
+    MtConf::MtConfManage manage;
+    int delay = 3;
+    manage.addConfInt32("Delay", &delay, "Capture", "Delay");
+    const LogCapture log;
+    manage.loadFromFile(path());
+    QCOMPARE(delay, isLoaded ? 5 : 3);
+    QCOMPARE(log.texts(QtCriticalMsg), isLoaded ? QStringList() : QStringList(openFailed()));
 }
 
 int main(int argc, char **argv)

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void unusualFilesAreReadAndWritten_data();
     void unusualFilesAreReadAndWritten();
     void otherSectionsAreKept();
+    void largestFileIsRead();
     void hugeFileIsUnusableAndReplaced();
     void lockedFileIsNotWritten();
     void targetOfALinkIsNotWritten();
@@ -131,6 +132,19 @@ void tst_WindowGeometryFile::otherSectionsAreKept()
     const QSettings settings(sPath, QSettings::IniFormat);
     QCOMPARE(settings.value("Other/Path").toString(), QString("C:\\a, b"));
     QCOMPARE(settings.value("Geometry").toRect(), QRect(1, 2, 3, 4));
+}
+
+void tst_WindowGeometryFile::largestFileIsRead()
+{
+    const QByteArray line = "Geometry=@Rect(1 2 3 4)\n";
+    for (const int size : {65535, 65536, 65537}) {
+        writeFile(QByteArray(size - line.size(), '\n') + line);
+        const bool isRead = size <= 65536;
+        const LogCapture log;
+        const WindowGeometryFile::Saved saved = WindowGeometryFile(sPath).read();
+        QCOMPARE(saved.geometry, isRead ? QRect(1, 2, 3, 4) : QRect());
+        QCOMPARE(log.messages().isEmpty(), isRead);
+    }
 }
 
 void tst_WindowGeometryFile::hugeFileIsUnusableAndReplaced()
