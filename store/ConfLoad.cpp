@@ -72,6 +72,11 @@ ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
 
 ConfLoad::~ConfLoad()
 {
+    if (mIsReported) {
+        if (!mStore.mLastLoad)
+            mStore.mLastLoad = std::make_unique<ConfLoadReport>();
+        *mStore.mLastLoad = std::move(mReport);
+    }
     if (mAheadCount == 0)
         return;
     const QString first = mFirstAhead.left(Limits::sMaxLoggedLength);
@@ -101,6 +106,7 @@ void ConfLoad::forgetPosition()
 bool ConfLoad::loadText(const QByteArray &text)
 {
     constexpr qint64 sMostGrowth = 6; // of a control character, which becomes an escape
+    mIsReported = true;
     mIsSavable = sMostGrowth * text.size() <= mStore.mMaxFileSize;
     if (const auto members = readPlainDump(text, mTimes)) {
         for (const PlainMember &member : *members)
@@ -108,14 +114,23 @@ bool ConfLoad::loadText(const QByteArray &text)
         return true;
     }
     const QJsonDocument document = QJsonDocument::fromJson(text);
-    if (!document.isObject())
+    if (!document.isObject()) {
+        mReport.isDamaged = !text.isEmpty();
         return false;
+    }
     loadObject(document.object());
     return true;
 }
 
+void ConfLoad::loadFile(const QString &path, const QByteArray &text)
+{
+    mReport.file = path;
+    loadText(text);
+}
+
 void ConfLoad::loadObject(const QJsonObject &object)
 {
+    mIsReported = true;
     // The copy shares the data and keeps it alive if a callback changes the caller's object.
     const QJsonObject members = object;
     for (auto member = members.constBegin(); member != members.constEnd(); ++member)
@@ -139,8 +154,10 @@ template<class Member> void ConfLoad::load(QString key, const Member &member)
         key.chop(mSystemMark.size());
     else if (key.contains(sMarkSeparator))
         return;
-    if (mLastTime && isFromFuture(key, member) && !mIsLocal)
+    if (mLastTime && isFromFuture(key, member) && !mIsLocal) {
+        refuse(key, ConfLoadReport::Reason::FutureTime);
         return;
+    }
     if (!member.isObject() || !loadDynamic(key, member))
         loadStatic(key, member);
 }
@@ -173,6 +190,7 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
 {
     if (mIsSavable || isSavable(value, mStore.mMaxFileSize))
         return false;
+    refuse(key, ConfLoadReport::Reason::NotSavable);
     forgetPosition();
     if (EntryLog::permits())
         qCritical() << "ConfStorage::loadConf() value could not be saved: "
@@ -181,7 +199,7 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
 }
 
 /// Returns whether a file may not add the key to the store, and logs this.
-bool ConfLoad::isBeyondLimits(const QString &key) const
+bool ConfLoad::isBeyondLimits(const QString &key)
 {
     const bool isLong = key.size() > Limits::sMaxKeyLength;
     // Records, because a key has one even if its creator did not accept the value.
@@ -191,6 +209,7 @@ bool ConfLoad::isBeyondLimits(const QString &key) const
         return false;
     if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
         return false; // adds nothing
+    refuse(key, ConfLoadReport::Reason::LimitExceeded);
     if (!EntryLog::permits())
         return true;
     if (isLong)
@@ -198,6 +217,12 @@ bool ConfLoad::isBeyondLimits(const QString &key) const
     else
         qCritical() << "ConfStorage::loadConf() too many keys: " << EntryLog::truncated(key);
     return true;
+}
+
+void ConfLoad::refuse(const QString &key, ConfLoadReport::Reason reason)
+{
+    if (mReport.refusedCount++ < Limits::sMaxLoggedEntries)
+        mReport.refused.append({key, reason});
 }
 
 /// Returns whether nothing is left to do for the key.
@@ -223,9 +248,10 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     const QDateTime stored = record != mStore.mConfMetas.constEnd()
                                  ? record->lastChangeTime
                                  : mStore.mRemovedDynamicConfs.value(key);
-    if (storedWins(stored, incoming))
+    if (storedWins(stored, incoming)) {
+        ++mReport.newerHere;
         return true;
-
+    }
     if (removalTime) {
         mergeRemoval(key, incoming);
         return true;
@@ -244,10 +270,14 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Created);
     const bool isCreated = mStore.createDynamic(key, value, cls);
     const auto meta = mStore.mConfMetas.find(key);
-    if (meta != mStore.mConfMetas.end())
+    if (meta != mStore.mConfMetas.end()) {
+        ++mReport.taken;
         meta->lastChangeTime = incoming;
-    else if (EntryLog::permits())
-        qCritical() << "createDynamicConf Not create conf: " << EntryLog::truncated(key);
+    } else {
+        ++mReport.unknown;
+        if (EntryLog::permits())
+            qCritical() << "createDynamicConf Not create conf: " << EntryLog::truncated(key);
+    }
     if (isCreated)
         ConfObservers::finishChange(mStore, change);
     return true;
@@ -265,7 +295,9 @@ void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool 
     else
         mStore.restorePreset(key, incoming);
     const auto meta = mStore.mConfMetas.find(key);
-    if (meta != mStore.mConfMetas.end() && isTimed)
+    const bool isKnown = meta != mStore.mConfMetas.end();
+    ++(isKnown ? mReport.taken : mReport.unknown);
+    if (isKnown && isTimed)
         meta->lastChangeTime = incoming;
     if (isPresent && isDefault)
         ConfObservers::finishChange(mStore, change); // only the timestamp has changed
@@ -280,8 +312,11 @@ void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
     if (isPresent)
         mStore.removeDynamic(key);
     const QDateTime removed = mStore.mRemovedDynamicConfs.value(key);
-    if (!isPresent && storedWins(removed, incoming))
+    if (!isPresent && storedWins(removed, incoming)) {
+        ++mReport.newerHere;
         return;
+    }
+    ++mReport.taken;
     mStore.mRemovedDynamicConfs[key] = incoming;
     ConfObservers::finishChange(mStore, change);
 }
@@ -293,11 +328,15 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     // Most entries of a copy are no newer than the store: their values need not be read.
     const auto known = metaOf(key);
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()
-        && storedWins(known->lastChangeTime.toSecsSinceEpoch(), *time))
+        && storedWins(known->lastChangeTime.toSecsSinceEpoch(), *time)) {
+        ++mReport.newerHere;
         return;
+    }
     const auto stored = valueOf(key);
-    if (stored == mStore.mConfValues.end())
+    if (stored == mStore.mConfValues.end()) {
+        ++mReport.unknown;
         return;
+    }
     const auto meta = known != mStore.mConfMetas.end()
                           ? known
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
@@ -306,6 +345,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     const QJsonValue value = newValue(member);
     if (isRefused(key, value))
         return;
+    ++mReport.taken;
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     meta->lastChangeTime = timeOfChange(time);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <MaltoConfiguration/store/ConfLoadReport.h>
 #include <MaltoConfiguration/store/ConfOperation.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
@@ -10,7 +11,9 @@
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
 /// wins, and a tie keeps the stored one.
 ///
-/// One object is one load: its destructor logs the timestamps that are too far ahead.
+/// One object is one load: its destructor logs the timestamps that are too far ahead, and stores
+/// the report of the load. A load that a callback starts ends earlier than the load that called
+/// the callback, so the report of the outermost load is stored last.
 class ConfLoad
 {
 public:
@@ -20,6 +23,8 @@ public:
 
     /// Returns whether `text` is a JSON object; nothing else is loaded.
     bool loadText(const QByteArray &text);
+    /// Loads `text`, the content of the file at `path`.
+    void loadFile(const QString &path, const QByteArray &text);
     void loadObject(const QJsonObject &object);
     void loadMember(const QString &key, const QJsonValue &entry);
     /// Merges a member whose key belongs to `cls`. Returns false if it must be loaded like a member
@@ -33,7 +38,8 @@ private:
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
-    bool isBeyondLimits(const QString &key) const;
+    bool isBeyondLimits(const QString &key);
+    void refuse(const QString &key, ConfLoadReport::Reason reason);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
@@ -52,6 +58,9 @@ private:
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved
+
+    ConfLoadReport mReport;
+    bool mIsReported = false; // not for single members
 
     std::optional<qint64> mLastTime; // later timestamps are too far ahead; null: none is
     int mAheadCount = 0;

@@ -43,7 +43,7 @@ void ConfStorage::loadLocalConfFile()
     LocalFile file(*this);
     const QByteArray text = file.read();
     mUnloadedFile = file.isComplete() ? QString() : mLocalSaveFile;
-    ConfLoad(*this, LoadLocal).loadText(text);
+    ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
     loadPresetDynamicConf();
     mChanged = false;
     mLocalLoaded = true;
