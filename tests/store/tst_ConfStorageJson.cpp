@@ -406,6 +406,11 @@ void tst_ConfStorageJson::text_data()
     QTest::newRow("rubbish") << "{\"a\"" << false;
     QTest::newRow("text after the object") << "{} x" << false;
     QTest::newRow("bare value") << "5" << false;
+    const auto nested = [](int levels) {
+        return "{\"a\":" + QString(levels - 1, '[') + QString(levels - 1, ']') + '}';
+    };
+    QTest::newRow("1,024 levels") << nested(1024) << true;
+    QTest::newRow("1,025 levels") << nested(1025) << false;
     QTest::newRow("nested too deeply") << QString(200000, '[') << false;
 }
 

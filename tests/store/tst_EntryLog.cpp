@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <functional>
+
 namespace {
 
 /// Returns entries without a value, each of which logs one message.
@@ -32,15 +34,20 @@ ConfStorage::DynamicConfClass toolsClass()
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(ConfStorage &)>)
+
 /// The messages about the entries of a file.
 class tst_EntryLog : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
     void twentyEntriesOfALoadAreLoggedAndTheRestIsCounted();
+    void everyCallThatVisitsManyEntriesIsLimited_data();
+    void everyCallThatVisitsManyEntriesIsLimited();
     void messagesOfEveryCallAreCountedAlone();
     void messagesOfNestedLoadsAreCountedTogether();
     void longKeysAreTruncated();
+    void controlCharactersOfKeysAreEscaped();
     void fontTextsAreEscaped();
 };
 
@@ -59,6 +66,42 @@ void tst_EntryLog::twentyEntriesOfALoadAreLoggedAndTheRestIsCounted()
     QCOMPARE(log.texts(QtCriticalMsg).last(), setNotFound(19));
     QCOMPARE(log.texts(QtWarningMsg),
              QStringList("ConfStorage: further messages about entries:  480"));
+}
+
+void tst_EntryLog::everyCallThatVisitsManyEntriesIsLimited_data()
+{
+    QTest::addColumn<std::function<void(ConfStorage &)>>("call");
+    const auto row = [](const char *name, const std::function<void(ConfStorage &)> &call) {
+        QTest::newRow(name) << call;
+    };
+    row("dumpConf", [](ConfStorage &store) { store.dumpConf(ConfStorage::DumpShared); });
+    row("saveToLocalConfFile", [](ConfStorage &store) { store.saveToLocalConfFile(); });
+    row("restoreDynamicConf", [](ConfStorage &store) { store.restoreDynamicConf("Tool."); });
+    row("loadPresetDynamicConf", [](ConfStorage &store) { store.loadPresetDynamicConf(); });
+    row("loadLocalConfFile", [](ConfStorage &store) { store.loadLocalConfFile(); });
+}
+
+void tst_EntryLog::everyCallThatVisitsManyEntriesIsLimited()
+{
+    QFETCH(std::function<void(ConfStorage &)>, call);
+    ConfStorage store;
+    store.mLocalSaveFile = "local.json";
+    store.mChanged = true;
+    // Without a class neither can a preset be created nor a key be removed.
+    int number = 1;
+    for (int i = 0; i < 30; ++i) {
+        const QString suffix = QString::number(i);
+        store.reserveConf("Tool." + suffix, &number);
+        store.mRemovedDynamicConfs["Removed." + suffix] = QDateTime::currentDateTimeUtc();
+        store.mPresetDynamicConfs["Preset." + suffix] = QJsonObject();
+    }
+    const LogCapture log;
+    call(store);
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 20);
+    QCOMPARE(log.texts(QtWarningMsg).size(), 1);
+    QVERIFY(log.texts(QtWarningMsg)
+                .first()
+                .startsWith("ConfStorage: further messages about entries: "));
 }
 
 void tst_EntryLog::messagesOfEveryCallAreCountedAlone()
@@ -99,6 +142,16 @@ void tst_EntryLog::longKeysAreTruncated()
     QCOMPARE(log.texts(QtCriticalMsg),
              QStringList({message + QString(200, 'x') + '"',
                           message + QString(199, 'x') + QChar(0x2026) + '"'}));
+}
+
+void tst_EntryLog::controlCharactersOfKeysAreEscaped()
+{
+    ConfStorage store;
+    const LogCapture log;
+    store.removeDynamicConf(QString("a\x1b[2J\n") + QChar(0x9b) + QChar(0x202e));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::createDynamicConf() dynamicConfClass not found:  "
+                         "\"a\\u001B[2J\\n\\u009B\\u202E\""));
 }
 
 void tst_EntryLog::fontTextsAreEscaped()
