@@ -1,13 +1,17 @@
 #include "ConfDump_p.h"
 
+#include "ConfLoad_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
+#include "KeptEntries_p.h"
 
 #include <QDebug>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -28,10 +32,24 @@ bool hasJson(const ConfValue &value)
 ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
     : mType(type), mValues(store.mConfValues), mMetas(store.mConfMetas)
 {
+    if (const KeptEntries *kept = ConfLoad::keptEntriesOf(store)) {
+        if (type == ConfStorage::DumpLocal)
+            collectKept(*kept);
+    }
     collectValues();
     if (type != ConfStorage::DumpChangedOnly)
         collectRemoved(store);
     sortMembers();
+}
+
+void ConfDump::collectKept(const KeptEntries &kept)
+{
+    mKept = kept.entries();
+    constexpr qint64 sNever = std::numeric_limits<qint64>::min();
+    for (auto entry = mKept.cbegin(); entry != mKept.cend(); ++entry) {
+        const qint64 time = KeptEntries::timeOf(*entry).value_or(sNever);
+        mMembers.push_back({entry.key(), time, nullptr, false, &*entry});
+    }
 }
 
 void ConfDump::collectValues()
@@ -79,8 +97,8 @@ void ConfDump::collectRemoved(const ConfStorage &store)
     }
 }
 
-/// Members with a mark and tombstones are not in order. Of members with the same name the last one
-/// is kept.
+/// Kept entries, members with a mark and tombstones are not in order. Of members with the same name
+/// the last one is used, or the kept entry, which is the first one, if it is newer.
 void ConfDump::sortMembers()
 {
     const auto precedes = [](const Member &a, const Member &b) { return a.name < b.name; };
@@ -88,6 +106,11 @@ void ConfDump::sortMembers()
     if (std::adjacent_find(mMembers.cbegin(), mMembers.cend(), isUnordered) == mMembers.cend())
         return;
     std::stable_sort(mMembers.begin(), mMembers.end(), precedes);
+    for (size_t i = 1; !mKept.isEmpty() && i < mMembers.size(); ++i) {
+        Member &first = mMembers[i - 1];
+        if (first.kept && first.name == mMembers[i].name && first.time > mMembers[i].time)
+            std::swap(first, mMembers[i]);
+    }
     const auto lastOfEach = std::unique(
         mMembers.rbegin(), mMembers.rend(),
         [](const Member &a, const Member &b) { return a.name == b.name; });
@@ -102,10 +125,12 @@ QJsonObject ConfDump::toObject() const
     return object;
 }
 
-QJsonObject ConfDump::entryOf(const Member &member) const
+QJsonValue ConfDump::entryOf(const Member &member) const
 {
+    if (member.kept)
+        return *member.kept;
     if (!member.value)
-        return {{sRemovedKey.name(), member.time}};
+        return QJsonObject{{sRemovedKey.name(), member.time}};
     QJsonObject entry;
     if (mType != ConfStorage::DumpChangedOnly)
         entry.insert(sTimeKey.name(), member.time);
@@ -124,9 +149,8 @@ QByteArray ConfDump::toText() const
         if (text.size() > 1)
             text += ',';
         appendJsonString(text, member.name);
-        text += ":{";
+        text += ':';
         appendEntry(text, member);
-        text += '}';
     }
     text += '}';
     return text;
@@ -134,9 +158,15 @@ QByteArray ConfDump::toText() const
 
 void ConfDump::appendEntry(QByteArray &text, const Member &member) const
 {
+    if (member.kept) {
+        appendJsonValue(text, *member.kept);
+        return;
+    }
+    text += '{';
     if (!member.value) {
         append(text, sRemovedKey.inText());
         appendJsonValue(text, member.time);
+        text += '}';
         return;
     }
     const bool timed = mType != ConfStorage::DumpChangedOnly;
@@ -150,4 +180,5 @@ void ConfDump::appendEntry(QByteArray &text, const Member &member) const
         append(text, sValueKey.inText());
         appendJsonValue(text, member.value->toJsonValue());
     }
+    text += '}';
 }

@@ -25,23 +25,26 @@ public:
     QByteArray toText() const;
 
 private:
-    /// A changed value, or a tombstone if `value` is null.
+    /// A kept entry, or else a changed value, or a tombstone if `value` is null.
     struct Member
     {
         QString name;
         qint64 time;
         const ConfValue *value;
         bool isDefault; // dumped without a value
+        const QJsonValue *kept = nullptr;
     };
 
+    void collectKept(const KeptEntries &kept);
     void collectValues();
     void collectRemoved(const ConfStorage &store);
     void sortMembers();
-    QJsonObject entryOf(const Member &member) const;
+    QJsonValue entryOf(const Member &member) const;
     void appendEntry(QByteArray &text, const Member &member) const;
 
     const ConfStorage::DumpConfType mType;
     const QMap<QString, ConfValue> mValues;
     const QMap<QString, ConfStorage::ConfMeta> mMetas;
+    QMap<QString, QJsonValue> mKept;
     std::vector<Member> mMembers; // sorted by name, each name once
 };

@@ -4,6 +4,7 @@
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
+#include "KeptEntries_p.h"
 #include "Limits_p.h"
 #include "PlainDump_p.h"
 
@@ -63,6 +64,7 @@ ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
     : mStore(store), mOperation(&store, ConfChange::Cause::Loaded),
       mIsLocal(type == ConfStorage::LoadLocal),
       mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
+      mKeepsUnknown(store.mFileOptions & ConfStorage::KeepUnknownEntries),
       mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
       mSystemMark(addSysMark(QString()))
 {
@@ -150,12 +152,19 @@ bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
 
 template<class Member> void ConfLoad::load(QString key, const Member &member)
 {
-    if (key.endsWith(mSystemMark))
+    const bool isMarked = key.endsWith(mSystemMark);
+    if (isMarked)
         key.chop(mSystemMark.size());
-    else if (key.contains(sMarkSeparator))
+    const bool isForeign = !isMarked && key.contains(sMarkSeparator);
+    if (isForeign && !mKeepsUnknown)
         return;
     if (mLastTime && isFromFuture(key, member) && !mIsLocal) {
         refuse(key, ConfLoadReport::Reason::FutureTime);
+        return;
+    }
+    if (mKeepsUnknown && (isForeign || !isDeclared(key))) {
+        mReport.unknown += isForeign ? 0 : 1;
+        keep(isMarked ? addSysMark(key) : key, member);
         return;
     }
     if (!member.isObject() || !loadDynamic(key, member))
@@ -169,11 +178,46 @@ template<class Member> bool ConfLoad::isFromFuture(const QString &key, const Mem
     const std::optional<qint64> time = removalTime ? removalTime : member.time();
     if (!time || *time <= *mLastTime)
         return false;
-    if (!mStore.mConfValues.contains(key) && !mStore.findDynamicConfClass(key))
+    if (!mKeepsUnknown && !isDeclared(key))
         return false;
     if (mAheadCount++ == 0)
         mFirstAhead = key;
     return true;
+}
+
+/// Returns whether the key exists or belongs to a class.
+bool ConfLoad::isDeclared(const QString &key) const
+{
+    const bool isNext = mNextValue && *mNextValue != mStore.mConfValues.end()
+                        && mNextValue->key() == key;
+    return isNext || mStore.mConfValues.contains(key) || mStore.findDynamicConfClass(key);
+}
+
+/// Returns whether kept entries could make the local file too large, and logs this.
+bool ConfLoad::hasNoRoom(const QString &name, const QJsonValue &entry)
+{
+    // The other half of the file is for the settings of this program.
+    if (isSavable(entry, mStore.mMaxFileSize / 2 - mStore.mKeptEntries->size()))
+        return false;
+    refuse(name, ConfLoadReport::Reason::NotSavable);
+    forgetPosition();
+    if (EntryLog::permits())
+        qCritical() << "ConfStorage::loadConf() value could not be saved: "
+                    << EntryLog::truncated(name);
+    return true;
+}
+
+/// Keeps an entry that is not loaded. `name` is that of the member, with the system mark. What the
+/// local file contains is always kept; others can add to it within limits.
+template<class Member> void ConfLoad::keep(const QString &name, const Member &member)
+{
+    const QJsonValue entry = member.entry();
+    if (!mStore.mKeptEntries)
+        mStore.mKeptEntries = std::make_unique<KeptEntries>();
+    if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
+        return;
+    if (mStore.mKeptEntries->keep(name, entry))
+        mStore.mChanged = true;
 }
 
 /// The value of a member; undefined if the entry sets the default value.
@@ -203,10 +247,14 @@ bool ConfLoad::isBeyondLimits(const QString &key)
 {
     const bool isLong = key.size() > Limits::sMaxKeyLength;
     // Records, because a key has one even if its creator did not accept the value.
+    const KeptEntries *kept = mStore.mKeptEntries.get();
     const bool isFull = mStore.mConfMetas.size() + mStore.mRemovedDynamicConfs.size()
+                            + (kept ? kept->entries().size() : 0)
                         >= Limits::sMaxKeys;
     if (!isLong && !isFull)
         return false;
+    if (kept && kept->entries().contains(key))
+        return false; // adds nothing
     if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
         return false; // adds nothing
     refuse(key, ConfLoadReport::Reason::LimitExceeded);

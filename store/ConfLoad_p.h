@@ -32,6 +32,12 @@ public:
     bool loadMemberOfClass(const QString &key, const QJsonValue &entry,
                            const ConfStorage::DynamicConfClass *cls);
 
+    /// The entries of `store` that are not declared; null if there are none.
+    static const KeptEntries *keptEntriesOf(const ConfStorage &store)
+    {
+        return store.mKeptEntries.get();
+    }
+
 private:
     // `Member` has the functions of `ParsedMember`.
     template<class Member> void load(QString key, const Member &member);
@@ -40,6 +46,9 @@ private:
     bool isRefused(const QString &key, const QJsonValue &value);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
+    bool isDeclared(const QString &key) const;
+    bool hasNoRoom(const QString &name, const QJsonValue &entry);
+    template<class Member> void keep(const QString &name, const Member &member);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
@@ -55,6 +64,7 @@ private:
     const ConfOperation mOperation;
     const bool mIsLocal; // any type but LoadLocal is a shared load
     const bool mNullIsDefault;
+    const bool mKeepsUnknown;
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved

@@ -42,13 +42,13 @@ inline bool isInRange(double seconds, TimeRange range)
 /// A member of a dump, from parsed JSON.
 ///
 /// A dump is one JSON object. Each of its members is a key of the store and an entry, an object
-/// with "t", "v" or "d". `ConfLoad` merges every type that has the four functions of this one; the
+/// with "t", "v" or "d". `ConfLoad` merges every type that has the five functions of this one; the
 /// other type is `PlainMember`, which needs no parsed JSON. Both return the same for the same text.
 class ParsedMember
 {
 public:
     explicit ParsedMember(const QJsonValue &entry, TimeRange times)
-        : mIsObject(entry.isObject()), mTimes(times), mEntry(entry.toObject())
+        : mWhole(entry), mIsObject(entry.isObject()), mTimes(times), mEntry(entry.toObject())
     {
     }
 
@@ -60,6 +60,8 @@ public:
     std::optional<qint64> removalTime() const { return secondsOf(sRemovedKey); }
     /// The member "v"; undefined if there is none.
     QJsonValue value() const { return mEntry.value(sValueKey.name()); }
+    /// The whole entry, whatever it is.
+    QJsonValue entry() const { return mWhole; }
 
 private:
     std::optional<qint64> secondsOf(const EntryKey &key) const
@@ -74,6 +76,7 @@ private:
         return isTime ? static_cast<qint64>(seconds) : 0;
     }
 
+    const QJsonValue mWhole;
     const bool mIsObject;
     const TimeRange mTimes;
     const QJsonObject mEntry;

@@ -1,7 +1,36 @@
 #pragma once
 
+#include <QJsonValue>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
 /// The entries of a store whose keys are not declared, or whose values were refused. They are
-/// written back to the local file.
+/// written back to the local file as they are.
+///
+/// An entry is the member of a dump, usually an object with "t", "v" or "d". Its name is that in
+/// the dump, with the system mark.
 class KeptEntries
 {
+public:
+    /// Keeps `entry` if it is newer than the kept one. A value without a timestamp gets the current
+    /// time; anything else without one is kept only if there is no entry of this name. Returns
+    /// whether it was kept.
+    bool keep(const QString &name, const QJsonValue &entry);
+    void remove(const QString &name);
+
+    /// The entries by name.
+    const QMap<QString, QJsonValue> &entries() const { return mEntries; }
+    /// Bytes of the entries in the local file.
+    qint64 size() const { return mSize; }
+
+    /// Returns the timestamp of a change or a removal in seconds, or null if there is none.
+    static std::optional<qint64> timeOf(const QJsonValue &entry);
+    /// Returns how many bytes the local file needs for an entry.
+    static qint64 sizeOf(const QString &name, const QJsonValue &entry);
+
+private:
+    QMap<QString, QJsonValue> mEntries;
+    qint64 mSize = 0;
 };

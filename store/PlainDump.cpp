@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <cstring>
@@ -215,6 +216,17 @@ std::optional<qint64> PlainMember::removalTime() const
 QJsonValue PlainMember::value() const
 {
     return string.data() ? QJsonValue(textOf(string)) : otherValue;
+}
+
+QJsonValue PlainMember::entry() const
+{
+    if (isRemoval)
+        return QJsonObject{{sRemovedKey.name(), seconds}};
+    QJsonObject entry{{sTimeKey.name(), seconds}};
+    const QJsonValue newValue = value();
+    if (!newValue.isUndefined())
+        entry.insert(sValueKey.name(), newValue);
+    return entry;
 }
 
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text, TimeRange times)

@@ -21,6 +21,7 @@ struct PlainMember
     std::optional<qint64> time() const;
     std::optional<qint64> removalTime() const;
     QJsonValue value() const;
+    QJsonValue entry() const;
 
     std::string_view name; ///< in ASCII
     qint64 seconds = 0;

@@ -1,0 +1,64 @@
+#include "KeptEntries_p.h"
+
+#include "DumpMember_p.h"
+#include "JsonText_p.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QJsonObject>
+
+namespace {
+
+/// Returns `entry` with a timestamp, as loading a declared key would give it one.
+QJsonValue timed(const QJsonValue &entry)
+{
+    QJsonObject object = entry.toObject();
+    if (!object.contains(sValueKey.name()) || KeptEntries::timeOf(entry))
+        return entry;
+    object.insert(sTimeKey.name(), QDateTime::currentSecsSinceEpoch());
+    return object;
+}
+
+} // namespace
+
+bool KeptEntries::keep(const QString &name, const QJsonValue &entry)
+{
+    const QJsonValue incoming = timed(entry);
+    const auto stored = mEntries.find(name);
+    if (stored == mEntries.end()) {
+        mEntries.insert(name, incoming);
+        mSize += sizeOf(name, incoming);
+        return true;
+    }
+    const std::optional<qint64> time = timeOf(incoming);
+    if (!time || time <= timeOf(*stored)) // no time is less than any
+        return false;
+    mSize += sizeOf(name, incoming) - sizeOf(name, *stored);
+    *stored = incoming;
+    return true;
+}
+
+void KeptEntries::remove(const QString &name)
+{
+    const auto stored = mEntries.find(name);
+    if (stored == mEntries.end())
+        return;
+    mSize -= sizeOf(name, *stored);
+    mEntries.erase(stored);
+}
+
+std::optional<qint64> KeptEntries::timeOf(const QJsonValue &entry)
+{
+    // All timestamps count, so that no option of the store decides which entry is newer.
+    const ParsedMember member(entry, TimeRange::Long);
+    const std::optional<qint64> removalTime = member.removalTime();
+    return removalTime ? removalTime : member.time();
+}
+
+qint64 KeptEntries::sizeOf(const QString &name, const QJsonValue &entry)
+{
+    QByteArray text;
+    appendJsonString(text, name);
+    appendJsonValue(text, entry);
+    return text.size() + 2; // colon and comma
+}
