@@ -21,6 +21,7 @@ namespace {
 
 constexpr qint64 sBlockSize = 64 * 1024;
 constexpr int sRandomLength = 7; // 32 bits in base 36
+constexpr mode_t sOwner = S_IRUSR | S_IWUSR;
 
 /// Repeats `call` as long as a signal interrupts it.
 template<class Call> auto uninterrupted(Call call)
@@ -73,14 +74,15 @@ bool syncDescriptor(int descriptor)
 
 } // namespace
 
-PosixFile::Status PosixFile::open(const QString &path, Mode mode)
+PosixFile::Status PosixFile::open(const QString &path, Mode mode, Access access)
 {
     constexpr mode_t sEverybody = 0666; // without the bits of the umask, as Qt creates files
     close();
     if (path.contains(QChar(u'\0')))
         return Status::Missing; // the system would open the path before the null character
     mPath = path;
-    mDescriptor = openDescriptor(QFile::encodeName(path), flagsOf(mode), sEverybody);
+    mDescriptor = openDescriptor(QFile::encodeName(path), flagsOf(mode),
+                                 access == Access::OwnerOnly ? sOwner : sEverybody);
     if (mDescriptor == -1) {
         switch (errno) {
         case ENOENT:
@@ -103,18 +105,26 @@ PosixFile::Status PosixFile::open(const QString &path, Mode mode)
     return Status::Refused;
 }
 
+PosixFile::Status PosixFile::createNew(const QString &path)
+{
+    close();
+    mPath = path;
+    mDescriptor = openDescriptor(QFile::encodeName(path), O_WRONLY | O_CREAT | O_EXCL, sOwner);
+    if (mDescriptor != -1)
+        return Status::Done;
+    return errno == EEXIST ? Status::Refused : Status::Failed;
+}
+
 QString PosixFile::create(const QString &path)
 {
     constexpr int sTries = 100; // that many random names are not all taken
     QString tried = path;
-    close();
     ::unlink(QFile::encodeName(path).constData());
     for (int i = 0; i < sTries; ++i) {
-        mDescriptor = openDescriptor(QFile::encodeName(tried), O_WRONLY | O_CREAT | O_EXCL,
-                                     S_IRUSR | S_IWUSR);
-        if (mDescriptor != -1)
+        const Status created = createNew(tried);
+        if (created == Status::Done)
             return tried;
-        if (errno != EEXIST)
+        if (created == Status::Failed)
             break;
         tried = uniquePath(path);
     }
@@ -181,7 +191,7 @@ bool PosixFile::status(struct stat *result) const
     return ::fstat(mDescriptor, result) == 0;
 }
 
-bool PosixFile::copyAccess(const PosixFile &other) const
+bool PosixFile::copyAccess(const PosixFile &other, Access access) const
 {
     constexpr auto sUnchanged = static_cast<uid_t>(-1);
     struct stat ours = {};
@@ -190,11 +200,12 @@ bool PosixFile::copyAccess(const PosixFile &other) const
         return false;
     if (ours.st_uid != theirs.st_uid && ::fchown(mDescriptor, theirs.st_uid, sUnchanged) != 0)
         return false;
+    if (access == Access::OwnerOnly)
+        return ::fchmod(mDescriptor, sOwner) == 0;
     const bool hasGroup = ours.st_gid == theirs.st_gid
                           || ::fchown(mDescriptor, sUnchanged, theirs.st_gid) == 0;
     const bool isShared = hasGroup && !other.hasAccessControlList();
-    const mode_t mode = isShared ? theirs.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)
-                                 : S_IRUSR | S_IWUSR;
+    const mode_t mode = isShared ? theirs.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO) : sOwner;
     return ::fchmod(mDescriptor, mode) == 0;
 }
 
@@ -222,6 +233,14 @@ PosixFile::Content PosixFile::read(const QString &path, qint64 limit)
     PosixFile file;
     const Status opened = file.open(path, Mode::Read);
     return opened == Status::Done ? file.read(limit) : Content{opened, QByteArray()};
+}
+
+bool PosixFile::isOwnedFor(const QString &path, const struct stat &status)
+{
+    struct stat file = {};
+    return status.st_uid == ::geteuid()
+           || (::stat(QFile::encodeName(path).constData(), &file) == 0
+               && status.st_uid == file.st_uid);
 }
 
 QString PosixFile::uniquePath(const QString &path)

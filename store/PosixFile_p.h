@@ -29,6 +29,12 @@ public:
         WriteOrDevice ///< like ReadWrite, but write-only; also opens a character device
     };
 
+    /// Who can access a new file.
+    enum class Access {
+        AsUsual,  ///< as the process creates files, or as the other file is
+        OwnerOnly ///< its owner alone
+    };
+
     /// The content of a file.
     struct Content
     {
@@ -40,8 +46,13 @@ public:
     ~PosixFile() { close(); }
     Q_DISABLE_COPY(PosixFile)
 
-    /// Opens the file `path`. The operating system follows a link.
-    Status open(const QString &path, Mode mode);
+    /// Opens the file `path`. The operating system follows a link. `access` is that of a file that
+    /// is created; an existing one keeps its own.
+    Status open(const QString &path, Mode mode, Access access = Access::AsUsual);
+
+    /// Creates the file `path` for writing, which only its owner can access. Returns `Refused` if
+    /// the path is taken.
+    Status createNew(const QString &path);
 
     /// Creates the file `path` for writing, which only its owner can access. Replaces an existing
     /// file or link; if that is not permitted, the path gets a random ending. Returns the path, or
@@ -67,8 +78,9 @@ public:
 
     /// Gives this file the owner, the group and the permissions of `other`. If it cannot get the
     /// group, or `other` has an access control list, only its owner has access: others could be
-    /// excluded from `other`. Returns false if it cannot get the owner.
-    bool copyAccess(const PosixFile &other) const;
+    /// excluded from `other`. With `OwnerOnly` only the owner of `other` has access. Returns false
+    /// if it cannot get the owner.
+    bool copyAccess(const PosixFile &other, Access access = Access::AsUsual) const;
 
     /// Returns the path of the file without links: as it was given, or absolute if there are links.
     /// Empty if the file has no name any more.
@@ -76,6 +88,11 @@ public:
 
     /// Opens and reads the file `path`.
     static Content read(const QString &path, qint64 limit);
+
+    /// Returns whether a file with this status belongs to the user of the process, or to the owner
+    /// of the file `path`. In a folder where every user may create files, those of other users are
+    /// not to be trusted.
+    static bool isOwnedFor(const QString &path, const struct stat &status);
 
     /// Returns `path` with a random ending that nobody can predict.
     static QString uniquePath(const QString &path);

@@ -6,7 +6,8 @@
 
 using Status = PosixFile::Status;
 
-SafeFile::SafeFile(const QString &path, qint64 limit) : mPath(path), mLimit(limit), mJournal(path)
+SafeFile::SafeFile(const QString &path, qint64 limit, PosixFile::Access access)
+    : mPath(path), mLimit(limit), mAccess(access), mJournal(path)
 {
 }
 
@@ -19,14 +20,15 @@ bool SafeFile::Loaded::isComplete() const
 SafeFile::Saved SafeFile::save(const QByteArray &text)
 {
     struct stat status = {};
-    if (mFile.open(mPath, PosixFile::Mode::ReadWrite) != Status::Done || !mFile.status(&status))
+    if (mFile.open(mPath, PosixFile::Mode::ReadWrite, mAccess) != Status::Done
+        || !mFile.status(&status))
         return Saved::OpenFailed;
     // A program that opens the file by its other name would look for the journal there.
     if (status.st_nlink != 1)
         return Saved::SeveralNames;
     mJournal = SaveJournal(mFile.resolvedPath());
     const QByteArray oldText = mFile.read(mLimit).bytes;
-    if (!mJournal.write(oldText, text, mFile))
+    if (!mJournal.write(oldText, text, mFile, mAccess))
         return Saved::JournalFailed;
     if (!rewrite(text))
         return Saved::FileFailed;
@@ -34,7 +36,7 @@ SafeFile::Saved SafeFile::save(const QByteArray &text)
     return Saved::Whole;
 }
 
-SafeFile::Loaded SafeFile::load()
+SafeFile::Loaded SafeFile::load(const ReplaceHandler &mayReplace)
 {
     Loaded loaded;
     loaded.file = mFile.open(mPath, PosixFile::Mode::Read);
@@ -54,12 +56,13 @@ SafeFile::Loaded SafeFile::load()
         mJournal.remove();
         loaded.recovery = Recovery::Dropped;
         break;
-    case SaveJournal::State::Valid: recover(entry, &loaded); break;
+    case SaveJournal::State::Valid: recover(entry, mayReplace, &loaded); break;
     }
     return loaded;
 }
 
-void SafeFile::recover(const SaveJournal::Entry &entry, Loaded *loaded)
+void SafeFile::recover(const SaveJournal::Entry &entry, const ReplaceHandler &mayReplace,
+                       Loaded *loaded)
 {
     if (!loaded->isComplete()) {
         // The file may contain something else than a damaged text.
@@ -80,9 +83,10 @@ void SafeFile::recover(const SaveJournal::Entry &entry, Loaded *loaded)
         loaded->recovery = Recovery::KeptAside;
         return;
     }
+    const bool mayReplay = !mayReplace || mayReplace(loaded->text, entry.newText);
     loaded->recovery = Recovery::ReplayedInMemory;
     loaded->text = entry.newText;
-    if (replay(entry.newText)) {
+    if (mayReplay && replay(entry.newText)) {
         mJournal.remove();
         loaded->recovery = Recovery::Replayed;
     }
@@ -92,7 +96,7 @@ bool SafeFile::replay(const QByteArray &text)
 {
     // The journal must be on the disk before the file is changed. A program that ended while it
     // wrote the journal may not have synced it.
-    return mFile.open(mPath, PosixFile::Mode::ReadWrite) == Status::Done
+    return mFile.open(mPath, PosixFile::Mode::ReadWrite, mAccess) == Status::Done
            && PosixFile::syncFolderOf(mJournal.path()) && rewrite(text);
 }
 

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 /// A JSON file that is rewritten in place, so that links and permissions are kept. After a crash, a
 /// full disk or a loss of power at any moment, loading still returns the previous or the new text:
 /// while the file is rewritten, a journal beside it contains the new text.
@@ -31,6 +33,10 @@ public:
                            ///< could not be read and was kept
     };
 
+    /// Called before the text of the file is replaced by that of the journal. Returns whether it
+    /// may be.
+    using ReplaceHandler = std::function<bool(const QByteArray &text, const QByteArray &journal)>;
+
     /// What a load found.
     struct Loaded
     {
@@ -44,27 +50,33 @@ public:
     };
 
     /// `path` may be a link: the operating system follows it, and the journal is beside the file
-    /// that it leads to. Files with more than `limit` bytes are not read.
-    SafeFile(const QString &path, qint64 limit);
+    /// that it leads to. Files with more than `limit` bytes are not read. `access` is that of a
+    /// file or journal that is created.
+    SafeFile(const QString &path, qint64 limit,
+             PosixFile::Access access = PosixFile::Access::AsUsual);
 
     /// Replaces the content of the file with `text`, a JSON object, and creates the file if it is
     /// missing.
     Saved save(const QByteArray &text);
 
     /// Returns the text of the file, or of the journal if a save was interrupted.
-    Loaded load();
+    /// `mayReplace` may be empty.
+    Loaded load(const ReplaceHandler &mayReplace = ReplaceHandler());
 
     QString path() const { return mPath; }
+    /// The file, open after a load that could read it.
+    const PosixFile &file() const { return mFile; }
     /// The path of the journal, after a save or a load.
     QString journalPath() const { return mJournal.path(); }
 
 private:
     bool rewrite(const QByteArray &text) const;
     bool replay(const QByteArray &text);
-    void recover(const SaveJournal::Entry &entry, Loaded *loaded);
+    void recover(const SaveJournal::Entry &entry, const ReplaceHandler &mayReplace, Loaded *loaded);
 
     QString mPath;
     qint64 mLimit;
+    PosixFile::Access mAccess;
     PosixFile mFile;
     SaveJournal mJournal;
 };

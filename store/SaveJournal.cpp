@@ -1,7 +1,5 @@
 #include "SaveJournal_p.h"
 
-#include "PosixFile_p.h"
-
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -9,7 +7,6 @@
 #include <QList>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -50,7 +47,8 @@ SaveJournal::SaveJournal(const QString &filePath)
 {
 }
 
-bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file)
+bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file,
+                        PosixFile::Access access)
 {
     const QByteArray body = toBody({hash(oldText), hash(newText), newText});
     const QByteArray content = sMagic + hash(body) + '\n' + body;
@@ -61,7 +59,7 @@ bool SaveJournal::write(const QByteArray &oldText, const QByteArray &newText, co
     const QString unfinished = journal.create(mPath + QLatin1String(".new"));
     if (unfinished.isEmpty())
         return false;
-    const bool whole = journal.copyAccess(file) && journal.write(content) && journal.sync();
+    const bool whole = journal.copyAccess(file, access) && journal.write(content) && journal.sync();
     journal.close();
     if (!whole || !moveInPlace(unfinished)) {
         QFile::remove(unfinished);
@@ -106,14 +104,15 @@ SaveJournal::State SaveJournal::readAt(const QString &path, Entry *entry, qint64
     switch (file.open(path, PosixFile::Mode::ReadNoLink)) {
     case PosixFile::Status::Done: break;
     case PosixFile::Status::Failed:
-        return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && !isOurs(status)
+        return ::lstat(QFile::encodeName(path).constData(), &status) == 0
+                       && !PosixFile::isOwnedFor(mFilePath, status)
                    ? State::None
                    : State::Unreadable;
     default: return State::None;
     }
     if (!file.status(&status))
         return State::Unreadable;
-    if (!isOurs(status))
+    if (!PosixFile::isOwnedFor(mFilePath, status))
         return State::None;
     const PosixFile::Content content = file.read(limit + sMaxHeaderSize);
     if (content.status != PosixFile::Status::Done)
@@ -148,13 +147,4 @@ void SaveJournal::keepAside() const
 QByteArray SaveJournal::hash(const QByteArray &text)
 {
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
-}
-
-/// In a folder where every user may create files, another user's journal could change the settings.
-bool SaveJournal::isOurs(const struct stat &status) const
-{
-    struct stat file = {};
-    return status.st_uid == ::geteuid()
-           || (::stat(QFile::encodeName(mFilePath).constData(), &file) == 0
-               && status.st_uid == file.st_uid);
 }

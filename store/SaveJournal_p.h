@@ -1,10 +1,9 @@
 #pragma once
 
+#include "PosixFile_p.h"
+
 #include <QByteArray>
 #include <QString>
-
-class PosixFile;
-struct stat;
 
 /// The redo journal of a file: the new content of the file, kept beside it while it is rewritten.
 /// docs/file-formats.md describes the format.
@@ -31,10 +30,11 @@ public:
     /// Returns the path of the journal that was written or read.
     QString path() const { return mPath; }
 
-    /// Writes the journal of `file`, with the same access, and waits until it is on the disk.
-    /// Returns false if that fails. An existing journal is replaced by a complete one or not at
-    /// all. If the name of the journal is taken by another user, it gets another one.
-    bool write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file);
+    /// Writes the journal of `file`, with the same access or less, and waits until it is on the
+    /// disk. Returns false if that fails. An existing journal is replaced by a complete one or not
+    /// at all. If the name of the journal is taken by another user, it gets another one.
+    bool write(const QByteArray &oldText, const QByteArray &newText, const PosixFile &file,
+               PosixFile::Access access);
 
     /// Reads the journal into `entry`, which stays unchanged if the journal is not valid. Reads at
     /// most `limit` bytes of new text. If `isFileDamaged`, also looks for journals with other
@@ -51,7 +51,6 @@ public:
 private:
     bool moveInPlace(const QString &unfinished);
     State readAt(const QString &path, Entry *entry, qint64 limit) const;
-    bool isOurs(const struct stat &status) const;
 
     QString mFilePath;
     QString mPath;
