@@ -5,11 +5,14 @@
 #include "EntryLog_p.h"
 #include "LocalFile_p.h"
 
+#include <MaltoConfiguration/store/ConfLoadReport.h>
+
 #include <QDebug>
 
 void ConfStorage::useRobustFiles()
 {
-    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes;
+    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | KeepDamagedFiles
+                    | OwnerOnlyFiles;
 }
 
 void ConfStorage::saveToLocalConfFile()
@@ -21,7 +24,7 @@ void ConfStorage::saveToLocalConfFile()
     }
     if (!mChanged)
         return;
-    if ((mFileOptions & SafeSave) && mUnloadedFile == mLocalSaveFile) {
+    if ((mFileOptions & (SafeSave | KeepDamagedFiles)) && mUnloadedFile == mLocalSaveFile) {
         qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: "
                     << mLocalSaveFile;
         return;
@@ -44,7 +47,11 @@ void ConfStorage::loadLocalConfFile()
     const QByteArray text = file.read();
     mUnloadedFile = file.isComplete() ? QString() : mLocalSaveFile;
     ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
+    if (mLastLoad && file.isDamaged()) {
+        mLastLoad->isDamaged = true;
+        mLastLoad->damagedCopy = file.damagedCopy();
+    }
     loadPresetDynamicConf();
-    mChanged = false;
+    mChanged = file.isDamaged(); // the next save repairs it
     mLocalLoaded = true;
 }

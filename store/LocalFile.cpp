@@ -1,22 +1,110 @@
 #include "LocalFile_p.h"
 
+#include "DamagedFile_p.h"
+#include "FileBackup_p.h"
 #include "PosixFile_p.h"
+#include "SaveJournal_p.h"
 
 #include <QDebug>
 #include <QJsonDocument>
 
+namespace {
+
+/// Returns the new content in the journal beside `file`, or an empty text if there is none.
+QByteArray journalOf(const PosixFile &file, qint64 limit)
+{
+    SaveJournal::Entry entry;
+    SaveJournal(file.resolvedPath()).read(&entry, limit, true);
+    return entry.newText;
+}
+
+} // namespace
+
 LocalFile::LocalFile(const ConfStorage &store)
-    : mPath(store.mLocalSaveFile), mOptions(store.mFileOptions), mLimit(store.mMaxFileSize)
+    : mPath(store.mLocalSaveFile), mOptions(store.mFileOptions), mLimit(store.mMaxFileSize),
+      mAccess(mOptions & ConfStorage::OwnerOnlyFiles ? PosixFile::Access::OwnerOnly
+                                                     : PosixFile::Access::AsUsual)
 {
 }
 
 QByteArray LocalFile::read()
 {
-    SafeFile file(mPath, mLimit);
-    const SafeFile::Loaded loaded = file.load();
-    mIsComplete = loaded.isComplete();
+    const bool keepsDamaged = mOptions & ConfStorage::KeepDamagedFiles;
+    bool isKept = true;
+    SafeFile::ReplaceHandler mayReplace;
+    SafeFile file(mPath, mLimit, mAccess);
+    if (keepsDamaged) {
+        mayReplace = [this, &file, &isKept](const QByteArray &text, const QByteArray &journal) {
+            isKept = DamagedFile::isRestOf(text, journal) || !DamagedFile::isDamaged(text)
+                     || keepCopy(text, file.file());
+            return isKept;
+        };
+    }
+    const SafeFile::Loaded loaded = file.load(mayReplace);
+    mIsComplete = loaded.isComplete() && isKept;
+    mContent = loaded.text;
     logLoad(loaded, file);
-    return loaded.text;
+    const bool isWhole = mIsComplete && loaded.file == PosixFile::Status::Done;
+    return keepsDamaged && isWhole ? readRepaired(file.file(), loaded.text) : loaded.text;
+}
+
+/// Returns `text`, the content of `file`, or the content of the backup if it is damaged.
+QByteArray LocalFile::readRepaired(const PosixFile &file, const QByteArray &text)
+{
+    const bool isDamaged = DamagedFile::isDamaged(text);
+    if (!isDamaged && !text.isEmpty())
+        return text;
+    const FileBackup backup(file);
+    const QByteArray saved = backup.read(mLimit);
+    if (isDamaged)
+        mIsComplete = keepCopy(text, file);
+    if (saved.isEmpty())
+        return text;
+    mIsDamaged = true;
+    qWarning() << "ConfStorage::loadLocalConfFile() loaded from backup: " << backup.path();
+    return saved;
+}
+
+/// Copies the damaged `text` of `file` aside. Returns whether the file may be overwritten now.
+bool LocalFile::keepCopy(const QByteArray &text, const PosixFile &file)
+{
+    mIsDamaged = true;
+    mDamagedCopy = DamagedFile::keepCopy(text, file, mAccess);
+    if (mDamagedCopy.isEmpty())
+        qCritical() << "ConfStorage::loadLocalConfFile() damaged file could not be copied: "
+                    << mPath;
+    else
+        qCritical() << "ConfStorage::loadLocalConfFile() damaged file copied: " << mPath
+                    << mDamagedCopy;
+    return !mDamagedCopy.isEmpty();
+}
+
+/// Keeps what a save replaces: good content as the backup, damaged content as a copy. Returns
+/// whether the file may be overwritten.
+bool LocalFile::prepareOverwriting()
+{
+    PosixFile file;
+    const PosixFile::Status opened = file.open(mPath, PosixFile::Mode::Read);
+    if (opened == PosixFile::Status::Missing || opened == PosixFile::Status::Refused)
+        return true;
+    const PosixFile::Content content = opened == PosixFile::Status::Done
+                                           ? file.read(mLimit)
+                                           : PosixFile::Content{opened, QByteArray()};
+    if (content.status != PosixFile::Status::Done) {
+        qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: " << mPath;
+        return false;
+    }
+    if (content.bytes.isEmpty())
+        return true;
+    if (DamagedFile::isDamaged(content.bytes)) {
+        return DamagedFile::isRestOf(content.bytes, journalOf(file, mLimit))
+               || keepCopy(content.bytes, file);
+    }
+    const FileBackup backup(file);
+    if (!backup.write(content.bytes, file, mAccess))
+        qWarning() << "ConfStorage::saveToLocalConfFile() backup could not be written: "
+                   << backup.path();
+    return true;
 }
 
 void LocalFile::logLoad(const SafeFile::Loaded &loaded, const SafeFile &file) const
@@ -47,8 +135,10 @@ void LocalFile::logLoad(const SafeFile::Loaded &loaded, const SafeFile &file) co
     }
 }
 
-bool LocalFile::write(const std::function<QByteArray()> &compose) const
+bool LocalFile::write(const std::function<QByteArray()> &compose)
 {
+    if ((mOptions & ConfStorage::KeepDamagedFiles) && !prepareOverwriting())
+        return false;
     return mOptions & ConfStorage::SafeSave ? writeSafely(compose()) : writeInPlace(compose);
 }
 
@@ -63,10 +153,10 @@ void LocalFile::logNotReadable() const
 }
 
 /// Rewrites the file in place, so that links and permissions set by the user are kept.
-bool LocalFile::writeInPlace(const std::function<QByteArray()> &compose) const
+bool LocalFile::writeInPlace(const std::function<QByteArray()> &compose)
 {
     PosixFile file;
-    if (file.open(mPath, PosixFile::Mode::WriteOrDevice) != PosixFile::Status::Done) {
+    if (file.open(mPath, PosixFile::Mode::WriteOrDevice, mAccess) != PosixFile::Status::Done) {
         logOpenFailed();
         return false;
     }
@@ -82,10 +172,11 @@ bool LocalFile::writeInPlace(const std::function<QByteArray()> &compose) const
         return false;
     }
     file.write(text); // a failure is not checked
+    mContent = text;
     return true;
 }
 
-bool LocalFile::writeSafely(const QByteArray &text) const
+bool LocalFile::writeSafely(const QByteArray &text)
 {
     // QJsonDocument writes values that are nested too deeply to be parsed again, and loading
     // rejects files that are too large.
@@ -93,9 +184,9 @@ bool LocalFile::writeSafely(const QByteArray &text) const
         logNotReadable();
         return false;
     }
-    SafeFile file(mPath, mLimit);
+    SafeFile file(mPath, mLimit, mAccess);
     switch (file.save(text)) {
-    case SafeFile::Saved::Whole: return true;
+    case SafeFile::Saved::Whole: mContent = text; return true;
     case SafeFile::Saved::OpenFailed: logOpenFailed(); return false;
     case SafeFile::Saved::SeveralNames:
         qCritical() << "ConfStorage::saveToLocalConfFile() file has several names: " << mPath;

@@ -24,19 +24,37 @@ public:
     /// could overwrite settings that were not loaded.
     bool isComplete() const { return mIsComplete; }
 
+    /// Returns whether `read` or `write` found a damaged file, with `KeepDamagedFiles`. A damaged
+    /// file cannot be parsed, or is empty although it has a backup.
+    bool isDamaged() const { return mIsDamaged; }
+
+    /// Returns the path of the copy of the damaged file. Empty if there is none.
+    QString damagedCopy() const { return mDamagedCopy; }
+
+    /// Returns what the file contained after the last call of `read` or `write`, as far as that is
+    /// known. This is not what `read` returned if the file is damaged.
+    QByteArray content() const { return mContent; }
+
     /// Writes the text that `compose` returns, a JSON object. Returns whether that worked, as far
     /// as the options let it know. `compose` is not called if the file cannot be opened.
-    bool write(const std::function<QByteArray()> &compose) const;
+    bool write(const std::function<QByteArray()> &compose);
 
 private:
+    QByteArray readRepaired(const PosixFile &file, const QByteArray &text);
+    bool keepCopy(const QByteArray &text, const PosixFile &file);
+    bool prepareOverwriting();
     void logLoad(const SafeFile::Loaded &loaded, const SafeFile &file) const;
     void logOpenFailed() const;
     void logNotReadable() const;
-    bool writeInPlace(const std::function<QByteArray()> &compose) const;
-    bool writeSafely(const QByteArray &text) const;
+    bool writeInPlace(const std::function<QByteArray()> &compose);
+    bool writeSafely(const QByteArray &text);
 
     const QString mPath;
     const quint32 mOptions;
     const qint64 mLimit;
+    const PosixFile::Access mAccess;
     bool mIsComplete = false;
+    bool mIsDamaged = false;
+    QString mDamagedCopy;
+    QByteArray mContent;
 };

@@ -19,8 +19,12 @@ public:
     static QByteArray folder() { return QFile::encodeName(QDir::currentPath() + "/box"); }
 
     explicit SavedSettings(bool safe)
+        : SavedSettings(safe ? quint32(ConfStorage::SafeSave) : quint32(0))
     {
-        store.mFileOptions = safe ? ConfStorage::SafeSave : 0U;
+    }
+    explicit SavedSettings(quint32 options)
+    {
+        store.mFileOptions = options;
         store.mLocalSaveFile = path();
         store.reserveConf("size", &size);
         store.reserveConf("text", &text);

@@ -4,6 +4,7 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <algorithm>
 #include <optional>
 
 using namespace Faults;
@@ -117,6 +118,7 @@ private Q_SLOTS:
     void secondSaveSurvivesPowerLoss();
     void recoverySurvivesPowerLoss_data();
     void recoverySurvivesPowerLoss();
+    void damagedTextAndBackupSurvivePowerLoss();
     void failedSyncLosesNothing_data();
     void failedSyncLosesNothing();
     void everySyncOfASaveIsNeeded_data();
@@ -246,6 +248,38 @@ void tst_ConfStoragePowerLoss::recoverySurvivesPowerLoss()
     log.reset();
     qInfo("%d recoveries, %d states after a loss of power", recoveries, losses);
     QVERIFY2(recoveries > 5, qPrintable(QString::number(recoveries)));
+}
+
+void tst_ConfStoragePowerLoss::damagedTextAndBackupSurvivePowerLoss()
+{
+    constexpr quint32 sOptions = ConfStorage::SafeSave | ConfStorage::KeepDamagedFiles;
+    const QByteArray damaged = SavedSettings::fileText(3).left(30);
+    DiskModel disk(SavedSettings::folder(),
+                   {{"local.json", damaged}, {"local.json.backup", SavedSettings::fileText(1)}});
+    const auto loadAndSave = [] {
+        SavedSettings settings(sOptions);
+        settings.store.loadLocalConfFile();
+        settings.change(2);
+        settings.store.saveToLocalConfFile();
+    };
+    int losses = 0;
+    std::optional<LogCapture> log(std::in_place);
+    watch(disk, loadAndSave, [&] {
+        disk.eachLoss([&](const Folder &folder) {
+            ++losses;
+            QVERIFY(std::any_of(folder.begin(), folder.end(),
+                                [&](const auto &file) { return file.second == damaged; }));
+            putOnDisk(folder);
+            SavedSettings settings(sOptions);
+            const Scope healthy(SavedSettings::folder(), withoutWaiting);
+            settings.store.loadLocalConfFile();
+            QVERIFY2(settings.number() == 1 || settings.number() == 2,
+                     qPrintable(QString::number(settings.number())));
+        });
+    });
+    log.reset();
+    qInfo("%d states after a loss of power", losses);
+    QVERIFY(losses > 100);
 }
 
 void tst_ConfStoragePowerLoss::failedSyncLosesNothing_data()
