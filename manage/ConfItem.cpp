@@ -30,6 +30,7 @@ ConfItem &ConfItem::operator=(const ConfItem &other)
     majorName = other.majorName;
     name = other.name;
     subName = other.subName;
+    formerNames = other.formerNames;
     flags = other.flags;
     displayText = other.displayText;
     widgetCreator = other.widgetCreator;
@@ -64,6 +65,18 @@ void ConfItem::setFlagSystemIndependent() const
 void ConfItem::setConfChangedCallback(ConfChangedCallback cb) const
 {
     ConfStorage::instance()->setConfChangedCallback(getFullName(), std::move(cb));
+}
+
+void ConfItem::addFormerName(const QString &formerName, bool keepEntry)
+{
+    formerNames.append(formerName);
+    ++sRevision;
+    ConfStorage::instance()->addFormerName(getFullName(), formerName, keepEntry);
+}
+
+void ConfItem::setConverter(std::function<QJsonValue(const QJsonValue &)> converter)
+{
+    ConfStorage::instance()->setConfConverter(getFullName(), std::move(converter));
 }
 
 bool ConfItem::isDefaultValue() const

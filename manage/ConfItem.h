@@ -8,6 +8,7 @@
 #include <QJsonValue>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -69,6 +70,23 @@ public:
     /// `ConfStorage::setConfChangedCallback` logs.
     void setConfChangedCallback(ConfChangedCallback cb) const;
 
+    /// Makes entries of `formerName`, the full name that the item had in an older version of the
+    /// program, entries of the item: in the local file, in dumps and in configuration files. The
+    /// newest of both wins. With `keepEntry` the local file keeps the entry of the former name, so
+    /// that older versions find it. Call it before the local file is loaded, or else the callback
+    /// is called if the value changes.
+    ///
+    /// @see ConfStorage::addFormerName
+    void addFormerName(const QString &formerName, bool keepEntry = true);
+
+    /// Sets the function that converts values from an older form to the current one. It gets every
+    /// value that is loaded for the item, in JSON as `ConfValue::toJsonValue` returns it, and must
+    /// return values of the current form unchanged. It must not change the store. Call it before
+    /// the local file is loaded.
+    ///
+    /// @see ConfStorage::setConfConverter
+    void setConverter(std::function<QJsonValue(const QJsonValue &value)> converter);
+
     /// Returns whether the item and all its sub-items have their default values.
     bool isDefaultValue() const;
 
@@ -92,6 +110,7 @@ public:
     QString majorName;                  ///< name of the class, the first part of the key
     QString name;                       ///< the second part of the key
     QString subName;                    ///< the third part of the key, usually empty
+    QStringList formerNames;            ///< full names in older versions; see `addFormerName`
     quint32 flags = 0;                  ///< `ConfItemFlag` bits and bits of the host
     const char *displayText = nullptr;  ///< untranslated label; a literal of the host
     WidgetCreator widgetCreator;        ///< creates the editor; empty: the item has no editor

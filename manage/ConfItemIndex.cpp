@@ -29,11 +29,11 @@ QString fullNameOf(const QString &memberName)
 
 const ConfItem *ConfItemIndex::find(const QString &memberName)
 {
-    const QString fullName = fullNameOf(memberName);
-    if (fullName.isNull())
-        return nullptr;
     if (isStale())
         rebuild();
+    const QString fullName = fullNameOf(memberName);
+    if (fullName.isNull())
+        return findFormer(memberName);
     Index index = mFirst.value(fullName, -1);
     // Swapping items within the list copies and assigns none; it is noticed only here.
     if (index >= 0
@@ -41,7 +41,14 @@ const ConfItem *ConfItemIndex::find(const QString &memberName)
         rebuild();
         index = mFirst.value(fullName, -1);
     }
-    return index >= 0 ? &mItems.at(index) : nullptr;
+    return index >= 0 ? &mItems.at(index) : findFormer(memberName);
+}
+
+const ConfItem *ConfItemIndex::findFormer(const QString &memberName)
+{
+    const Index index = mFormer.value(memberName, -1);
+    const bool isFound = index >= 0 && mItems.at(index).formerNames.contains(memberName);
+    return isFound ? &mItems.at(index) : nullptr;
 }
 
 bool ConfItemIndex::isStale() const
@@ -53,10 +60,13 @@ bool ConfItemIndex::isStale() const
 void ConfItemIndex::rebuild()
 {
     mFirst.clear();
+    mFormer.clear();
     mFirst.reserve(mItems.size());
     for (Index i = mItems.size() - 1; i >= 0; --i) {
         if (isInFiles(mItems.at(i)))
             mFirst.insert(mItems.at(i).getFullName(), i);
+        for (const QString &formerName : mItems.at(i).formerNames)
+            mFormer.insert(formerName, i);
     }
     mSize = mItems.size();
     mData = mItems.isEmpty() ? nullptr : &mItems.first();

@@ -9,7 +9,8 @@ namespace MtConf {
 
 class ConfItem;
 
-/// Returns how often items were copied or assigned, which puts an item into a list. While this
+/// Returns how often items were copied or assigned, which puts an item into a list, or got a former
+/// name. While this
 /// number and the size of a list stay the same, its items change only if they are swapped or if
 /// single fields are assigned.
 quint64 itemRevision();
@@ -23,17 +24,19 @@ public:
     explicit ConfItemIndex(const ItemList<ConfItem> &items) : mItems(items) {}
 
     /// Returns the first item whose two or three names joined by "." are `memberName`, or null. The
-    /// third name may be empty.
+    /// third name may be empty. Otherwise the first item with `memberName` as a former name.
     const ConfItem *find(const QString &memberName);
 
 private:
     using Index = ItemList<ConfItem>::size_type;
 
+    const ConfItem *findFormer(const QString &memberName);
     bool isStale() const;
     void rebuild();
 
     const ItemList<ConfItem> &mItems;
-    QHash<QString, Index> mFirst; // by full name
+    QHash<QString, Index> mFirst;  // by full name
+    QHash<QString, Index> mFormer; // by former name
     const void *mData = nullptr;
     Index mSize = -1;
     quint64 mRevision = 0;

@@ -8,6 +8,16 @@
 
 namespace MtConf {
 
+namespace {
+
+/// Returns whether `members` has the current name of the item besides its former name `memberName`.
+bool isOutdated(const ConfItem &item, const QString &memberName, const QJsonObject &members)
+{
+    return item.formerNames.contains(memberName) && members.contains(item.getFullName());
+}
+
+} // namespace
+
 void MtConfManage::_loadFromFile(QString path)
 {
     confFilePath = path;
@@ -15,7 +25,8 @@ void MtConfManage::_loadFromFile(QString path)
     ConfItemIndex index(items);
     const QPointer<MtConfManage> self(this); // a callback may destroy the manager
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
-        if (const ConfItem *item = index.find(member.key()))
+        const ConfItem *item = index.find(member.key());
+        if (item && !isOutdated(*item, member.key(), members))
             item->loadFromJsonValue(member.value());
         if (!self)
             return;

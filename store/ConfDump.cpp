@@ -42,6 +42,15 @@ ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
     sortMembers();
 }
 
+ConfDump::ConfDump(const ConfStorage &store, const QString &key)
+    : mType(ConfStorage::DumpLocal), mValues(store.mConfValues), mMetas(store.mConfMetas)
+{
+    const auto value = mValues.constFind(key);
+    const auto record = mMetas.constFind(key);
+    if (value != mValues.cend() && record != mMetas.cend())
+        collectValue(key, *value, *record);
+}
+
 void ConfDump::collectKept(const KeptEntries &kept)
 {
     mKept = kept.entries();
@@ -62,25 +71,29 @@ void ConfDump::collectValues()
         if (meta == mMetas.cend())
             continue;
         const auto record = meta++;
-        const quint32 flags = record->flags;
-        if (record->lastChangeTime.isNull())
-            continue;
-        if (mType != ConfStorage::DumpLocal && (flags & ConfStorage::FlagLocalOnly))
-            continue;
-        const bool isDefault = (flags & ConfStorage::FlagIsDefault) || !hasJson(*value);
-        qint64 time = 0;
-        if (mType == ConfStorage::DumpChangedOnly) {
-            if (isDefault)
-                continue;
-        } else {
-            time = record->lastChangeTime.toSecsSinceEpoch();
-            if (time == 0)
-                continue;
-        }
-        const bool marked = flags & ConfStorage::FlagSystemIndependent;
-        mMembers.push_back(
-            {marked ? addSysMark(value.key()) : value.key(), time, &*value, isDefault});
+        collectValue(value.key(), *value, *record);
     }
+}
+
+void ConfDump::collectValue(const QString &key, const ConfValue &value,
+                            const ConfStorage::ConfMeta &record)
+{
+    if (record.lastChangeTime.isNull())
+        return;
+    if (mType != ConfStorage::DumpLocal && (record.flags & ConfStorage::FlagLocalOnly))
+        return;
+    const bool isDefault = (record.flags & ConfStorage::FlagIsDefault) || !hasJson(value);
+    qint64 time = 0;
+    if (mType == ConfStorage::DumpChangedOnly) {
+        if (isDefault)
+            return;
+    } else {
+        time = record.lastChangeTime.toSecsSinceEpoch();
+        if (time == 0)
+            return;
+    }
+    const bool marked = record.flags & ConfStorage::FlagSystemIndependent;
+    mMembers.push_back({marked ? addSysMark(key) : key, time, &value, isDefault});
 }
 
 void ConfDump::collectRemoved(const ConfStorage &store)

@@ -16,6 +16,8 @@ class ConfDump
 {
 public:
     ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type);
+    /// A local dump of one key.
+    ConfDump(const ConfStorage &store, const QString &key);
 
     QJsonObject toObject() const;
 
@@ -37,6 +39,8 @@ private:
 
     void collectKept(const KeptEntries &kept);
     void collectValues();
+    void collectValue(const QString &key, const ConfValue &value,
+                      const ConfStorage::ConfMeta &record);
     void collectRemoved(const ConfStorage &store);
     void sortMembers();
     QJsonValue entryOf(const Member &member) const;

@@ -1,6 +1,7 @@
 #include "ConfLoad_p.h"
 
 #include "ConfObservers_p.h"
+#include "ConfVersions_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
@@ -111,8 +112,10 @@ bool ConfLoad::loadText(const QByteArray &text)
     mIsReported = true;
     mIsSavable = sMostGrowth * text.size() <= mStore.mMaxFileSize;
     if (const auto members = readPlainDump(text, mTimes)) {
+        loadKeptOfClasses(mStore);
         for (const PlainMember &member : *members)
             load(member.key(), member);
+        loadFormer();
         return true;
     }
     const QJsonDocument document = QJsonDocument::fromJson(text);
@@ -133,21 +136,24 @@ void ConfLoad::loadFile(const QString &path, const QByteArray &text)
 void ConfLoad::loadObject(const QJsonObject &object)
 {
     mIsReported = true;
+    loadKeptOfClasses(mStore);
     // The copy shares the data and keeps it alive if a callback changes the caller's object.
     const QJsonObject members = object;
     for (auto member = members.constBegin(); member != members.constEnd(); ++member)
         load(member.key(), ParsedMember(member.value(), mTimes));
+    loadFormer();
 }
 
 void ConfLoad::loadMember(const QString &key, const QJsonValue &entry)
 {
     load(key, ParsedMember(entry, mTimes));
+    loadFormer();
 }
 
 bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
                                  const ConfStorage::DynamicConfClass *cls)
 {
-    return mergeDynamic(key, ParsedMember(entry, mTimes), cls);
+    return mergeDynamic(key, ParsedMember(converted(key, entry), mTimes), cls);
 }
 
 template<class Member> void ConfLoad::load(QString key, const Member &member)
@@ -162,11 +168,52 @@ template<class Member> void ConfLoad::load(QString key, const Member &member)
         refuse(key, ConfLoadReport::Reason::FutureTime);
         return;
     }
+    if (mStore.mVersions && !isForeign
+        && deferFormer(key, isMarked ? addSysMark(key) : key, member))
+        return;
     if (mKeepsUnknown && (isForeign || !isDeclared(key))) {
         mReport.unknown += isForeign ? 0 : 1;
         keep(isMarked ? addSysMark(key) : key, member);
         return;
     }
+    loadCurrent(key, member);
+}
+
+/// Notes an entry of a former name for `loadFormer`. `name` is that of the member, with the system
+/// mark. Returns false for any other entry.
+template<class Member>
+bool ConfLoad::deferFormer(const QString &key, const QString &name, const Member &member)
+{
+    int steps = 0;
+    const QString currentName = currentNameOf(key, &steps);
+    if (steps == 0)
+        return false;
+    const bool isCurrentDeclared = isDeclared(currentName);
+    if (mStore.mVersions->isKept(key) || (mKeepsUnknown && !isCurrentDeclared))
+        keep(name, member);
+    if (isCurrentDeclared)
+        mFormer.push_back({steps, currentName, member.entry()});
+    else
+        ++mReport.unknown;
+    return true;
+}
+
+/// Loads an entry that may have an older form.
+template<class Member> void ConfLoad::loadCurrent(const QString &key, const Member &member)
+{
+    if (mStore.mVersions && mStore.mVersions->mConverters.contains(key))
+        loadDeclared(key, ParsedMember(converted(key, member.entry()), mTimes));
+    else
+        loadDeclared(key, member);
+}
+
+void ConfLoad::merge(const QString &key, const QJsonValue &entry)
+{
+    loadCurrent(key, ParsedMember(entry, mTimes));
+}
+
+template<class Member> void ConfLoad::loadDeclared(const QString &key, const Member &member)
+{
     if (!member.isObject() || !loadDynamic(key, member))
         loadStatic(key, member);
 }
@@ -178,7 +225,7 @@ template<class Member> bool ConfLoad::isFromFuture(const QString &key, const Mem
     const std::optional<qint64> time = removalTime ? removalTime : member.time();
     if (!time || *time <= *mLastTime)
         return false;
-    if (!mKeepsUnknown && !isDeclared(key))
+    if (!mKeepsUnknown && !isDeclared(key) && !isFormerName(key))
         return false;
     if (mAheadCount++ == 0)
         mFirstAhead = key;

@@ -6,7 +6,10 @@
 
 #include "DumpMember_p.h"
 
+#include <QStringList>
+
 #include <optional>
+#include <vector>
 
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
 /// wins, and a tie keeps the stored one.
@@ -32,6 +35,13 @@ public:
     bool loadMemberOfClass(const QString &key, const QJsonValue &entry,
                            const ConfStorage::DynamicConfClass *cls);
 
+    /// Merges the kept entries of `key`, which exists now.
+    void loadKept(const QString &key);
+    /// Merges the kept entries of all keys of `store` that belong to a class.
+    static void loadKeptOfClasses(ConfStorage &store);
+    /// Merges the entry that has set the value of `key` when it was reserved, for a new converter.
+    void convertApplied(const QString &key);
+
     /// The entries of `store` that are not declared; null if there are none.
     static const KeptEntries *keptEntriesOf(const ConfStorage &store)
     {
@@ -41,6 +51,17 @@ public:
 private:
     // `Member` has the functions of `ParsedMember`.
     template<class Member> void load(QString key, const Member &member);
+    template<class Member> void loadCurrent(const QString &key, const Member &member);
+    template<class Member> void loadDeclared(const QString &key, const Member &member);
+    template<class Member>
+    bool deferFormer(const QString &key, const QString &name, const Member &member);
+    void loadFormer();
+    void merge(const QString &key, const QJsonValue &entry);
+    QString currentNameOf(const QString &key, int *steps = nullptr) const;
+    bool isFormerName(const QString &key) const;
+    QString withoutMark(const QString &name) const;
+    QJsonValue converted(const QString &key, const QJsonValue &entry);
+    QStringList keptNamesOf(const QString &key) const;
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
@@ -68,6 +89,15 @@ private:
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved
+
+    /// An entry of a former name.
+    struct Former
+    {
+        int steps; // from the former name to the current one
+        QString key;
+        QJsonValue entry;
+    };
+    std::vector<Former> mFormer; // loaded last, so that entries of the current name win ties
 
     ConfLoadReport mReport;
     bool mIsReported = false; // not for single members

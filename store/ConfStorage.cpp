@@ -1,6 +1,8 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "Autosave_p.h"
+#include "ConfDump_p.h"
+#include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
@@ -64,11 +66,20 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
             meta.flags &= ~FlagIsDefault;
     }
     mConfMetas[exactKey] = meta;
+    if (mKeptEntries && !mBusyDynamicConfs.contains(exactKey))
+        ConfLoad(*this, LoadLocal).loadKept(exactKey);
 }
 
 void ConfStorage::releaseConf(const QString &key)
 {
     const QString name = key; // which may refer to one of the maps
+    if (mFileOptions & (KeepUnknownEntries | SharedFile)) {
+        const QJsonObject entry = ConfDump(*this, name).toObject();
+        if (!mKeptEntries && !entry.isEmpty())
+            mKeptEntries = std::make_unique<KeptEntries>();
+        for (auto it = entry.constBegin(); it != entry.constEnd(); ++it)
+            mKeptEntries->keepReleased(it.key(), it.value());
+    }
     mConfValues.remove(name);
     mConfMetas.remove(name);
 }

@@ -1,7 +1,9 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
+#include "KeptEntries_p.h"
 #include "Limits_p.h"
 
 #include <QJsonValue>
@@ -24,18 +26,33 @@ QString keyText(const QString &key)
 }
 
 /// Returns one line of JSON, truncated if it is long.
-QString valueText(const ConfValue &value)
+QString jsonText(const QJsonValue &value)
 {
-    if (value.mType == ConfValue::TyNone)
+    if (value.isUndefined())
         return nothing();
     QByteArray json;
-    appendJsonValue(json, value.toJsonValue());
+    appendJsonValue(json, value);
     return EntryLog::printable(QString::fromUtf8(json), sMostCharacters);
+}
+
+QString valueText(const ConfValue &value)
+{
+    return value.mType == ConfValue::TyNone ? nothing() : jsonText(value.toJsonValue());
 }
 
 QString timeText(const QDateTime &time)
 {
     return time.isValid() ? time.toUTC().toString(Qt::ISODate) : nothing();
+}
+
+/// Returns the row of a kept entry. It has the timestamp of a removal, too.
+QStringList keptRow(const QString &name, const QJsonValue &entry)
+{
+    const std::optional<qint64> seconds = KeptEntries::timeOf(entry);
+    const QDateTime time = seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC) : QDateTime();
+    const QJsonValue value = entry.isObject() ? entry.toObject().value(sValueKey.name()) : entry;
+    return {keyText(name),          jsonText(value), nothing(),
+            QStringLiteral("kept"), timeText(time),  nothing()};
 }
 
 QString flagsText(quint32 flags)
@@ -95,6 +112,12 @@ QString ConfStorage::debugTable() const
         rows.append({keyText(removed.key()), nothing(), nothing(), QStringLiteral("removed"),
                      timeText(removed.value()), nothing()});
     }
-    const auto more = keys.size() + mRemovedDynamicConfs.size() - (rows.size() - 1);
+    const auto kept = mKeptEntries ? mKeptEntries->entries() : QMap<QString, QJsonValue>();
+    for (auto entry = kept.cbegin(); entry != kept.cend(); ++entry) {
+        if (rows.size() > Limits::sMaxTableRows)
+            break;
+        rows.append(keptRow(entry.key(), *entry));
+    }
+    const auto more = keys.size() + mRemovedDynamicConfs.size() + kept.size() - (rows.size() - 1);
     return aligned(rows) + (more > 0 ? QStringLiteral("%1 more\n").arg(more) : QString());
 }

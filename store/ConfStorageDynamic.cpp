@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "EntryLog_p.h"
 
@@ -144,6 +145,7 @@ void ConfStorage::loadPresetDynamicConf()
 {
     const EntryLog log;
     const ConfOperation operation(this);
+    ConfLoad::loadKeptOfClasses(*this);
     const QList<QString> keys = mPresetDynamicConfs.keys();
     for (const QString &key : keys) {
         // A preset that was never changed is not dumped, and does not count as a change.

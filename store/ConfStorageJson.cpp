@@ -3,6 +3,7 @@
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
+#include "ConfVersions_p.h"
 #include "EntryLog_p.h"
 
 #include <QDebug>
@@ -48,6 +49,8 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const Dynam
 
 void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
+    if (mVersions)
+        value = mVersions->convert(key, value);
     const bool isDefault = (mFileOptions & NullIsDefault)
                            && (value.isNull() || value.isUndefined());
     if (isDefault && mConfValues.contains(key)) {

@@ -1,12 +1,17 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfLoad_p.h"
 #include "ConfVersions_p.h"
 
 void ConfStorage::addFormerName(const QString &key, const QString &formerName, bool keepEntry)
 {
+    if (key == formerName)
+        return;
     if (!mVersions)
         mVersions = std::make_unique<ConfVersions>();
     mVersions->mFormerNames[formerName] = {key, keepEntry};
+    if (mKeptEntries && mConfValues.contains(key))
+        ConfLoad(*this, LoadLocal).loadKept(key);
 }
 
 void ConfStorage::setConfConverter(const QString &key,
@@ -15,4 +20,6 @@ void ConfStorage::setConfConverter(const QString &key,
     if (!mVersions)
         mVersions = std::make_unique<ConfVersions>();
     mVersions->mConverters[key] = std::move(converter);
+    if (mKeptEntries)
+        ConfLoad(*this, LoadLocal).convertApplied(key);
 }

@@ -38,6 +38,13 @@ bool KeptEntries::keep(const QString &name, const QJsonValue &entry)
     return true;
 }
 
+void KeptEntries::keepReleased(const QString &name, const QJsonValue &entry)
+{
+    if (timeOf(mEntries.value(name)) <= timeOf(entry))
+        remove(name);
+    keep(name, entry);
+}
+
 void KeptEntries::remove(const QString &name)
 {
     const auto stored = mEntries.find(name);

@@ -18,7 +18,17 @@ public:
     /// time; anything else without one is kept only if there is no entry of this name. Returns
     /// whether it was kept.
     bool keep(const QString &name, const QJsonValue &entry);
+    /// Keeps the entry of a setting of this program, which also wins a tie.
+    void keepReleased(const QString &name, const QJsonValue &entry);
     void remove(const QString &name);
+
+    /// Notes that the entry of `key` has set the value. The converter of the key may be set later.
+    void setApplied(const QString &key, const QJsonValue &entry) { mApplied[key] = entry; }
+    /// Returns the entry of the last call of `setApplied`; undefined if there was none.
+    QJsonValue applied(const QString &key) const
+    {
+        return mApplied.value(key, QJsonValue(QJsonValue::Undefined));
+    }
 
     /// The entries by name.
     const QMap<QString, QJsonValue> &entries() const { return mEntries; }
@@ -32,5 +42,6 @@ public:
 
 private:
     QMap<QString, QJsonValue> mEntries;
+    QMap<QString, QJsonValue> mApplied; // by key
     qint64 mSize = 0;
 };

@@ -1,0 +1,140 @@
+#include "ConfLoad_p.h"
+
+#include "ConfVersions_p.h"
+#include "KeptEntries_p.h"
+
+#include <algorithm>
+
+// What older versions of the program wrote, and what was kept for keys that did not exist.
+
+void ConfLoad::loadKept(const QString &key)
+{
+    mLastTime.reset(); // the load that kept the entries has reported them
+    const QStringList names = keptNamesOf(key);
+    for (const QString &name : names) {
+        if (!mStore.mKeptEntries || !mStore.mConfValues.contains(key))
+            return; // an observer has changed the store
+        const QJsonValue entry = mStore.mKeptEntries->entries().value(name);
+        const bool isRemoval = ParsedMember(entry, mTimes).removalTime().has_value();
+        if (isRemoval || !KeptEntries::timeOf(entry))
+            continue;
+        if (!isFormerName(withoutMark(name)) || !mStore.mVersions->isKept(withoutMark(name)))
+            mStore.mKeptEntries->remove(name);
+        mStore.mKeptEntries->setApplied(key, entry);
+        merge(key, entry);
+    }
+}
+
+/// Returns the names of the entries of `key`. The current name is the first one, as it wins ties.
+QStringList ConfLoad::keptNamesOf(const QString &key) const
+{
+    QStringList keys{key};
+    if (mStore.mVersions) {
+        const QList<QString> formerNames = mStore.mVersions->mFormerNames.keys();
+        std::vector<std::pair<int, QString>> former;
+        for (const QString &formerName : formerNames) {
+            int steps = 0;
+            if (formerName != key && currentNameOf(formerName, &steps) == key)
+                former.emplace_back(steps, formerName);
+        }
+        std::sort(former.begin(), former.end());
+        for (const auto &[steps, formerName] : former)
+            keys.append(formerName);
+    }
+    QStringList names;
+    for (const QString &name : std::as_const(keys))
+        names << name << addSysMark(name);
+    const auto isMissing = [this](const QString &name) {
+        return !mStore.mKeptEntries->entries().contains(name);
+    };
+    names.erase(std::remove_if(names.begin(), names.end(), isMissing), names.end());
+    return names;
+}
+
+void ConfLoad::loadKeptOfClasses(ConfStorage &store)
+{
+    if (!store.mKeptEntries)
+        return;
+    ConfLoad load(store, ConfStorage::LoadLocal);
+    load.mLastTime.reset();
+    const QList<QString> names = store.mKeptEntries->entries().keys();
+    for (const QString &name : names) {
+        const QString key = load.withoutMark(name);
+        const bool isRefused = store.mConfMetas.contains(key) && !store.mConfValues.contains(key);
+        if (isRefused || !store.findDynamicConfClass(key) || !store.mKeptEntries)
+            continue;
+        const QJsonValue entry = store.mKeptEntries->entries().value(name);
+        if (!KeptEntries::timeOf(entry))
+            continue;
+        store.mKeptEntries->remove(name);
+        load.merge(key, entry);
+        const bool isMerged = store.mConfValues.contains(key)
+                              || store.mRemovedDynamicConfs.contains(key);
+        if (!isMerged && store.mKeptEntries)
+            store.mKeptEntries->keep(name, entry);
+    }
+}
+
+void ConfLoad::convertApplied(const QString &key)
+{
+    const QJsonValue entry = mStore.mKeptEntries->applied(key);
+    const auto record = mStore.mConfMetas.find(key);
+    if (record == mStore.mConfMetas.end() || !entry.isObject()
+        || record->lastChangeTime.toSecsSinceEpoch() != KeptEntries::timeOf(entry))
+        return;
+    record->lastChangeTime = QDateTime(); // or the entry would lose against itself
+    mLastTime.reset();
+    merge(key, entry);
+}
+
+void ConfLoad::loadFormer()
+{
+    const auto isNearer = [](const Former &a, const Former &b) { return a.steps < b.steps; };
+    std::vector<Former> entries;
+    entries.swap(mFormer); // a callback may load something
+    std::stable_sort(entries.begin(), entries.end(), isNearer);
+    for (const Former &former : entries) {
+        if (isDeclared(former.key))
+            merge(former.key, former.entry);
+    }
+}
+
+/// Returns the key that an entry of `key` belongs to: its own if it is declared, or else the one
+/// that has it as a former name, directly or by other former names. `steps` counts them.
+QString ConfLoad::currentNameOf(const QString &key, int *steps) const
+{
+    QString name = key;
+    const QMap<QString, ConfVersions::FormerName> &formerNames = mStore.mVersions->mFormerNames;
+    int count = 0;
+    for (auto former = formerNames.constFind(name);
+         former != formerNames.constEnd() && count < formerNames.size() && !isDeclared(name);
+         former = formerNames.constFind(name)) {
+        name = former->key;
+        ++count;
+    }
+    if (steps)
+        *steps = count;
+    return name;
+}
+
+bool ConfLoad::isFormerName(const QString &key) const
+{
+    return mStore.mVersions && mStore.mVersions->mFormerNames.contains(key) && !isDeclared(key);
+}
+
+QString ConfLoad::withoutMark(const QString &name) const
+{
+    return name.endsWith(mSystemMark) ? name.chopped(mSystemMark.size()) : name;
+}
+
+/// Returns `entry` with the current form of its value.
+QJsonValue ConfLoad::converted(const QString &key, const QJsonValue &entry)
+{
+    QJsonObject object = entry.toObject();
+    const auto value = object.find(sValueKey.name());
+    if (!mStore.mVersions || value == object.end())
+        return entry;
+    forgetPosition();
+    *value = mStore.mVersions->convert(key, *value);
+    return object;
+}
