@@ -8,6 +8,7 @@
 #include "KeptEntries_p.h"
 #include "Limits_p.h"
 #include "PlainDump_p.h"
+#include "StrictTypes_p.h"
 
 #include <QDebug>
 #include <QJsonDocument>
@@ -66,6 +67,7 @@ ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
       mIsLocal(type == ConfStorage::LoadLocal),
       mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
       mKeepsUnknown(store.mFileOptions & ConfStorage::KeepUnknownEntries),
+      mIsStrict(store.mFileOptions & ConfStorage::StrictTypes),
       mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
       mSystemMark(addSysMark(QString()))
 {
@@ -289,6 +291,20 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
     return true;
 }
 
+/// Returns whether `value` is not of type `type`, and logs this. Otherwise `value` becomes the JSON
+/// to load.
+bool ConfLoad::hasOtherType(const QString &key, ConfValue::ConfType type, QJsonValue *value)
+{
+    if (const auto fitting = strictJson(*value, type)) {
+        *value = *fitting;
+        return false;
+    }
+    refuse(key, ConfLoadReport::Reason::WrongType);
+    forgetPosition();
+    logOtherType(key);
+    return true;
+}
+
 /// Returns whether a file may not add the key to the store, and logs this.
 bool ConfLoad::isBeyondLimits(const QString &key)
 {
@@ -437,8 +453,10 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
-    const QJsonValue value = newValue(member);
+    QJsonValue value = newValue(member);
     if (isRefused(key, value))
+        return;
+    if (mIsStrict && hasOtherType(key, stored->mType, &value))
         return;
     ++mReport.taken;
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);

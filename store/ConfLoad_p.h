@@ -65,6 +65,7 @@ private:
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
+    bool hasOtherType(const QString &key, ConfValue::ConfType type, QJsonValue *value);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
@@ -86,6 +87,7 @@ private:
     const bool mIsLocal; // any type but LoadLocal is a shared load
     const bool mNullIsDefault;
     const bool mKeepsUnknown;
+    const bool mIsStrict;
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved

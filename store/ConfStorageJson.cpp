@@ -5,6 +5,7 @@
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
+#include "StrictTypes_p.h"
 
 #include <QDebug>
 #include <QJsonObject>
@@ -56,6 +57,14 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
     if (isDefault && mConfValues.contains(key)) {
         setToDefault(key, true);
         return;
+    }
+    if (mFileOptions & StrictTypes) {
+        const auto fitting = strictJson(value, mConfValues.value(key).mType);
+        if (!fitting) {
+            logOtherType(key);
+            return;
+        }
+        value = *fitting;
     }
     const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Set);
     if (loadValue(key, value))

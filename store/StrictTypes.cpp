@@ -1,0 +1,78 @@
+#include "StrictTypes_p.h"
+
+#include "EntryLog_p.h"
+#include "ValueText_p.h"
+
+#include <QDebug>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+bool isInt(const QJsonValue &json)
+{
+    const double number = json.toDouble(0.5);
+    return std::trunc(number) == number && number >= std::numeric_limits<int>::min()
+           && number <= std::numeric_limits<int>::max();
+}
+
+bool isColor(const QString &text)
+{
+    constexpr int sMostDigits = 8;
+    if (text == QLatin1String("None"))
+        return true;
+    const auto isHexDigit = [](QChar character) {
+        return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
+               || (character >= QLatin1Char('a') && character <= QLatin1Char('f'))
+               || (character >= QLatin1Char('A') && character <= QLatin1Char('F'));
+    };
+    return !text.isEmpty() && text.size() <= sMostDigits
+           && std::all_of(text.begin(), text.end(), isHexDigit);
+}
+
+/// The number of a text that `appendJsonValue` writes for a number that JSON does not have.
+std::optional<QJsonValue> numberOf(const QString &text)
+{
+    if (text == QLatin1String("nan"))
+        return QJsonValue(std::numeric_limits<double>::quiet_NaN());
+    if (text == QLatin1String("inf"))
+        return QJsonValue(std::numeric_limits<double>::infinity());
+    if (text == QLatin1String("-inf"))
+        return QJsonValue(-std::numeric_limits<double>::infinity());
+    return std::nullopt;
+}
+
+bool fits(const QJsonValue &json, ConfValue::ConfType type)
+{
+    switch (type) {
+    case ConfValue::TyQColor: return json.isString() && isColor(json.toString());
+    case ConfValue::TyInt32: return isInt(json);
+    case ConfValue::TyQreal: return json.isDouble();
+    case ConfValue::TyBool: return json.isBool();
+    case ConfValue::TyQFont: return json.isString() && !toQt5FontText(json.toString()).isNull();
+    case ConfValue::TyQString:
+    case ConfValue::TyQKeySequence: return json.isString();
+    case ConfValue::TyQJsonObject: return json.isObject();
+    case ConfValue::TyQJsonArray: return json.isArray();
+    case ConfValue::TyNone: break;
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<QJsonValue> strictJson(const QJsonValue &json, ConfValue::ConfType type)
+{
+    if (json.isNull() || json.isUndefined() || fits(json, type))
+        return json;
+    return type == ConfValue::TyQreal ? numberOf(json.toString()) : std::nullopt;
+}
+
+void logOtherType(const QString &key)
+{
+    if (EntryLog::permits())
+        qWarning() << "ConfStorage::loadConf() value of another type refused: "
+                   << EntryLog::truncated(key);
+}
