@@ -7,6 +7,7 @@
 #include "JsonText_p.h"
 #include "KeptEntries_p.h"
 #include "Limits_p.h"
+#include "MergeTies_p.h"
 #include "PlainDump_p.h"
 #include "StrictTypes_p.h"
 
@@ -68,6 +69,7 @@ ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
       mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
       mKeepsUnknown(store.mFileOptions & ConfStorage::KeepUnknownEntries),
       mIsStrict(store.mFileOptions & ConfStorage::StrictTypes),
+      mResolvesTies(store.mFileOptions & ConfStorage::ResolveTies),
       mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
       mSystemMark(addSysMark(QString()))
 {
@@ -353,13 +355,18 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
 {
     const std::optional<qint64> removalTime = member.removalTime();
     const std::optional<qint64> time = member.time();
-    const QDateTime incoming = timeOfChange(removalTime ? removalTime : time);
+    const std::optional<qint64> seconds = removalTime ? removalTime : time;
+    const QDateTime incoming = timeOfChange(seconds);
 
     const auto record = mStore.mConfMetas.constFind(key);
     const QDateTime stored = record != mStore.mConfMetas.constEnd()
                                  ? record->lastChangeTime
                                  : mStore.mRemovedDynamicConfs.value(key);
-    if (storedWins(stored, incoming)) {
+    const bool isTie = stored.isValid() && seconds == stored.toSecsSinceEpoch();
+    const bool isKept = isTie && mResolvesTies ? !incomingWinsTie(
+                            mStore, key, removalTime.has_value(), newValue(member))
+                                               : storedWins(stored, incoming);
+    if (isKept) {
         ++mReport.newerHere;
         return true;
     }
@@ -384,6 +391,9 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     if (meta != mStore.mConfMetas.end()) {
         ++mReport.taken;
         meta->lastChangeTime = incoming;
+        // A value that equals the preset stays a value, as it is in the other copy.
+        if (mResolvesTies)
+            meta->flags &= ~ConfStorage::FlagIsDefault;
     } else {
         ++mReport.unknown;
         if (EntryLog::permits())
@@ -437,11 +447,19 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     const std::optional<qint64> time = member.time();
 
     // Most entries of a copy are no newer than the store: their values need not be read.
-    const auto known = metaOf(key);
-    if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()
-        && storedWins(known->lastChangeTime.toSecsSinceEpoch(), *time)) {
-        ++mReport.newerHere;
-        return;
+    auto known = metaOf(key);
+    if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()) {
+        const qint64 storedTime = known->lastChangeTime.toSecsSinceEpoch();
+        const bool isTie = mResolvesTies && storedTime == *time;
+        if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member))
+                  : storedWins(storedTime, *time)) {
+            ++mReport.newerHere;
+            return;
+        }
+        if (isTie) {
+            forgetPosition(); // a font may have been logged
+            known = metaOf(key);
+        }
     }
     const auto stored = valueOf(key);
     if (stored == mStore.mConfValues.end()) {

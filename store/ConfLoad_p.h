@@ -12,7 +12,7 @@
 #include <vector>
 
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
-/// wins, and a tie keeps the stored one.
+/// wins, and a tie keeps the stored one, or is decided by `ConfStorage::ResolveTies`.
 ///
 /// One object is one load: its destructor logs the timestamps that are too far ahead, and stores
 /// the report of the load. A load that a callback starts ends earlier than the load that called
@@ -88,6 +88,7 @@ private:
     const bool mNullIsDefault;
     const bool mKeepsUnknown;
     const bool mIsStrict;
+    const bool mResolvesTies;
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved

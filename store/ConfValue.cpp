@@ -2,6 +2,7 @@
 
 #include "EntryLog_p.h"
 
+#include "OwnedValue_p.h"
 #include "ValueText_p.h"
 
 #include <QDebug>
@@ -115,6 +116,18 @@ bool isNull(const ConfValue &value)
 }
 
 } // namespace
+
+ConfValue ownedCopy(const ConfValue &value)
+{
+    ConfValue copy = value;
+    if (value.mIsPtr) {
+        visitType(value.mType, [&](auto *type) {
+            using T = std::remove_pointer_t<decltype(type)>;
+            copy = ConfValue::owned(value.get<T>());
+        });
+    }
+    return copy;
+}
 
 void ConfValue::logGetMismatch()
 {

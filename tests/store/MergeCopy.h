@@ -25,7 +25,8 @@ inline std::ostream &operator<<(std::ostream &out, MergeSystem system)
 class MergeCopy
 {
 public:
-    explicit MergeCopy(MergeSystem system = MergeSystem::Own) : mSystem(system)
+    explicit MergeCopy(MergeSystem system = MergeSystem::Own, MergeTies ties = MergeTies::Stored)
+        : mSystem(system), mTies(ties)
     {
         start();
         mStore->loadPresetDynamicConf();
@@ -103,6 +104,8 @@ private:
     void start()
     {
         mStore = std::make_unique<ConfStorage>();
+        if (mTies == MergeTies::Greater)
+            mStore->mFileOptions |= ConfStorage::ResolveTies;
         mEntries.clear();
         addClass(mClasses[0], "Entry.", 0);
         addClass(mClasses[1], "SystemEntry.", ConfStorage::FlagSystemIndependent);
@@ -167,6 +170,7 @@ private:
     }
 
     const MergeSystem mSystem;
+    const MergeTies mTies;
     qint64 mFraction = 999;
     std::array<ConfStorage::DynamicConfClass, 3> mClasses;
     std::array<int, sMergeKeys.size()> mNumbers{};

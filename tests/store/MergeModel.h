@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 #include <ostream>
+#include <string>
 
 /// One key of the simulated host.
 struct MergeKey
@@ -53,12 +54,23 @@ inline std::ostream &operator<<(std::ostream &out, const MergeCell &cell)
 
 using MergeState = std::array<MergeCell, sMergeKeys.size()>;
 
+/// Which change a tie keeps.
+enum class MergeTies {
+    Stored, ///< each copy its own
+    Greater ///< the one with the greater text in every copy, with `ConfStorage::ResolveTies`
+};
+
+inline std::ostream &operator<<(std::ostream &out, MergeTies ties)
+{
+    return out << (ties == MergeTies::Stored ? "stored change wins ties" : "ties are resolved");
+}
+
 /// A second implementation of the merge rules, on plain cells instead of maps, flags and JSON.
 /// Keys are indexes into `sMergeKeys`.
 class MergeModel
 {
 public:
-    MergeModel()
+    explicit MergeModel(MergeTies ties = MergeTies::Stored) : mTies(ties)
     {
         for (size_t key = 0; key < sMergeKeys.size(); ++key) {
             if (sMergeKeys[key].defaultValue)
@@ -107,12 +119,14 @@ public:
     /// Writes the local file and loads it again: the visible state does not change.
     void restart()
     {
+        if (mTies == MergeTies::Greater)
+            return; // the file says which values are restored ones
         for (size_t key = 0; key < sMergeKeys.size(); ++key) {
             if (sMergeKeys[key].dynamic && isDefault(key, mState[key].value))
                 mKnownDefault[key] = mState[key].present;
         }
     }
-    /// Takes every newer change from `other`. At equal timestamps this copy keeps its value.
+    /// Takes every newer change from `other`, and of changes with equal timestamps those that win.
     void merge(const MergeModel &other, bool sameSystem)
     {
         for (size_t key = 0; key < sMergeKeys.size(); ++key) {
@@ -120,9 +134,12 @@ public:
             const MergeCell &theirs = other.mState[key];
             if (!theirs.time || info.local || (info.system && !sameSystem))
                 continue;
-            if (mState[key].time && *mState[key].time >= *theirs.time)
+            if (mState[key].time && *mState[key].time > *theirs.time)
                 continue;
-            const bool created = info.dynamic && !mState[key].present;
+            if (mState[key].time == theirs.time
+                && (mTies == MergeTies::Stored || weight(key) >= other.weight(key)))
+                continue;
+            const bool created = info.dynamic && !mState[key].present && mTies == MergeTies::Stored;
             if (!theirs.present)
                 drop(key, *theirs.time);
             else
@@ -143,6 +160,13 @@ public:
     }
 
 private:
+    /// The order of changes with equal timestamps.
+    std::string weight(size_t key) const
+    {
+        if (!mState[key].present)
+            return "removed"; // letters are greater than digits
+        return mKnownDefault[key] ? std::string() : std::to_string(mState[key].value);
+    }
     static bool isDefault(size_t key, int value) { return sMergeKeys[key].defaultValue == value; }
     void put(size_t key, int value, std::optional<qint64> time, bool knownDefault)
     {
@@ -155,6 +179,7 @@ private:
         mKnownDefault[key] = false;
     }
 
+    MergeTies mTies;
     MergeState mState;
     // Setting a value that equals the default is a change; restoring a value that is flagged as
     // default is not.

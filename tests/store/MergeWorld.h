@@ -42,11 +42,13 @@ inline std::ostream &operator<<(std::ostream &out, MergeTimes times)
 class MergeWorld
 {
 public:
-    explicit MergeWorld(const std::vector<MergeSystem> &systems, MergeTimes times) : mTimes(times)
+    explicit MergeWorld(const std::vector<MergeSystem> &systems, MergeTimes times,
+                        MergeTies ties = MergeTies::Stored)
+        : mTimes(times)
     {
         for (const MergeSystem system : systems)
-            mCopies.push_back(std::make_unique<MergeCopy>(system));
-        mModels.resize(systems.size());
+            mCopies.push_back(std::make_unique<MergeCopy>(system, ties));
+        mModels.resize(systems.size(), MergeModel(ties));
     }
 
     size_t count() const { return mCopies.size(); }

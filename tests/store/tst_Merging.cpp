@@ -49,6 +49,11 @@ std::vector<MergeSystem> twoToFiveSystems()
     return anySystems(*rc::gen::inRange<size_t>(2, 6));
 }
 
+MergeTies anyTies()
+{
+    return *rc::gen::element(MergeTies::Stored, MergeTies::Greater);
+}
+
 /// Merges every copy into every other one once, in random order.
 void exchangeInAnyOrder(MergeWorld &world)
 {
@@ -99,13 +104,15 @@ private Q_SLOTS:
     void loadingTwiceEqualsLoadingOnce();
     void mergingIsAssociative();
     void orderOfTwoCopiesMattersOnlyWithTies();
+    void threeCopiesAgreeIfTiesAreResolved();
+    void orderOfTwoCopiesNeverMattersIfTiesAreResolved();
 };
 
 void tst_Merging::storeMatchesTheModel()
 {
     QVERIFY(rc::check([] {
         const auto times = *rc::gen::element(MergeTimes::Unique, MergeTimes::Tied);
-        MergeWorld world(twoToFiveSystems(), times);
+        MergeWorld world(twoToFiveSystems(), times, anyTies());
         for (const MergeStep &step : *anySteps()) {
             world.apply(step);
             const size_t index = size_t(step.copy) % world.count();
@@ -200,7 +207,7 @@ void tst_Merging::loadingTwiceEqualsLoadingOnce()
 {
     QVERIFY(rc::check([] {
         const auto times = *rc::gen::element(MergeTimes::Unique, MergeTimes::Tied);
-        MergeWorld world(anySystems(2), times);
+        MergeWorld world(anySystems(2), times, anyTies());
         world.apply(*anySteps());
         const QJsonObject dump = world.copy(1).dump();
         world.copy(0).load(dump);
@@ -221,7 +228,8 @@ void tst_Merging::mergingIsAssociative()
         // Copies of different systems would not do: each drops the entries of the others.
         const std::vector<MergeSystem> systems(3, MergeSystem::Own);
         const std::vector<MergeStep> steps = *anySteps();
-        MergeWorld firstTwo(systems, times), lastTwo(systems, times);
+        const MergeTies ties = anyTies();
+        MergeWorld firstTwo(systems, times, ties), lastTwo(systems, times, ties);
         firstTwo.apply(steps);
         lastTwo.apply(steps);
         firstTwo.exchange(1, 0);
@@ -254,6 +262,45 @@ void tst_Merging::orderOfTwoCopiesMattersOnlyWithTies()
                       || (oneWay.copy(0).state()[key] == first[key]
                           && otherWay.copy(1).state()[key] == second[key]));
         }
+    }));
+}
+
+void tst_Merging::threeCopiesAgreeIfTiesAreResolved()
+{
+    QVERIFY(rc::check([] {
+        MergeWorld world(anySystems(3), MergeTimes::Tied, MergeTies::Greater);
+        world.apply(*anySteps());
+        exchangeInAnyOrder(world);
+        for (size_t index = 1; index < world.count(); ++index) {
+            const MergeState first = world.copy(0).state(), other = world.copy(index).state();
+            for (size_t key = 0; key < sMergeKeys.size(); ++key)
+                RC_ASSERT(other[key] == first[key]
+                          || !isShared(sMergeKeys[key], world.copy(0), world.copy(index)));
+        }
+        // The bytes agree as well, except for local-only keys and those of other systems.
+        if (world.copy(0).system() == world.copy(1).system()) {
+            QJsonObject first = world.copy(0).dump(), second = world.copy(1).dump();
+            first.remove("LocalEntry.a");
+            second.remove("LocalEntry.a");
+            RC_ASSERT(first == second);
+        }
+    }));
+}
+
+void tst_Merging::orderOfTwoCopiesNeverMattersIfTiesAreResolved()
+{
+    QVERIFY(rc::check([] {
+        const std::vector<MergeSystem> systems(2, MergeSystem::Own);
+        const std::vector<MergeStep> steps = *anySteps();
+        MergeWorld oneWay(systems, MergeTimes::Tied, MergeTies::Greater);
+        MergeWorld otherWay(systems, MergeTimes::Tied, MergeTies::Greater);
+        oneWay.apply(steps);
+        otherWay.apply(steps);
+        oneWay.exchange(1, 0);
+        otherWay.exchange(0, 1);
+        for (size_t key = 0; key < sMergeKeys.size(); ++key)
+            RC_ASSERT(sMergeKeys[key].local
+                      || oneWay.copy(0).state()[key] == otherWay.copy(1).state()[key]);
     }));
 }
 

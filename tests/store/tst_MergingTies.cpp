@@ -1,5 +1,6 @@
 #include "MergeWorld.h"
 
+#include "support/LogCapture.h"
 #include "support/TestMain.h"
 
 #include <array>
@@ -118,6 +119,16 @@ private Q_SLOTS:
     void twoComputersAgreeAndTheNewerChangeUndoesARemoval();
     void restoredEntryWithoutPresetGetsTheFirstValueOfEachCopy();
     void settingARemovedEntryBlocksOlderChanges();
+    void resolvedTieHasOneWinner_data();
+    void resolvedTieHasOneWinner();
+    void resolvedTieComparesTheTextThatIsDumped_data();
+    void resolvedTieComparesTheTextThatIsDumped();
+    void resolvedTieOfTheLocalFileHasTheSameWinner();
+    void loadingAgainCallsNoCallbackIfTiesAreResolved();
+    void numberThatJsonDoesNotHaveLosesLikeTheDefault();
+    void valueThatEqualsThePresetStaysAValue();
+    void unboundKeyKeepsItsTie();
+    void randomHistoriesAgreeIfTiesAreResolved();
 };
 
 void tst_MergingTies::newerChangeWinsAndAtATieEachCopyKeepsItsOwn_data()
@@ -313,6 +324,165 @@ void tst_MergingTies::settingARemovedEntryBlocksOlderChanges()
     b.set(sEntry, 11, 201);
     exchange(a, b);
     QCOMPARE(seen(a, sEntry), 11);
+}
+
+void tst_MergingTies::resolvedTieHasOneWinner_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("first"); // both changes are of second 100
+    QTest::addColumn<int>("second");
+    QTest::addColumn<int>("winner");
+
+    const auto row = [](const char *name, size_t key, int first, int second, int winner) {
+        QTest::newRow(name) << int(key) << first << second << winner;
+    };
+    row("two values: the greater text", sNumber, 10, 20, 20);
+    row("two values: the text, not the number", sNumber, 10, 9, 9);
+    row("set and restored: set", sNumber, 10, Restored, 10);
+    row("both restored: restored", sNumber, Restored, Restored, 1);
+    row("created twice: the greater text", sEntry, 10, 20, 20);
+    row("set and removed: removed", sPreset, 10, Removed, Removed);
+    row("restored and removed: removed", sPreset, Restored, Removed, Removed);
+    row("both removed: removed", sPreset, Removed, Removed, Removed);
+    row("set and unchanged: set", sNumber, 10, Untouched, 10);
+    row("removed and unchanged: removed", sPreset, Removed, Untouched, Removed);
+}
+
+void tst_MergingTies::resolvedTieHasOneWinner()
+{
+    QFETCH(int, key);
+    QFETCH(int, first);
+    QFETCH(int, second);
+    for (const bool isSwapped : {false, true}) {
+        MergeCopy a(MergeSystem::Own, MergeTies::Greater), b(MergeSystem::Own, MergeTies::Greater);
+        for (MergeCopy *copy : {&a, &b}) {
+            if (sMergeKeys[size_t(key)].defaultValue)
+                copy->set(size_t(key), 5, 50);
+        }
+        change(isSwapped ? b : a, size_t(key), first, 100);
+        change(isSwapped ? a : b, size_t(key), second, 100);
+        exchange(a, b);
+        QTEST(seen(a, size_t(key)), "winner");
+        QTEST(seen(b, size_t(key)), "winner");
+        QCOMPARE(a.dump(), b.dump());
+    }
+}
+
+void tst_MergingTies::resolvedTieComparesTheTextThatIsDumped_data()
+{
+    QTest::addColumn<QJsonValue>("color");
+    QTest::addColumn<QString>("kept"); // by a store that has "ff00aa00"
+    QTest::newRow("the same in capitals") << QJsonValue("FF00AA00") << "ff00aa00";
+    QTest::newRow("smaller in capitals") << QJsonValue("FF00A900") << "ff00aa00";
+    QTest::newRow("greater in capitals, which precede small letters")
+        << QJsonValue("FF00AB00") << "ff00ab00";
+    QTest::newRow("smaller after a zero that is not dumped") << QJsonValue("0f") << "ff00aa00";
+    QTest::newRow("no colour, whose text is smaller") << QJsonValue("None") << "ff00aa00";
+    QTest::newRow("fewer digits that are greater") << QJsonValue("fff") << "fff";
+    QTest::newRow("another type, read as 0") << QJsonValue(true) << "ff00aa00";
+}
+
+void tst_MergingTies::resolvedTieComparesTheTextThatIsDumped()
+{
+    QFETCH(QJsonValue, color);
+    QFETCH(QString, kept);
+    QColor variable(Qt::black);
+    ConfStorage store;
+    store.mFileOptions = ConfStorage::ResolveTies;
+    store.reserveConf("c", &variable);
+    const auto load = [&](const QJsonValue &value) {
+        store.loadConf({{"c", QJsonObject{{"t", 100}, {"v", value}}}}, ConfStorage::LoadShared);
+    };
+    load("ff00aa00");
+    load(color);
+    QCOMPARE(store.mConfValues["c"].toJsonValue(), QJsonValue(kept));
+}
+
+void tst_MergingTies::resolvedTieOfTheLocalFileHasTheSameWinner()
+{
+    int number = 1;
+    ConfStorage store;
+    store.mFileOptions = ConfStorage::ResolveTies;
+    store.reserveConf("n", &number);
+    for (const int value : {5, 3, 7})
+        store.loadConf({{"n", QJsonObject{{"t", 100}, {"v", value}}}}, ConfStorage::LoadLocal);
+    QCOMPARE(number, 7);
+}
+
+void tst_MergingTies::loadingAgainCallsNoCallbackIfTiesAreResolved()
+{
+    MergeCopy a(MergeSystem::Own, MergeTies::Greater), b(MergeSystem::Own, MergeTies::Greater);
+    a.set(sNumber, 10, 100);
+    a.create(sEntry, 5, 100);
+    b.load(a.dump());
+    int calls = 0;
+    for (const size_t key : {sNumber, sEntry})
+        b.store().setConfChangedCallback(MergeCopy::name(key),
+                                         [&](const QString &, const ConfValue *) { ++calls; });
+    b.load(a.dump());
+    QCOMPARE(calls, 0);
+    a.set(sNumber, 9, 100);
+    b.load(a.dump());
+    QCOMPARE(calls, 1);
+}
+
+void tst_MergingTies::numberThatJsonDoesNotHaveLosesLikeTheDefault()
+{
+    double infinite = 1, finite = 1;
+    ConfStorage a, b;
+    for (const auto &[store, variable] : {std::make_pair(&a, &infinite), {&b, &finite}}) {
+        store->mFileOptions = ConfStorage::ResolveTies;
+        store->reserveConf("x", variable);
+        store->set<double>("x", store == &a ? qInf() : 0.5);
+        store->mConfMetas["x"].lastChangeTime = QDateTime::fromSecsSinceEpoch(100, Qt::UTC);
+    }
+    b.loadConf(a.dumpConf(ConfStorage::DumpShared), ConfStorage::LoadShared);
+    a.loadConf(b.dumpConf(ConfStorage::DumpShared), ConfStorage::LoadShared);
+    QCOMPARE(infinite, 0.5);
+    QCOMPARE(finite, 0.5);
+}
+
+void tst_MergingTies::valueThatEqualsThePresetStaysAValue()
+{
+    MergeCopy a(MergeSystem::Own, MergeTies::Greater), b(MergeSystem::Own, MergeTies::Greater);
+    a.set(sPreset, 2, 100);
+    b.remove(sPreset, 50);
+    b.load(a.dump());
+    QCOMPARE(b.dump(), a.dump());
+    QVERIFY(b.store().isEqualToDefault(MergeCopy::name(sPreset)));
+    b.restart();
+    QCOMPARE(b.dump(), a.dump());
+}
+
+void tst_MergingTies::unboundKeyKeepsItsTie()
+{
+    int number = 1;
+    ConfStorage store;
+    store.mFileOptions = ConfStorage::ResolveTies;
+    store.reserveConf("n", &number);
+    const auto load = [&](const QJsonValue &value) {
+        store.loadConf({{"n", QJsonObject{{"t", 100}, {"v", value}}}}, ConfStorage::LoadShared);
+    };
+    load(QJsonValue());
+    const LogCapture log;
+    load(5);
+    QCOMPARE(number, 1);
+    QVERIFY(log.messages().isEmpty());
+}
+
+void tst_MergingTies::randomHistoriesAgreeIfTiesAreResolved()
+{
+    std::mt19937 random(1);
+    int tied = 0;
+    for (int start = 0; start < 1000; ++start) {
+        MergeWorld world(std::vector<MergeSystem>(3, MergeSystem::Own), MergeTimes::Tied,
+                         MergeTies::Greater);
+        changeAtRandom(world, random);
+        tied += hasTie(world);
+        world.exchangeAll();
+        QVERIFY(agree(world, false));
+    }
+    QVERIFY(tied > 0);
 }
 
 int main(int argc, char **argv)
