@@ -14,6 +14,7 @@
 #include <QDebug>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopedValueRollback>
 
 #include <iterator>
 
@@ -205,10 +206,13 @@ bool ConfLoad::deferFormer(const QString &key, const QString &name, const Member
 /// Loads an entry that may have an older form.
 template<class Member> void ConfLoad::loadCurrent(const QString &key, const Member &member)
 {
-    if (mStore.mVersions && mStore.mVersions->mConverters.contains(key))
-        loadDeclared(key, ParsedMember(converted(key, member.entry()), mTimes));
-    else
+    if (!mStore.mVersions || !mStore.mVersions->mConverters.contains(key)) {
         loadDeclared(key, member);
+        return;
+    }
+    const QJsonValue entry = member.entry();
+    const QScopedValueRollback<const QJsonValue *> unconverted(mUnconverted, &entry);
+    loadDeclared(key, ParsedMember(converted(key, entry), mTimes));
 }
 
 void ConfLoad::merge(const QString &key, const QJsonValue &entry)
@@ -293,18 +297,20 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
     return true;
 }
 
-/// Returns whether `value` is not of type `type`, and logs this. Otherwise `value` becomes the JSON
-/// to load.
-bool ConfLoad::hasOtherType(const QString &key, ConfValue::ConfType type, QJsonValue *value)
+/// Refuses a value of another type and logs this. The entry of a local file is kept. That of a dump
+/// is not, as it would replace the entry of this program in the local file.
+template<class Member>
+void ConfLoad::refuseType(const QString &key, bool isMarked, const Member &member)
 {
-    if (const auto fitting = strictJson(*value, type)) {
-        *value = *fitting;
-        return false;
-    }
     refuse(key, ConfLoadReport::Reason::WrongType);
+    if (mIsLocal
+        && (mStore.mFileOptions & (ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile))) {
+        const QJsonValue entry = mUnconverted ? *mUnconverted : member.entry();
+        keep(isMarked ? addSysMark(key) : key, ParsedMember(entry, mTimes));
+    }
     forgetPosition();
-    logOtherType(key);
-    return true;
+    if (!mIsRetry)
+        logOtherType(key);
 }
 
 /// Returns whether a file may not add the key to the store, and logs this.
@@ -474,8 +480,14 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     QJsonValue value = newValue(member);
     if (isRefused(key, value))
         return;
-    if (mIsStrict && hasOtherType(key, stored->mType, &value))
-        return;
+    if (mIsStrict) {
+        const auto fitting = strictJson(value, stored->mType);
+        if (!fitting) {
+            refuseType(key, meta->flags & ConfStorage::FlagSystemIndependent, member);
+            return;
+        }
+        value = *fitting;
+    }
     ++mReport.taken;
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     meta->lastChangeTime = timeOfChange(time);

@@ -57,6 +57,7 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
         return;
     ConfLoad load(store, ConfStorage::LoadLocal);
     load.mLastTime.reset();
+    load.mIsRetry = true;
     const QList<QString> names = store.mKeptEntries->entries().keys();
     for (const QString &name : names) {
         const QString key = load.withoutMark(name);

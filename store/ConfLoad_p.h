@@ -65,7 +65,7 @@ private:
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
-    bool hasOtherType(const QString &key, ConfValue::ConfType type, QJsonValue *value);
+    template<class Member> void refuseType(const QString &key, bool isMarked, const Member &member);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
@@ -92,6 +92,8 @@ private:
     const TimeRange mTimes;
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved
+    bool mIsRetry = false;   // of kept entries, which were reported when they were kept
+    const QJsonValue *mUnconverted = nullptr; // the entry that is being loaded in another form
 
     /// An entry of a former name.
     struct Former

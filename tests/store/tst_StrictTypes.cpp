@@ -10,6 +10,8 @@
 
 namespace {
 
+const char sPath[] = "local.json";
+
 QDateTime second(qint64 seconds)
 {
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
@@ -26,6 +28,7 @@ class Host
 public:
     explicit Host(quint32 options = ConfStorage::StrictTypes)
     {
+        store.mLocalSaveFile = sPath;
         store.mFileOptions = options;
         reserve("number", &number);
         reserve("real", &real);
@@ -78,6 +81,22 @@ private:
     ConfStorage::DynamicConfClass mClass;
 };
 
+void writeFile(const QJsonObject &object)
+{
+    QFile file(sPath);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QJsonDocument(object).toJson());
+}
+
+QJsonObject savedObject(ConfStorage &store)
+{
+    store.mChanged = true;
+    store.saveToLocalConfFile();
+    QFile file(sPath);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                          : QJsonObject();
+}
+
 QString refusalOf(const QString &key)
 {
     return "ConfStorage::loadConf() value of another type refused:  \"" + key + '"';
@@ -90,6 +109,8 @@ class tst_StrictTypes : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void init() { QFile::remove(sPath); }
+
     void valueOfTheTypeIsLoaded_data();
     void valueOfTheTypeIsLoaded();
     void valueOfAnotherTypeIsRefused_data();
@@ -103,6 +124,12 @@ private Q_SLOTS:
     void floodOfRefusedValuesIsCounted();
     void valueThatIsSetFromJsonIsRefused();
     void unboundKeyAcceptsNoTypeAndRefusesNone();
+    void refusedEntryOfTheLocalFileIsKept_data();
+    void refusedEntryOfTheLocalFileIsKept();
+    void laterChangeReplacesTheRefusedEntry();
+    void refusedEntryOfADumpIsNotKept();
+    void refusedEntryIsKeptInItsOldForm();
+    void keptEntryOfAnotherTypeIsRefusedWhenItsKeyIsReserved();
 };
 
 void tst_StrictTypes::valueOfTheTypeIsLoaded_data()
@@ -325,6 +352,84 @@ void tst_StrictTypes::unboundKeyAcceptsNoTypeAndRefusesNone()
     QCOMPARE(host.number, 7);
     QCOMPARE(log.messages(),
              (QList<LoggedMessage>{{QtCriticalMsg, "restoreDefault: unknow type:  0"}}));
+}
+
+void tst_StrictTypes::refusedEntryOfTheLocalFileIsKept_data()
+{
+    QTest::addColumn<quint32>("option");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("isKept");
+    const quint32 unknown = ConfStorage::KeepUnknownEntries;
+    QTest::newRow("setting") << unknown << "number" << true;
+    QTest::newRow("setting of this system") << unknown << "number#s.mac" << true;
+    QTest::newRow("dynamic entry") << unknown << "Entry.a" << true;
+    QTest::newRow("neither option") << 0U << "number" << false;
+}
+
+void tst_StrictTypes::refusedEntryOfTheLocalFileIsKept()
+{
+    QFETCH(quint32, option);
+    QFETCH(QString, key);
+    const LogCapture log;
+    const QString name = key.section('#', 0, 0);
+    const QJsonObject file = dumpOf(key, "12");
+    writeFile(file);
+    for (int start = 0; start < 2; ++start) {
+        Host host(ConfStorage::StrictTypes | option);
+        if (key != name)
+            host.store.mConfMetas[name].flags |= ConfStorage::FlagSystemIndependent;
+        host.store.loadLocalConfFile();
+        QCOMPARE(log.texts(QtWarningMsg).count(refusalOf(name)), start + 1);
+        const bool isKept = savedObject(host.store).value(key) == file.value(key);
+        QTEST(isKept, "isKept");
+        if (!isKept)
+            return;
+    }
+}
+
+void tst_StrictTypes::laterChangeReplacesTheRefusedEntry()
+{
+    const LogCapture log;
+    writeFile(dumpOf("number", "12"));
+    Host host(ConfStorage::StrictTypes | ConfStorage::KeepUnknownEntries);
+    host.store.loadLocalConfFile();
+    host.store.set("number", 5);
+    QCOMPARE(savedObject(host.store).value("number").toObject().value("v"), QJsonValue(5));
+}
+
+void tst_StrictTypes::refusedEntryOfADumpIsNotKept()
+{
+    const LogCapture log;
+    Host host(ConfStorage::StrictTypes | ConfStorage::KeepUnknownEntries);
+    host.store.loadConf(dumpOf("number", "12"), ConfStorage::LoadShared);
+    QCOMPARE(savedObject(host.store).value("number"), dumpOf("number", 7, 100).value("number"));
+}
+
+void tst_StrictTypes::refusedEntryIsKeptInItsOldForm()
+{
+    const LogCapture log;
+    const QJsonObject file = dumpOf("number", "many");
+    writeFile(file);
+    Host host(ConfStorage::StrictTypes | ConfStorage::KeepUnknownEntries);
+    host.store.setConfConverter(
+        "number", [](const QJsonValue &value) { return QJsonValue(value.toString() + "?"); });
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.number, 7);
+    QCOMPARE(savedObject(host.store).value("number"), file.value("number"));
+}
+
+void tst_StrictTypes::keptEntryOfAnotherTypeIsRefusedWhenItsKeyIsReserved()
+{
+    const LogCapture log;
+    const QJsonObject file = dumpOf("plugin", "12");
+    writeFile(file);
+    Host host(ConfStorage::StrictTypes | ConfStorage::KeepUnknownEntries);
+    host.store.loadLocalConfFile();
+    int plugin = 3;
+    host.store.reserveConf("plugin", &plugin);
+    QCOMPARE(plugin, 3);
+    QCOMPARE(log.texts(QtWarningMsg), QStringList(refusalOf("plugin")));
+    QCOMPARE(savedObject(host.store).value("plugin"), file.value("plugin"));
 }
 
 int main(int argc, char **argv)
