@@ -25,6 +25,10 @@ inline bool isMistaken(const QByteArray &text, TimeRange times)
         if (member.time() != parsed.time() || member.removalTime() != parsed.removalTime()
             || member.value() != parsed.value() || count != entry.size())
             return true;
+        const ParsedMember again(member.entry(), times);
+        if (again.time() != parsed.time() || again.removalTime() != parsed.removalTime()
+            || again.value() != parsed.value() || again.entry().toObject().size() != count)
+            return true;
         names.append(member.key());
     }
     return names != document.object().keys();
