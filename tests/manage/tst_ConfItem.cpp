@@ -141,6 +141,7 @@ void tst_ConfItem::copyKeepsEveryField()
     ConfItem original = item(&value, "Size", "Wide");
     original.flags = 0x10;
     original.displayText = "Size";
+    original.addFormerName(QStringLiteral("Main.Size"));
     original.properties.insert(QStringLiteral("MaxValue"), 5);
     original.subConfs.insert(QStringLiteral("sub"), item(&value, "Sub"));
     int calls = 0;
@@ -163,6 +164,7 @@ void tst_ConfItem::copyKeepsEveryField()
     QCOMPARE(copy.editor, original.editor);
     QCOMPARE(copy.flags, 0x10u);
     QCOMPARE(copy.displayText, original.displayText);
+    QCOMPARE(copy.formerNames, QStringList{QStringLiteral("Main.Size")});
     QCOMPARE(copy.properties, original.properties);
     QCOMPARE(copy.subConfs.keys(), QStringList{QStringLiteral("sub")});
     copy.widgetCreator(&copy, nullptr);

@@ -41,6 +41,11 @@ private Q_SLOTS:
     void itemsMissingFromTheFileKeepTheirValues();
     void keysAreLoadedInSortedOrder();
     void firstOfTwoItemsWithTheSameNamesIsLoaded();
+    void formerNamesFindItems_data();
+    void formerNamesFindItems();
+    void currentNameWinsAgainstFormerNames_data();
+    void currentNameWinsAgainstFormerNames();
+    void formerNameThatWasRemovedFindsNoItem();
     void itemDeclaredByACallbackIsFoundInTheSameFile();
     void itemsRemovedByACallbackAreNoLongerFound();
     void itemsReplacedByACallbackAreFoundByTheirNewNames();
@@ -220,6 +225,71 @@ void tst_MtConfManageFile::keysAreLoadedInSortedOrder()
     writeFile("{\"General.c\": 1, \"General.a\": 1, \"General.b\": 1}");
     mManager->_loadFromFile(path());
     QCOMPARE(order, (QStringList{"General.a", "General.b", "General.c"}));
+}
+
+void tst_MtConfManageFile::formerNamesFindItems_data()
+{
+    QTest::addColumn<QString>("formerName");
+    QTest::newRow("two names") << "Main.Size";
+    QTest::newRow("three names") << "Main.Window.Size";
+    QTest::newRow("one name") << "size";
+    QTest::newRow("four names") << "Main.Window.Size.Width";
+}
+
+void tst_MtConfManageFile::formerNamesFindItems()
+{
+    QFETCH(QString, formerName);
+    int size = 0, other = 0;
+    declare(&other, "Other");
+    ConfItem *item = declare(&size, "Size");
+    item->addFormerName(formerName);
+    item->setConverter([](const QJsonValue &value) {
+        return value.isString() ? QJsonValue(value.toString().toInt()) : value;
+    });
+    writeFile(QJsonObject{{formerName, "3"}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(size, 3);
+    QCOMPARE(other, 0);
+    ConfStorage::instance()->loadSingleConf(
+        formerName, QJsonObject{{"t", 253370764800.0}, {"v", "4"}}, ConfStorage::LoadLocal);
+    QCOMPARE(size, 3);
+    ConfStorage::instance()->mFileOptions = ConfStorage::LongTimes;
+    ConfStorage::instance()->loadSingleConf(
+        formerName, QJsonObject{{"t", 253370764800.0}, {"v", "4"}}, ConfStorage::LoadLocal);
+    QCOMPARE(size, 4);
+}
+
+void tst_MtConfManageFile::currentNameWinsAgainstFormerNames_data()
+{
+    QTest::addColumn<QString>("formerName");
+    QTest::newRow("before") << "A.Size";
+    QTest::newRow("behind") << "Z.Size";
+}
+
+void tst_MtConfManageFile::currentNameWinsAgainstFormerNames()
+{
+    QFETCH(QString, formerName);
+    int size = 0, other = 0;
+    declare(&size, "Size")->addFormerName(formerName);
+    declare(&other, "Other")->addFormerName("General.Size");
+    writeFile(QJsonObject{{formerName, 3}, {"General.Size", 4}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(size, 4);
+    QCOMPARE(other, 0);
+}
+
+void tst_MtConfManageFile::formerNameThatWasRemovedFindsNoItem()
+{
+    int first = 0, size = 0;
+    ConfItem *firstItem = declare(&first, "First");
+    ConfItem *item = declare(&size, "Size");
+    item->addFormerName("Old.Size");
+    firstItem->setConfChangedCallback(
+        [item](const QString &, const ConfValue *) { item->formerNames.clear(); });
+    writeFile(QJsonObject{{"General.First", 1}, {"Old.Size", 3}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(first, 1);
+    QCOMPARE(size, 0);
 }
 
 void tst_MtConfManageFile::firstOfTwoItemsWithTheSameNamesIsLoaded()
