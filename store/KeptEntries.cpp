@@ -31,7 +31,8 @@ bool KeptEntries::keep(const QString &name, const QJsonValue &entry)
         return true;
     }
     const std::optional<qint64> time = timeOf(incoming);
-    if (!time || time <= timeOf(*stored)) // no time is less than any
+    const bool isMadeNow = time && !timeOf(entry);        // always wins, as for declared keys
+    if (!time || (!isMadeNow && time <= timeOf(*stored))) // no time is less than any
         return false;
     mSize += sizeOf(name, incoming) - sizeOf(name, *stored);
     *stored = incoming;

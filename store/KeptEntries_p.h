@@ -14,9 +14,9 @@
 class KeptEntries
 {
 public:
-    /// Keeps `entry` if it is newer than the kept one. A value without a timestamp gets the current
-    /// time; anything else without one is kept only if there is no entry of this name. Returns
-    /// whether it was kept.
+    /// Keeps `entry` if it is newer than the kept one. A value without a timestamp always wins, and
+    /// gets the current time; anything else without one is kept only if there is no entry of this
+    /// name. Returns whether it was kept.
     bool keep(const QString &name, const QJsonValue &entry);
     /// Keeps the entry of a setting of this program, which also wins a tie.
     void keepReleased(const QString &name, const QJsonValue &entry);

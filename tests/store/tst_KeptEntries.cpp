@@ -225,6 +225,11 @@ void tst_KeptEntries::valueWithoutTimestampGetsTheCurrentTime()
     QCOMPARE(entry.value("v").toInt(), 5);
     QVERIFY(entry.value("t").toDouble() >= double(before));
     QVERIFY(entry.value("t").toDouble() <= double(QDateTime::currentSecsSinceEpoch()));
+
+    host.load(R"({"b":{"t":253370764800,"v":5}})");
+    host.load(R"({"b":{"v":6}})");
+    const QJsonObject later = host.store.dumpConf(ConfStorage::DumpLocal).value("b").toObject();
+    QCOMPARE(later.value("v").toInt(), 6);
 }
 
 void tst_KeptEntries::reservedKeyGetsItsEntryWithoutACallback_data()

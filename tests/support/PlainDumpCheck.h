@@ -6,6 +6,13 @@
 #include <QJsonObject>
 #include <QStringList>
 
+/// Returns whether both are the same in a file: Qt 5 compares whole numbers beyond 2^53 exactly,
+/// but a file has them as a double.
+inline bool isSame(const QJsonValue &a, const QJsonValue &b)
+{
+    return a == b || (a.isDouble() && b.isDouble() && a.toDouble() == b.toDouble());
+}
+
 /// Returns whether `readPlainDump` parses `text` differently from QJsonDocument and `ParsedMember`.
 /// Rejecting it is not a mistake.
 inline bool isMistaken(const QByteArray &text, TimeRange times)
@@ -27,7 +34,7 @@ inline bool isMistaken(const QByteArray &text, TimeRange times)
             return true;
         const ParsedMember again(member.entry(), times);
         if (again.time() != parsed.time() || again.removalTime() != parsed.removalTime()
-            || again.value() != parsed.value() || again.entry().toObject().size() != count)
+            || !isSame(again.value(), parsed.value()) || again.entry().toObject().size() != count)
             return true;
         names.append(member.key());
     }
