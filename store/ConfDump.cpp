@@ -169,6 +169,21 @@ QByteArray ConfDump::toText() const
     return text;
 }
 
+ConfDump::Entry ConfDump::at(size_t index) const
+{
+    const Member &member = mMembers[index];
+    return {member.name, member.time, member.kept != nullptr};
+}
+
+QByteArray ConfDump::entryText(size_t index, qint64 time) const
+{
+    Member member = mMembers[index];
+    member.time = time;
+    QByteArray text;
+    appendEntry(text, member);
+    return text;
+}
+
 void ConfDump::appendEntry(QByteArray &text, const Member &member) const
 {
     if (member.kept) {

@@ -26,6 +26,19 @@ public:
     /// QJsonDocument would lose are kept; JsonText_p.h lists them.
     QByteArray toText() const;
 
+    /// A member, in the order of the dump.
+    struct Entry
+    {
+        const QString &name; ///< with the system mark, if the key has one
+        qint64 time;         ///< of the change or the removal, in seconds since 1970
+        bool isKept;         ///< whether the key is not declared
+    };
+    size_t size() const { return mMembers.size(); }
+    Entry at(size_t index) const;
+
+    /// Returns the text of an entry, with another timestamp if it is not kept.
+    QByteArray entryText(size_t index, qint64 time) const;
+
 private:
     /// A kept entry, or else a changed value, or a tombstone if `value` is null.
     struct Member

@@ -25,15 +25,15 @@ constexpr qint64 sSecondsOfADay = 24 * 60 * 60; // clocks and time zones differ 
 
 /// The merge rule, for two times in the same unit: the newer change wins, and a tie keeps the
 /// stored one, so that loading a dump twice changes nothing.
-bool storedWins(qint64 stored, qint64 incoming)
+bool isNotNewer(qint64 stored, qint64 incoming)
 {
     return stored >= incoming;
 }
 
 /// The same for a change that may not exist.
-bool storedWins(const QDateTime &stored, const QDateTime &incoming)
+bool isNotNewer(const QDateTime &stored, const QDateTime &incoming)
 {
-    return stored.isValid() && storedWins(stored.toMSecsSinceEpoch(), incoming.toMSecsSinceEpoch());
+    return stored.isValid() && isNotNewer(stored.toMSecsSinceEpoch(), incoming.toMSecsSinceEpoch());
 }
 
 /// The time of a change in UTC. One without a time is made now.
@@ -64,9 +64,9 @@ template<class Map> typename Map::iterator findFrom(Map &map,
 
 } // namespace
 
-ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type)
+ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type, Merge merge)
     : mStore(store), mOperation(&store, ConfChange::Cause::Loaded),
-      mIsLocal(type == ConfStorage::LoadLocal),
+      mReplaces(merge == Merge::Replace), mIsLocal(type == ConfStorage::LoadLocal),
       mNullIsDefault(store.mFileOptions & ConfStorage::NullIsDefault),
       mKeepsUnknown(store.mFileOptions & ConfStorage::KeepUnknownEntries),
       mIsStrict(store.mFileOptions & ConfStorage::StrictTypes),
@@ -93,6 +93,11 @@ ConfLoad::~ConfLoad()
     else
         qWarning() << "ConfStorage::loadConf() timestamps too far ahead refused: " << mAheadCount
                    << first;
+}
+
+template<class Time> bool ConfLoad::storedWins(const Time &stored, const Time &incoming) const
+{
+    return !mReplaces && isNotNewer(stored, incoming);
 }
 
 QMap<QString, ConfValue>::iterator ConfLoad::valueOf(const QString &key)
@@ -132,9 +137,15 @@ bool ConfLoad::loadText(const QByteArray &text)
     return true;
 }
 
+void ConfLoad::setFile(const QString &path)
+{
+    mIsReported = true;
+    mReport.file = path;
+}
+
 void ConfLoad::loadFile(const QString &path, const QByteArray &text)
 {
-    mReport.file = path;
+    setFile(path);
     loadText(text);
 }
 
@@ -495,6 +506,11 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (!value.isUndefined() && !meta->changedCallback && !change && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;
+        return;
+    }
+    if (mReplaces && !(meta->flags & ConfStorage::FlagIsDefault)
+        && stored->toJsonValue() == value) {
+        ConfObservers::finishChange(mStore, change); // only the timestamp has changed
         return;
     }
     forgetPosition();

@@ -20,12 +20,19 @@
 class ConfLoad
 {
 public:
-    ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type);
+    enum class Merge {
+        NewerWins, ///< the newer change of a key wins
+        Replace    ///< the loaded entry wins; only what it really changes is a change
+    };
+
+    ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type, Merge merge = Merge::NewerWins);
     ~ConfLoad();
     Q_DISABLE_COPY(ConfLoad)
 
     /// Returns whether `text` is a JSON object; nothing else is loaded.
     bool loadText(const QByteArray &text);
+    /// Reports the load as that of the file at `path`.
+    void setFile(const QString &path);
     /// Loads `text`, the content of the file at `path`.
     void loadFile(const QString &path, const QByteArray &text);
     void loadObject(const QJsonObject &object);
@@ -50,6 +57,7 @@ public:
 
 private:
     // `Member` has the functions of `ParsedMember`.
+    template<class Time> bool storedWins(const Time &stored, const Time &incoming) const;
     template<class Member> void load(QString key, const Member &member);
     template<class Member> void loadCurrent(const QString &key, const Member &member);
     template<class Member> void loadDeclared(const QString &key, const Member &member);
@@ -84,6 +92,7 @@ private:
 
     ConfStorage &mStore;
     const ConfOperation mOperation;
+    const bool mReplaces;
     const bool mIsLocal; // any type but LoadLocal is a shared load
     const bool mNullIsDefault;
     const bool mKeepsUnknown;

@@ -22,6 +22,7 @@ class ConfVersions;
 class FileSharing;
 class FileWatch;
 class KeptEntries;
+class LocalFile;
 class LockedConfs;
 class QJsonObject;
 struct ConfChange;
@@ -423,6 +424,10 @@ private:
     bool removeDynamic(const QString &key);
     void callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value = nullptr);
     bool isDynamicWithoutPreset(const QString &key) const;
+    void reportDamage(const LocalFile &file);
+    void saveSharedFile();
+    void loadSharedFile();
+    std::shared_ptr<FileSharing> fileSharing();
     static void logNullPointer(const QString &key);
     static void logGetNotFound(const QString &key);
     static void logSetNotFound(const QString &key);
@@ -438,7 +443,7 @@ private:
     std::unique_ptr<KeptEntries> mKeptEntries;
     std::unique_ptr<ConfVersions> mVersions;
     std::unique_ptr<LockedConfs> mLockedConfs;
-    std::unique_ptr<FileSharing> mFileSharing;
+    std::shared_ptr<FileSharing> mFileSharing;
     std::unique_ptr<FileWatch> mFileWatch;
     std::unique_ptr<Autosave> mAutosave;
 };

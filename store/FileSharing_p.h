@@ -1,6 +1,76 @@
 #pragma once
 
-/// The local file of a store that other programs change, too.
+#include "DumpMember_p.h"
+#include "MemberTexts_p.h"
+
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include <QByteArray>
+#include <QMap>
+#include <QSet>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class ConfDump;
+class LocalFile;
+
+/// The local file of a store when other programs change it, too.
+///
+/// Every read and write is done under a lock. A save merges: an entry that no operation of this
+/// store has touched since the file was last read or written keeps the bytes of the file. A touched
+/// entry yields only to a change of others with a later second that is not in the future; otherwise
+/// it wins, with a timestamp after that of the file. What others changed is loaded after the lock
+/// is released.
 class FileSharing
 {
+public:
+    explicit FileSharing(ConfStorage &store);
+    ~FileSharing();
+    Q_DISABLE_COPY(FileSharing)
+
+    /// Merges the file into the store and creates the missing presets. Logs a failure.
+    void load();
+
+    /// Merges both into the file, and what others changed into the store. Returns whether all
+    /// changes are in the file; logs a failure.
+    bool save();
+
+    /// Loads what others have changed since the file was last read. Does nothing if it is unchanged
+    /// or locked for too long.
+    void update();
+
+    /// Returns whether operations of this store are not in the file yet, or the file is damaged.
+    bool hasChanges() const { return mNeedsRepair || !mTouched.isEmpty(); }
+
+private:
+    using Members = std::vector<MemberText>;
+
+    void observe(const ConfChange &change);
+    void useFile(const QString &path);
+    void loadFile();
+    void loadWhole();
+    Members take(const QByteArray &text);
+    bool write(LocalFile *file, const Members &members);
+    bool collectForeign(const Members &members, const QByteArray &before);
+    QByteArray merged(const Members &members, const QSet<QString> &touched);
+    QByteArray winner(const ConfDump &dump, size_t index, std::string_view theirs);
+    static bool yields(qint64 ourTime, qint64 theirTime);
+    TimeRange timeRange() const;
+    void stamp(const QString &key, qint64 seconds);
+    void yieldToNewer();
+    void loadForeign();
+
+    ConfStorage &mStore;
+    std::shared_ptr<ConfObservers> mObservers;
+    int mObserver = 0;
+    bool mNeedsRepair = false; // the file was damaged
+    int mMergeDepth = -1;      // of callbacks while entries of the file are loaded; -1: none are
+
+    QString mPath;                        // of the file that the following belongs to
+    QByteArray mText;                     // of the file, when it was last read or written
+    QSet<QString> mTouched;               // keys that were changed here since then
+    QMap<QString, QByteArray> mForeign;   // entries by name that are to be loaded
+    QMap<QString, QByteArray> mContested; // entries by name that others changed, of touched keys
 };

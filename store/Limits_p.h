@@ -34,4 +34,7 @@ constexpr int sMaxLoggedEntries = 20;
 /// Rows of the table that `ConfStorage::debugTable` returns. The rest is counted in one more line.
 constexpr int sMaxTableRows = 10000;
 
+/// Milliseconds that a load or a save waits for another program that has locked the file.
+constexpr int sLockTimeout = 5000;
+
 } // namespace Limits

@@ -7,6 +7,7 @@
 
 #include <QDebug>
 #include <QJsonDocument>
+#include <QThread>
 
 namespace {
 
@@ -107,6 +108,25 @@ bool LocalFile::prepareOverwriting()
     return true;
 }
 
+QByteArray LocalFile::peek()
+{
+    // While another program rewrites the file, its text is incomplete for an instant.
+    constexpr int sTries = 50;
+    constexpr int sPause = 20; // milliseconds
+    SafeFile file(mPath, mLimit, mAccess);
+    SafeFile::Loaded loaded = file.peek();
+    for (int i = 1; i < sTries && loaded.file == PosixFile::Status::Done
+                    && !QJsonDocument::fromJson(loaded.text).isObject();
+         ++i) {
+        QThread::msleep(sPause);
+        loaded = file.peek();
+    }
+    mIsComplete = loaded.isComplete();
+    mContent = loaded.text;
+    logLoad(loaded, file);
+    return loaded.text;
+}
+
 void LocalFile::logLoad(const SafeFile::Loaded &loaded, const SafeFile &file) const
 {
     if (loaded.file == PosixFile::Status::TooLarge)
@@ -139,7 +159,8 @@ bool LocalFile::write(const std::function<QByteArray()> &compose)
 {
     if ((mOptions & ConfStorage::KeepDamagedFiles) && !prepareOverwriting())
         return false;
-    return mOptions & ConfStorage::SafeSave ? writeSafely(compose()) : writeInPlace(compose);
+    constexpr quint32 sSafe = ConfStorage::SafeSave | ConfStorage::SharedFile;
+    return mOptions & sSafe ? writeSafely(compose()) : writeInPlace(compose);
 }
 
 void LocalFile::logOpenFailed() const

@@ -20,6 +20,9 @@ public:
     /// no file, or if it could not be read.
     QByteArray read();
 
+    /// Returns the same while another program may be writing the file. Changes no file.
+    QByteArray peek();
+
     /// Returns whether the last call of `read` could read everything that exists. Otherwise a save
     /// could overwrite settings that were not loaded.
     bool isComplete() const { return mIsComplete; }

@@ -228,6 +228,18 @@ QString PosixFile::resolvedPath() const
     return path == QDir::cleanPath(given.absoluteFilePath()) ? mPath : path;
 }
 
+QString PosixFile::targetPath(const QString &path)
+{
+    constexpr int sMaxLinks = 40; // as the system's own limit
+    QFileInfo file(path);
+    for (int i = 0; i < sMaxLinks && file.isSymLink() && !file.exists(); ++i)
+        file.setFile(file.symLinkTarget());
+    if (file.exists())
+        return file.canonicalFilePath();
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? file.absoluteFilePath() : QDir(folder).filePath(file.fileName());
+}
+
 PosixFile::Content PosixFile::read(const QString &path, qint64 limit)
 {
     PosixFile file;

@@ -86,6 +86,10 @@ public:
     /// Empty if the file has no name any more.
     QString resolvedPath() const;
 
+    /// Returns the path of the file that `path` leads to, which need not exist: the links are
+    /// followed, and the path is absolute.
+    static QString targetPath(const QString &path);
+
     /// Opens and reads the file `path`.
     static Content read(const QString &path, qint64 limit);
 

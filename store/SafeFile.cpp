@@ -36,7 +36,7 @@ SafeFile::Saved SafeFile::save(const QByteArray &text)
     return Saved::Whole;
 }
 
-SafeFile::Loaded SafeFile::load(const ReplaceHandler &mayReplace)
+SafeFile::Loaded SafeFile::readFile()
 {
     Loaded loaded;
     loaded.file = mFile.open(mPath, PosixFile::Mode::Read);
@@ -46,6 +46,12 @@ SafeFile::Loaded SafeFile::load(const ReplaceHandler &mayReplace)
         loaded.text = content.bytes;
         mJournal = SaveJournal(mFile.resolvedPath());
     }
+    return loaded;
+}
+
+SafeFile::Loaded SafeFile::load(const ReplaceHandler &mayReplace)
+{
+    Loaded loaded = readFile();
     // An interrupted save leaves a truncated text.
     const bool isFileDamaged = !loaded.text.trimmed().endsWith('}');
     SaveJournal::Entry entry;
@@ -58,6 +64,16 @@ SafeFile::Loaded SafeFile::load(const ReplaceHandler &mayReplace)
         break;
     case SaveJournal::State::Valid: recover(entry, mayReplace, &loaded); break;
     }
+    return loaded;
+}
+
+SafeFile::Loaded SafeFile::peek()
+{
+    Loaded loaded = readFile();
+    SaveJournal::Entry entry;
+    if (!QJsonDocument::fromJson(loaded.text).isObject()
+        && mJournal.read(&entry, mLimit, true) == SaveJournal::State::Valid)
+        loaded.text = entry.newText;
     return loaded;
 }
 

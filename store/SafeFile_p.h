@@ -59,9 +59,12 @@ public:
     /// missing.
     Saved save(const QByteArray &text);
 
-    /// Returns the text of the file, or of the journal if a save was interrupted.
-    /// `mayReplace` may be empty.
+    /// Returns the text of the file, or of the journal if a save was interrupted, and completes
+    /// that save. `mayReplace` may be empty.
     Loaded load(const ReplaceHandler &mayReplace = ReplaceHandler());
+
+    /// Returns the same text, but changes no file: another program may be saving.
+    Loaded peek();
 
     QString path() const { return mPath; }
     /// The file, open after a load that could read it.
@@ -72,6 +75,7 @@ public:
 private:
     bool rewrite(const QByteArray &text) const;
     bool replay(const QByteArray &text);
+    Loaded readFile();
     void recover(const SaveJournal::Entry &entry, const ReplaceHandler &mayReplace, Loaded *loaded);
 
     QString mPath;

@@ -1,0 +1,386 @@
+#include "FileSharing_p.h"
+
+#include "ConfDump_p.h"
+#include "ConfLoad_p.h"
+#include "ConfObservers_p.h"
+#include "DumpMember_p.h"
+#include "FileLock_p.h"
+#include "JsonText_p.h"
+#include "LocalFile_p.h"
+#include "PosixFile_p.h"
+
+#include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace {
+
+struct NamedText
+{
+    QString name;
+    std::string_view value;
+};
+
+QByteArray toBytes(std::string_view text)
+{
+    return QByteArray(text.data(), static_cast<int>(text.size()));
+}
+
+/// Returns the key of a member, whose name may have the system mark.
+QString keyOf(const QString &name)
+{
+    const QString mark = addSysMark(QString());
+    return name.endsWith(mark) ? name.chopped(mark.size()) : name;
+}
+
+/// Undefined if `value` is not JSON.
+QJsonValue parsed(const QByteArray &value)
+{
+    const QJsonArray array = QJsonDocument::fromJson('[' + value + ']').array();
+    return array.isEmpty() ? QJsonValue(QJsonValue::Undefined) : array.at(0);
+}
+
+qint64 timeOf(std::string_view value, TimeRange times)
+{
+    const ParsedMember member(parsed(toBytes(value)), times);
+    const std::optional<qint64> removal = member.removalTime();
+    return removal ? *removal : member.time().value_or(0);
+}
+
+/// Returns the members by name, each name once: the last one counts.
+std::vector<NamedText> sortedByName(const std::vector<MemberText> &members)
+{
+    std::vector<NamedText> sorted;
+    sorted.reserve(members.size());
+    for (const MemberText &member : members)
+        sorted.push_back({member.name(), member.value});
+    const auto precedes = [](const NamedText &a, const NamedText &b) { return a.name < b.name; };
+    const auto isUnordered = [](const NamedText &a, const NamedText &b) {
+        return !(a.name < b.name);
+    };
+    if (std::adjacent_find(sorted.cbegin(), sorted.cend(), isUnordered) == sorted.cend())
+        return sorted;
+    std::stable_sort(sorted.begin(), sorted.end(), precedes);
+    const auto lastOfEach = std::unique(
+        sorted.rbegin(), sorted.rend(),
+        [](const NamedText &a, const NamedText &b) { return a.name == b.name; });
+    sorted.erase(sorted.begin(), lastOfEach.base());
+    return sorted;
+}
+
+/// Finds members by their raw name. Searches for them in their order are cheap.
+class MemberIndex
+{
+public:
+    explicit MemberIndex(const std::vector<MemberText> &members) : mMembers(members) {}
+
+    const MemberText *find(std::string_view rawName)
+    {
+        if (mNext < mMembers.size() && mMembers[mNext].rawName == rawName)
+            return &mMembers[mNext++];
+        if (mPositions.empty()) {
+            for (size_t i = 0; i < mMembers.size(); ++i)
+                mPositions[mMembers[i].rawName] = i;
+        }
+        const auto found = mPositions.find(rawName);
+        if (found == mPositions.end())
+            return nullptr;
+        mNext = found->second + 1;
+        return &mMembers[found->second];
+    }
+
+private:
+    const std::vector<MemberText> &mMembers;
+    std::unordered_map<std::string_view, size_t> mPositions; // filled when it is needed
+    size_t mNext = 0;
+};
+
+std::string_view view(const QByteArray &text)
+{
+    return {text.constData(), static_cast<size_t>(text.size())};
+}
+
+void appendMember(QByteArray *text, const QString &name, std::string_view value)
+{
+    if (text->size() > 1)
+        *text += ',';
+    appendJsonString(*text, name);
+    *text += ':';
+    text->append(value.data(), static_cast<int>(value.size()));
+}
+
+} // namespace
+
+FileSharing::FileSharing(ConfStorage &store) : mStore(store)
+{
+    mObserver = store.addObserver([this](const ConfChange &change) { observe(change); });
+    mObservers = store.mObservers;
+}
+
+FileSharing::~FileSharing()
+{
+    mObservers->remove(mObserver);
+}
+
+void FileSharing::observe(const ConfChange &change)
+{
+    // A callback of a change that is loaded from the file may load something else.
+    const bool isFromFile = mMergeDepth == mStore.mCallbackDepth
+                            && change.cause == ConfChange::Cause::Loaded;
+    if (isFromFile)
+        mTouched.remove(change.key);
+    else
+        mTouched.insert(change.key);
+}
+
+void FileSharing::useFile(const QString &path)
+{
+    if (mPath == path)
+        return;
+    mPath = path;
+    mText.clear();
+    mForeign.clear();
+    mContested.clear();
+    mTouched.clear();
+    for (auto meta = mStore.mConfMetas.cbegin(); meta != mStore.mConfMetas.cend(); ++meta) {
+        if (!meta->lastChangeTime.isNull())
+            mTouched.insert(meta.key());
+    }
+    const QList<QString> removed = mStore.mRemovedDynamicConfs.keys();
+    for (const QString &key : removed)
+        mTouched.insert(key);
+}
+
+/// Compares `text` with the text that was last read. Returns its members, or none if it is no JSON
+/// object.
+FileSharing::Members FileSharing::take(const QByteArray &text)
+{
+    const QByteArray before = mText;
+    mText = text;
+    mContested.clear();
+    const auto members = splitMembers(mText);
+    if (!members || (mText != before && !collectForeign(*members, before)))
+        return {};
+    return *members;
+}
+
+/// Notes the entries that others have changed. Returns false if one of them is not JSON.
+bool FileSharing::collectForeign(const Members &members, const QByteArray &before)
+{
+    const auto split = splitMembers(before);
+    const Members known = split ? *split : Members();
+    MemberIndex index(known);
+    QMap<QString, QByteArray> foreign = mForeign;
+    QMap<QString, QByteArray> contested;
+    for (const MemberText &member : members) {
+        const MemberText *old = index.find(member.rawName);
+        if (old && old->value == member.value)
+            continue;
+        const QByteArray value = toBytes(member.value);
+        const QString name = member.name();
+        if (parsed(value).isUndefined())
+            return false;
+        (mTouched.contains(keyOf(name)) ? contested : foreign)[name] = value;
+    }
+    mForeign = foreign;
+    mContested = contested;
+    return true;
+}
+
+/// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
+QByteArray FileSharing::merged(const Members &members, const QSet<QString> &touched)
+{
+    const ConfDump dump(mStore, ConfStorage::DumpLocal);
+    const std::vector<NamedText> theirs = sortedByName(members);
+    QByteArray text;
+    text.reserve(mText.size() + mText.size() / 8 + 64);
+    text += '{';
+    auto their = theirs.cbegin();
+    for (size_t i = 0; i < dump.size(); ++i) {
+        const ConfDump::Entry ours = dump.at(i);
+        for (; their != theirs.cend() && their->name < ours.name; ++their)
+            appendMember(&text, their->name, their->value);
+        if (their == theirs.cend() || their->name != ours.name) {
+            appendMember(&text, ours.name, view(dump.entryText(i, ours.time)));
+            continue;
+        }
+        if (ours.isKept || touched.contains(keyOf(ours.name)))
+            appendMember(&text, ours.name, view(winner(dump, i, their->value)));
+        else
+            appendMember(&text, ours.name, their->value);
+        ++their;
+    }
+    for (; their != theirs.cend(); ++their)
+        appendMember(&text, their->name, their->value);
+    text += '}';
+    return text;
+}
+
+/// Returns the entry of a touched or a kept key, or that of the file.
+QByteArray FileSharing::winner(const ConfDump &dump, size_t index, std::string_view theirs)
+{
+    const ConfDump::Entry ours = dump.at(index);
+    const QByteArray entry = dump.entryText(index, ours.time);
+    const qint64 theirTime = timeOf(theirs, timeRange());
+    if (view(entry) == theirs)
+        return entry;
+    if (ours.isKept)
+        return ours.time > theirTime ? entry : toBytes(theirs);
+    if (mContested.contains(ours.name) && yields(ours.time, theirTime)) {
+        mForeign[ours.name] = toBytes(theirs);
+        return toBytes(theirs);
+    }
+    if (theirTime < ours.time)
+        return entry;
+    stamp(keyOf(ours.name), theirTime + 1);
+    return dump.entryText(index, theirTime + 1);
+}
+
+/// Returns whether a change here yields to that of the file.
+bool FileSharing::yields(qint64 ourTime, qint64 theirTime)
+{
+    return theirTime > ourTime && theirTime <= QDateTime::currentSecsSinceEpoch();
+}
+
+TimeRange FileSharing::timeRange() const
+{
+    return mStore.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038;
+}
+
+void FileSharing::stamp(const QString &key, qint64 seconds)
+{
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    const auto meta = mStore.mConfMetas.find(key);
+    if (meta != mStore.mConfMetas.end())
+        meta->lastChangeTime = time;
+    else
+        mStore.mRemovedDynamicConfs[key] = time;
+}
+
+bool FileSharing::save()
+{
+    useFile(mStore.mLocalSaveFile);
+    FileLock lock(mPath);
+    switch (lock.lock()) {
+    case FileLock::Result::Locked: break;
+    case FileLock::Result::NotPermitted:
+        qCritical() << "ConfStorage::saveToLocalConfFile() lock file could not be created: "
+                    << lock.path();
+        return false;
+    case FileLock::Result::TimedOut:
+        qCritical() << "ConfStorage::saveToLocalConfFile() file is locked: " << lock.path();
+        return false;
+    }
+    LocalFile file(mStore);
+    const QByteArray text = file.read();
+    bool isSaved = false;
+    if (file.isComplete())
+        isSaved = write(&file, take(text));
+    else
+        qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: " << mPath;
+    lock.unlock();
+    if (!mForeign.isEmpty())
+        loadForeign();
+    return isSaved;
+}
+
+bool FileSharing::write(LocalFile *file, const Members &members)
+{
+    // Messages may call a log handler of the host, which may change the store.
+    const QSet<QString> touched = std::exchange(mTouched, {});
+    const QByteArray text = merged(members, touched);
+    if (text == file->content() || file->write([&text] { return text; })) {
+        mText = text;
+        mNeedsRepair = false;
+        return true;
+    }
+    mTouched.unite(touched);
+    for (auto it = mForeign.cbegin(); it != mForeign.cend(); ++it)
+        mTouched.remove(keyOf(it.key())); // yielded
+    return false;
+}
+
+void FileSharing::load()
+{
+    loadFile();
+    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    mStore.loadPresetDynamicConf();
+}
+
+void FileSharing::loadFile()
+{
+    useFile(mStore.mLocalSaveFile);
+    FileLock lock(mPath);
+    const FileLock::Result locked = lock.lock();
+    if (locked == FileLock::Result::TimedOut) {
+        qCritical() << "ConfStorage::loadLocalConfFile() file is locked: " << lock.path();
+        return;
+    }
+    LocalFile file(mStore);
+    // Without the right to create the lock, nothing may be written either.
+    const QByteArray text = locked == FileLock::Result::Locked ? file.read() : file.peek();
+    const bool isFirst = mText.isNull() && mTouched.isEmpty();
+    mNeedsRepair = file.isDamaged();
+    if (isFirst) {
+        mText = text;
+    } else if (file.isComplete()) {
+        take(text);
+        yieldToNewer();
+    }
+    lock.unlock();
+    if (isFirst)
+        loadWhole();
+    else
+        loadForeign();
+    mStore.reportDamage(file);
+}
+
+/// Loads the text without comparing it with a previous one.
+void FileSharing::loadWhole()
+{
+    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    ConfLoad(mStore, ConfStorage::LoadLocal).loadFile(mPath, mText);
+}
+
+/// Takes the entries of the file that touched ones yield to.
+void FileSharing::yieldToNewer()
+{
+    if (mContested.isEmpty())
+        return;
+    const ConfDump dump(mStore, ConfStorage::DumpLocal);
+    for (size_t i = 0; i < dump.size(); ++i) {
+        const ConfDump::Entry ours = dump.at(i);
+        const QByteArray theirs = mContested.value(ours.name);
+        if (!theirs.isEmpty() && yields(ours.time, timeOf(view(theirs), timeRange()))) {
+            mForeign[ours.name] = theirs;
+            mTouched.remove(keyOf(ours.name));
+        }
+    }
+}
+
+void FileSharing::update()
+{
+    if (mPath != mStore.mLocalSaveFile
+        || PosixFile::read(mPath, mStore.mMaxFileSize).bytes == mText)
+        return;
+    loadFile();
+}
+
+void FileSharing::loadForeign()
+{
+    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    ConfLoad load(mStore, ConfStorage::LoadLocal, ConfLoad::Merge::Replace);
+    load.setFile(mPath);
+    // A callback may read the file again, and so change the map.
+    while (!mForeign.isEmpty()) {
+        const QString name = mForeign.firstKey();
+        const QJsonValue entry = parsed(mForeign.take(name));
+        if (!mTouched.contains(keyOf(name)))
+            load.loadMember(name, entry);
+    }
+}

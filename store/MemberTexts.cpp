@@ -1,0 +1,132 @@
+#include "MemberTexts_p.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view sByteOrderMark = "\xef\xbb\xbf";
+
+/// Reads the text from its start to its end. Every function returns false, or a null view, at the
+/// first character that does not fit.
+class Splitter
+{
+public:
+    explicit Splitter(std::string_view text) : mRest(text)
+    {
+        if (mRest.substr(0, sByteOrderMark.size()) == sByteOrderMark)
+            mRest.remove_prefix(sByteOrderMark.size());
+    }
+
+    bool read(std::vector<MemberText> *members)
+    {
+        if (!skip('{'))
+            return false;
+        if (skip('}'))
+            return isAtEnd();
+        do {
+            MemberText member;
+            if (!readString(&member.rawName) || !skip(':') || !readValue(&member.value))
+                return false;
+            members->push_back(member);
+        } while (skip(','));
+        return skip('}') && isAtEnd();
+    }
+
+private:
+    void skipSpace()
+    {
+        mRest.remove_prefix(std::min(mRest.find_first_not_of(" \t\r\n"), mRest.size()));
+    }
+
+    bool isAtEnd()
+    {
+        skipSpace();
+        return mRest.empty();
+    }
+
+    bool skip(char character)
+    {
+        skipSpace();
+        if (mRest.empty() || mRest.front() != character)
+            return false;
+        mRest.remove_prefix(1);
+        return true;
+    }
+
+    /// Returns the position behind the string that starts with the quote at `start`, or `npos`.
+    size_t endOfString(size_t start) const
+    {
+        size_t at = mRest.find_first_of("\"\\", start + 1);
+        while (at != std::string_view::npos && mRest[at] == '\\')
+            at = at + 2 <= mRest.size() ? mRest.find_first_of("\"\\", at + 2)
+                                        : std::string_view::npos;
+        return at == std::string_view::npos ? at : at + 1;
+    }
+
+    bool readString(std::string_view *content)
+    {
+        skipSpace();
+        if (mRest.empty() || mRest.front() != '"')
+            return false;
+        const size_t end = endOfString(0);
+        if (end == std::string_view::npos)
+            return false;
+        *content = mRest.substr(1, end - 2);
+        mRest.remove_prefix(end);
+        return true;
+    }
+
+    bool readValue(std::string_view *value)
+    {
+        skipSpace();
+        size_t at = 0;
+        int depth = 0;
+        while (at < mRest.size()) {
+            at = mRest.find_first_of("\"{}[],", at);
+            if (at == std::string_view::npos)
+                return false;
+            const char found = mRest[at];
+            if (found == '"') {
+                at = endOfString(at);
+                continue;
+            }
+            if (found == '{' || found == '[')
+                ++depth;
+            else if (depth == 0)
+                break; // a comma, or the end of the object
+            else if (found != ',')
+                --depth;
+            ++at;
+        }
+        if (at >= mRest.size() || at == 0)
+            return false;
+        *value = mRest.substr(0, at);
+        value->remove_suffix(at - 1 - value->find_last_not_of(" \t\r\n"));
+        mRest.remove_prefix(at);
+        return true;
+    }
+
+    std::string_view mRest;
+};
+
+} // namespace
+
+QString MemberText::name() const
+{
+    const auto size = static_cast<int>(rawName.size());
+    if (rawName.find('\\') == std::string_view::npos)
+        return QString::fromUtf8(rawName.data(), size);
+    const QByteArray array = "[\"" + QByteArray(rawName.data(), size) + "\"]";
+    return QJsonDocument::fromJson(array).array().at(0).toString();
+}
+
+std::optional<std::vector<MemberText>> splitMembers(const QByteArray &text)
+{
+    std::vector<MemberText> members;
+    if (Splitter({text.constData(), static_cast<size_t>(text.size())}).read(&members))
+        return members;
+    return std::nullopt;
+}
