@@ -1,41 +1,11 @@
-#include "FaultInjection.h"
+#include "DeathAtCall.h"
 #include "SavedSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
-#include <cerrno>
-#include <sys/wait.h>
-#include <unistd.h>
-
 using namespace Faults;
 
 namespace {
-
-/// Runs `work` in a child process that is killed at its `nth` call (from 0) in the folder of the
-/// settings: before the call, or with `halfway` in the middle of a write. Returns whether the child
-/// was killed, as opposed to finishing its work.
-template<class Work> bool diesAtCall(int nth, bool halfway, Work work)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const LogCapture log;
-        int count = 0;
-        const Scope faults(SavedSettings::folder(), [&](const Call &call) {
-            if (count++ != nth)
-                return withoutWaiting(call);
-            if (halfway && call.kind == Kind::Write)
-                return partlyThenDie(call.size / 2);
-            ::_exit(sDeathCode);
-        });
-        work();
-        ::_exit(0);
-    }
-    int status = 0;
-    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) {}
-    if (!WIFEXITED(status) || (WEXITSTATUS(status) != 0 && WEXITSTATUS(status) != sDeathCode))
-        qFatal("the process died by itself: %d", status);
-    return WEXITSTATUS(status) == sDeathCode;
-}
 
 void save(bool safe, int number)
 {
