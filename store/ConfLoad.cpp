@@ -282,7 +282,7 @@ template<class Member> void ConfLoad::keep(const QString &name, const Member &me
         mStore.mKeptEntries = std::make_unique<KeptEntries>();
     if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
         return;
-    if (mStore.mKeptEntries->keep(name, entry))
+    if (mStore.mKeptEntries->keep(name, entry, mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
         mStore.mChanged = true;
 }
 
@@ -314,7 +314,7 @@ template<class Member>
 void ConfLoad::refuseType(const QString &key, bool isMarked, const Member &member)
 {
     refuse(key, ConfLoadReport::Reason::WrongType);
-    if (mIsLocal
+    if (mIsLocal && !mIsKept
         && (mStore.mFileOptions & (ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile))) {
         const QJsonValue entry = mUnconverted ? *mUnconverted : member.entry();
         keep(isMarked ? addSysMark(key) : key, ParsedMember(entry, mTimes));

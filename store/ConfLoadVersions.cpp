@@ -10,6 +10,7 @@
 void ConfLoad::loadKept(const QString &key)
 {
     mLastTime.reset(); // the load that kept the entries has reported them
+    mIsKept = true;
     const QStringList names = keptNamesOf(key);
     for (const QString &name : names) {
         if (!mStore.mKeptEntries || !mStore.mConfValues.contains(key))
@@ -18,11 +19,24 @@ void ConfLoad::loadKept(const QString &key)
         const bool isRemoval = ParsedMember(entry, mTimes).removalTime().has_value();
         if (isRemoval || !KeptEntries::timeOf(entry))
             continue;
+        merge(key, entry);
+        if (!isMerged(key, entry) || !mStore.mKeptEntries)
+            continue; // refused, for example
+        mStore.mKeptEntries->setApplied(key, entry);
         if (!isFormerName(withoutMark(name)) || !mStore.mVersions->isKept(withoutMark(name)))
             mStore.mKeptEntries->remove(name);
-        mStore.mKeptEntries->setApplied(key, entry);
-        merge(key, entry);
     }
+}
+
+/// Returns whether the store has the change of `entry` or a newer one.
+bool ConfLoad::isMerged(const QString &key, const QJsonValue &entry) const
+{
+    const auto record = mStore.mConfMetas.constFind(key);
+    const bool isPresent = mStore.mConfValues.contains(key);
+    const QDateTime time = isPresent && record != mStore.mConfMetas.constEnd()
+                               ? record->lastChangeTime
+                               : mStore.mRemovedDynamicConfs.value(key);
+    return time.isValid() && time.toSecsSinceEpoch() >= KeptEntries::timeOf(entry);
 }
 
 /// Returns the names of the entries of `key`. The current name is the first one, as it wins ties.
@@ -57,6 +71,7 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
         return;
     ConfLoad load(store, ConfStorage::LoadLocal);
     load.mLastTime.reset();
+    load.mIsKept = true;
     load.mIsRetry = true;
     const QList<QString> names = store.mKeptEntries->entries().keys();
     for (const QString &name : names) {
@@ -67,12 +82,9 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
         const QJsonValue entry = store.mKeptEntries->entries().value(name);
         if (!KeptEntries::timeOf(entry))
             continue;
-        store.mKeptEntries->remove(name);
         load.merge(key, entry);
-        const bool isMerged = store.mConfValues.contains(key)
-                              || store.mRemovedDynamicConfs.contains(key);
-        if (!isMerged && store.mKeptEntries)
-            store.mKeptEntries->keep(name, entry);
+        if (load.isMerged(key, entry) && store.mKeptEntries)
+            store.mKeptEntries->remove(name);
     }
 }
 

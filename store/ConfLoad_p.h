@@ -69,6 +69,7 @@ private:
     bool isFormerName(const QString &key) const;
     QString withoutMark(const QString &name) const;
     QJsonValue converted(const QString &key, const QJsonValue &entry);
+    bool isMerged(const QString &key, const QJsonValue &entry) const;
     QStringList keptNamesOf(const QString &key) const;
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     template<class Member> QJsonValue newValue(const Member &member) const;
@@ -102,6 +103,7 @@ private:
     const QString mSystemMark;
     bool mIsSavable = false; // whether every value of the source can be saved
     bool mIsRetry = false;   // of kept entries, which were reported when they were kept
+    bool mIsKept = false;    // whether the entries that are loaded are kept already
     const QJsonValue *mUnconverted = nullptr; // the entry that is being loaded in another form
 
     /// An entry of a former name.

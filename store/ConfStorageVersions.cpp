@@ -20,6 +20,8 @@ void ConfStorage::setConfConverter(const QString &key,
     if (!mVersions)
         mVersions = std::make_unique<ConfVersions>();
     mVersions->mConverters[key] = std::move(converter);
-    if (mKeptEntries)
+    if (mKeptEntries && mConfValues.contains(key))
         ConfLoad(*this, LoadLocal).convertApplied(key);
+    if (mKeptEntries && mConfValues.contains(key))
+        ConfLoad(*this, LoadLocal).loadKept(key);
 }

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QJsonObject>
 
+#include <utility>
+
 namespace {
 
 /// Returns `entry` with a timestamp, as loading a declared key would give it one.
@@ -19,9 +21,23 @@ QJsonValue timed(const QJsonValue &entry)
     return object;
 }
 
+/// What decides ties between entries, as `incomingWinsTie` does for declared keys: removals win
+/// over values, and values over defaults. Of two values the greater text wins.
+std::pair<int, QByteArray> rankOf(const QJsonValue &entry)
+{
+    const ParsedMember member(entry, TimeRange::Long);
+    if (member.removalTime())
+        return {2, QByteArray()};
+    if (member.value().isUndefined())
+        return {0, QByteArray()};
+    QByteArray text;
+    appendJsonValue(text, member.value());
+    return {1, text};
+}
+
 } // namespace
 
-bool KeptEntries::keep(const QString &name, const QJsonValue &entry)
+bool KeptEntries::keep(const QString &name, const QJsonValue &entry, KeptTie tie)
 {
     const QJsonValue incoming = timed(entry);
     const auto stored = mEntries.find(name);
@@ -31,8 +47,11 @@ bool KeptEntries::keep(const QString &name, const QJsonValue &entry)
         return true;
     }
     const std::optional<qint64> time = timeOf(incoming);
-    const bool isMadeNow = time && !timeOf(entry);        // always wins, as for declared keys
-    if (!time || (!isMadeNow && time <= timeOf(*stored))) // no time is less than any
+    const bool isMadeNow = time && !timeOf(entry); // always wins, as for declared keys
+    const std::optional<qint64> storedTime = timeOf(*stored);
+    const bool winsTie = tie == KeptTie::Resolved && time == storedTime
+                         && rankOf(incoming) > rankOf(*stored);
+    if (!time || (!isMadeNow && !winsTie && time <= storedTime)) // no time is less than any
         return false;
     mSize += sizeOf(name, incoming) - sizeOf(name, *stored);
     *stored = incoming;

@@ -6,6 +6,12 @@
 
 #include <optional>
 
+/// Which of two entries with the same timestamp is kept.
+enum class KeptTie {
+    Stored,  ///< the one that is there
+    Resolved ///< see `ConfStorage::ResolveTies`
+};
+
 /// The entries of a store whose keys are not declared, or whose values were refused. They are
 /// written back to the local file as they are.
 ///
@@ -17,7 +23,7 @@ public:
     /// Keeps `entry` if it is newer than the kept one. A value without a timestamp always wins, and
     /// gets the current time; anything else without one is kept only if there is no entry of this
     /// name. Returns whether it was kept.
-    bool keep(const QString &name, const QJsonValue &entry);
+    bool keep(const QString &name, const QJsonValue &entry, KeptTie tie = KeptTie::Stored);
     /// Keeps the entry of a setting of this program, which also wins a tie.
     void keepReleased(const QString &name, const QJsonValue &entry);
     void remove(const QString &name);

@@ -225,6 +225,7 @@ private Q_SLOTS:
     void converterGetsNoDefaultValue_data();
     void converterGetsNoDefaultValue();
     void converterOfADynamicKeyIsCalled();
+    void converterThatIsSetLateConvertsAKeptEntry_data();
     void converterThatIsSetLateConvertsAKeptEntry();
     void converterThatIsSetLateKeepsAChange();
 };
@@ -638,9 +639,18 @@ void tst_ConfVersions::converterOfADynamicKeyIsCalled()
     QCOMPARE(entries["Entry.2"], (QJsonObject{{"n", 2}}));
 }
 
+void tst_ConfVersions::converterThatIsSetLateConvertsAKeptEntry_data()
+{
+    QTest::addColumn<quint32>("options");
+    QTest::newRow("lenient types") << quint32(ConfStorage::KeepUnknownEntries);
+    QTest::newRow("strict types") << quint32(ConfStorage::KeepUnknownEntries
+                                             | ConfStorage::StrictTypes);
+}
+
 void tst_ConfVersions::converterThatIsSetLateConvertsAKeptEntry()
 {
-    Host host(ConfStorage::KeepUnknownEntries);
+    QFETCH(quint32, options);
+    Host host(options);
     host.load(R"({"late":{"t":100,"v":"5 s"}})");
     int late = 1;
     host.store.reserveConf("late", &late);

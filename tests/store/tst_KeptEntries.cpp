@@ -81,6 +81,8 @@ private Q_SLOTS:
     void unknownEntryIsWrittenBackAsItWas();
     void newerUnknownEntryWins_data();
     void newerUnknownEntryWins();
+    void tiesOfUnknownEntriesAreResolvedWithTheOption_data();
+    void tiesOfUnknownEntriesAreResolvedWithTheOption();
     void unknownEntryOfADumpIsSaved();
     void unknownEntryIsInLocalDumpsOnly();
     void valueWithoutTimestampGetsTheCurrentTime();
@@ -88,6 +90,8 @@ private Q_SLOTS:
     void reservedKeyGetsItsEntryWithoutACallback();
     void reservedKeyIsAnEventOfALoad();
     void reservedKeyIgnoresARemoval();
+    void reservedKeyWithAnEntryOfAnotherTypeKeepsTheEntry_data();
+    void reservedKeyWithAnEntryOfAnotherTypeKeepsTheEntry();
     void reservedKeyOfASystemIndependentSettingGetsTheNewestEntry_data();
     void reservedKeyOfASystemIndependentSettingGetsTheNewestEntry();
     void releasedKeyIsKeptAndReservedAgain_data();
@@ -195,6 +199,31 @@ void tst_KeptEntries::newerUnknownEntryWins()
     QCOMPARE(host.save(), result);
 }
 
+void tst_KeptEntries::tiesOfUnknownEntriesAreResolvedWithTheOption_data()
+{
+    QTest::addColumn<QByteArray>("loser");
+    QTest::addColumn<QByteArray>("winner");
+    const QByteArray value = R"({"a":{"t":100,"v":1}})";
+    QTest::newRow("greater text") << value << QByteArray(R"({"a":{"t":100,"v":2}})");
+    QTest::newRow("removal") << value << QByteArray(R"({"a":{"d":100}})");
+    QTest::newRow("value against default") << QByteArray(R"({"a":{"t":100}})") << value;
+}
+
+void tst_KeptEntries::tiesOfUnknownEntriesAreResolvedWithTheOption()
+{
+    QFETCH(QByteArray, loser);
+    QFETCH(QByteArray, winner);
+    const quint32 options = ConfStorage::KeepUnknownEntries | ConfStorage::ResolveTies;
+    Host first(options);
+    first.load(loser);
+    first.load(winner);
+    QCOMPARE(first.save(), winner);
+    Host second(options);
+    second.load(winner);
+    second.load(loser);
+    QCOMPARE(second.save(), winner);
+}
+
 void tst_KeptEntries::unknownEntryOfADumpIsSaved()
 {
     Host host;
@@ -294,6 +323,30 @@ void tst_KeptEntries::reservedKeyIgnoresARemoval()
     host.store.reserveConf("a", &variable);
     QCOMPARE(variable, 7);
     QCOMPARE(host.save(), QByteArray(R"({"a":{"d":100}})"));
+}
+
+void tst_KeptEntries::reservedKeyWithAnEntryOfAnotherTypeKeepsTheEntry_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("without a mark") << QByteArray("a");
+    QTest::newRow("with the system mark") << QByteArray("a#s.mac");
+}
+
+void tst_KeptEntries::reservedKeyWithAnEntryOfAnotherTypeKeepsTheEntry()
+{
+    QFETCH(QByteArray, name);
+    const QByteArray text = "{\"" + name + R"(":{"t":100,"v":"5"}})";
+    Host host(ConfStorage::KeepUnknownEntries | ConfStorage::StrictTypes);
+    host.load(text);
+    int variable = 7;
+    host.store.reserveConf("a", &variable);
+    QCOMPARE(variable, 7);
+    QVERIFY(host.store.isEqualToDefault("a"));
+    QCOMPARE(host.save(), text);
+    QString other;
+    host.store.reserveConf("a", &other);
+    QCOMPARE(other, QString("5"));
+    QCOMPARE(host.save(), QByteArray(R"({"a":{"t":100,"v":"5"}})"));
 }
 
 void tst_KeptEntries::reservedKeyOfASystemIndependentSettingGetsTheNewestEntry_data()
