@@ -2,6 +2,7 @@
 
 #include <MaltoConfiguration/malto_export.h>
 #include <MaltoConfiguration/manage/ConfItem.h>
+#include <MaltoConfiguration/store/ConfOperation.h>
 
 #include <QFrame>
 #include <QJsonValue>
@@ -94,6 +95,7 @@ protected:
     template<class T> bool storeValue(const T &value)
     {
         const Writing writing(this);
+        const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
         ConfStorage::instance()->set<T>(mItem->getFullName(), value);
         return writing.hasEditor();
     }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void layoutHasNoMargins();
     void typingWritesEveryChange();
     void arrowKeysWrite();
+    void observersHearThatTheUserEdits();
     void loadConfDoesNotChangeTheCaption();
     void valueOutsideTheRangeIsClamped();
     void callbackMayDeleteTheEditorOfAShownPage();
@@ -119,6 +120,26 @@ void tst_ConfDefWidgetInt32::arrowKeysWrite()
     QTest::keyClick(box, Qt::Key_Down);
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(mValue, 4);
+}
+
+void tst_ConfDefWidgetInt32::observersHearThatTheUserEdits()
+{
+    QSpinBox *box = edit();
+    QVector<ConfChange> events;
+    ConfStorage *store = ConfStorage::instance();
+    const int id = store->addObserver([&](const ConfChange &change) { events.append(change); });
+    mItem->setConfChangedCallback([&](const QString &key, const ConfValue *value) {
+        if (value->get<int>() < 50)
+            store->set(key, 50);
+    });
+    QTest::keyClick(box, Qt::Key_Up);
+    mEditor->restoreDefault();
+    store->removeObserver(id);
+    QCOMPARE(events.size(), 4);
+    QCOMPARE(events.at(0).cause, ConfChange::Cause::Edited);
+    QCOMPARE(events.at(0).after.value, QJsonValue(6));
+    QCOMPARE(events.at(1).cause, ConfChange::Cause::Set);
+    QCOMPARE(events.at(2).cause, ConfChange::Cause::Restored);
 }
 
 void tst_ConfDefWidgetInt32::loadConfDoesNotChangeTheCaption()
