@@ -1,8 +1,7 @@
 #include <MaltoConfiguration/store/ConfValue.h>
 
+#include "BoundCopy_p.h"
 #include "EntryLog_p.h"
-
-#include "OwnedValue_p.h"
 #include "ValueText_p.h"
 
 #include <QDebug>
@@ -117,13 +116,14 @@ bool isNull(const ConfValue &value)
 
 } // namespace
 
-ConfValue ownedCopy(const ConfValue &value)
+BoundCopy boundCopy(const ConfValue &value)
 {
-    ConfValue copy = value;
+    BoundCopy copy{value, nullptr};
     if (value.mIsPtr) {
         visitType(value.mType, [&](auto *type) {
             using T = std::remove_pointer_t<decltype(type)>;
-            copy = ConfValue::owned(value.get<T>());
+            const auto variable = std::make_shared<T>(value.get<T>());
+            copy = {ConfValue::bound(variable.get()), variable};
         });
     }
     return copy;

@@ -1,7 +1,7 @@
 #include "MergeTies_p.h"
 
+#include "BoundCopy_p.h"
 #include "JsonText_p.h"
-#include "OwnedValue_p.h"
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
@@ -44,11 +44,11 @@ bool incomingWinsTie(const ConfStorage &store, const QString &key, bool isRemova
     const Rank rank = isRemoval ? Rank::Removal : value.isUndefined() ? Rank::Default : Rank::Value;
     if (rank != storedRank || rank != Rank::Value)
         return rank > storedRank;
-    const ConfValue stored = ownedCopy(store.mConfValues.value(key));
+    const ConfValue stored = store.mConfValues.value(key);
     if (stored.mType == ConfValue::TyNone || stored.toJsonValue() == value)
         return false;
     // Several texts can describe one value. Other copies get the one that this store would dump.
-    ConfValue incoming = stored;
-    incoming.loadFromJsonValue(value);
-    return textOf(incoming) > textOf(stored);
+    BoundCopy incoming = boundCopy(stored);
+    incoming.value.loadFromJsonValue(value);
+    return textOf(incoming.value) > textOf(stored);
 }

@@ -128,6 +128,7 @@ private Q_SLOTS:
     void numberThatJsonDoesNotHaveLosesLikeTheDefault();
     void valueThatEqualsThePresetStaysAValue();
     void unboundKeyKeepsItsTie();
+    void emptyTextIsNotNull();
     void randomHistoriesAgreeIfTiesAreResolved();
 };
 
@@ -468,6 +469,21 @@ void tst_MergingTies::unboundKeyKeepsItsTie()
     load(5);
     QCOMPARE(number, 1);
     QVERIFY(log.messages().isEmpty());
+}
+
+void tst_MergingTies::emptyTextIsNotNull()
+{
+    QString text;
+    ConfStorage store;
+    store.mFileOptions = ConfStorage::ResolveTies;
+    store.reserveConf("s", &text);
+    int calls = 0;
+    for (const char *value : {"", "", "a", ""}) {
+        store.loadConf({{"s", QJsonObject{{"t", 100}, {"v", value}}}}, ConfStorage::LoadShared);
+        store.setConfChangedCallback("s", [&](const QString &, const ConfValue *) { ++calls; });
+    }
+    QCOMPARE(text, QString("a"));
+    QCOMPARE(calls, 1);
 }
 
 void tst_MergingTies::randomHistoriesAgreeIfTiesAreResolved()

@@ -1,0 +1,42 @@
+#include <MaltoConfiguration/store/ConfStorage.h>
+
+#include "ConfLoad_p.h"
+#include "ConfVersions_p.h"
+#include "EntryLog_p.h"
+#include "KeptEntries_p.h"
+#include "LockedConfs_p.h"
+#include "ShadowStore_p.h"
+
+#include <MaltoConfiguration/store/ConfChange.h>
+
+#include <algorithm>
+
+namespace {
+
+template<class T> std::unique_ptr<T> copyOf(const std::unique_ptr<T> &object)
+{
+    return object ? std::make_unique<T>(*object) : nullptr;
+}
+
+} // namespace
+
+QVector<ConfChange> ConfStorage::previewLoad(const QJsonObject &conf, LoadConfType type) const
+{
+    const EntryLog log;
+    // Loaded by the code that loads, so that no rule can differ.
+    ShadowStore shadow;
+    shadow.copyRules(*this);
+    shadow.copyContent(*this);
+    ConfStorage &store = shadow.store();
+    store.mBusyDynamicConfs = mBusyDynamicConfs;
+    store.mKeptEntries = copyOf(mKeptEntries);
+    store.mVersions = copyOf(mVersions);
+    store.mLockedConfs = copyOf(mLockedConfs);
+
+    QVector<ConfChange> changes;
+    store.addObserver([&changes](const ConfChange &change) { changes.append(change); });
+    ConfLoad(store, type).loadObject(conf);
+    std::stable_sort(changes.begin(), changes.end(),
+                     [](const ConfChange &a, const ConfChange &b) { return a.key < b.key; });
+    return changes;
+}
