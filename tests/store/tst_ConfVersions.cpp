@@ -69,9 +69,9 @@ QJsonValue colorOf(const QJsonValue &value)
 class Program
 {
 public:
-    explicit Program(int version)
+    explicit Program(int version, quint32 options = ConfStorage::KeepUnknownEntries)
     {
-        store.mFileOptions = ConfStorage::KeepUnknownEntries;
+        store.mFileOptions = options;
         store.mLocalSaveFile = sPath;
         declareSound(version);
         declareDelay(version);
@@ -262,16 +262,24 @@ void tst_ConfVersions::newestVersionReadsTheFilesOfEarlierOnes()
 
 void tst_ConfVersions::versionsThatTakeTurnsLoseNothing_data()
 {
+    QTest::addColumn<quint32>("options");
     QTest::addColumn<int>("file");
     QTest::addColumn<int>("older");
+    const quint32 kept = ConfStorage::KeepUnknownEntries;
+    const quint32 strict = kept | ConfStorage::StrictTypes | ConfStorage::ResolveTies;
+    const quint32 shared = kept | ConfStorage::SharedFile;
     for (const int file : {1, 2, 3}) {
-        for (const int older : {1, 2, 3})
-            QTest::addRow("file %d, version %d", file, older) << file << older;
+        for (const int older : {1, 2, 3}) {
+            QTest::addRow("file %d, version %d", file, older) << kept << file << older;
+            QTest::addRow("file %d, version %d, strict", file, older) << strict << file << older;
+            QTest::addRow("file %d, version %d, shared", file, older) << shared << file << older;
+        }
     }
 }
 
 void tst_ConfVersions::versionsThatTakeTurnsLoseNothing()
 {
+    QFETCH(quint32, options);
     QFETCH(int, file);
     QFETCH(int, older);
     write(fileOfVersion(file));
@@ -279,7 +287,7 @@ void tst_ConfVersions::versionsThatTakeTurnsLoseNothing()
     const QByteArray olderDump = sharedDump(older);
     const QByteArray newerDump = sharedDump(4);
     for (const int version : {4, older, 4, older, 4}) {
-        const QByteArray after = Program(version).save();
+        const QByteArray after = Program(version, options).save();
         const QJsonObject saved = parsed(after);
         const QJsonObject entries = parsed(before);
         for (auto entry = entries.constBegin(); entry != entries.constEnd(); ++entry)
@@ -288,7 +296,7 @@ void tst_ConfVersions::versionsThatTakeTurnsLoseNothing()
     }
     QCOMPARE(sharedDump(older), olderDump);
     QCOMPARE(sharedDump(4), newerDump);
-    QCOMPARE(Program(older).save(), before); // the file has the entries of both
+    QCOMPARE(Program(older, options).save(), before); // the file has the entries of both
 }
 
 void tst_ConfVersions::changesOfBothVersionsAreKept_data()
