@@ -47,8 +47,9 @@ inline bool isInRange(double seconds, TimeRange range)
 class ParsedMember
 {
 public:
+    /// `entry` must outlive the member if `entry()` is called.
     explicit ParsedMember(const QJsonValue &entry, TimeRange times)
-        : mWhole(entry), mIsObject(entry.isObject()), mTimes(times), mEntry(entry.toObject())
+        : mWhole(&entry), mIsObject(entry.isObject()), mTimes(times), mEntry(entry.toObject())
     {
     }
 
@@ -61,7 +62,7 @@ public:
     /// The member "v"; undefined if there is none.
     QJsonValue value() const { return mEntry.value(sValueKey.name()); }
     /// The whole entry, whatever it is.
-    QJsonValue entry() const { return mWhole; }
+    QJsonValue entry() const { return *mWhole; }
 
 private:
     std::optional<qint64> secondsOf(const EntryKey &key) const
@@ -76,7 +77,7 @@ private:
         return isTime ? static_cast<qint64>(seconds) : 0;
     }
 
-    const QJsonValue mWhole;
+    const QJsonValue *const mWhole; // not a copy, which costs a tenth of loading an object
     const bool mIsObject;
     const TimeRange mTimes;
     const QJsonObject mEntry;

@@ -32,9 +32,10 @@ inline bool isMistaken(const QByteArray &text, TimeRange times)
         if (member.time() != parsed.time() || member.removalTime() != parsed.removalTime()
             || member.value() != parsed.value() || count != entry.size())
             return true;
-        const ParsedMember again(member.entry(), times);
+        const QJsonValue written = member.entry();
+        const ParsedMember again(written, times);
         if (again.time() != parsed.time() || again.removalTime() != parsed.removalTime()
-            || !isSame(again.value(), parsed.value()) || again.entry().toObject().size() != count)
+            || !isSame(again.value(), parsed.value()) || written.toObject().size() != count)
             return true;
         names.append(member.key());
     }
