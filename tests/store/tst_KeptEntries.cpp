@@ -1,4 +1,5 @@
 #include "support/LogCapture.h"
+#include "support/SavedFile.h"
 #include "support/TestMain.h"
 
 #include <MaltoConfiguration/store/ConfChange.h>
@@ -15,26 +16,6 @@
 Q_DECLARE_METATYPE(std::function<void(ConfStorage *)>)
 
 namespace {
-
-const char sPath[] = "local.json";
-
-QByteArray compact(const QJsonObject &object)
-{
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
-QByteArray savedText()
-{
-    QFile file(sPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QByteArray &text)
-{
-    QFile file(sPath);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
 
 /// A store with one setting, "number", that keeps unknown entries.
 class Host
