@@ -143,13 +143,23 @@ public:
         /// changed since it last read the file keeps what the file says; the callbacks of such
         /// entries are called after the save. See docs/guide/files.md.
         SharedFile = 0x10,
-        /// Loads the changes that other programs make to the local file within a second. Needs an
-        /// event loop. Without `SharedFile` an entry is taken only if it is newer.
+        /// Loads the changes that other programs make to the local file within a second, or within
+        /// some seconds if the file system does not report them. Begins with the next load or save.
+        /// Needs an event loop. Without `SharedFile` an entry is taken only if it is newer. A file
+        /// that is not a JSON object is left alone: another program may be writing it.
         WatchFile = 0x20,
         /// Copies a local file that cannot be parsed aside before it is overwritten, and loads the
-        /// content of the last good save. The copy is named as the file, with ".damaged-" and the
-        /// time in UTC; the newest three are kept. Keeps a backup of the file beside it, with the
-        /// ending ".backup".
+        /// content of the journal or the backup instead; `mChanged` is set then. The copy is named
+        /// as the file, with ".damaged-" and the time in UTC; the newest three are kept. Each save
+        /// keeps the previous content in a backup, with the ending ".backup". A file that cannot
+        /// be read or copied is not overwritten until a load succeeds.
+        ///
+        /// Logs the critical messages "ConfStorage::loadLocalConfFile() damaged file copied: "
+        /// with both paths, or "ConfStorage::loadLocalConfFile() damaged file could not be copied:
+        /// " with the path, also before a save. Logs the warnings
+        /// "ConfStorage::loadLocalConfFile() loaded from backup: " and
+        /// "ConfStorage::saveToLocalConfFile() backup could not be written: " with the path of the
+        /// backup.
         KeepDamagedFiles = 0x40,
         /// Keeps the entries of keys that are not declared, and writes them back to the local
         /// file. They are merged as others are, and set the value when the key is reserved later,
@@ -331,9 +341,14 @@ public:
     void useRobustFiles();
 
     /// Saves the local file when nothing has changed for `quietTime` milliseconds, when the
-    /// application ends and when the session manager ends the session. A negative time switches
-    /// this off, as it is by default. Needs an event loop. Changes without an event, such as
-    /// writing a variable, are not noticed.
+    /// application emits `QCoreApplication::aboutToQuit`, and when the session manager ends the
+    /// session. A negative time switches this off, as it is by default. Without an application
+    /// object and its event loop nothing is saved. Nothing is saved before `loadLocalConfFile` has
+    /// run and during a load. Changes without an event, such as writing a variable, do not begin
+    /// the quiet time, but are saved if `mChanged` is set.
+    ///
+    /// After a save that fails, the next try follows after the quiet time, the one after that in
+    /// twice the time, and so on up to a minute.
     ///
     /// @see addObserver
     void setAutosave(int quietTime);
@@ -422,11 +437,14 @@ private:
     void restorePreset(const QString &key, const QDateTime &time);
     bool createDynamic(const QString &key, const QJsonValue &value, const DynamicConfClass *cls);
     bool removeDynamic(const QString &key);
+    void watchFile(const QByteArray &content);
+    void reloadChangedFile();
     void callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value = nullptr);
     bool isDynamicWithoutPreset(const QString &key) const;
     void reportDamage(const LocalFile &file);
     void saveSharedFile();
     void loadSharedFile();
+    void updateSharedFile();
     std::shared_ptr<FileSharing> fileSharing();
     static void logNullPointer(const QString &key);
     static void logGetNotFound(const QString &key);

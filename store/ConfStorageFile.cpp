@@ -2,8 +2,10 @@
 
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
+#include "ConfObservers_p.h"
 #include "EntryLog_p.h"
 #include "FileSharing_p.h"
+#include "FileWatch_p.h"
 #include "LocalFile_p.h"
 
 #include <MaltoConfiguration/store/ConfLoadReport.h>
@@ -14,7 +16,7 @@
 void ConfStorage::useRobustFiles()
 {
     mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | KeepDamagedFiles
-                    | OwnerOnlyFiles;
+                    | OwnerOnlyFiles | WatchFile;
 }
 
 void ConfStorage::saveToLocalConfFile()
@@ -35,8 +37,10 @@ void ConfStorage::saveToLocalConfFile()
                     << mLocalSaveFile;
         return;
     }
-    if (!LocalFile(*this).write([this] { return ConfDump(*this, DumpLocal).toText(); }))
+    LocalFile file(*this);
+    if (!file.write([this] { return ConfDump(*this, DumpLocal).toText(); }))
         return;
+    watchFile(file.content());
     qDebug() << "ConfStorage::saveToLocalConfFile() save to file: " << mLocalSaveFile;
     mChanged = false;
 }
@@ -61,6 +65,47 @@ void ConfStorage::loadLocalConfFile()
     loadPresetDynamicConf();
     mChanged = file.isDamaged(); // the next save repairs it
     mLocalLoaded = true;
+    watchFile(file.content());
+}
+
+/// Watches the local file, which contains `content`, if the host wants that.
+void ConfStorage::watchFile(const QByteArray &content)
+{
+    if (!(mFileOptions & WatchFile)) {
+        mFileWatch.reset();
+        return;
+    }
+    if (!mFileWatch)
+        mFileWatch = std::make_unique<FileWatch>([this] { reloadChangedFile(); });
+    mFileWatch->watch(mLocalSaveFile, content);
+}
+
+/// Merges the local file if another program has changed it. The store does not count as changed by
+/// that, but by what callbacks set.
+void ConfStorage::reloadChangedFile()
+{
+    const EntryLog log;
+    if (mFileOptions & SharedFile) {
+        updateSharedFile();
+        return;
+    }
+    const QByteArray text = LocalFile(*this).readIfWhole();
+    if (text.isEmpty() || mFileWatch->isNoted(text))
+        return;
+    mFileWatch->note(text);
+    bool isChanged = mChanged;
+    const int observer = addObserver([&isChanged](const ConfChange &change) {
+        isChanged |= change.cause != ConfChange::Cause::Loaded;
+    });
+    const std::shared_ptr<ConfObservers> observers = mObservers;
+    {
+        const ConfOperation operation(this, ConfChange::Cause::Loaded);
+        ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
+    }
+    if (mObservers != observers)
+        return; // a callback has cleared the store
+    removeObserver(observer);
+    mChanged = isChanged;
 }
 
 void ConfStorage::reportDamage(const LocalFile &file)
@@ -87,6 +132,7 @@ void ConfStorage::saveSharedFile()
         mChanged = true;
         return;
     }
+    watchFile(QByteArray()); // sharing knows the content
     qDebug() << "ConfStorage::saveToLocalConfFile() save to file: " << mLocalSaveFile;
     mChanged = sharing->hasChanges();
 }
@@ -96,5 +142,14 @@ void ConfStorage::loadSharedFile()
     const auto sharing = fileSharing();
     sharing->load();
     mLocalLoaded = true;
+    mChanged = sharing->hasChanges();
+    watchFile(QByteArray());
+}
+
+void ConfStorage::updateSharedFile()
+{
+    const auto sharing = fileSharing();
+    const ConfOperation operation(this, ConfChange::Cause::Loaded);
+    sharing->update();
     mChanged = sharing->hasChanges();
 }

@@ -49,6 +49,12 @@ QByteArray LocalFile::read()
     return keepsDamaged && isWhole ? readRepaired(file.file(), loaded.text) : loaded.text;
 }
 
+QByteArray LocalFile::readIfWhole() const
+{
+    const QByteArray text = PosixFile::read(mPath, mLimit).bytes;
+    return DamagedFile::isDamaged(text) ? QByteArray() : text;
+}
+
 /// Returns `text`, the content of `file`, or the content of the backup if it is damaged.
 QByteArray LocalFile::readRepaired(const PosixFile &file, const QByteArray &text)
 {

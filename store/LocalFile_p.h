@@ -23,6 +23,10 @@ public:
     /// Returns the same while another program may be writing the file. Changes no file.
     QByteArray peek();
 
+    /// Returns the text of the file if it is a JSON object, and otherwise an empty text: another
+    /// program may be writing it. Changes and logs nothing.
+    QByteArray readIfWhole() const;
+
     /// Returns whether the last call of `read` could read everything that exists. Otherwise a save
     /// could overwrite settings that were not loaded.
     bool isComplete() const { return mIsComplete; }
