@@ -1,6 +1,39 @@
 #pragma once
 
-/// Saves the store when nothing has changed for a while, and when the application ends.
+#include "ApplicationStart_p.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class ConfStorage;
+class QTimer;
+
+/// Saves the local file of a store when nothing has changed for a while, when the application ends
+/// and when the session manager ends the session. Does nothing without an application object, and
+/// nothing before the local file was loaded: a save would remove the settings that are in it.
 class Autosave
 {
+public:
+    /// `quietTime` is in milliseconds.
+    Autosave(ConfStorage *store, int quietTime);
+    ~Autosave();
+    Q_DISABLE_COPY(Autosave)
+
+private:
+    void start();
+    void noteChange();
+    void saveIfQuiet();
+    void save();
+
+    ConfStorage *const mStore;
+    const int mQuietTime;
+    int mRetryDelay = 0; // 0: the last save worked
+    int mObserver = 0;
+    QElapsedTimer mLastChange;
+    const std::unique_ptr<QObject> mContext; // of all connections
+    QPointer<QTimer> mTimer;                 // a child of the application
+    const ApplicationStart mApplicationStart;
 };

@@ -118,6 +118,11 @@ std::shared_ptr<ConfChange> ConfObservers::newChange(const ConfStorage &store, c
     return change;
 }
 
+bool ConfObservers::isLoading(const ConfStorage &store)
+{
+    return store.mObservers && store.mObservers->mCauses.contains(ConfChange::Cause::Loaded);
+}
+
 void ConfObservers::finishChange(const ConfStorage &store,
                                  const std::shared_ptr<ConfChange> &change)
 {

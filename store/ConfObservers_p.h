@@ -30,6 +30,8 @@ public:
     {
         return store.mObservers ? newChange(store, key, cause) : nullptr;
     }
+    /// Returns whether a load is running. False if nobody observes `store`.
+    static bool isLoading(const ConfStorage &store);
     /// Calls the observers with `change`, which is complete now. Does nothing if it is null.
     static void finishChange(const ConfStorage &store, const std::shared_ptr<ConfChange> &change);
 

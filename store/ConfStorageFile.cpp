@@ -17,6 +17,8 @@ void ConfStorage::useRobustFiles()
 {
     mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | KeepDamagedFiles
                     | OwnerOnlyFiles | WatchFile;
+    constexpr int sQuietTime = 1000;
+    setAutosave(sQuietTime);
 }
 
 void ConfStorage::saveToLocalConfFile()

@@ -1,7 +1,7 @@
 # Runs PROGRAM in the new folder FOLDER. It must succeed, and its output must match PATTERN.
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
-execute_process(COMMAND ${PROGRAM} WORKING_DIRECTORY ${FOLDER}
+execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} WORKING_DIRECTORY ${FOLDER}
     RESULT_VARIABLE result OUTPUT_VARIABLE output)
 message("${output}")
 if(NOT result EQUAL 0 OR NOT output MATCHES "${PATTERN}")

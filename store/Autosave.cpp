@@ -1,0 +1,97 @@
+#include "Autosave_p.h"
+
+#include "ConfObservers_p.h"
+
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+// Milliseconds until a failed save is tried again. Each try logs a message.
+constexpr int sShortestRetry = 100;
+constexpr int sLongestRetry = 60 * 1000;
+
+} // namespace
+
+Autosave::Autosave(ConfStorage *store, int quietTime)
+    : mStore(store), mQuietTime(quietTime), mContext(std::make_unique<QObject>()),
+      mApplicationStart([this] { start(); })
+{
+    mObserver = mStore->addObserver([this](const ConfChange &) { noteChange(); });
+}
+
+Autosave::~Autosave()
+{
+    mStore->removeObserver(mObserver);
+    // The timer may be what calls this.
+    if (mTimer)
+        mTimer->deleteLater();
+}
+
+void Autosave::start()
+{
+    QCoreApplication *const application = QCoreApplication::instance();
+    mTimer = new QTimer(application);
+    mTimer->setSingleShot(true);
+    QObject::connect(mTimer, &QTimer::timeout, mContext.get(), [this] { saveIfQuiet(); });
+    QObject::connect(application, &QCoreApplication::aboutToQuit, mContext.get(),
+                     [this] { save(); });
+    if (const auto *const gui = qobject_cast<QGuiApplication *>(application))
+        QObject::connect(gui, &QGuiApplication::commitDataRequest, mContext.get(),
+                         [this] { save(); });
+    if (mStore->mChanged)
+        noteChange();
+}
+
+void Autosave::noteChange()
+{
+    mLastChange.start();
+    // The timer is not started again for each change, which costs more.
+    if (mTimer && !mTimer->isActive())
+        mTimer->start(mQuietTime);
+}
+
+void Autosave::saveIfQuiet()
+{
+    const qint64 rest = mQuietTime - mLastChange.elapsed();
+    if (rest > 0)
+        mTimer->start(static_cast<int>(rest));
+    else
+        save();
+}
+
+void Autosave::save()
+{
+    // Sharing knows of more changes than the flag tells.
+    const bool mayHaveChanged = mStore->mChanged
+                                || (mStore->mFileOptions & ConfStorage::SharedFile);
+    if (!mayHaveChanged || !mStore->mLocalLoaded || mStore->mLocalSaveFile.isEmpty())
+        return;
+    // In an event loop of a callback. The rest of the loaded entries would be lost.
+    const bool isLoading = ConfObservers::isLoading(*mStore);
+    if (!isLoading) {
+        const QPointer<QObject> context(mContext.get());
+        mStore->saveToLocalConfFile();
+        if (!context)
+            return; // a message handler or a callback has cleared the store
+    }
+    if (!mStore->mChanged) {
+        mRetryDelay = 0;
+        return;
+    }
+    if (mRetryDelay == 0)
+        mRetryDelay = std::max(mQuietTime, sShortestRetry);
+    else if (mRetryDelay < sLongestRetry)
+        mRetryDelay = std::min(2 * mRetryDelay, sLongestRetry);
+    if (mTimer)
+        mTimer->start(mRetryDelay);
+}
+
+void ConfStorage::setAutosave(int quietTime)
+{
+    mAutosave.reset();
+    if (quietTime >= 0)
+        mAutosave = std::make_unique<Autosave>(this, quietTime);
+}
