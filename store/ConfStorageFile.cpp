@@ -54,11 +54,11 @@ void ConfStorage::loadLocalConfFile()
         qCritical() << "ConfStorage::loadLocalConfFile() mLocalSaveFile.isEmpty()";
         return;
     }
-    const ConfOperation operation(this, ConfChange::Cause::Loaded);
     if (mFileOptions & SharedFile) {
         loadSharedFile();
         return;
     }
+    const ConfOperation operation(this, ConfChange::Cause::Loaded);
     LocalFile file(*this);
     const QByteArray text = file.read();
     mUnloadedFile = file.isComplete() ? QString() : mLocalSaveFile;
@@ -142,6 +142,8 @@ void ConfStorage::saveSharedFile()
 void ConfStorage::loadSharedFile()
 {
     const auto sharing = fileSharing();
+    // Not before: the first call of fileSharing() adds the observer that looks at the cause.
+    const ConfOperation operation(this, ConfChange::Cause::Loaded);
     sharing->load();
     mLocalLoaded = true;
     mChanged = sharing->hasChanges();

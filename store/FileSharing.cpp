@@ -132,7 +132,8 @@ void FileSharing::observe(const ConfChange &change)
     // A callback of a change that is loaded from the file may load something else.
     const bool isFromFile = mMergeDepth == mStore.mCallbackDepth
                             && change.cause == ConfChange::Cause::Loaded;
-    if (isFromFile)
+    const bool isSaved = change.time.isValid(); // a preset that was never changed is not
+    if (isFromFile || !isSaved)
         mTouched.remove(change.key);
     else
         mTouched.insert(change.key);

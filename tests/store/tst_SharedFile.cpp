@@ -95,6 +95,7 @@ private Q_SLOTS:
     void ownChangesOfOneSecondAreStampedInOrder();
     void entriesCreatedAndRemovedByOthersFollow();
     void removalWinsOverAnOlderChange();
+    void presetsAreNoChanges();
     void callbacksAreCalledOnlyForRealChanges();
     void callbacksRunWithoutTheLock();
     void changesOfCallbacksAreSavedNext();
@@ -283,6 +284,28 @@ void tst_SharedFile::removalWinsOverAnOlderChange()
     QVERIFY(!one.entries.count("list.x"));
     QCOMPARE(one.store.mRemovedDynamicConfs["list.x"].toSecsSinceEpoch(),
              two.store.mRemovedDynamicConfs["list.x"].toSecsSinceEpoch());
+}
+
+void tst_SharedFile::presetsAreNoChanges()
+{
+    Program one(mPath);
+    Program two(mPath);
+    Program late(mPath);
+    one.store.mPresetDynamicConfs["list.p"] = 5;
+    two.store.mPresetDynamicConfs["list.p"] = 5;
+    one.store.loadLocalConfFile();
+    two.store.loadLocalConfFile();
+    late.store.loadLocalConfFile();
+    QCOMPARE(*one.entries.at("list.p"), 5);
+    QVERIFY(!one.store.mChanged);
+    late.store.mPresetDynamicConfs["list.p"] = 5; // of a plug-in
+    late.store.loadPresetDynamicConf();
+    two.store.set("list.p", 6);
+    QVERIFY(two.save());
+    one.store.loadLocalConfFile();
+    QCOMPARE(*one.entries.at("list.p"), 6);
+    late.store.loadLocalConfFile();
+    QCOMPARE(*late.entries.at("list.p"), 6);
 }
 
 void tst_SharedFile::callbacksAreCalledOnlyForRealChanges()
