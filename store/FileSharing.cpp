@@ -120,6 +120,7 @@ FileSharing::FileSharing(ConfStorage &store) : mStore(store)
 {
     mObserver = store.addObserver([this](const ConfChange &change) { observe(change); });
     mObservers = store.mObservers;
+    useFile(store.mLocalSaveFile); // what was loaded before from elsewhere is to be saved
 }
 
 FileSharing::~FileSharing()

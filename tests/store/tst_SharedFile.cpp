@@ -100,6 +100,7 @@ private Q_SLOTS:
     void callbacksRunWithoutTheLock();
     void changesOfCallbacksAreSavedNext();
     void importedChangesAreSaved();
+    void changesImportedBeforeTheFirstLoadAreSaved();
     void changesBeforeTheLoadAreKept();
     void loadDoesNotForgetChanges();
     void saveWithoutALoadMerges();
@@ -363,6 +364,15 @@ void tst_SharedFile::importedChangesAreSaved()
     Program two(mPath);
     two.store.loadLocalConfFile();
     QCOMPARE(two.a, 10);
+}
+
+void tst_SharedFile::changesImportedBeforeTheFirstLoadAreSaved()
+{
+    Program one(mPath);
+    one.store.loadConf(QJsonObject{{"a", QJsonObject{{"t", now() - 5}, {"v", 10}}}},
+                       ConfStorage::LoadShared);
+    QVERIFY(one.save());
+    QVERIFY(contentOf(mPath).contains(R"("v":10)"));
 }
 
 void tst_SharedFile::changesBeforeTheLoadAreKept()
