@@ -145,6 +145,7 @@ void FileSharing::useFile(const QString &path)
     if (mPath == path)
         return;
     mPath = path;
+    mIsRead = false;
     mText.clear();
     mForeign.clear();
     mContested.clear();
@@ -164,6 +165,7 @@ FileSharing::Members FileSharing::take(const QByteArray &text)
 {
     const QByteArray before = mText;
     mText = text;
+    mIsRead = true;
     mContested.clear();
     const auto members = splitMembers(mText);
     if (!members || (mText != before && !collectForeign(*members, before)))
@@ -326,10 +328,11 @@ void FileSharing::loadFile()
     LocalFile file(mStore);
     // Without the right to create the lock, nothing may be written either.
     const QByteArray text = locked == FileLock::Result::Locked ? file.read() : file.peek();
-    const bool isFirst = mText.isNull() && mTouched.isEmpty();
+    const bool isFirst = !mIsRead && mTouched.isEmpty();
     mNeedsRepair = file.isDamaged();
     if (isFirst) {
         mText = text;
+        mIsRead = file.isComplete();
     } else if (file.isComplete()) {
         take(text);
         yieldToNewer();

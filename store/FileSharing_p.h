@@ -69,6 +69,7 @@ private:
     int mMergeDepth = -1;      // of callbacks while entries of the file are loaded; -1: none are
 
     QString mPath;                        // of the file that the following belongs to
+    bool mIsRead = false;                 // even if the file did not exist
     QByteArray mText;                     // of the file, when it was last read or written
     QSet<QString> mTouched;               // keys that were changed here since then
     QMap<QString, QByteArray> mForeign;   // entries by name that are to be loaded

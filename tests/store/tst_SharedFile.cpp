@@ -105,6 +105,7 @@ private Q_SLOTS:
     void loadDoesNotForgetChanges();
     void saveWithoutALoadMerges();
     void vanishedEntryIsWrittenAgain();
+    void entryOfANewFileReplacesThatOfADeletedOne();
     void anotherFileGetsEverything();
     void callbackMaySaveAgain();
     void callbackMayClearTheStore();
@@ -421,6 +422,19 @@ void tst_SharedFile::vanishedEntryIsWrittenAgain()
     const QJsonObject saved = QJsonDocument::fromJson(contentOf(mPath)).object();
     QCOMPARE(saved.keys(), (QStringList{"a", "b"}));
     QCOMPARE(program.a, 10);
+}
+
+void tst_SharedFile::entryOfANewFileReplacesThatOfADeletedOne()
+{
+    writeFile(mPath, R"({"a":{"t":5,"v":10}})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    QVERIFY(QFile::remove(mPath));
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 10);
+    writeFile(mPath, R"({"a":{"t":4,"v":11}})");
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 11);
 }
 
 void tst_SharedFile::anotherFileGetsEverything()
