@@ -12,6 +12,8 @@ namespace {
 
 using Action = std::function<void()>;
 
+constexpr int sBeforeThePoll = 3000; // milliseconds; the first poll is after five seconds
+
 /// Returns the text of a file with this value; a larger one is newer.
 QByteArray textOf(int value)
 {
@@ -46,6 +48,14 @@ struct Host
         callbacks = 0;
     }
 
+    /// Waits until the look at the file that follows the load is over: later changes are found by
+    /// reports of the system or by the poll only.
+    bool settle()
+    {
+        return write("{\"size\":{\"t\":100,\"v\":1},\"width\":{\"t\":100,\"v\":1}}")
+               && QTest::qWaitFor([this] { return width == 1; });
+    }
+
     int size = 0;
     int width = 0;
     int callbacks = 0;
@@ -74,6 +84,7 @@ private Q_SLOTS:
     void everyFurtherChangeIsLoaded();
     void targetsOfLinksAreWatched_data();
     void targetsOfLinksAreWatched();
+    void fileThatReplacesAnOpenOneIsWatched();
     void folderThatIsCreatedLaterIsFound();
     void ownSavesAreNotLoaded();
     void sameContentCallsNoCallback();
@@ -117,8 +128,9 @@ void tst_FileWatch::changesOfOthersAreLoaded()
     QFETCH(Action, change);
     const LogCapture log;
     Host host;
+    QVERIFY(host.settle());
     change();
-    QTRY_COMPARE(host.size, 2);
+    QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, sBeforeThePoll);
     QCOMPARE(host.callbacks, 1);
     QCOMPARE(host.store.lastLoad().file, host.store.mLocalSaveFile);
     QCOMPARE(host.store.lastLoad().taken, 1);
@@ -164,12 +176,25 @@ void tst_FileWatch::targetsOfLinksAreWatched()
     QCOMPARE(::symlink("a/one.json", "box/local.json"), 0);
     Host host;
     QCOMPARE(host.size, 1);
+    QVERIFY(host.settle());
     change();
-    QTRY_COMPARE(host.size, 2);
+    QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, sBeforeThePoll);
     QVERIFY(write(textOf(3)));
     QTRY_COMPARE(host.size, 3);
     QVERIFY(replace(textOf(4), QFileInfo("box/local.json").canonicalFilePath()));
     QTRY_COMPARE(host.size, 4);
+}
+
+void tst_FileWatch::fileThatReplacesAnOpenOneIsWatched()
+{
+    Host host;
+    QVERIFY(host.settle());
+    QFile old("box/local.json");
+    QVERIFY(old.open(QIODevice::ReadOnly)); // so the old file stays, and its watch
+    QVERIFY(replace(textOf(2)));
+    QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, sBeforeThePoll);
+    QVERIFY(write(textOf(3)));
+    QTRY_COMPARE_WITH_TIMEOUT(host.size, 3, sBeforeThePoll);
 }
 
 void tst_FileWatch::folderThatIsCreatedLaterIsFound()
@@ -177,6 +202,8 @@ void tst_FileWatch::folderThatIsCreatedLaterIsFound()
     Host host;
     host.store.mLocalSaveFile = "box/later/local.json";
     host.store.loadLocalConfFile();
+    Host other; // whose first look is later
+    QVERIFY(other.settle());
     QVERIFY(QDir("box").mkdir("later"));
     QVERIFY(write(textOf(2), "box/later/local.json"));
     QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, 30000); // found by the slow poll
@@ -265,6 +292,9 @@ void tst_FileWatch::loadedChangesAreNotPending()
     Host host;
     QVERIFY(write(textOf(2)));
     QTRY_COMPARE(host.size, 2);
+    QVERIFY(!host.store.mChanged);
+    QVERIFY(write("{\"size\":{\"t\":300}}"));
+    QTRY_COMPARE(host.size, 0); // the default value
     QVERIFY(!host.store.mChanged);
 }
 
