@@ -73,6 +73,7 @@ void FileWatch::watch(const QString &path, const QByteArray &content)
     const bool isNew = mPath != path;
     if (isNew) {
         mPath = path;
+        mTarget.clear();
         mRefused.clear();
     }
     if (!mWatcher)
@@ -109,7 +110,9 @@ FileWatch::Status FileWatch::statusOf(const QString &path)
 void FileWatch::addPaths()
 {
     const QFileInfo file(mPath);
-    mTarget = file.canonicalFilePath();
+    const QString target = file.canonicalFilePath();
+    if (!target.isEmpty())
+        mTarget = target; // a missing file may be created where it was
     QStringList paths{file.absolutePath()};
     if (!mTarget.isEmpty())
         paths << mTarget << QFileInfo(mTarget).path();

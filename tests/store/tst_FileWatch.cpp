@@ -84,6 +84,7 @@ private Q_SLOTS:
     void everyFurtherChangeIsLoaded();
     void targetsOfLinksAreWatched_data();
     void targetsOfLinksAreWatched();
+    void targetThatIsCreatedAgainIsFound();
     void fileThatReplacesAnOpenOneIsWatched();
     void folderThatIsCreatedLaterIsFound();
     void ownSavesAreNotLoaded();
@@ -183,6 +184,25 @@ void tst_FileWatch::targetsOfLinksAreWatched()
     QTRY_COMPARE(host.size, 3);
     QVERIFY(replace(textOf(4), QFileInfo("box/local.json").canonicalFilePath()));
     QTRY_COMPARE(host.size, 4);
+}
+
+void tst_FileWatch::targetThatIsCreatedAgainIsFound()
+{
+    QVERIFY(QDir("box").mkdir("a"));
+    QVERIFY(write(textOf(1), "box/a/one.json"));
+    QVERIFY(QFile::remove("box/local.json"));
+    QCOMPARE(::symlink("a/one.json", "box/local.json"), 0);
+    Host host;
+    QVERIFY(host.settle());
+    QVERIFY(QFile::remove("box/a/one.json"));
+    Host other; // whose first look is later than that at the removal
+    QVERIFY(write(textOf(2), "box/two.json"));
+    other.store.mLocalSaveFile = "box/two.json";
+    other.store.loadLocalConfFile();
+    QVERIFY(write(textOf(3), "box/two.json"));
+    QTRY_COMPARE(other.size, 3);
+    QVERIFY(write(textOf(2), "box/a/one.json"));
+    QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, sBeforeThePoll);
 }
 
 void tst_FileWatch::fileThatReplacesAnOpenOneIsWatched()
