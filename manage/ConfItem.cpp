@@ -106,6 +106,7 @@ QJsonValue ConfItem::toJsonValue() const
 bool ConfItem::loadFromJsonValue(QJsonValue value) const
 {
     const QString fullName = getFullName();
+    bool isLocked = false;
     if (value.isObject()) {
         const QJsonObject member = value.toObject();
         const QJsonObject subMembers = member.value(QLatin1String("subConf")).toObject();
@@ -116,10 +117,16 @@ bool ConfItem::loadFromJsonValue(QJsonValue value) const
                 sub->loadFromJsonValue(subMember.value());
         }
         const auto own = member.constFind(QLatin1String("value"));
-        if (own != member.constEnd())
+        if (own != member.constEnd()) {
             value = own.value();
+            isLocked = member.value(QLatin1String("locked")).toBool();
+        }
     }
-    ConfStorage::instance()->loadValueFromJson(fullName, value);
+    ConfStorage *const store = ConfStorage::instance();
+    if (isLocked && (store->mFileOptions & ConfStorage::LockedValues))
+        store->lockConf(fullName, value);
+    else
+        store->loadValueFromJson(fullName, value);
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
 #include "KeptEntries_p.h"
+#include "LockedConfs_p.h"
 
 #include <QDebug>
 
@@ -32,6 +33,8 @@ bool hasJson(const ConfValue &value)
 ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
     : mType(type), mValues(store.mConfValues), mMetas(store.mConfMetas)
 {
+    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store))
+        locked->restoreOwn(&mValues, &mMetas);
     if (const KeptEntries *kept = ConfLoad::keptEntriesOf(store)) {
         if (type == ConfStorage::DumpLocal)
             collectKept(*kept);
@@ -45,6 +48,8 @@ ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
 ConfDump::ConfDump(const ConfStorage &store, const QString &key)
     : mType(ConfStorage::DumpLocal), mValues(store.mConfValues), mMetas(store.mConfMetas)
 {
+    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store))
+        locked->restoreOwn(&mValues, &mMetas);
     const auto value = mValues.constFind(key);
     const auto record = mMetas.constFind(key);
     if (value != mValues.cend() && record != mMetas.cend())
@@ -98,7 +103,12 @@ void ConfDump::collectValue(const QString &key, const ConfValue &value,
 
 void ConfDump::collectRemoved(const ConfStorage &store)
 {
-    const QMap<QString, QDateTime> removed = store.mRemovedDynamicConfs;
+    QMap<QString, QDateTime> removed = store.mRemovedDynamicConfs;
+    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store)) {
+        const QMap<QString, QDateTime> &own = locked->tombstones();
+        for (auto it = own.cbegin(); it != own.cend(); ++it)
+            removed.insert(it.key(), *it);
+    }
     for (auto it = removed.cbegin(); it != removed.cend(); ++it) {
         const ConfStorage::DynamicConfClass *cls = store.findDynamicConfClass(it.key());
         const bool marked = cls && (cls->flags & ConfStorage::FlagSystemIndependent);

@@ -60,8 +60,8 @@ private:
     void appendEntry(QByteArray &text, const Member &member) const;
 
     const ConfStorage::DumpConfType mType;
-    const QMap<QString, ConfValue> mValues;
-    const QMap<QString, ConfStorage::ConfMeta> mMetas;
+    QMap<QString, ConfValue> mValues;
+    QMap<QString, ConfStorage::ConfMeta> mMetas;
     QMap<QString, QJsonValue> mKept;
     std::vector<Member> mMembers; // sorted by name, each name once
 };

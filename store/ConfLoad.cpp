@@ -7,6 +7,7 @@
 #include "JsonText_p.h"
 #include "KeptEntries_p.h"
 #include "Limits_p.h"
+#include "LockedConfs_p.h"
 #include "MergeTies_p.h"
 #include "PlainDump_p.h"
 #include "StrictTypes_p.h"
@@ -169,6 +170,10 @@ void ConfLoad::loadMember(const QString &key, const QJsonValue &entry)
 bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
                                  const ConfStorage::DynamicConfClass *cls)
 {
+    if (mStore.isLocked(key)) {
+        loadMember(key, entry);
+        return true;
+    }
     return mergeDynamic(key, ParsedMember(converted(key, entry), mTimes), cls);
 }
 
@@ -231,8 +236,43 @@ void ConfLoad::merge(const QString &key, const QJsonValue &entry)
     loadCurrent(key, ParsedMember(entry, mTimes));
 }
 
+/// Merges an entry into the value of the user, which the locked value hides.
+template<class Member> void ConfLoad::loadLocked(const QString &key, const Member &member)
+{
+    forgetPosition();
+    const std::shared_ptr<ShadowStore> shadow = mStore.mLockedConfs->ownStore(mStore, key);
+    ConfStorage &own = shadow->store();
+    {
+        ConfLoad load(own, mIsLocal ? ConfStorage::LoadLocal : ConfStorage::LoadShared,
+                      mReplaces ? Merge::Replace : Merge::NewerWins);
+        load.mIsSavable = mIsSavable;
+        load.mIsKept = mIsKept;
+        load.mIsRetry = mIsRetry;
+        load.mUnconverted = mUnconverted;
+        load.mReport = std::move(mReport);
+        load.loadDeclared(key, member);
+        mReport = std::move(load.mReport);
+    }
+    mStore.mChanged = mStore.mChanged || std::exchange(own.mChanged, false);
+    const auto meta = mStore.mConfMetas.find(key);
+    const auto ownMeta = own.mConfMetas.constFind(key);
+    if (meta != mStore.mConfMetas.end() && ownMeta != own.mConfMetas.constEnd())
+        meta->lastChangeTime = ownMeta->lastChangeTime;
+    if (!own.mKeptEntries)
+        return;
+    if (!mStore.mKeptEntries)
+        mStore.mKeptEntries = std::make_unique<KeptEntries>();
+    const QMap<QString, QJsonValue> refused = std::exchange(own.mKeptEntries, nullptr)->entries();
+    for (auto entry = refused.cbegin(); entry != refused.cend(); ++entry)
+        mStore.mKeptEntries->keep(entry.key(), *entry);
+}
+
 template<class Member> void ConfLoad::loadDeclared(const QString &key, const Member &member)
 {
+    if (mStore.mLockedConfs && mStore.isLocked(key)) {
+        loadLocked(key, member);
+        return;
+    }
     if (!member.isObject() || !loadDynamic(key, member))
         loadStatic(key, member);
 }

@@ -55,11 +55,18 @@ public:
         return store.mKeptEntries.get();
     }
 
+    /// The locked values of `store`; null if there are none.
+    static const LockedConfs *lockedConfsOf(const ConfStorage &store)
+    {
+        return store.mLockedConfs.get();
+    }
+
 private:
     // `Member` has the functions of `ParsedMember`.
     template<class Time> bool storedWins(const Time &stored, const Time &incoming) const;
     template<class Member> void load(QString key, const Member &member);
     template<class Member> void loadCurrent(const QString &key, const Member &member);
+    template<class Member> void loadLocked(const QString &key, const Member &member);
     template<class Member> void loadDeclared(const QString &key, const Member &member);
     template<class Member>
     bool deferFormer(const QString &key, const QString &name, const Member &member);

@@ -66,8 +66,12 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
             meta.flags &= ~FlagIsDefault;
     }
     mConfMetas[exactKey] = meta;
+    if (isLocked(exactKey))
+        mLockedConfs->takeOwn(*this, exactKey);
     if (mKeptEntries && !mBusyDynamicConfs.contains(exactKey))
         ConfLoad(*this, LoadLocal).loadKept(exactKey);
+    if (isLocked(exactKey))
+        mLockedConfs->apply(*this, exactKey);
 }
 
 void ConfStorage::releaseConf(const QString &key)
@@ -86,6 +90,8 @@ void ConfStorage::releaseConf(const QString &key)
 
 void ConfStorage::setToDefault(const QString &key, bool updateTime)
 {
+    if (isLocked(key))
+        return;
     const QDateTime now = QDateTime::currentDateTimeUtc();
     if (mConfValues.contains(key))
         restore(key, updateTime ? now : QDateTime());

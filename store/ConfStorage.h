@@ -166,11 +166,15 @@ public:
         /// without calling its callback. `DumpShared` and `DumpChangedOnly` leave them out.
         KeepUnknownEntries = 0x80,
         /// Refuses values whose JSON type is not that of the setting. The variable keeps its
-        /// value, and with `KeepUnknownEntries` or `SharedFile` the local file keeps the entry.
-        /// Without it such values are converted by Qt's lenient rules, `"12"` to the number 0.
+        /// value, and with `KeepUnknownEntries` or `SharedFile` the local file keeps an entry that
+        /// it contains. Each one is logged, with the warning "ConfStorage::loadConf() value of
+        /// another type refused: " and the key. Without it such values are converted by Qt's
+        /// lenient rules, `"12"` to the number 0.
         StrictTypes = 0x100,
         /// Decides ties by the content of the entries, so that all copies that merge each other's
-        /// dumps end with the same values. Without it each copy keeps its own value in a tie.
+        /// dumps end with the same values: a removal wins over a value, a value over a restored
+        /// default, and of two values the one with the greater JSON text. Without it each copy
+        /// keeps its own value in a tie.
         ResolveTies = 0x200,
         /// Makes new files readable by their owner only: the local file, its journal and backup,
         /// and copies of damaged files. Existing files keep their permissions.
@@ -283,12 +287,14 @@ public:
     /// "ConfStorage::importConf() parse json failed" if it is not a JSON object.
     bool loadConf(const QString &json, LoadConfType type);
 
-    /// Returns what the last call of `loadConf` or `loadLocalConfFile` did.
+    /// Returns what the last call of `loadConf` or `loadLocalConfFile` did. If a callback loads
+    /// something, the report is that of the outer load as soon as that ends.
     ConfLoadReport lastLoad() const;
 
     /// Returns the changes that `loadConf` would make, without making them: key, state before and
-    /// after, cause and time. Creators, removers and callbacks are not called, so what they would
-    /// change in answer is not included.
+    /// after, cause and time, in the order of the keys. Entries that only have a newer timestamp
+    /// are included. Creators, removers and callbacks are not called, so what they would change in
+    /// answer is not included. Logs what `loadConf` logs.
     QVector<ConfChange> previewLoad(const QJsonObject &conf, LoadConfType type) const;
 
     /// Merges one member of a dump. `key` may have a system mark.
@@ -353,12 +359,20 @@ public:
     /// @see addObserver
     void setAutosave(int quietTime);
 
-    /// Returns whether an administrator has fixed the value of `key`. Then every change of it is
-    /// ignored, and the local file keeps the value of the user.
+    /// Returns whether an administrator has fixed the value of `key`. Then `set`, `setToDefault`,
+    /// `loadValueFromJson` and `removeDynamicConf` do nothing, silently. Loads merge into the value
+    /// of the user, which the locked value hides: dumps and the local file contain it, and the
+    /// variable gets it when the key is not locked any more, in another run of the program.
     bool isLocked(const QString &key) const;
 
-    /// Fixes the value of `key` as `value`, in JSON as `ConfValue::toJsonValue` returns it, and
-    /// calls the callback if it changes. Does nothing if the key is unknown.
+    /// Fixes the value of `key` as `value`, in JSON as `ConfValue::toJsonValue` returns it, or as
+    /// the default value if it is null. Tells observers, with the cause `Loaded`, and calls the
+    /// callback if the value changes. A key that is locked already gets the new value. The key
+    /// stays locked if it is reserved again; `clear` forgets all locks. Does nothing if the key is
+    /// unknown. Logs the debug message "ConfStorage::lockConf() value locked: " with the key.
+    ///
+    /// With `StrictTypes` a value of another type is not locked. Logs the warning
+    /// "ConfStorage::loadConf() value of another type refused: " with the key.
     void lockConf(const QString &key, const QJsonValue &value);
 
     /// Makes entries of `formerName` entries of `key`: the newest of both wins. With `keepEntry`

@@ -82,6 +82,8 @@ bool ConfStorage::createDynamic(const QString &key, const QJsonValue &value,
 
 void ConfStorage::removeDynamicConf(const QString &key)
 {
+    if (isLocked(key))
+        return;
     const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Removed);
     if (removeDynamic(key))
         ConfObservers::finishChange(*this, change);

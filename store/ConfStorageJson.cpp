@@ -50,6 +50,8 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const Dynam
 
 void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
+    if (isLocked(key))
+        return;
     if (mVersions)
         value = mVersions->convert(key, value);
     const bool isDefault = (mFileOptions & NullIsDefault)

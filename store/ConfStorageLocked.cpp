@@ -1,8 +1,45 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfObservers_p.h"
+#include "EntryLog_p.h"
 #include "LockedConfs_p.h"
+#include "StrictTypes_p.h"
+
+#include <QDebug>
 
 bool ConfStorage::isLocked(const QString &key) const
 {
     return mLockedConfs && mLockedConfs->contains(key);
+}
+
+void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
+{
+    const QString name = key; // which may refer to one of the maps
+    const auto stored = mConfValues.constFind(name);
+    if (stored == mConfValues.constEnd())
+        return;
+    QJsonValue fixed = value.isUndefined() ? QJsonValue() : value;
+    if (mFileOptions & StrictTypes) {
+        const auto fitting = strictJson(fixed, stored->mType);
+        if (!fitting) {
+            logOtherType(name);
+            return;
+        }
+        fixed = *fitting;
+    }
+    const ChangePtr change = ConfObservers::beginChange(*this, name, ConfChange::Cause::Loaded);
+    const QJsonValue before = stored->toJsonValue();
+    if (!mLockedConfs)
+        mLockedConfs = std::make_unique<LockedConfs>();
+    mLockedConfs->add(*this, name, fixed);
+    mLockedConfs->apply(*this, name);
+    if (EntryLog::permits())
+        qDebug() << "ConfStorage::lockConf() value locked: " << EntryLog::truncated(name);
+    const auto meta = mConfMetas.constFind(name);
+    if (meta == mConfMetas.constEnd() || mConfValues.value(name).toJsonValue() == before)
+        return;
+    if (change)
+        finishChange(change);
+    else
+        callChangedCallback(name, *meta);
 }

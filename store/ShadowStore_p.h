@@ -12,6 +12,7 @@ class ShadowStore
 {
 public:
     ConfStorage &store() { return mStore; }
+    const ConfStorage &store() const { return mStore; }
 
     /// Takes the options, the presets and the classes of `other`.
     void copyRules(const ConfStorage &other);

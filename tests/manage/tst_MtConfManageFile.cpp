@@ -62,6 +62,10 @@ private Q_SLOTS:
     void restoreAllDefault_needsNoHook();
     void restoreAllDefault_survivesAHookThatReplacesItself();
     void restoreAllDefault_survivesACallbackThatEmptiesTheList();
+    void lockedMemberFixesTheValue_data();
+    void lockedMemberFixesTheValue();
+    void lockedValueIsNotSavedAndSurvivesRestoringAll();
+    void lockedMemberOfASubItemFixesItsValue();
 
 private:
     static QString path() { return QStringLiteral("config.json"); }
@@ -508,6 +512,80 @@ void tst_MtConfManageFile::restoreAllDefault_survivesACallbackThatEmptiesTheList
     mManager->restoreAllDefault();
     QVERIFY(mManager->items.isEmpty());
     QCOMPARE(b, 20);
+}
+
+void tst_MtConfManageFile::lockedMemberFixesTheValue_data()
+{
+    QTest::addColumn<bool>("isSwitchedOn");
+    QTest::addColumn<QJsonObject>("member");
+    QTest::addColumn<bool>("isLocked");
+    const QJsonObject locked{{"value", 7}, {"locked", true}};
+    QTest::newRow("locked") << true << locked << true;
+    QTest::newRow("without the option") << false << locked << false;
+    QTest::newRow("not locked") << true << QJsonObject{{"value", 7}, {"locked", false}} << false;
+    QTest::newRow("text") << true << QJsonObject{{"value", 7}, {"locked", "true"}} << false;
+    QTest::newRow("number") << true << QJsonObject{{"value", 7}, {"locked", 1}} << false;
+    QTest::newRow("no member") << true << QJsonObject{{"value", 7}} << false;
+}
+
+void tst_MtConfManageFile::lockedMemberFixesTheValue()
+{
+    QFETCH(bool, isSwitchedOn);
+    QFETCH(QJsonObject, member);
+    QFETCH(bool, isLocked);
+    const LogCapture log;
+    ConfStorage *store = ConfStorage::instance();
+    if (isSwitchedOn)
+        store->mFileOptions = ConfStorage::LockedValues;
+    int number = 1;
+    declare(&number, "N");
+    writeFile(QJsonObject{{"General.N", member}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(number, 7);
+    QCOMPARE(store->isLocked("General.N"), isLocked);
+    store->set("General.N", 8);
+    QCOMPARE(number, isLocked ? 7 : 8);
+    mManager->_loadFromFile(path());
+    QCOMPARE(number, 7);
+}
+
+void tst_MtConfManageFile::lockedValueIsNotSavedAndSurvivesRestoringAll()
+{
+    const LogCapture log;
+    ConfStorage *store = ConfStorage::instance();
+    store->mFileOptions = ConfStorage::LockedValues;
+    int number = 1, other = 1;
+    declare(&number, "N");
+    declare(&other, "Other");
+    store->set("General.N", 5);
+    store->set("General.Other", 5);
+    writeFile(QJsonObject{{"General.N", QJsonObject{{"value", 7}, {"locked", true}}}});
+    mManager->_loadFromFile(path());
+    mManager->restoreAllDefault();
+    QCOMPARE(number, 7);
+    QCOMPARE(other, 1);
+    const QJsonObject dump = store->dumpConf(ConfStorage::DumpChangedOnly);
+    QCOMPARE(dump, (QJsonObject{{"General.N", QJsonObject{{"v", 5}}}}));
+}
+
+void tst_MtConfManageFile::lockedMemberOfASubItemFixesItsValue()
+{
+    const LogCapture log;
+    ConfStorage *store = ConfStorage::instance();
+    store->mFileOptions = ConfStorage::LockedValues;
+    int number = 1, width = 1;
+    ConfItem *item = declare(&number, "N");
+    item->subConfs.insert("Width", ConfItem(&width, "General", "N", "Width"));
+    writeFile(QJsonObject{
+        {"General.N",
+         QJsonObject{
+             {"value", 7},
+             {"subConf", QJsonObject{{"Width", QJsonObject{{"value", 3}, {"locked", true}}}}}}}});
+    mManager->_loadFromFile(path());
+    QCOMPARE(number, 7);
+    QCOMPARE(width, 3);
+    QVERIFY(!store->isLocked("General.N"));
+    QVERIFY(store->isLocked("General.N.Width"));
 }
 
 int main(int argc, char **argv)
