@@ -32,12 +32,12 @@ struct ConfChange
         QJsonValue value{QJsonValue::Undefined}; ///< see `ConfValue::toJsonValue`; or undefined
     };
 
-    QString key;
-    Cause cause = Cause::Set;
-    State before; ///< read from the variable just before the operation
-    State after;
-    QDateTime time;        ///< the timestamp that the change has in the store, in UTC
-    quint64 operation = 0; ///< equal for all changes of one outermost operation
+    QString key;              ///< the key that changed, without a system mark
+    Cause cause = Cause::Set; ///< why it changed
+    State before;             ///< read from the variable just before the operation
+    State after;              ///< read when the operation on the key is complete
+    QDateTime time;           ///< the timestamp that the change has in the store, in UTC
+    quint64 operation = 0;    ///< equal for all changes of one outermost operation
 };
 
 /// A function that hears each change of a store. It may add and remove observers, itself included,
