@@ -147,6 +147,7 @@ void FileSharing::useFile(const QString &path)
     mPath = path;
     mIsRead = false;
     mText.clear();
+    mIsObject.reset();
     mForeign.clear();
     mContested.clear();
     mTouched.clear();
@@ -163,14 +164,24 @@ void FileSharing::useFile(const QString &path)
 /// object.
 FileSharing::Members FileSharing::take(const QByteArray &text)
 {
-    const QByteArray before = mText;
-    mText = text;
     mIsRead = true;
     mContested.clear();
+    const bool wasObject = isObject();
+    if (text == mText)
+        return wasObject ? splitMembers(mText).value_or(Members()) : Members();
+    const QByteArray before = wasObject ? mText : QByteArray(); // else nothing of it was loaded
+    mText = text;
     const auto members = splitMembers(mText);
-    if (!members || (mText != before && !collectForeign(*members, before)))
-        return {};
-    return *members;
+    mIsObject = members && collectForeign(*members, before);
+    return *mIsObject ? *members : Members();
+}
+
+/// Returns whether the text that was last read or written is a JSON object.
+bool FileSharing::isObject()
+{
+    if (!mIsObject)
+        mIsObject = QJsonDocument::fromJson(mText).isObject();
+    return *mIsObject;
 }
 
 /// Notes the entries that others have changed. Returns false if one of them is not JSON.
@@ -300,6 +311,7 @@ bool FileSharing::write(LocalFile *file, const Members &members)
     const QByteArray text = merged(members, touched);
     if (text == file->content() || file->write([&text] { return text; })) {
         mText = text;
+        mIsObject = true;
         mNeedsRepair = false;
         return true;
     }
@@ -332,6 +344,7 @@ void FileSharing::loadFile()
     mNeedsRepair = file.isDamaged();
     if (isFirst) {
         mText = text;
+        mIsObject.reset();
         mIsRead = file.isComplete();
     } else if (file.isComplete()) {
         take(text);

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class ConfDump;
@@ -52,6 +53,7 @@ private:
     void loadFile();
     void loadWhole();
     Members take(const QByteArray &text);
+    bool isObject();
     bool write(LocalFile *file, const Members &members);
     bool collectForeign(const Members &members, const QByteArray &before);
     QByteArray merged(const Members &members, const QSet<QString> &touched);
@@ -71,6 +73,7 @@ private:
     QString mPath;                        // of the file that the following belongs to
     bool mIsRead = false;                 // even if the file did not exist
     QByteArray mText;                     // of the file, when it was last read or written
+    std::optional<bool> mIsObject;        // whether `mText` is a JSON object, if that is known
     QSet<QString> mTouched;               // keys that were changed here since then
     QMap<QString, QByteArray> mForeign;   // entries by name that are to be loaded
     QMap<QString, QByteArray> mContested; // entries by name that others changed, of touched keys

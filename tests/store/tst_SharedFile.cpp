@@ -114,6 +114,8 @@ private Q_SLOTS:
     void lockOfADeadProgramIsTakenOver();
     void textThatIsNoObjectCountsAsEmpty_data();
     void textThatIsNoObjectCountsAsEmpty();
+    void textThatWasNeverAnObjectIsReplaced();
+    void repairedTextIsLoadedWhole();
 
 private:
     std::unique_ptr<QTemporaryDir> mFolder;
@@ -558,6 +560,28 @@ void tst_SharedFile::textThatIsNoObjectCountsAsEmpty()
     QVERIFY(program.save());
     const QJsonObject saved = QJsonDocument::fromJson(contentOf(mPath)).object();
     QCOMPARE(saved.keys(), (QStringList{"a", "b"}));
+}
+
+void tst_SharedFile::textThatWasNeverAnObjectIsReplaced()
+{
+    writeFile(mPath, R"({"b":{"t":5,"v":3},"z":x})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.b, 2);
+    program.store.set("a", 10);
+    QVERIFY(program.save());
+    const QJsonObject saved = QJsonDocument::fromJson(contentOf(mPath)).object();
+    QCOMPARE(saved.keys(), QStringList("a"));
+}
+
+void tst_SharedFile::repairedTextIsLoadedWhole()
+{
+    writeFile(mPath, R"({"b":{"t":5,"v":3},"z":x})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    writeFile(mPath, R"({"b":{"t":5,"v":3},"z":1})");
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.b, 3);
 }
 
 int main(int argc, char **argv)
