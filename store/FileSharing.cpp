@@ -6,6 +6,7 @@
 #include "DumpMember_p.h"
 #include "FileLock_p.h"
 #include "JsonText_p.h"
+#include "KeptEntries_p.h"
 #include "LocalFile_p.h"
 #include "PosixFile_p.h"
 
@@ -50,6 +51,13 @@ qint64 timeOf(std::string_view value, TimeRange times)
     const ParsedMember member(parsed(toBytes(value)), times);
     const std::optional<qint64> removal = member.removalTime();
     return removal ? *removal : member.time().value_or(0);
+}
+
+/// Returns whether loading the entry gives it the current time.
+bool isMadeNow(std::string_view value)
+{
+    const QJsonValue entry = parsed(toBytes(value));
+    return entry.toObject().contains(sValueKey.name()) && !KeptEntries::timeOf(entry);
 }
 
 /// Returns the members by name, each name once: the last one counts.
@@ -244,8 +252,10 @@ QByteArray FileSharing::winner(const ConfDump &dump, size_t index, std::string_v
     const qint64 theirTime = timeOf(theirs, timeRange());
     if (view(entry) == theirs)
         return entry;
-    if (ours.isKept)
-        return ours.time > theirTime ? entry : toBytes(theirs);
+    if (ours.isKept) {
+        const bool isNew = mForeign.contains(ours.name) && isMadeNow(theirs);
+        return !isNew && ours.time > theirTime ? entry : toBytes(theirs);
+    }
     if (mContested.contains(ours.name) && yields(ours.time, theirTime)) {
         mForeign[ours.name] = toBytes(theirs);
         return toBytes(theirs);

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void changesOfBothAreKept();
     void changesOfOthersArriveWithEachSaveAndLoad();
     void untouchedEntriesKeepTheBytesOfTheFile();
+    void unknownEntryOfOthersWithoutATimeIsKept();
     void assignedVariableIsNotWrittenOverTheFile();
     void touchedEntryAndTheFile_data();
     void touchedEntryAndTheFile();
@@ -183,6 +184,23 @@ void tst_SharedFile::untouchedEntriesKeepTheBytesOfTheFile()
                          + R"(,"v":10})";
     QCOMPARE(contentOf(mPath), '{' + a + ',' + other + ',' + spaced + ',' + "\"z\xc3\xa9\""
                                    + unknown.mid(unknown.indexOf(':')) + '}');
+}
+
+void tst_SharedFile::unknownEntryOfOthersWithoutATimeIsKept()
+{
+    writeFile(mPath, R"({"z":{"t":9,"v":1}})");
+    Program program(mPath);
+    program.store.mFileOptions |= ConfStorage::KeepUnknownEntries;
+    program.store.loadLocalConfFile();
+    writeFile(mPath, R"({"z":{"v":2}})"); // by hand
+    program.store.set("a", 10);
+    QVERIFY(program.save());
+    QVERIFY(contentOf(mPath).endsWith(R"("z":{"v":2}})"));
+    program.store.set("a", 11);
+    QVERIFY(program.save());
+    const QJsonObject saved = QJsonDocument::fromJson(contentOf(mPath)).object();
+    QCOMPARE(saved.value("z").toObject().value("v").toInt(), 2);
+    QVERIFY(saved.value("z").toObject().contains("t"));
 }
 
 void tst_SharedFile::assignedVariableIsNotWrittenOverTheFile()
