@@ -107,6 +107,7 @@ private Q_SLOTS:
     void saveWithoutALoadMerges();
     void vanishedEntryIsWrittenAgain();
     void entryOfANewFileReplacesThatOfADeletedOne();
+    void failedSaveIsNotAcknowledged();
     void anotherFileGetsEverything();
     void callbackMaySaveAgain();
     void callbackMayClearTheStore();
@@ -455,6 +456,22 @@ void tst_SharedFile::entryOfANewFileReplacesThatOfADeletedOne()
     writeFile(mPath, R"({"a":{"t":4,"v":11}})");
     program.store.loadLocalConfFile();
     QCOMPARE(program.a, 11);
+}
+
+void tst_SharedFile::failedSaveIsNotAcknowledged()
+{
+    Program program(mPath);
+    program.store.set("a", 10);
+    QVERIFY(program.save());
+    QVERIFY(QFile::remove(mPath));
+    program.store.mMaxFileSize = 5;
+    program.store.mChanged = true;
+    const LogCapture log;
+    QVERIFY(!program.save());
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::saveToLocalConfFile() content could not be read back:  "
+                         "
+                         + mPath + '"'));
 }
 
 void tst_SharedFile::anotherFileGetsEverything()
