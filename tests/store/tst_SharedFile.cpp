@@ -468,10 +468,8 @@ void tst_SharedFile::failedSaveIsNotAcknowledged()
     program.store.mChanged = true;
     const LogCapture log;
     QVERIFY(!program.save());
-    QCOMPARE(log.texts(QtCriticalMsg),
-             QStringList("ConfStorage::saveToLocalConfFile() content could not be read back:  "
-                         "
-                         + mPath + '"'));
+    const QString message = "ConfStorage::saveToLocalConfFile() content could not be read back:  ";
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList(message + "\"" + mPath + "\""));
 }
 
 void tst_SharedFile::anotherFileGetsEverything()
