@@ -88,6 +88,18 @@ public:
     }
 };
 
+/// The same with a file that other programs may change.
+class SharedLocalFile : public LocalFile
+{
+public:
+    SharedLocalFile(const QVector<SettingName> &names, const QString &path) : LocalFile(names, path)
+    {
+        store().mFileOptions = ConfStorage::SafeSave | ConfStorage::SharedFile;
+        store().loadLocalConfFile();
+        save(1);
+    }
+};
+
 /// The same after another program has indented the file, so that Qt's parser must be used.
 class IndentedFile : public LocalFile
 {
@@ -177,6 +189,28 @@ void parseCopy(benchmark::State &state)
     countEntries(state);
 }
 
+/// Loads a file in which another program has changed one entry.
+void loadChangeOfAnother(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("local.json"));
+    const QVector<SettingName> names = settingNames(sizeOf(state));
+    SharedLocalFile other(names, path);
+    SharedLocalFile file(names, path);
+    other.store().loadLocalConfFile();
+    const QString key = other.keys().front();
+    int value = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        other.save(++value);
+        state.ResumeTiming();
+        file.store().loadLocalConfFile();
+        if (file.store().get<int>(key) != value)
+            state.SkipWithError("nothing was loaded");
+    }
+    countEntries(state);
+}
+
 } // namespace
 
 void addFileBenchmarks()
@@ -192,6 +226,11 @@ void addFileBenchmarks()
     // Compared with a plain save, in wall-clock time, because a safe save waits for the disk.
     addBenchmark("saveSafely", "library", benchSave<SafeLocalFile>)->UseRealTime();
     addBenchmark("saveSafely", "bare", benchSave<LocalFile>)->UseRealTime();
+    // Compared with a safe save, and with a load of the whole file.
+    addBenchmark("saveShared", "library", benchSave<SharedLocalFile>)->UseRealTime();
+    addBenchmark("saveShared", "bare", benchSave<SafeLocalFile>)->UseRealTime();
+    addBenchmark("loadChange", "library", loadChangeOfAnother)->UseRealTime();
+    addBenchmark("loadChange", "bare", benchLoad<LocalFile>)->UseRealTime();
     addBenchmark("mergeCopy", "library", mergeCopy);
     addBenchmark("mergeCopy", "bare", parseCopy);
 }

@@ -22,7 +22,6 @@ class ConfVersions;
 class FileSharing;
 class FileWatch;
 class KeptEntries;
-class LocalFile;
 class LockedConfs;
 class QJsonObject;
 struct ConfChange;
@@ -455,7 +454,7 @@ private:
     void reloadChangedFile();
     void callChangedCallback(const QString &key, const ConfMeta &meta, ConfValue *value = nullptr);
     bool isDynamicWithoutPreset(const QString &key) const;
-    void reportDamage(const LocalFile &file);
+    void reportDamage(const QString &copy);
     void saveSharedFile();
     void loadSharedFile();
     void updateSharedFile();

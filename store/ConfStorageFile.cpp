@@ -63,7 +63,8 @@ void ConfStorage::loadLocalConfFile()
     const QByteArray text = file.read();
     mUnloadedFile = file.isComplete() ? QString() : mLocalSaveFile;
     ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
-    reportDamage(file);
+    if (file.isDamaged())
+        reportDamage(file.damagedCopy());
     loadPresetDynamicConf();
     mChanged = file.isDamaged(); // the next save repairs it
     mLocalLoaded = true;
@@ -110,12 +111,13 @@ void ConfStorage::reloadChangedFile()
     mChanged = isChanged;
 }
 
-void ConfStorage::reportDamage(const LocalFile &file)
+/// Reports that the file was damaged, and where a copy of it is.
+void ConfStorage::reportDamage(const QString &copy)
 {
-    if (!mLastLoad || !file.isDamaged())
+    if (!mLastLoad)
         return;
     mLastLoad->isDamaged = true;
-    mLastLoad->damagedCopy = file.damagedCopy();
+    mLastLoad->damagedCopy = copy;
 }
 
 std::shared_ptr<FileSharing> ConfStorage::fileSharing()

@@ -35,9 +35,38 @@ QByteArray toBytes(std::string_view text)
 /// Returns the key of a member, whose name may have the system mark.
 QString keyOf(const QString &name)
 {
+    if (!name.contains(QLatin1Char('#')))
+        return name;
     const QString mark = addSysMark(QString());
     return name.endsWith(mark) ? name.chopped(mark.size()) : name;
 }
+
+/// The members of some keys, to be asked for in their order.
+class NamesInOrder
+{
+public:
+    explicit NamesInOrder(const QSet<QString> &keys)
+    {
+        mNames.reserve(2 * static_cast<size_t>(keys.size()));
+        for (const QString &key : keys) {
+            mNames.push_back(key);
+            mNames.push_back(addSysMark(key));
+        }
+        std::sort(mNames.begin(), mNames.end());
+        mNext = mNames.cbegin();
+    }
+
+    bool contains(const QString &name)
+    {
+        while (mNext != mNames.cend() && *mNext < name)
+            ++mNext;
+        return mNext != mNames.cend() && *mNext == name;
+    }
+
+private:
+    std::vector<QString> mNames;
+    std::vector<QString>::const_iterator mNext;
+};
 
 /// Undefined if `value` is not JSON.
 QJsonValue parsed(const QByteArray &value)
@@ -154,8 +183,7 @@ void FileSharing::useFile(const QString &path)
         return;
     mPath = path;
     mIsRead = false;
-    mText.clear();
-    mIsObject.reset();
+    setText(QByteArray(), std::nullopt);
     mForeign.clear();
     mContested.clear();
     mTouched.clear();
@@ -168,39 +196,50 @@ void FileSharing::useFile(const QString &path)
         mTouched.insert(key);
 }
 
-/// Compares `text` with the text that was last read. Returns its members, or none if it is no JSON
-/// object.
-FileSharing::Members FileSharing::take(const QByteArray &text)
+/// The members of `text` are found when they are needed.
+void FileSharing::setText(const QByteArray &text, std::optional<bool> isObject)
+{
+    mText = text;
+    mIsObject = isObject;
+    mMembers.reset();
+}
+
+/// Compares `text` with the text that was last read or written, and keeps its members, or none if
+/// it is no JSON object.
+void FileSharing::take(const QByteArray &text)
 {
     mIsRead = true;
     mContested.clear();
-    const bool wasObject = isObject();
+    findMembers();
     if (text == mText)
-        return wasObject ? splitMembers(mText).value_or(Members()) : Members();
-    const QByteArray before = wasObject ? mText : QByteArray(); // else nothing of it was loaded
+        return;
+    const QByteArray before = mText; // which the known members refer to
+    const Members known = std::move(*mMembers);
     mText = text;
     const auto members = splitMembers(mText);
-    mIsObject = members && collectForeign(*members, before);
-    return *mIsObject ? *members : Members();
+    mMembers = members ? *members : Members();
+    mIsObject = members && collectForeign(known);
+    if (!*mIsObject)
+        mMembers = Members();
 }
 
-/// Returns whether the text that was last read or written is a JSON object.
-bool FileSharing::isObject()
+/// Finds the members of the text that was last read or written: none if it is no JSON object, as
+/// nothing of it was loaded then.
+void FileSharing::findMembers()
 {
     if (!mIsObject)
         mIsObject = QJsonDocument::fromJson(mText).isObject();
-    return *mIsObject;
+    if (!mMembers)
+        mMembers = *mIsObject ? splitMembers(mText).value_or(Members()) : Members();
 }
 
 /// Notes the entries that others have changed. Returns false if one of them is not JSON.
-bool FileSharing::collectForeign(const Members &members, const QByteArray &before)
+bool FileSharing::collectForeign(const Members &known)
 {
-    const auto split = splitMembers(before);
-    const Members known = split ? *split : Members();
     MemberIndex index(known);
     QMap<QString, QByteArray> foreign = mForeign;
     QMap<QString, QByteArray> contested;
-    for (const MemberText &member : members) {
+    for (const MemberText &member : *mMembers) {
         const MemberText *old = index.find(member.rawName);
         if (old && old->value == member.value)
             continue;
@@ -216,10 +255,11 @@ bool FileSharing::collectForeign(const Members &members, const QByteArray &befor
 }
 
 /// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
-QByteArray FileSharing::merged(const Members &members, const QSet<QString> &touched)
+QByteArray FileSharing::merged(const QSet<QString> &touched)
 {
     const ConfDump dump(mStore, ConfStorage::DumpLocal);
-    const std::vector<NamedText> theirs = sortedByName(members);
+    const std::vector<NamedText> theirs = sortedByName(*mMembers);
+    NamesInOrder touchedNames(touched);
     QByteArray text;
     text.reserve(mText.size() + mText.size() / 8 + 64);
     text += '{';
@@ -232,7 +272,7 @@ QByteArray FileSharing::merged(const Members &members, const QSet<QString> &touc
             appendMember(&text, ours.name, view(dump.entryText(i, ours.time)));
             continue;
         }
-        if (ours.isKept || touched.contains(keyOf(ours.name)))
+        if (ours.isKept || touchedNames.contains(ours.name))
             appendMember(&text, ours.name, view(winner(dump, i, their->value)));
         else
             appendMember(&text, ours.name, their->value);
@@ -249,9 +289,9 @@ QByteArray FileSharing::winner(const ConfDump &dump, size_t index, std::string_v
 {
     const ConfDump::Entry ours = dump.at(index);
     const QByteArray entry = dump.entryText(index, ours.time);
-    const qint64 theirTime = timeOf(theirs, timeRange());
     if (view(entry) == theirs)
         return entry;
+    const qint64 theirTime = timeOf(theirs, timeRange());
     if (ours.isKept) {
         const bool isNew = mForeign.contains(ours.name) && isMadeNow(theirs);
         return !isNew && ours.time > theirTime ? entry : toBytes(theirs);
@@ -304,24 +344,25 @@ bool FileSharing::save()
     LocalFile file(mStore);
     const QByteArray text = file.read();
     bool isSaved = false;
-    if (file.isComplete())
-        isSaved = write(&file, take(text));
-    else
+    if (file.isComplete()) {
+        take(text);
+        isSaved = write(&file);
+    } else {
         qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: " << mPath;
+    }
     lock.unlock();
     if (!mForeign.isEmpty())
         loadForeign();
     return isSaved;
 }
 
-bool FileSharing::write(LocalFile *file, const Members &members)
+bool FileSharing::write(LocalFile *file)
 {
     // Messages may call a log handler of the host, which may change the store.
     const QSet<QString> touched = std::exchange(mTouched, {});
-    const QByteArray text = merged(members, touched);
+    const QByteArray text = merged(touched);
     if (text == file->content() || file->write([&text] { return text; })) {
-        mText = text;
-        mIsObject = true;
+        setText(text, true);
         mNeedsRepair = false;
         return true;
     }
@@ -353,8 +394,7 @@ void FileSharing::loadFile()
     const bool isFirst = !mIsRead && mTouched.isEmpty();
     mNeedsRepair = file.isDamaged();
     if (isFirst) {
-        mText = text;
-        mIsObject.reset();
+        setText(text, std::nullopt);
         mIsRead = file.isComplete();
     } else if (file.isComplete()) {
         take(text);
@@ -365,7 +405,8 @@ void FileSharing::loadFile()
         loadWhole();
     else
         loadForeign();
-    mStore.reportDamage(file);
+    if (file.isDamaged())
+        mStore.reportDamage(file.damagedCopy());
 }
 
 /// Loads the text without comparing it with a previous one.

@@ -52,11 +52,12 @@ private:
     void useFile(const QString &path);
     void loadFile();
     void loadWhole();
-    Members take(const QByteArray &text);
-    bool isObject();
-    bool write(LocalFile *file, const Members &members);
-    bool collectForeign(const Members &members, const QByteArray &before);
-    QByteArray merged(const Members &members, const QSet<QString> &touched);
+    void setText(const QByteArray &text, std::optional<bool> isObject);
+    void take(const QByteArray &text);
+    void findMembers();
+    bool write(LocalFile *file);
+    bool collectForeign(const Members &known);
+    QByteArray merged(const QSet<QString> &touched);
     QByteArray winner(const ConfDump &dump, size_t index, std::string_view theirs);
     static bool yields(qint64 ourTime, qint64 theirTime);
     TimeRange timeRange() const;
@@ -74,6 +75,7 @@ private:
     bool mIsRead = false;                 // even if the file did not exist
     QByteArray mText;                     // of the file, when it was last read or written
     std::optional<bool> mIsObject;        // whether `mText` is a JSON object, if that is known
+    std::optional<Members> mMembers;      // of `mText`, if they are known
     QSet<QString> mTouched;               // keys that were changed here since then
     QMap<QString, QByteArray> mForeign;   // entries by name that are to be loaded
     QMap<QString, QByteArray> mContested; // entries by name that others changed, of touched keys

@@ -9,6 +9,24 @@ namespace {
 
 constexpr std::string_view sByteOrderMark = "\xef\xbb\xbf";
 
+constexpr bool isStructural(char character)
+{
+    switch (character) {
+    case '"':
+    case '{':
+    case '}':
+    case '[':
+    case ']':
+    case ',': return true;
+    default: return false;
+    }
+}
+
+constexpr bool endsString(char character)
+{
+    return character == '"' || character == '\\';
+}
+
 /// Reads the text from its start to its end. Every function returns false, or a null view, at the
 /// first character that does not fit.
 class Splitter
@@ -56,13 +74,21 @@ private:
         return true;
     }
 
+    /// Returns the position of the first character from `at` on for which `isWanted` is true. Much
+    /// faster than std::string_view::find_first_of().
+    template<class Predicate> size_t find(size_t at, Predicate isWanted) const
+    {
+        while (at < mRest.size() && !isWanted(mRest[at]))
+            ++at;
+        return at < mRest.size() ? at : std::string_view::npos;
+    }
+
     /// Returns the position behind the string that starts with the quote at `start`, or `npos`.
     size_t endOfString(size_t start) const
     {
-        size_t at = mRest.find_first_of("\"\\", start + 1);
+        size_t at = find(start + 1, endsString);
         while (at != std::string_view::npos && mRest[at] == '\\')
-            at = at + 2 <= mRest.size() ? mRest.find_first_of("\"\\", at + 2)
-                                        : std::string_view::npos;
+            at = find(at + 2, endsString);
         return at == std::string_view::npos ? at : at + 1;
     }
 
@@ -85,7 +111,7 @@ private:
         size_t at = 0;
         int depth = 0;
         while (at < mRest.size()) {
-            at = mRest.find_first_of("\"{}[],", at);
+            at = find(at, isStructural);
             if (at == std::string_view::npos)
                 return false;
             const char found = mRest[at];

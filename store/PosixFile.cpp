@@ -140,11 +140,15 @@ void PosixFile::close()
 PosixFile::Content PosixFile::read(qint64 limit) const
 {
     // The size that the system reports may be wrong, as for the files in /proc.
+    struct stat found = {};
+    const qint64 likelySize = status(&found) ? qint64(found.st_size) + 1 : sBlockSize;
     QByteArray bytes;
     ::lseek(mDescriptor, 0, SEEK_SET);
     while (bytes.size() <= limit) {
         const auto size = bytes.size();
-        const auto room = static_cast<int>(qMin(sBlockSize, limit + 1 - size));
+        const qint64 expected = likelySize - size;
+        const auto room = static_cast<int>(
+            qMin(expected > 0 ? expected : sBlockSize, limit + 1 - size));
         bytes.resize(size + room);
         const auto count = uninterrupted(
             [&] { return ::read(mDescriptor, bytes.data() + size, static_cast<size_t>(room)); });
