@@ -33,6 +33,7 @@ QxtGlobalShortcut *shortcutOf(const MtConf::ConfItem &item)
 DemoSession::DemoSession(const QString &localFile)
     : mManager(std::make_unique<MtConf::MtConfManage>())
 {
+    ConfStorage::instance()->useRobustFiles();
     ConfStorage::instance()->mLocalSaveFile = localFile;
     declareSettings(*mManager, mSettings);
     addPages();

@@ -15,8 +15,9 @@
 
 void ConfStorage::useRobustFiles()
 {
-    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | KeepDamagedFiles
-                    | OwnerOnlyFiles | WatchFile;
+    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | SharedFile | WatchFile
+                    | KeepDamagedFiles | KeepUnknownEntries | StrictTypes | ResolveTies
+                    | OwnerOnlyFiles | LockedValues;
     constexpr int sQuietTime = 1000;
     setAutosave(sQuietTime);
 }
@@ -132,13 +133,14 @@ void ConfStorage::saveSharedFile()
     const auto sharing = fileSharing(); // callbacks may clear the store
     if (!mChanged && !sharing->hasChanges())
         return;
-    if (!sharing->save()) {
-        mChanged = true;
+    const bool isSaved = sharing->save();
+    if (sharing != mFileSharing)
         return;
-    }
+    mChanged = !isSaved || sharing->hasChanges();
+    if (!isSaved)
+        return;
     watchFile(QByteArray()); // sharing knows the content
     qDebug() << "ConfStorage::saveToLocalConfFile() save to file: " << mLocalSaveFile;
-    mChanged = sharing->hasChanges();
 }
 
 void ConfStorage::loadSharedFile()
@@ -147,6 +149,8 @@ void ConfStorage::loadSharedFile()
     // Not before: the first call of fileSharing() adds the observer that looks at the cause.
     const ConfOperation operation(this, ConfChange::Cause::Loaded);
     sharing->load();
+    if (sharing != mFileSharing)
+        return;
     mLocalLoaded = true;
     mChanged = sharing->hasChanges();
     watchFile(QByteArray());
@@ -157,5 +161,6 @@ void ConfStorage::updateSharedFile()
     const auto sharing = fileSharing();
     const ConfOperation operation(this, ConfChange::Cause::Loaded);
     sharing->update();
-    mChanged = sharing->hasChanges();
+    if (sharing == mFileSharing)
+        mChanged = sharing->hasChanges();
 }

@@ -39,6 +39,7 @@ int main(int argc, char **argv)
 
     // A preset exists from the first start until the user deletes it.
     store->mPresetDynamicConfs["Bookmarks.home"] = QJsonObject{{"title", "Home"}};
+    store->useRobustFiles();
     store->mLocalSaveFile = QCoreApplication::arguments().value(1, "bookmarks.json");
     store->loadLocalConfFile();
     print("At the start");

@@ -20,6 +20,7 @@ int main(int argc, char **argv)
                                       out << key << " is now " << value->get<int>() << '\n';
                                   });
 
+    store->useRobustFiles();
     store->mLocalSaveFile = QCoreApplication::arguments().value(1, "service.json");
     store->loadLocalConfFile();
 

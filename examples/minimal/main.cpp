@@ -15,11 +15,12 @@ int main(int argc, char **argv)
     settings.addConfBool("Play a sound", &playSound, "General", "Sound");
     settings.addConfInt32("Delay in seconds", &delay, "Capture", "Delay");
 
-    // Load what earlier runs saved into the variables.
+    // Load what earlier runs saved into the variables. Changes are saved after a second.
+    ConfStorage::instance()->useRobustFiles();
     ConfStorage::instance()->mLocalSaveFile = "settings.json";
     ConfStorage::instance()->loadLocalConfFile();
 
-    // An edit changes the variable at once, and closing the window saves.
+    // An edit changes the variable at once.
     settings.ShowWindow();
     return app.exec();
 }

@@ -51,9 +51,7 @@ class Program
 public:
     Program(int number, Board *board, unsigned seed) : mNumber(number), mBoard(board), mRandom(seed)
     {
-        mStore.mFileOptions = ConfStorage::SafeSave | ConfStorage::SharedFile
-                              | ConfStorage::LongTimes | ConfStorage::NullIsDefault
-                              | ConfStorage::KeepUnknownEntries;
+        mStore.useRobustFiles();
         mStore.mLocalSaveFile = path();
         for (int i = 0; i < sMaxProcesses; ++i)
             mStore.reserveConf(ownKey(i), &mOwn[i]);

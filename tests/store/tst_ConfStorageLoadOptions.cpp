@@ -110,7 +110,7 @@ void tst_ConfStorageLoadOptions::robustFilesSetEveryOption()
     ConfStorage store;
     QCOMPARE(store.mFileOptions, 0U);
     store.useRobustFiles();
-    QCOMPARE(store.mFileOptions, 0x46fU);
+    QCOMPARE(store.mFileOptions, 0xfffU);
 }
 
 void tst_ConfStorageLoadOptions::numberThatJsonDoesNotHaveIsDumpedAsDefault_data()
