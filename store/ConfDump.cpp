@@ -1,10 +1,10 @@
 #include "ConfDump_p.h"
 
+#include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
-#include "KeptEntries_p.h"
 #include "LockedConfs_p.h"
 
 #include <QDebug>
@@ -35,7 +35,7 @@ ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
 {
     if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store))
         locked->restoreOwn(&mValues, &mMetas);
-    if (const KeptEntries *kept = ConfLoad::keptEntriesOf(store)) {
+    if (const ConfKeptEntries *kept = ConfLoad::keptEntriesOf(store)) {
         if (type == ConfStorage::DumpLocal)
             collectKept(*kept);
     }
@@ -56,12 +56,12 @@ ConfDump::ConfDump(const ConfStorage &store, const QString &key)
         collectValue(key, *value, *record);
 }
 
-void ConfDump::collectKept(const KeptEntries &kept)
+void ConfDump::collectKept(const ConfKeptEntries &kept)
 {
     mKept = kept.entries();
     constexpr qint64 sNever = std::numeric_limits<qint64>::min();
     for (auto entry = mKept.cbegin(); entry != mKept.cend(); ++entry) {
-        const qint64 time = KeptEntries::timeOf(*entry).value_or(sNever);
+        const qint64 time = ConfKeptEntries::timeOf(*entry).value_or(sNever);
         mMembers.push_back({entry.key(), time, nullptr, false, &*entry});
     }
 }

@@ -50,7 +50,7 @@ private:
         const QJsonValue *kept = nullptr;
     };
 
-    void collectKept(const KeptEntries &kept);
+    void collectKept(const ConfKeptEntries &kept);
     void collectValues();
     void collectValue(const QString &key, const ConfValue &value,
                       const ConfStorage::ConfMeta &record);

@@ -1,11 +1,11 @@
 #include "ConfLoad_p.h"
 
+#include "ConfKeptEntries_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
-#include "KeptEntries_p.h"
 #include "Limits_p.h"
 #include "LockedConfs_p.h"
 #include "MergeTies_p.h"
@@ -261,7 +261,7 @@ template<class Member> void ConfLoad::loadLocked(const QString &key, const Membe
     if (!own.mKeptEntries)
         return;
     if (!mStore.mKeptEntries)
-        mStore.mKeptEntries = std::make_unique<KeptEntries>();
+        mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
     const QMap<QString, QJsonValue> refused = std::exchange(own.mKeptEntries, nullptr)->entries();
     for (auto entry = refused.cbegin(); entry != refused.cend(); ++entry)
         mStore.mKeptEntries->keep(entry.key(), *entry);
@@ -319,7 +319,7 @@ template<class Member> void ConfLoad::keep(const QString &name, const Member &me
 {
     const QJsonValue entry = member.entry();
     if (!mStore.mKeptEntries)
-        mStore.mKeptEntries = std::make_unique<KeptEntries>();
+        mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
     if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
         return;
     if (mStore.mKeptEntries->keep(name, entry, mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
@@ -369,7 +369,7 @@ bool ConfLoad::isBeyondLimits(const QString &key)
 {
     const bool isLong = key.size() > Limits::sMaxKeyLength;
     // Records, because a key has one even if its creator did not accept the value.
-    const KeptEntries *kept = mStore.mKeptEntries.get();
+    const ConfKeptEntries *kept = mStore.mKeptEntries.get();
     const bool isFull = mStore.mConfMetas.size() + mStore.mRemovedDynamicConfs.size()
                             + (kept ? kept->entries().size() : 0)
                         >= Limits::sMaxKeys;

@@ -1,7 +1,7 @@
 #include "ConfLoad_p.h"
 
+#include "ConfKeptEntries_p.h"
 #include "ConfVersions_p.h"
-#include "KeptEntries_p.h"
 
 #include <algorithm>
 
@@ -17,7 +17,7 @@ void ConfLoad::loadKept(const QString &key)
             return; // an observer has changed the store
         const QJsonValue entry = mStore.mKeptEntries->entries().value(name);
         const bool isRemoval = ParsedMember(entry, mTimes).removalTime().has_value();
-        if (isRemoval || !KeptEntries::timeOf(entry))
+        if (isRemoval || !ConfKeptEntries::timeOf(entry))
             continue;
         merge(key, entry);
         if (!isMerged(key, entry) || !mStore.mKeptEntries)
@@ -36,7 +36,7 @@ bool ConfLoad::isMerged(const QString &key, const QJsonValue &entry) const
     const QDateTime time = isPresent && record != mStore.mConfMetas.constEnd()
                                ? record->lastChangeTime
                                : mStore.mRemovedDynamicConfs.value(key);
-    return time.isValid() && time.toSecsSinceEpoch() >= KeptEntries::timeOf(entry);
+    return time.isValid() && time.toSecsSinceEpoch() >= ConfKeptEntries::timeOf(entry);
 }
 
 /// Returns the names of the entries of `key`. The current name is the first one, as it wins ties.
@@ -80,7 +80,7 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
         if (isRefused || !store.findDynamicConfClass(key) || !store.mKeptEntries)
             continue;
         const QJsonValue entry = store.mKeptEntries->entries().value(name);
-        if (!KeptEntries::timeOf(entry))
+        if (!ConfKeptEntries::timeOf(entry))
             continue;
         load.merge(key, entry);
         if (load.isMerged(key, entry) && store.mKeptEntries)
@@ -93,7 +93,7 @@ void ConfLoad::convertApplied(const QString &key)
     const QJsonValue entry = mStore.mKeptEntries->applied(key);
     const auto record = mStore.mConfMetas.find(key);
     if (record == mStore.mConfMetas.end() || !entry.isObject()
-        || record->lastChangeTime.toSecsSinceEpoch() != KeptEntries::timeOf(entry))
+        || record->lastChangeTime.toSecsSinceEpoch() != ConfKeptEntries::timeOf(entry))
         return;
     record->lastChangeTime = QDateTime(); // or the entry would lose against itself
     mLastTime.reset();

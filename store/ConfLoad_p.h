@@ -50,7 +50,7 @@ public:
     void convertApplied(const QString &key);
 
     /// The entries of `store` that are not declared; null if there are none.
-    static const KeptEntries *keptEntriesOf(const ConfStorage &store)
+    static const ConfKeptEntries *keptEntriesOf(const ConfStorage &store)
     {
         return store.mKeptEntries.get();
     }

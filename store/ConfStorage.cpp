@@ -1,14 +1,14 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
-#include "Autosave_p.h"
+#include "ConfAutosave_p.h"
 #include "ConfDump_p.h"
+#include "ConfFileSharing_p.h"
+#include "ConfFileWatch_p.h"
+#include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
-#include "FileSharing_p.h"
-#include "FileWatch_p.h"
-#include "KeptEntries_p.h"
 #include "LockedConfs_p.h"
 
 #include <MaltoConfiguration/store/ConfLoadReport.h>
@@ -80,7 +80,7 @@ void ConfStorage::releaseConf(const QString &key)
     if (mFileOptions & (KeepUnknownEntries | SharedFile)) {
         const QJsonObject entry = ConfDump(*this, name).toObject();
         if (!mKeptEntries && !entry.isEmpty())
-            mKeptEntries = std::make_unique<KeptEntries>();
+            mKeptEntries = std::make_unique<ConfKeptEntries>();
         for (auto it = entry.constBegin(); it != entry.constEnd(); ++it)
             mKeptEntries->keepReleased(it.key(), it.value());
     }

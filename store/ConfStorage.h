@@ -16,12 +16,12 @@
 #include <functional>
 #include <memory>
 
-class Autosave;
+class ConfAutosave;
 class ConfObservers;
 class ConfVersions;
-class FileSharing;
-class FileWatch;
-class KeptEntries;
+class ConfFileSharing;
+class ConfFileWatch;
+class ConfKeptEntries;
 class LockedConfs;
 class QJsonObject;
 struct ConfChange;
@@ -439,7 +439,7 @@ private:
     friend class ConfLoad;
     friend class ConfObservers;
     friend class ConfOperation;
-    friend class FileSharing;
+    friend class ConfFileSharing;
     using ChangePtr = std::shared_ptr<ConfChange>;
     void reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current);
     bool loadValue(const QString &key, const QJsonValue &json);
@@ -458,7 +458,7 @@ private:
     void saveSharedFile();
     void loadSharedFile();
     void updateSharedFile();
-    std::shared_ptr<FileSharing> fileSharing();
+    std::shared_ptr<ConfFileSharing> fileSharing();
     static void logNullPointer(const QString &key);
     static void logGetNotFound(const QString &key);
     static void logSetNotFound(const QString &key);
@@ -471,12 +471,12 @@ private:
     // Null unless the host asks for them.
     std::shared_ptr<ConfObservers> mObservers;
     std::unique_ptr<ConfLoadReport> mLastLoad;
-    std::unique_ptr<KeptEntries> mKeptEntries;
+    std::unique_ptr<ConfKeptEntries> mKeptEntries;
     std::unique_ptr<ConfVersions> mVersions;
     std::unique_ptr<LockedConfs> mLockedConfs;
-    std::shared_ptr<FileSharing> mFileSharing;
-    std::unique_ptr<FileWatch> mFileWatch;
-    std::unique_ptr<Autosave> mAutosave;
+    std::shared_ptr<ConfFileSharing> mFileSharing;
+    std::unique_ptr<ConfFileWatch> mFileWatch;
+    std::unique_ptr<ConfAutosave> mAutosave;
 };
 
 template<class T> void ConfStorage::reserveConf(const QString &key, T *ptr)

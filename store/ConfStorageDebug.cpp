@@ -1,9 +1,9 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfKeptEntries_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
-#include "KeptEntries_p.h"
 #include "Limits_p.h"
 
 #include <QJsonValue>
@@ -48,7 +48,7 @@ QString timeText(const QDateTime &time)
 /// Returns the row of a kept entry. It has the timestamp of a removal, too.
 QStringList keptRow(const QString &name, const QJsonValue &entry)
 {
-    const std::optional<qint64> seconds = KeptEntries::timeOf(entry);
+    const std::optional<qint64> seconds = ConfKeptEntries::timeOf(entry);
     const QDateTime time = seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC) : QDateTime();
     const QJsonValue value = entry.isObject() ? entry.toObject().value(sValueKey.name()) : entry;
     return {keyText(name),          jsonText(value), nothing(),

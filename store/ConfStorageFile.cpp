@@ -1,11 +1,11 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "ConfDump_p.h"
+#include "ConfFileSharing_p.h"
+#include "ConfFileWatch_p.h"
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "EntryLog_p.h"
-#include "FileSharing_p.h"
-#include "FileWatch_p.h"
 #include "LocalFile_p.h"
 
 #include <MaltoConfiguration/store/ConfLoadReport.h>
@@ -15,8 +15,8 @@
 
 void ConfStorage::useRobustFiles()
 {
-    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | SharedFile | WatchFile
-                    | KeepDamagedFiles | KeepUnknownEntries | StrictTypes | ResolveTies
+    mFileOptions |= SafeSave | LongTimes | NullIsDefault | RefuseFutureTimes | SharedFile
+                    | WatchFile | KeepDamagedFiles | KeepUnknownEntries | StrictTypes | ResolveTies
                     | OwnerOnlyFiles | LockedValues;
     constexpr int sQuietTime = 1000;
     setAutosave(sQuietTime);
@@ -80,7 +80,7 @@ void ConfStorage::watchFile(const QByteArray &content)
         return;
     }
     if (!mFileWatch)
-        mFileWatch = std::make_unique<FileWatch>([this] { reloadChangedFile(); });
+        mFileWatch = std::make_unique<ConfFileWatch>([this] { reloadChangedFile(); });
     mFileWatch->watch(mLocalSaveFile, content);
 }
 
@@ -121,10 +121,10 @@ void ConfStorage::reportDamage(const QString &copy)
     mLastLoad->damagedCopy = copy;
 }
 
-std::shared_ptr<FileSharing> ConfStorage::fileSharing()
+std::shared_ptr<ConfFileSharing> ConfStorage::fileSharing()
 {
     if (!mFileSharing)
-        mFileSharing = std::make_shared<FileSharing>(*this);
+        mFileSharing = std::make_shared<ConfFileSharing>(*this);
     return mFileSharing;
 }
 

@@ -1,9 +1,9 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
-#include "KeptEntries_p.h"
 #include "LockedConfs_p.h"
 #include "ShadowStore_p.h"
 

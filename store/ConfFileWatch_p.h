@@ -20,14 +20,14 @@ class QTimer;
 /// the file is looked at every few seconds, because file systems of networks do not report the
 /// changes of other computers, and because the number of watches is limited. Does nothing without
 /// an application object.
-class FileWatch
+class ConfFileWatch
 {
 public:
     /// `handleChange` is called when the content of the file may have changed. It may destroy this
     /// object.
-    explicit FileWatch(std::function<void()> handleChange);
-    ~FileWatch();
-    Q_DISABLE_COPY(FileWatch)
+    explicit ConfFileWatch(std::function<void()> handleChange);
+    ~ConfFileWatch();
+    Q_DISABLE_COPY(ConfFileWatch)
 
     /// Watches the file `path`, which may be a link, and notes `content` as its current content.
     void watch(const QString &path, const QByteArray &content);

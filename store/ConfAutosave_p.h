@@ -14,13 +14,13 @@ class QTimer;
 /// Saves the local file of a store when nothing has changed for a while, when the application ends
 /// and when the session manager ends the session. Does nothing without an application object, and
 /// nothing before the local file was loaded: a save would remove the settings that are in it.
-class Autosave
+class ConfAutosave
 {
 public:
     /// `quietTime` is in milliseconds.
-    Autosave(ConfStorage *store, int quietTime);
-    ~Autosave();
-    Q_DISABLE_COPY(Autosave)
+    ConfAutosave(ConfStorage *store, int quietTime);
+    ~ConfAutosave();
+    Q_DISABLE_COPY(ConfAutosave)
 
 private:
     void start();

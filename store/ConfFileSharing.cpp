@@ -1,12 +1,12 @@
-#include "FileSharing_p.h"
+#include "ConfFileSharing_p.h"
 
 #include "ConfDump_p.h"
+#include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "DumpMember_p.h"
 #include "FileLock_p.h"
 #include "JsonText_p.h"
-#include "KeptEntries_p.h"
 #include "LocalFile_p.h"
 #include "PosixFile_p.h"
 
@@ -86,7 +86,7 @@ qint64 timeOf(std::string_view value, TimeRange times)
 bool isMadeNow(std::string_view value)
 {
     const QJsonValue entry = parsed(toBytes(value));
-    return entry.toObject().contains(sValueKey.name()) && !KeptEntries::timeOf(entry);
+    return entry.toObject().contains(sValueKey.name()) && !ConfKeptEntries::timeOf(entry);
 }
 
 /// Returns the members by name, each name once: the last one counts.
@@ -153,19 +153,19 @@ void appendMember(QByteArray *text, const QString &name, std::string_view value)
 
 } // namespace
 
-FileSharing::FileSharing(ConfStorage &store) : mStore(store)
+ConfFileSharing::ConfFileSharing(ConfStorage &store) : mStore(store)
 {
     mObserver = store.addObserver([this](const ConfChange &change) { observe(change); });
     mObservers = store.mObservers;
     useFile(store.mLocalSaveFile); // what was loaded before from elsewhere is to be saved
 }
 
-FileSharing::~FileSharing()
+ConfFileSharing::~ConfFileSharing()
 {
     mObservers->remove(mObserver);
 }
 
-void FileSharing::observe(const ConfChange &change)
+void ConfFileSharing::observe(const ConfChange &change)
 {
     // A callback of a change that is loaded from the file may load something else.
     const bool isFromFile = mMergeDepth == mStore.mCallbackDepth
@@ -177,7 +177,7 @@ void FileSharing::observe(const ConfChange &change)
         mTouched.insert(change.key);
 }
 
-void FileSharing::useFile(const QString &path)
+void ConfFileSharing::useFile(const QString &path)
 {
     if (mPath == path)
         return;
@@ -197,7 +197,7 @@ void FileSharing::useFile(const QString &path)
 }
 
 /// The members of `text` are found when they are needed.
-void FileSharing::setText(const QByteArray &text, std::optional<bool> isObject)
+void ConfFileSharing::setText(const QByteArray &text, std::optional<bool> isObject)
 {
     mText = text;
     mIsObject = isObject;
@@ -206,7 +206,7 @@ void FileSharing::setText(const QByteArray &text, std::optional<bool> isObject)
 
 /// Compares `text` with the text that was last read or written, and keeps its members, or none if
 /// it is no JSON object.
-void FileSharing::take(const QByteArray &text)
+void ConfFileSharing::take(const QByteArray &text)
 {
     mIsRead = true;
     mContested.clear();
@@ -225,7 +225,7 @@ void FileSharing::take(const QByteArray &text)
 
 /// Finds the members of the text that was last read or written: none if it is no JSON object, as
 /// nothing of it was loaded then.
-void FileSharing::findMembers()
+void ConfFileSharing::findMembers()
 {
     if (!mIsObject)
         mIsObject = QJsonDocument::fromJson(mText).isObject();
@@ -234,7 +234,7 @@ void FileSharing::findMembers()
 }
 
 /// Notes the entries that others have changed. Returns false if one of them is not JSON.
-bool FileSharing::collectForeign(const Members &known)
+bool ConfFileSharing::collectForeign(const Members &known)
 {
     MemberIndex index(known);
     QMap<QString, QByteArray> foreign = mForeign;
@@ -255,7 +255,7 @@ bool FileSharing::collectForeign(const Members &known)
 }
 
 /// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
-QByteArray FileSharing::merged(const QSet<QString> &touched)
+QByteArray ConfFileSharing::merged(const QSet<QString> &touched)
 {
     const ConfDump dump(mStore, ConfStorage::DumpLocal);
     const std::vector<NamedText> theirs = sortedByName(*mMembers);
@@ -285,7 +285,7 @@ QByteArray FileSharing::merged(const QSet<QString> &touched)
 }
 
 /// Returns the entry of a touched or a kept key, or that of the file.
-QByteArray FileSharing::winner(const ConfDump &dump, size_t index, std::string_view theirs)
+QByteArray ConfFileSharing::winner(const ConfDump &dump, size_t index, std::string_view theirs)
 {
     const ConfDump::Entry ours = dump.at(index);
     const QByteArray entry = dump.entryText(index, ours.time);
@@ -307,17 +307,17 @@ QByteArray FileSharing::winner(const ConfDump &dump, size_t index, std::string_v
 }
 
 /// Returns whether a change here yields to that of the file.
-bool FileSharing::yields(qint64 ourTime, qint64 theirTime)
+bool ConfFileSharing::yields(qint64 ourTime, qint64 theirTime)
 {
     return theirTime > ourTime && theirTime <= QDateTime::currentSecsSinceEpoch();
 }
 
-TimeRange FileSharing::timeRange() const
+TimeRange ConfFileSharing::timeRange() const
 {
     return mStore.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038;
 }
 
-void FileSharing::stamp(const QString &key, qint64 seconds)
+void ConfFileSharing::stamp(const QString &key, qint64 seconds)
 {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
     const auto meta = mStore.mConfMetas.find(key);
@@ -327,7 +327,7 @@ void FileSharing::stamp(const QString &key, qint64 seconds)
         mStore.mRemovedDynamicConfs[key] = time;
 }
 
-bool FileSharing::save()
+bool ConfFileSharing::save()
 {
     useFile(mStore.mLocalSaveFile);
     FileLock lock(mPath);
@@ -356,7 +356,7 @@ bool FileSharing::save()
     return isSaved;
 }
 
-bool FileSharing::write(LocalFile *file)
+bool ConfFileSharing::write(LocalFile *file)
 {
     // Messages may call a log handler of the host, which may change the store.
     const QSet<QString> touched = std::exchange(mTouched, {});
@@ -372,14 +372,14 @@ bool FileSharing::write(LocalFile *file)
     return false;
 }
 
-void FileSharing::load()
+void ConfFileSharing::load()
 {
     loadFile();
     const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
     mStore.loadPresetDynamicConf();
 }
 
-void FileSharing::loadFile()
+void ConfFileSharing::loadFile()
 {
     useFile(mStore.mLocalSaveFile);
     FileLock lock(mPath);
@@ -410,14 +410,14 @@ void FileSharing::loadFile()
 }
 
 /// Loads the text without comparing it with a previous one.
-void FileSharing::loadWhole()
+void ConfFileSharing::loadWhole()
 {
     const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
     ConfLoad(mStore, ConfStorage::LoadLocal).loadFile(mPath, mText);
 }
 
 /// Takes the entries of the file that touched ones yield to.
-void FileSharing::yieldToNewer()
+void ConfFileSharing::yieldToNewer()
 {
     if (mContested.isEmpty())
         return;
@@ -432,7 +432,7 @@ void FileSharing::yieldToNewer()
     }
 }
 
-void FileSharing::update()
+void ConfFileSharing::update()
 {
     if (mPath != mStore.mLocalSaveFile
         || PosixFile::read(mPath, mStore.mMaxFileSize).bytes == mText)
@@ -440,7 +440,7 @@ void FileSharing::update()
     loadFile();
 }
 
-void FileSharing::loadForeign()
+void ConfFileSharing::loadForeign()
 {
     const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
     ConfLoad load(mStore, ConfStorage::LoadLocal, ConfLoad::Merge::Replace);

@@ -17,7 +17,7 @@ enum class KeptTie {
 ///
 /// An entry is the member of a dump, usually an object with "t", "v" or "d". Its name is that in
 /// the dump, with the system mark.
-class KeptEntries
+class ConfKeptEntries
 {
 public:
     /// Keeps `entry` if it is newer than the kept one. A value without a timestamp always wins, and

@@ -1,4 +1,4 @@
-#include "KeptEntries_p.h"
+#include "ConfKeptEntries_p.h"
 
 #include "DumpMember_p.h"
 #include "JsonText_p.h"
@@ -15,7 +15,7 @@ namespace {
 QJsonValue timed(const QJsonValue &entry)
 {
     QJsonObject object = entry.toObject();
-    if (!object.contains(sValueKey.name()) || KeptEntries::timeOf(entry))
+    if (!object.contains(sValueKey.name()) || ConfKeptEntries::timeOf(entry))
         return entry;
     object.insert(sTimeKey.name(), QDateTime::currentSecsSinceEpoch());
     return object;
@@ -37,7 +37,7 @@ std::pair<int, QByteArray> rankOf(const QJsonValue &entry)
 
 } // namespace
 
-bool KeptEntries::keep(const QString &name, const QJsonValue &entry, KeptTie tie)
+bool ConfKeptEntries::keep(const QString &name, const QJsonValue &entry, KeptTie tie)
 {
     const QJsonValue incoming = timed(entry);
     const auto stored = mEntries.find(name);
@@ -58,14 +58,14 @@ bool KeptEntries::keep(const QString &name, const QJsonValue &entry, KeptTie tie
     return true;
 }
 
-void KeptEntries::keepReleased(const QString &name, const QJsonValue &entry)
+void ConfKeptEntries::keepReleased(const QString &name, const QJsonValue &entry)
 {
     if (timeOf(mEntries.value(name)) <= timeOf(entry))
         remove(name);
     keep(name, entry);
 }
 
-void KeptEntries::remove(const QString &name)
+void ConfKeptEntries::remove(const QString &name)
 {
     const auto stored = mEntries.find(name);
     if (stored == mEntries.end())
@@ -74,7 +74,7 @@ void KeptEntries::remove(const QString &name)
     mEntries.erase(stored);
 }
 
-std::optional<qint64> KeptEntries::timeOf(const QJsonValue &entry)
+std::optional<qint64> ConfKeptEntries::timeOf(const QJsonValue &entry)
 {
     // All timestamps count, so that no option of the store decides which entry is newer.
     const ParsedMember member(entry, TimeRange::Long);
@@ -82,7 +82,7 @@ std::optional<qint64> KeptEntries::timeOf(const QJsonValue &entry)
     return removalTime ? removalTime : member.time();
 }
 
-qint64 KeptEntries::sizeOf(const QString &name, const QJsonValue &entry)
+qint64 ConfKeptEntries::sizeOf(const QString &name, const QJsonValue &entry)
 {
     QByteArray text;
     appendJsonString(text, name);

@@ -1,4 +1,4 @@
-#include "FileWatch_p.h"
+#include "ConfFileWatch_p.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -26,20 +26,20 @@ QByteArray hashOf(const QByteArray &content)
 
 } // namespace
 
-FileWatch::FileWatch(std::function<void()> handleChange)
+ConfFileWatch::ConfFileWatch(std::function<void()> handleChange)
     : mHandleChange(std::move(handleChange)), mContext(std::make_unique<QObject>()),
       mApplicationStart([this] { start(); })
 {
 }
 
-FileWatch::~FileWatch()
+ConfFileWatch::~ConfFileWatch()
 {
     // One of its timers may be what calls this.
     if (mWatcher)
         mWatcher->deleteLater();
 }
 
-void FileWatch::start()
+void ConfFileWatch::start()
 {
     mWatcher = new QFileSystemWatcher(QCoreApplication::instance());
     mDelay = new QTimer(mWatcher);
@@ -67,7 +67,7 @@ void FileWatch::start()
     mDelay->start(); // the file may have changed before it was watched
 }
 
-void FileWatch::watch(const QString &path, const QByteArray &content)
+void ConfFileWatch::watch(const QString &path, const QByteArray &content)
 {
     note(content);
     const bool isNew = mPath != path;
@@ -83,17 +83,17 @@ void FileWatch::watch(const QString &path, const QByteArray &content)
         mDelay->start();
 }
 
-void FileWatch::note(const QByteArray &content)
+void ConfFileWatch::note(const QByteArray &content)
 {
     mHash = hashOf(content);
 }
 
-bool FileWatch::isNoted(const QByteArray &content) const
+bool ConfFileWatch::isNoted(const QByteArray &content) const
 {
     return mHash == hashOf(content);
 }
 
-FileWatch::Status FileWatch::statusOf(const QString &path)
+ConfFileWatch::Status ConfFileWatch::statusOf(const QString &path)
 {
     struct stat found = {};
     if (::stat(QFile::encodeName(path).constData(), &found) != 0)
@@ -107,7 +107,7 @@ FileWatch::Status FileWatch::statusOf(const QString &path)
 }
 
 /// Watches the file, its folder and that of a link to it. Does nothing for what is watched already.
-void FileWatch::addPaths()
+void ConfFileWatch::addPaths()
 {
     const QFileInfo file(mPath);
     const QString target = file.canonicalFilePath();
@@ -130,7 +130,7 @@ void FileWatch::addPaths()
     }
 }
 
-void FileWatch::check()
+void ConfFileWatch::check()
 {
     // Before the file is read: if it changes meanwhile, the next look finds another status.
     const Status status = statusOf(mPath);

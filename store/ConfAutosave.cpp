@@ -1,4 +1,4 @@
-#include "Autosave_p.h"
+#include "ConfAutosave_p.h"
 
 #include "ConfObservers_p.h"
 
@@ -15,14 +15,14 @@ constexpr int sLongestRetry = 60 * 1000;
 
 } // namespace
 
-Autosave::Autosave(ConfStorage *store, int quietTime)
+ConfAutosave::ConfAutosave(ConfStorage *store, int quietTime)
     : mStore(store), mQuietTime(quietTime), mContext(std::make_unique<QObject>()),
       mApplicationStart([this] { start(); })
 {
     mObserver = mStore->addObserver([this](const ConfChange &) { noteChange(); });
 }
 
-Autosave::~Autosave()
+ConfAutosave::~ConfAutosave()
 {
     mStore->removeObserver(mObserver);
     // The timer may be what calls this.
@@ -30,7 +30,7 @@ Autosave::~Autosave()
         mTimer->deleteLater();
 }
 
-void Autosave::start()
+void ConfAutosave::start()
 {
     QCoreApplication *const application = QCoreApplication::instance();
     mTimer = new QTimer(application);
@@ -45,7 +45,7 @@ void Autosave::start()
         noteChange();
 }
 
-void Autosave::noteChange()
+void ConfAutosave::noteChange()
 {
     mLastChange.start();
     // The timer is not started again for each change, which costs more.
@@ -53,7 +53,7 @@ void Autosave::noteChange()
         mTimer->start(mQuietTime);
 }
 
-void Autosave::saveIfQuiet()
+void ConfAutosave::saveIfQuiet()
 {
     const qint64 rest = mQuietTime - mLastChange.elapsed();
     if (rest > 0)
@@ -62,7 +62,7 @@ void Autosave::saveIfQuiet()
         save();
 }
 
-void Autosave::save()
+void ConfAutosave::save()
 {
     // Sharing knows of more changes than the flag tells.
     const bool mayHaveChanged = mStore->mChanged
@@ -93,5 +93,5 @@ void ConfStorage::setAutosave(int quietTime)
 {
     mAutosave.reset();
     if (quietTime >= 0)
-        mAutosave = std::make_unique<Autosave>(this, quietTime);
+        mAutosave = std::make_unique<ConfAutosave>(this, quietTime);
 }

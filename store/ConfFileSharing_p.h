@@ -24,12 +24,12 @@ class LocalFile;
 /// entry yields only to a change of others with a later second that is not in the future; otherwise
 /// it wins, with a timestamp after that of the file. What others changed is loaded after the lock
 /// is released.
-class FileSharing
+class ConfFileSharing
 {
 public:
-    explicit FileSharing(ConfStorage &store);
-    ~FileSharing();
-    Q_DISABLE_COPY(FileSharing)
+    explicit ConfFileSharing(ConfStorage &store);
+    ~ConfFileSharing();
+    Q_DISABLE_COPY(ConfFileSharing)
 
     /// Merges the file into the store and creates the missing presets. Logs a failure.
     void load();
