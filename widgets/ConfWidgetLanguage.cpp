@@ -19,8 +19,8 @@ namespace MtConf {
 
 namespace {
 
-constexpr QLatin1String sFollowSystem("auto");
-constexpr QLatin1String sEnglish("en-us");
+constexpr QLatin1String sFollowSystem("auto", 4);
+constexpr QLatin1String sEnglish("en-us", 5);
 
 /// Returns whether `code` is a supported language code other than "auto".
 bool isLanguage(const QStringList &supported, const QString &code)
