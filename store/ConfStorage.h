@@ -271,15 +271,20 @@ public:
     QJsonObject dumpConf(DumpConfType type) const;
 
     /// Merges a dump entry by entry: the newer change wins, and the stored one wins a tie. Skips
-    /// unknown keys and keys with the mark of another system silently. `LongTimes`, `NullIsDefault`
-    /// and `RefuseFutureTimes` in `mFileOptions` change what is merged. Returns the number of
-    /// members of `conf`.
+    /// unknown keys and keys with the mark of another system silently. `LongTimes`,
+    /// `NullIsDefault`, `RefuseFutureTimes`, `KeepUnknownEntries`, `StrictTypes` and `ResolveTies`
+    /// in `mFileOptions` change what is merged. Returns the number of members of `conf`.
     ///
     /// A value that no local file could hold, because it is larger than `mMaxFileSize` or nested
     /// too deeply, is not loaded. Logs the critical message "ConfStorage::loadConf() value could
     /// not be saved: " with the key.
     ///
-    /// @see dumpConf
+    /// A dump cannot add a dynamic key or a tombstone of more than 65,536 characters (UTF-16
+    /// units), nor one to a store that has 1,000,000 keys and tombstones. Logs the critical message
+    /// "ConfStorage::loadConf() key too long: " or "ConfStorage::loadConf() too many keys: " with
+    /// the key.
+    ///
+    /// @see dumpConf, lastLoad, previewLoad
     int loadConf(const QJsonObject &conf, LoadConfType type);
 
     /// Parses `json` and merges it. Returns false and logs the critical message
