@@ -53,21 +53,19 @@ int drawPictures(const DemoArguments &arguments)
 {
     // Nothing is written into the user's folders, not even the geometry of the window.
     const QTemporaryDir folder;
-    const QString localFile = arguments.localFile.isEmpty()
-                                  ? folder.filePath(QStringLiteral("settings.json"))
-                                  : arguments.localFile;
+    const QString unused = folder.filePath(QStringLiteral("settings.json"));
     if (!folder.isValid() || !QDir::setCurrent(folder.path()))
         return fail(folder.errorString());
     QString error;
     {
         const MessageLog log;
-        DemoSession session(localFile);
+        DemoSession session(arguments.localFile.isEmpty() ? unused : arguments.localFile);
         session.load(arguments.configFile);
+        ConfStorage::instance()->mLocalSaveFile = unused; // the pictures change settings
         if (!arguments.language.isEmpty())
             session.chooseLanguage(arguments.language);
         MainWindow window(session, log);
         error = takePictures(session, window, arguments.picturesFolder);
-        ConfStorage::instance()->mChanged = false; // so that closing the window saves nothing
     }
     QDir::setCurrent(QDir::rootPath()); // a working directory cannot be removed
     return error.isEmpty() ? 0 : fail(error);

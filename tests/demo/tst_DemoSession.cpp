@@ -123,7 +123,8 @@ void tst_DemoSession::localFileThatCannotBeWrittenIsReported()
     const LogCapture log;
     QVERIFY(!demo.session->save());
     QCOMPARE(log.texts(QtCriticalMsg),
-             QStringList("ConfStorage::saveToLocalConfFile() open file failed:  \"" + path + "\""));
+             QStringList("ConfStorage::saveToLocalConfFile() lock file could not be created:  \""
+                         + path + ".lock\""));
     ConfStorage::instance()->mLocalSaveFile = demo.localFile();
     QVERIFY(demo.session->save());
     QVERIFY(QFile::exists(demo.localFile()));
