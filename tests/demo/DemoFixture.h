@@ -22,10 +22,13 @@
 class DemoFixture
 {
 public:
-    DemoFixture()
+    enum class Files { Remove, Keep };
+
+    explicit DemoFixture(Files files = Files::Remove)
     {
         clearStore();
-        const QStringList left = QDir().entryList(QDir::Files);
+        const QStringList left = files == Files::Remove ? QDir().entryList(QDir::Files)
+                                                        : QStringList();
         for (const QString &file : left)
             QFile::remove(file);
     }

@@ -1,3 +1,4 @@
+#include "support/Entries.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
@@ -13,16 +14,6 @@ using Reason = ConfLoadReport::Reason;
 using Counts = QVector<int>; // taken, newer here, unknown, refused
 
 const char sPath[] = "local.json";
-
-QDateTime second(qint64 seconds)
-{
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-}
-
-QJsonObject entry(qint64 time, const QJsonValue &value)
-{
-    return {{"t", time}, {"v", value}};
-}
 
 /// A store with settings, a class of dynamic entries and a preset. The setting "n" and the entry
 /// "Entry.a" changed in second 100, "Entry.gone" was removed then, and "fresh" never changed.

@@ -1,3 +1,4 @@
+#include "support/Entries.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
@@ -11,16 +12,6 @@
 namespace {
 
 const char sPath[] = "local.json";
-
-QDateTime second(qint64 seconds)
-{
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-}
-
-QJsonObject entry(qint64 time, const QJsonValue &value)
-{
-    return {{"t", time}, {"v", value}};
-}
 
 /// A store with the setting "n", 1 by default, that the user set to 5 in second 100, and with the
 /// dynamic entry "Entry.a".

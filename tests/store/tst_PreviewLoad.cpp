@@ -1,3 +1,4 @@
+#include "support/Entries.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
@@ -20,16 +21,6 @@ const QStringList sKeys{"number",  "real",       "flag",     "text",   "color",
                         "font",    "keys",       "object",   "array",  "local",
                         "system",  "unbound",    "infinite", "other",  "Entry.preset",
                         "Entry.a", "Entry.gone", "Entry.b",  "Local.a"};
-
-QDateTime second(qint64 seconds)
-{
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-}
-
-QJsonObject entry(qint64 time, const QJsonValue &value)
-{
-    return {{"t", time}, {"v", value}};
-}
 
 /// A store with settings of each type and dynamic entries. Those that exist changed in second 100.
 class Host

@@ -1,3 +1,4 @@
+#include "support/Entries.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
@@ -11,11 +12,6 @@
 namespace {
 
 const char sPath[] = "local.json";
-
-QDateTime second(qint64 seconds)
-{
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-}
 
 QJsonObject dumpOf(const QString &key, const QJsonValue &value, qint64 time = 200)
 {
