@@ -17,15 +17,8 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace {
-
-struct NamedText
-{
-    QString name;
-    std::string_view value;
-};
 
 QByteArray toBytes(std::string_view text)
 {
@@ -88,54 +81,6 @@ bool isMadeNow(std::string_view value)
     const QJsonValue entry = parsed(toBytes(value));
     return entry.toObject().contains(sValueKey.name()) && !ConfKeptEntries::timeOf(entry);
 }
-
-/// Returns the members by name, each name once: the last one counts.
-std::vector<NamedText> sortedByName(const std::vector<MemberText> &members)
-{
-    std::vector<NamedText> sorted;
-    sorted.reserve(members.size());
-    for (const MemberText &member : members)
-        sorted.push_back({member.name(), member.value});
-    const auto precedes = [](const NamedText &a, const NamedText &b) { return a.name < b.name; };
-    const auto isUnordered = [](const NamedText &a, const NamedText &b) {
-        return !(a.name < b.name);
-    };
-    if (std::adjacent_find(sorted.cbegin(), sorted.cend(), isUnordered) == sorted.cend())
-        return sorted;
-    std::stable_sort(sorted.begin(), sorted.end(), precedes);
-    const auto lastOfEach = std::unique(
-        sorted.rbegin(), sorted.rend(),
-        [](const NamedText &a, const NamedText &b) { return a.name == b.name; });
-    sorted.erase(sorted.begin(), lastOfEach.base());
-    return sorted;
-}
-
-/// Finds members by their raw name. Searches for them in their order are cheap.
-class MemberIndex
-{
-public:
-    explicit MemberIndex(const std::vector<MemberText> &members) : mMembers(members) {}
-
-    const MemberText *find(std::string_view rawName)
-    {
-        if (mNext < mMembers.size() && mMembers[mNext].rawName == rawName)
-            return &mMembers[mNext++];
-        if (mPositions.empty()) {
-            for (size_t i = 0; i < mMembers.size(); ++i)
-                mPositions[mMembers[i].rawName] = i;
-        }
-        const auto found = mPositions.find(rawName);
-        if (found == mPositions.end())
-            return nullptr;
-        mNext = found->second + 1;
-        return &mMembers[found->second];
-    }
-
-private:
-    const std::vector<MemberText> &mMembers;
-    std::unordered_map<std::string_view, size_t> mPositions; // filled when it is needed
-    size_t mNext = 0;
-};
 
 std::string_view view(const QByteArray &text)
 {

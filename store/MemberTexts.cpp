@@ -156,3 +156,38 @@ std::optional<std::vector<MemberText>> splitMembers(const QByteArray &text)
         return members;
     return std::nullopt;
 }
+
+std::vector<NamedText> sortedByName(const std::vector<MemberText> &members)
+{
+    std::vector<NamedText> sorted;
+    sorted.reserve(members.size());
+    for (const MemberText &member : members)
+        sorted.push_back({member.name(), member.value});
+    const auto precedes = [](const NamedText &a, const NamedText &b) { return a.name < b.name; };
+    const auto isUnordered = [](const NamedText &a, const NamedText &b) {
+        return !(a.name < b.name);
+    };
+    if (std::adjacent_find(sorted.cbegin(), sorted.cend(), isUnordered) == sorted.cend())
+        return sorted;
+    std::stable_sort(sorted.begin(), sorted.end(), precedes);
+    const auto lastOfEach = std::unique(
+        sorted.rbegin(), sorted.rend(),
+        [](const NamedText &a, const NamedText &b) { return a.name == b.name; });
+    sorted.erase(sorted.begin(), lastOfEach.base());
+    return sorted;
+}
+
+const MemberText *MemberIndex::find(std::string_view rawName)
+{
+    if (mNext < mMembers.size() && mMembers[mNext].rawName == rawName)
+        return &mMembers[mNext++];
+    if (mPositions.empty()) {
+        for (size_t i = 0; i < mMembers.size(); ++i)
+            mPositions[mMembers[i].rawName] = i;
+    }
+    const auto found = mPositions.find(rawName);
+    if (found == mPositions.end())
+        return nullptr;
+    mNext = found->second + 1;
+    return &mMembers[found->second];
+}
