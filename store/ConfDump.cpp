@@ -1,7 +1,6 @@
 #include "ConfDump_p.h"
 
 #include "ConfKeptEntries_p.h"
-#include "ConfLoad_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
@@ -33,9 +32,9 @@ bool hasJson(const ConfValue &value)
 ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
     : mType(type), mValues(store.mConfValues), mMetas(store.mConfMetas)
 {
-    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store))
+    if (const LockedConfs *locked = store.mLockedConfs.get())
         locked->restoreOwn(&mValues, &mMetas);
-    if (const ConfKeptEntries *kept = ConfLoad::keptEntriesOf(store)) {
+    if (const ConfKeptEntries *kept = store.mKeptEntries.get()) {
         if (type == ConfStorage::DumpLocal)
             collectKept(*kept);
     }
@@ -48,7 +47,7 @@ ConfDump::ConfDump(const ConfStorage &store, ConfStorage::DumpConfType type)
 ConfDump::ConfDump(const ConfStorage &store, const QString &key)
     : mType(ConfStorage::DumpLocal), mValues(store.mConfValues), mMetas(store.mConfMetas)
 {
-    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store))
+    if (const LockedConfs *locked = store.mLockedConfs.get())
         locked->restoreOwn(&mValues, &mMetas);
     const auto value = mValues.constFind(key);
     const auto record = mMetas.constFind(key);
@@ -104,7 +103,7 @@ void ConfDump::collectValue(const QString &key, const ConfValue &value,
 void ConfDump::collectRemoved(const ConfStorage &store)
 {
     QMap<QString, QDateTime> removed = store.mRemovedDynamicConfs;
-    if (const LockedConfs *locked = ConfLoad::lockedConfsOf(store)) {
+    if (const LockedConfs *locked = store.mLockedConfs.get()) {
         const QMap<QString, QDateTime> &own = locked->tombstones();
         for (auto it = own.cbegin(); it != own.cend(); ++it)
             removed.insert(it.key(), *it);

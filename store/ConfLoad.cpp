@@ -24,26 +24,6 @@ namespace {
 constexpr QLatin1Char sMarkSeparator('#');
 constexpr qint64 sSecondsOfADay = 24 * 60 * 60; // clocks and time zones differ by less
 
-/// The merge rule, for two times in the same unit: the newer change wins, and a tie keeps the
-/// stored one, so that loading a dump twice changes nothing.
-bool isNotNewer(qint64 stored, qint64 incoming)
-{
-    return stored >= incoming;
-}
-
-/// The same for a change that may not exist.
-bool isNotNewer(const QDateTime &stored, const QDateTime &incoming)
-{
-    return stored.isValid() && isNotNewer(stored.toMSecsSinceEpoch(), incoming.toMSecsSinceEpoch());
-}
-
-/// The time of a change in UTC. One without a time is made now.
-QDateTime timeOfChange(std::optional<qint64> seconds)
-{
-    return seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC)
-                   : QDateTime::currentDateTimeUtc();
-}
-
 /// Returns whether loading `value` logs nothing.
 bool isSilent(const ConfValue &value)
 {
@@ -96,9 +76,11 @@ ConfLoad::~ConfLoad()
                    << first;
 }
 
-template<class Time> bool ConfLoad::storedWins(const Time &stored, const Time &incoming) const
+/// The time of a change in UTC. One without a time is made now.
+QDateTime ConfLoad::timeOfChange(std::optional<qint64> seconds)
 {
-    return !mReplaces && isNotNewer(stored, incoming);
+    return seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC)
+                   : QDateTime::currentDateTimeUtc();
 }
 
 QMap<QString, ConfValue>::iterator ConfLoad::valueOf(const QString &key)
@@ -194,7 +176,7 @@ template<class Member> void ConfLoad::load(QString key, const Member &member)
         return;
     if (mKeepsUnknown && (isForeign || !isDeclared(key))) {
         mReport.unknown += isForeign ? 0 : 1;
-        keep(isMarked ? addSysMark(key) : key, member);
+        keep(isMarked ? addSysMark(key) : key, member.entry());
         return;
     }
     loadCurrent(key, member);
@@ -211,7 +193,7 @@ bool ConfLoad::deferFormer(const QString &key, const QString &name, const Member
         return false;
     const bool isCurrentDeclared = isDeclared(currentName);
     if (mStore.mVersions->isKept(key) || (mKeepsUnknown && !isCurrentDeclared))
-        keep(name, member);
+        keep(name, member.entry());
     if (isCurrentDeclared)
         mFormer.push_back({steps, currentName, member.entry()});
     else
@@ -299,102 +281,6 @@ bool ConfLoad::isDeclared(const QString &key) const
     return isNext || mStore.mConfValues.contains(key) || mStore.findDynamicConfClass(key);
 }
 
-/// Returns whether kept entries could make the local file too large, and logs this.
-bool ConfLoad::hasNoRoom(const QString &name, const QJsonValue &entry)
-{
-    // The other half of the file is for the settings of this program.
-    if (isSavable(entry, mStore.mMaxFileSize / 2 - mStore.mKeptEntries->size()))
-        return false;
-    refuse(name, ConfLoadReport::Reason::NotSavable);
-    forgetPosition();
-    if (EntryLog::permits())
-        qCritical() << "ConfStorage::loadConf() value could not be saved: "
-                    << EntryLog::truncated(name);
-    return true;
-}
-
-/// Keeps an entry that is not loaded. `name` is that of the member, with the system mark. What the
-/// local file contains is always kept; others can add to it within limits.
-template<class Member> void ConfLoad::keep(const QString &name, const Member &member)
-{
-    const QJsonValue entry = member.entry();
-    if (!mStore.mKeptEntries)
-        mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
-    if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
-        return;
-    if (mStore.mKeptEntries->keep(name, entry, mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
-        mStore.mChanged = true;
-}
-
-/// The value of a member; undefined if the entry sets the default value.
-template<class Member> QJsonValue ConfLoad::newValue(const Member &member) const
-{
-    QJsonValue value = member.value();
-    if (mNullIsDefault && value.isNull())
-        value = QJsonValue(QJsonValue::Undefined);
-    return value;
-}
-
-/// Returns whether `value` would make all further saves fail, and logs this.
-bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
-{
-    if (mIsSavable || isSavable(value, mStore.mMaxFileSize))
-        return false;
-    refuse(key, ConfLoadReport::Reason::NotSavable);
-    forgetPosition();
-    if (EntryLog::permits())
-        qCritical() << "ConfStorage::loadConf() value could not be saved: "
-                    << EntryLog::truncated(key);
-    return true;
-}
-
-/// Refuses a value of another type and logs this. The entry of a local file is kept. That of a dump
-/// is not, as it would replace the entry of this program in the local file.
-template<class Member>
-void ConfLoad::refuseType(const QString &key, bool isMarked, const Member &member)
-{
-    refuse(key, ConfLoadReport::Reason::WrongType);
-    if (mIsLocal && !mIsKept
-        && (mStore.mFileOptions & (ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile))) {
-        const QJsonValue entry = mUnconverted ? *mUnconverted : member.entry();
-        keep(isMarked ? addSysMark(key) : key, ParsedMember(entry, mTimes));
-    }
-    forgetPosition();
-    if (!mIsRetry)
-        logOtherType(key);
-}
-
-/// Returns whether a file may not add the key to the store, and logs this.
-bool ConfLoad::isBeyondLimits(const QString &key)
-{
-    const bool isLong = key.size() > Limits::sMaxKeyLength;
-    // Records, because a key has one even if its creator did not accept the value.
-    const ConfKeptEntries *kept = mStore.mKeptEntries.get();
-    const bool isFull = mStore.mConfMetas.size() + mStore.mRemovedDynamicConfs.size()
-                            + (kept ? kept->entries().size() : 0)
-                        >= Limits::sMaxKeys;
-    if (!isLong && !isFull)
-        return false;
-    if (kept && kept->entries().contains(key))
-        return false; // adds nothing
-    if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
-        return false; // adds nothing
-    refuse(key, ConfLoadReport::Reason::LimitExceeded);
-    if (!EntryLog::permits())
-        return true;
-    if (isLong)
-        qCritical() << "ConfStorage::loadConf() key too long: " << EntryLog::truncated(key);
-    else
-        qCritical() << "ConfStorage::loadConf() too many keys: " << EntryLog::truncated(key);
-    return true;
-}
-
-void ConfLoad::refuse(const QString &key, ConfLoadReport::Reason reason)
-{
-    if (mReport.refusedCount++ < Limits::sMaxLoggedEntries)
-        mReport.refused.append({key, reason});
-}
-
 /// Returns whether nothing is left to do for the key.
 template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Member &member)
 {
@@ -407,98 +293,6 @@ template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Memb
     return mergeDynamic(key, member, cls);
 }
 
-template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Member &member,
-                                                   const ConfStorage::DynamicConfClass *cls)
-{
-    const std::optional<qint64> removalTime = member.removalTime();
-    const std::optional<qint64> time = member.time();
-    const std::optional<qint64> seconds = removalTime ? removalTime : time;
-    const QDateTime incoming = timeOfChange(seconds);
-
-    const auto record = mStore.mConfMetas.constFind(key);
-    const QDateTime stored = record != mStore.mConfMetas.constEnd()
-                                 ? record->lastChangeTime
-                                 : mStore.mRemovedDynamicConfs.value(key);
-    const bool isTie = stored.isValid() && seconds == stored.toSecsSinceEpoch();
-    const bool isKept = isTie && mResolvesTies ? !incomingWinsTie(
-                            mStore, key, removalTime.has_value(), newValue(member))
-                                               : storedWins(stored, incoming);
-    if (isKept) {
-        ++mReport.newerHere;
-        return true;
-    }
-    if (removalTime) {
-        mergeRemoval(key, incoming);
-        return true;
-    }
-    const QJsonValue value = newValue(member);
-    if (value.isUndefined()) {
-        mergeDefault(key, incoming, time.has_value());
-        return true;
-    }
-    const bool exists = mStore.mConfValues.contains(key);
-    if (!exists && (isBeyondLimits(key) || isRefused(key, value)))
-        return true;
-    mStore.mRemovedDynamicConfs.remove(key);
-    if (exists)
-        return false;
-    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Created);
-    const bool isCreated = mStore.createDynamic(key, value, cls);
-    const auto meta = mStore.mConfMetas.find(key);
-    if (meta != mStore.mConfMetas.end()) {
-        ++mReport.taken;
-        meta->lastChangeTime = incoming;
-        // A value that equals the preset stays a value, as it is in the other copy.
-        if (mResolvesTies)
-            meta->flags &= ~ConfStorage::FlagIsDefault;
-    } else {
-        ++mReport.unknown;
-        if (EntryLog::permits())
-            qCritical() << "createDynamicConf Not create conf: " << EntryLog::truncated(key);
-    }
-    if (isCreated)
-        ConfObservers::finishChange(mStore, change);
-    return true;
-}
-
-void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed)
-{
-    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
-    const auto known = mStore.mConfMetas.constFind(key);
-    const bool isPresent = mStore.mConfValues.contains(key);
-    const bool isDefault = known != mStore.mConfMetas.constEnd()
-                           && (known->flags & ConfStorage::FlagIsDefault);
-    if (isPresent)
-        mStore.restore(key, incoming);
-    else
-        mStore.restorePreset(key, incoming);
-    const auto meta = mStore.mConfMetas.find(key);
-    const bool isKnown = meta != mStore.mConfMetas.end();
-    ++(isKnown ? mReport.taken : mReport.unknown);
-    if (isKnown && isTimed)
-        meta->lastChangeTime = incoming;
-    if (isPresent && isDefault)
-        ConfObservers::finishChange(mStore, change); // only the timestamp has changed
-}
-
-void ConfLoad::mergeRemoval(const QString &key, const QDateTime &incoming)
-{
-    if (isBeyondLimits(key))
-        return;
-    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Removed);
-    const bool isPresent = mStore.mConfValues.contains(key);
-    if (isPresent)
-        mStore.removeDynamic(key);
-    const QDateTime removed = mStore.mRemovedDynamicConfs.value(key);
-    if (!isPresent && storedWins(removed, incoming)) {
-        ++mReport.newerHere;
-        return;
-    }
-    ++mReport.taken;
-    mStore.mRemovedDynamicConfs[key] = incoming;
-    ConfObservers::finishChange(mStore, change);
-}
-
 template<class Member> void ConfLoad::loadStatic(const QString &key, const Member &member)
 {
     const std::optional<qint64> time = member.time();
@@ -508,7 +302,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()) {
         const qint64 storedTime = known->lastChangeTime.toSecsSinceEpoch();
         const bool isTie = mResolvesTies && storedTime == *time;
-        if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member))
+        if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member.value()))
                   : storedWins(storedTime, *time)) {
             ++mReport.newerHere;
             return;
@@ -528,21 +322,29 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
-    QJsonValue value = newValue(member);
+    QJsonValue value = newValue(member.value());
     if (isRefused(key, value))
         return;
     if (mIsStrict) {
         const auto fitting = strictJson(value, stored->mType);
         if (!fitting) {
-            refuseType(key, meta->flags & ConfStorage::FlagSystemIndependent, member);
+            const bool isMarked = meta->flags & ConfStorage::FlagSystemIndependent;
+            refuseType(key, isMarked, mUnconverted ? *mUnconverted : member.entry());
             return;
         }
         value = *fitting;
     }
     ++mReport.taken;
-    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     meta->lastChangeTime = timeOfChange(time);
+    applyValue(key, value, stored, meta);
+}
 
+/// Sets the value and calls the callback, if anything changes.
+void ConfLoad::applyValue(const QString &key, const QJsonValue &value,
+                          QMap<QString, ConfValue>::iterator stored,
+                          QMap<QString, ConfStorage::ConfMeta>::iterator meta)
+{
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     if (!value.isUndefined() && !meta->changedCallback && !change && isSilent(*stored)) {
         stored->loadFromJsonValue(value);
         meta->flags &= ~ConfStorage::FlagIsDefault;

@@ -49,21 +49,23 @@ public:
     /// Merges the entry that has set the value of `key` when it was reserved, for a new converter.
     void convertApplied(const QString &key);
 
-    /// The entries of `store` that are not declared; null if there are none.
-    static const ConfKeptEntries *keptEntriesOf(const ConfStorage &store)
-    {
-        return store.mKeptEntries.get();
-    }
-
-    /// The locked values of `store`; null if there are none.
-    static const LockedConfs *lockedConfsOf(const ConfStorage &store)
-    {
-        return store.mLockedConfs.get();
-    }
-
 private:
     // `Member` has the functions of `ParsedMember`.
-    template<class Time> bool storedWins(const Time &stored, const Time &incoming) const;
+    /// The merge rule: the newer change wins, and a tie keeps the stored one, so that loading a
+    /// dump twice changes nothing.
+    bool storedWins(qint64 stored, qint64 incoming) const
+    {
+        return !mReplaces && stored >= incoming;
+    }
+    /// The same for a change that may not exist.
+    bool storedWins(const QDateTime &stored, const QDateTime &incoming) const;
+    static QDateTime timeOfChange(std::optional<qint64> seconds);
+    /// Returns the new value of a setting; undefined if the entry sets the default value.
+    QJsonValue newValue(const QJsonValue &value) const
+    {
+        return mNullIsDefault && value.isNull() ? QJsonValue(QJsonValue::Undefined) : value;
+    }
+
     template<class Member> void load(QString key, const Member &member);
     template<class Member> void loadCurrent(const QString &key, const Member &member);
     template<class Member> void loadLocked(const QString &key, const Member &member);
@@ -79,18 +81,20 @@ private:
     bool isMerged(const QString &key, const QJsonValue &entry) const;
     QStringList keptNamesOf(const QString &key) const;
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
-    template<class Member> QJsonValue newValue(const Member &member) const;
     bool isRefused(const QString &key, const QJsonValue &value);
-    template<class Member> void refuseType(const QString &key, bool isMarked, const Member &member);
+    void refuseType(const QString &key, bool isMarked, const QJsonValue &entry);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
     bool hasNoRoom(const QString &name, const QJsonValue &entry);
-    template<class Member> void keep(const QString &name, const Member &member);
+    void keep(const QString &name, const QJsonValue &entry);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
     template<class Member> void loadStatic(const QString &key, const Member &member);
+    void applyValue(const QString &key, const QJsonValue &value,
+                    QMap<QString, ConfValue>::iterator stored,
+                    QMap<QString, ConfStorage::ConfMeta>::iterator meta);
     void mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed);
     void mergeRemoval(const QString &key, const QDateTime &incoming);
 

@@ -441,6 +441,7 @@ public:
     QMap<QString, QDateTime> mRemovedDynamicConfs; ///< tombstones: when a key was removed, in UTC
 
 private:
+    friend class ConfDump;
     friend class ConfLoad;
     friend class ConfObservers;
     friend class ConfOperation;

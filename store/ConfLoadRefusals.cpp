@@ -1,0 +1,94 @@
+#include "ConfLoad_p.h"
+
+#include "ConfKeptEntries_p.h"
+#include "EntryLog_p.h"
+#include "JsonText_p.h"
+#include "Limits_p.h"
+#include "StrictTypes_p.h"
+
+#include <QDebug>
+
+// The entries that a load refuses, and those that it keeps without loading them.
+
+/// Returns whether `value` would make all further saves fail, and logs this.
+bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
+{
+    if (mIsSavable || isSavable(value, mStore.mMaxFileSize))
+        return false;
+    refuse(key, ConfLoadReport::Reason::NotSavable);
+    forgetPosition();
+    if (EntryLog::permits())
+        qCritical() << "ConfStorage::loadConf() value could not be saved: "
+                    << EntryLog::truncated(key);
+    return true;
+}
+
+/// Refuses a value of another type and logs this. The entry of a local file is kept. That of a dump
+/// is not, as it would replace the entry of this program in the local file.
+void ConfLoad::refuseType(const QString &key, bool isMarked, const QJsonValue &entry)
+{
+    refuse(key, ConfLoadReport::Reason::WrongType);
+    if (mIsLocal && !mIsKept
+        && (mStore.mFileOptions & (ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile)))
+        keep(isMarked ? addSysMark(key) : key, entry);
+    forgetPosition();
+    if (!mIsRetry)
+        logOtherType(key);
+}
+
+/// Returns whether a file may not add the key to the store, and logs this.
+bool ConfLoad::isBeyondLimits(const QString &key)
+{
+    const bool isLong = key.size() > Limits::sMaxKeyLength;
+    // Records, because a key has one even if its creator did not accept the value.
+    const ConfKeptEntries *kept = mStore.mKeptEntries.get();
+    const bool isFull = mStore.mConfMetas.size() + mStore.mRemovedDynamicConfs.size()
+                            + (kept ? kept->entries().size() : 0)
+                        >= Limits::sMaxKeys;
+    if (!isLong && !isFull)
+        return false;
+    if (kept && kept->entries().contains(key))
+        return false; // adds nothing
+    if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
+        return false; // adds nothing
+    refuse(key, ConfLoadReport::Reason::LimitExceeded);
+    if (!EntryLog::permits())
+        return true;
+    if (isLong)
+        qCritical() << "ConfStorage::loadConf() key too long: " << EntryLog::truncated(key);
+    else
+        qCritical() << "ConfStorage::loadConf() too many keys: " << EntryLog::truncated(key);
+    return true;
+}
+
+void ConfLoad::refuse(const QString &key, ConfLoadReport::Reason reason)
+{
+    if (mReport.refusedCount++ < Limits::sMaxLoggedEntries)
+        mReport.refused.append({key, reason});
+}
+
+/// Returns whether kept entries could make the local file too large, and logs this.
+bool ConfLoad::hasNoRoom(const QString &name, const QJsonValue &entry)
+{
+    // The other half of the file is for the settings of this program.
+    if (isSavable(entry, mStore.mMaxFileSize / 2 - mStore.mKeptEntries->size()))
+        return false;
+    refuse(name, ConfLoadReport::Reason::NotSavable);
+    forgetPosition();
+    if (EntryLog::permits())
+        qCritical() << "ConfStorage::loadConf() value could not be saved: "
+                    << EntryLog::truncated(name);
+    return true;
+}
+
+/// Keeps an entry that is not loaded. `name` is that of the member, with the system mark. What the
+/// local file contains is always kept; others can add to it within limits.
+void ConfLoad::keep(const QString &name, const QJsonValue &entry)
+{
+    if (!mStore.mKeptEntries)
+        mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
+    if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
+        return;
+    if (mStore.mKeptEntries->keep(name, entry, mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
+        mStore.mChanged = true;
+}
