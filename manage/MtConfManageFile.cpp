@@ -25,8 +25,9 @@ void MtConfManage::_loadFromFile(QString path)
     ConfItemIndex index(items);
     const QPointer<MtConfManage> self(this); // a callback may destroy the manager
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
-        const ConfItem *item = index.find(member.key());
-        if (item && !isOutdated(*item, member.key(), members))
+        const QString key = member.key();
+        const ConfItem *item = index.find(key);
+        if (item && !isOutdated(*item, key, members))
             item->loadFromJsonValue(member.value());
         if (!self)
             return;

@@ -161,10 +161,11 @@ bool ConfLoad::loadMemberOfClass(const QString &key, const QJsonValue &entry,
 
 template<class Member> void ConfLoad::load(QString key, const Member &member)
 {
-    const bool isMarked = key.endsWith(mSystemMark);
+    const bool hasMark = key.contains(sMarkSeparator);
+    const bool isMarked = hasMark && key.endsWith(mSystemMark);
     if (isMarked)
         key.chop(mSystemMark.size());
-    const bool isForeign = !isMarked && key.contains(sMarkSeparator);
+    const bool isForeign = hasMark && !isMarked;
     if (isForeign && !mKeepsUnknown)
         return;
     if (mLastTime && isFromFuture(key, member) && !mIsLocal) {
@@ -302,7 +303,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()) {
         const qint64 storedTime = known->lastChangeTime.toSecsSinceEpoch();
         const bool isTie = mResolvesTies && storedTime == *time;
-        if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member.value()))
+        if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member))
                   : storedWins(storedTime, *time)) {
             ++mReport.newerHere;
             return;
@@ -322,8 +323,8 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
-    QJsonValue value = newValue(member.value());
-    if (isRefused(key, value))
+    QJsonValue value = newValue(member);
+    if (!mIsSavable && isRefused(key, value))
         return;
     if (mIsStrict) {
         const auto fitting = strictJson(value, stored->mType);

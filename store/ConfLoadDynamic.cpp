@@ -28,7 +28,7 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
                                  : mStore.mRemovedDynamicConfs.value(key);
     const bool isTie = stored.isValid() && seconds == stored.toSecsSinceEpoch();
     const bool isKept = isTie && mResolvesTies ? !incomingWinsTie(
-                            mStore, key, removalTime.has_value(), newValue(member.value()))
+                            mStore, key, removalTime.has_value(), newValue(member))
                                                : storedWins(stored, incoming);
     if (isKept) {
         ++mReport.newerHere;
@@ -38,13 +38,13 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
         mergeRemoval(key, incoming);
         return true;
     }
-    const QJsonValue value = newValue(member.value());
+    const QJsonValue value = newValue(member);
     if (value.isUndefined()) {
         mergeDefault(key, incoming, time.has_value());
         return true;
     }
     const bool exists = mStore.mConfValues.contains(key);
-    if (!exists && (isBeyondLimits(key) || isRefused(key, value)))
+    if (!exists && (isBeyondLimits(key) || (!mIsSavable && isRefused(key, value))))
         return true;
     mStore.mRemovedDynamicConfs.remove(key);
     if (exists)

@@ -13,7 +13,7 @@
 /// Returns whether `value` would make all further saves fail, and logs this.
 bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
 {
-    if (mIsSavable || isSavable(value, mStore.mMaxFileSize))
+    if (isSavable(value, mStore.mMaxFileSize))
         return false;
     refuse(key, ConfLoadReport::Reason::NotSavable);
     forgetPosition();

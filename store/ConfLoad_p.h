@@ -61,9 +61,12 @@ private:
     bool storedWins(const QDateTime &stored, const QDateTime &incoming) const;
     static QDateTime timeOfChange(std::optional<qint64> seconds);
     /// Returns the new value of a setting; undefined if the entry sets the default value.
-    QJsonValue newValue(const QJsonValue &value) const
+    template<class Member> QJsonValue newValue(const Member &member) const
     {
-        return mNullIsDefault && value.isNull() ? QJsonValue(QJsonValue::Undefined) : value;
+        QJsonValue value = member.value();
+        if (mNullIsDefault && value.isNull())
+            value = QJsonValue(QJsonValue::Undefined);
+        return value;
     }
 
     template<class Member> void load(QString key, const Member &member);
