@@ -5,13 +5,13 @@
 #include "MaltoConfiguration/store/JsonText_p.h"
 #include "MaltoConfiguration/window/WindowGeometryFile_p.h"
 #include "fuzz/StoreHost.h"
+#include "support/FileText.h"
 #include "support/LogCapture.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include <QApplication>
 #include <QCryptographicHash>
-#include <QFile>
 #include <QRect>
 
 namespace {
@@ -29,19 +29,6 @@ const char sConfiguration[] = "configuration.json";
 const char sConfigured[] = "configured.json";
 const char sGeometry[] = "geometry.ini";
 const char sLog[] = "log.txt";
-
-QByteArray fileText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
 
 /// Collects the log of one run.
 class Run
