@@ -1,0 +1,6 @@
+#include "SettingsPeer.h"
+
+std::optional<PeerKind> kConfigPeer()
+{
+    return std::nullopt;
+}
