@@ -303,13 +303,15 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()) {
         const qint64 storedTime = known->lastChangeTime.toSecsSinceEpoch();
         const bool isTie = mResolvesTies && storedTime == *time;
+        if (isTie && !isSilent(mStore.mConfValues.value(key)))
+            forgetPosition();
         if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member))
                   : storedWins(storedTime, *time)) {
             ++mReport.newerHere;
             return;
         }
         if (isTie) {
-            forgetPosition(); // a font may have been logged
+            forgetPosition();
             known = metaOf(key);
         }
     }
@@ -351,12 +353,12 @@ void ConfLoad::applyValue(const QString &key, const QJsonValue &value,
         meta->flags &= ~ConfStorage::FlagIsDefault;
         return;
     }
+    forgetPosition();
     if (mReplaces && !(meta->flags & ConfStorage::FlagIsDefault)
         && stored->toJsonValue() == value) {
         ConfObservers::finishChange(mStore, change); // only the timestamp has changed
         return;
     }
-    forgetPosition();
     if (value.isUndefined()) {
         if (meta->flags & ConfStorage::FlagIsDefault)
             ConfObservers::finishChange(mStore, change);

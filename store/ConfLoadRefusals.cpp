@@ -52,6 +52,7 @@ bool ConfLoad::isBeyondLimits(const QString &key)
     if (mStore.mConfMetas.contains(key) || mStore.mRemovedDynamicConfs.contains(key))
         return false; // adds nothing
     refuse(key, ConfLoadReport::Reason::LimitExceeded);
+    forgetPosition();
     if (!EntryLog::permits())
         return true;
     if (isLong)

@@ -102,18 +102,24 @@ void ConfStorage::setToDefault(const QString &key, bool updateTime)
 /// Restores the default value of a key that exists. A null time keeps the timestamp.
 void ConfStorage::restore(const QString &key, const QDateTime &time)
 {
-    const auto meta = mConfMetas.find(key);
+    auto meta = mConfMetas.find(key);
     if (meta == mConfMetas.end() || (meta->flags & FlagIsDefault))
         return;
-    const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Restored);
-    mConfValues[key].set(meta->defaultValue);
+    const QString name = meta.key();
+    const ChangePtr change = ConfObservers::beginChange(*this, name, ConfChange::Cause::Restored);
+    mConfValues[name].set(meta->defaultValue);
+    // A default value of another type, that of a preset, is logged, and a log handler may change
+    // the store.
+    meta = mConfMetas.find(name);
+    if (meta == mConfMetas.end() || !mConfValues.contains(name))
+        return;
     if (!time.isNull())
         meta->lastChangeTime = time;
     meta->flags |= FlagIsDefault;
     if (change)
         finishChange(change);
     else
-        callChangedCallback(key, *meta);
+        callChangedCallback(name, *meta);
     mChanged = true;
 }
 

@@ -47,8 +47,10 @@ bool incomingWinsTie(const ConfStorage &store, const QString &key, bool isRemova
     const ConfValue stored = store.mConfValues.value(key);
     if (stored.mType == ConfValue::TyNone || stored.toJsonValue() == value)
         return false;
+    // Before a font is logged: a log handler may destroy the variable.
+    const QByteArray storedText = textOf(stored);
     // Several texts can describe one value. Other copies get the one that this store would dump.
     BoundCopy incoming = boundCopy(stored);
     incoming.value.loadFromJsonValue(value);
-    return textOf(incoming.value) > textOf(stored);
+    return textOf(incoming.value) > storedText;
 }

@@ -35,6 +35,10 @@ private Q_SLOTS:
     void callbackMaySaveWhileTheFileIsLoaded();
     void logHandlerMayRemoveTheFontBeingLoaded_data();
     void logHandlerMayRemoveTheFontBeingLoaded();
+    void logHandlerMayRemoveTheFontOfATie_data();
+    void logHandlerMayRemoveTheFontOfATie();
+    void logHandlerMayRemoveKeysWhenAKeyIsTooLong();
+    void logHandlerMayRemoveTheKeyBeingRestored();
     void creatorMayRemoveItsClass();
     void removerMayRemoveTheClass();
     void removerMayRemoveItsKeyAgain();
@@ -333,6 +337,78 @@ void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontBeingLoaded()
     QCOMPARE(loaded, initial);
     QCOMPARE(set, initial);
     QCOMPARE(mSize, 7);
+}
+
+namespace {
+
+std::unique_ptr<QFont> sFont;
+
+void destroyTheFont(QtMsgType level, const QMessageLogContext &context, const QString &text)
+{
+    emptyTheStore(level, context, text);
+    sFont.reset();
+}
+
+} // namespace
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontOfATie_data()
+{
+    QTest::addColumn<QString>("family"); // of the font in the store
+    QTest::newRow("loaded font loses") << "zzz";
+    QTest::newRow("loaded font wins") << "!";
+}
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheFontOfATie()
+{
+    QFETCH(QString, family);
+    mStore->mFileOptions = ConfStorage::ResolveTies;
+    sFont = std::make_unique<QFont>(family);
+    mStore->reserveConf("General.Font", sFont.get());
+    mStore->reserveConf("General.Next", &mSize);
+    mStore->mConfMetas["General.Font"].flags &= ~ConfStorage::FlagIsDefault;
+    mStore->mConfMetas["General.Font"].lastChangeTime = QDateTime::fromSecsSinceEpoch(5, Qt::UTC);
+    sEmptiedStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(destroyTheFont);
+    mStore->loadConf({{"General.Font", QJsonObject{{"t", 5}, {"v", "Sans,9,-1"}}},
+                      {"General.Next", QJsonObject{{"t", 5}, {"v", 9}}}},
+                     ConfStorage::LoadLocal);
+    qInstallMessageHandler(previous);
+    QVERIFY(!sFont);
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QCOMPARE(mSize, 7);
+}
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveKeysWhenAKeyIsTooLong()
+{
+    mStore->mFileOptions = ConfStorage::KeepUnknownEntries;
+    int next = 7;
+    mStore->reserveConf("General.T", &next); // after the longer key
+    sEmptiedStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(emptyTheStore);
+    mStore->loadConf({{"General.Size", QJsonObject{{"t", 5}, {"v", 8}}},
+                      {"General.Size" + QString(70000, 'x'), QJsonObject{{"t", 5}, {"v", 8}}},
+                      {"General.T", QJsonObject{{"t", 5}, {"v", 8}}}},
+                     ConfStorage::LoadShared);
+    qInstallMessageHandler(previous);
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QCOMPARE(mSize, 8);
+    QCOMPARE(next, 7);
+}
+
+void tst_ConfStorageReentrancy::logHandlerMayRemoveTheKeyBeingRestored()
+{
+    mStore->mPresetDynamicConfs["General.Preset"] = QJsonObject{{"n", 1}}; // of another type
+    mStore->reserveConf("General.Preset", &mSize);
+    int calls = 0;
+    mStore->setConfChangedCallback("General.Preset",
+                                   [&](const QString &, const ConfValue *) { ++calls; });
+    sEmptiedStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(emptyTheStore);
+    mStore->setToDefault("General.Preset", true);
+    qInstallMessageHandler(previous);
+    QVERIFY(mStore->mConfValues.isEmpty());
+    QVERIFY(mStore->mConfMetas.isEmpty());
+    QCOMPARE(calls, 0);
 }
 
 void tst_ConfStorageReentrancy::creatorMayRemoveItsClass()

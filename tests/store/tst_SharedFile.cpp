@@ -1,6 +1,7 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <MaltoConfiguration/store/ConfChange.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <QDir>
@@ -98,6 +99,7 @@ private Q_SLOTS:
     void removalWinsOverAnOlderChange();
     void presetsAreNoChanges();
     void callbacksAreCalledOnlyForRealChanges();
+    void observerMayRemoveKeysWhoseTimestampsChange();
     void callbacksRunWithoutTheLock();
     void changesOfCallbacksAreSavedNext();
     void importedChangesAreSaved();
@@ -341,6 +343,23 @@ void tst_SharedFile::callbacksAreCalledOnlyForRealChanges()
     program.store.loadLocalConfFile();
     QCOMPARE(program.calls, QStringList("b"));
     QCOMPARE(program.store.mConfMetas["a"].lastChangeTime.toSecsSinceEpoch(), 6);
+}
+
+void tst_SharedFile::observerMayRemoveKeysWhoseTimestampsChange()
+{
+    writeFile(mPath, R"({"a":{"t":5,"v":3},"b":{"t":5,"v":4}})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    writeFile(mPath, R"({"a":{"t":6,"v":3},"b":{"t":6,"v":5}})");
+    int events = 0;
+    program.store.addObserver([&](const ConfChange &) {
+        ++events;
+        program.store.mConfValues.clear();
+        program.store.mConfMetas.clear();
+    });
+    program.store.loadLocalConfFile();
+    QCOMPARE(events, 1);
+    QCOMPARE(program.b, 4);
 }
 
 void tst_SharedFile::callbacksRunWithoutTheLock()
