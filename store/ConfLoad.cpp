@@ -302,7 +302,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     auto known = metaOf(key);
     if (known != mStore.mConfMetas.end() && time && !known->lastChangeTime.isNull()) {
         const qint64 storedTime = known->lastChangeTime.toSecsSinceEpoch();
-        const bool isTie = mResolvesTies && storedTime == *time;
+        const bool isTie = resolvesTies() && storedTime == *time;
         if (isTie && !isSilent(mStore.mConfValues.value(key)))
             forgetPosition();
         if (isTie ? !incomingWinsTie(mStore, key, false, newValue(member))

@@ -27,9 +27,9 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
                                  ? record->lastChangeTime
                                  : mStore.mRemovedDynamicConfs.value(key);
     const bool isTie = stored.isValid() && seconds == stored.toSecsSinceEpoch();
-    const bool isKept = isTie && mResolvesTies ? !incomingWinsTie(
+    const bool isKept = isTie && resolvesTies() ? !incomingWinsTie(
                             mStore, key, removalTime.has_value(), newValue(member))
-                                               : storedWins(stored, incoming);
+                                                : storedWins(stored, incoming);
     if (isKept) {
         ++mReport.newerHere;
         return true;

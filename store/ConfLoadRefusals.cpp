@@ -90,6 +90,9 @@ void ConfLoad::keep(const QString &name, const QJsonValue &entry)
         mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
     if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
         return;
-    if (mStore.mKeptEntries->keep(name, entry, mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
+    const KeptTie tie = mReplaces       ? KeptTie::Incoming
+                        : mResolvesTies ? KeptTie::Resolved
+                                        : KeptTie::Stored;
+    if (mStore.mKeptEntries->keep(name, entry, tie))
         mStore.mChanged = true;
 }

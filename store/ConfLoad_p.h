@@ -59,6 +59,8 @@ private:
     }
     /// The same for a change that may not exist.
     bool storedWins(const QDateTime &stored, const QDateTime &incoming) const;
+    /// Returns whether ties are decided by the content of the entries.
+    bool resolvesTies() const { return mResolvesTies && !mReplaces; }
     static QDateTime timeOfChange(std::optional<qint64> seconds);
     /// Returns the new value of a setting; undefined if the entry sets the default value.
     template<class Member> QJsonValue newValue(const Member &member) const

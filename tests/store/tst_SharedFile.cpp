@@ -95,6 +95,7 @@ private Q_SLOTS:
     void touchedEntryAndTheFile_data();
     void touchedEntryAndTheFile();
     void ownChangesOfOneSecondAreStampedInOrder();
+    void entryOfOthersWinsATie();
     void entriesCreatedAndRemovedByOthersFollow();
     void removalWinsOverAnOlderChange();
     void presetsAreNoChanges();
@@ -270,6 +271,24 @@ void tst_SharedFile::ownChangesOfOneSecondAreStampedInOrder()
     }
     two.store.loadLocalConfFile();
     QCOMPARE(two.a, 2);
+}
+
+void tst_SharedFile::entryOfOthersWinsATie()
+{
+    writeFile(mPath, R"({"a":{"t":5,"v":9},"list.x":{"t":5,"v":9},"z":{"t":5,"v":9}})");
+    Program program(mPath);
+    program.store.mFileOptions |= ConfStorage::ResolveTies | ConfStorage::KeepUnknownEntries;
+    program.store.loadLocalConfFile();
+    const QByteArray text = R"({"a":{"t":5,"v":3},"list.x":{"t":5,"v":3},"z":{"t":5,"v":3}})";
+    writeFile(mPath, text); // by an editor
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 3);
+    QCOMPARE(*program.entries.at("list.x"), 3);
+    int z = 1;
+    program.store.reserveConf("z", &z);
+    QCOMPARE(z, 3);
+    QVERIFY(program.save());
+    QCOMPARE(contentOf(mPath), text);
 }
 
 void tst_SharedFile::entriesCreatedAndRemovedByOthersFollow()
