@@ -229,6 +229,7 @@ template<class Member> void ConfLoad::loadLocked(const QString &key, const Membe
         ConfLoad load(own, mIsLocal ? ConfStorage::LoadLocal : ConfStorage::LoadShared,
                       mReplaces ? Merge::Replace : Merge::NewerWins);
         load.mIsSavable = mIsSavable;
+        load.mIsFormer = mIsFormer;
         load.mIsKept = mIsKept;
         load.mIsRetry = mIsRetry;
         load.mUnconverted = mUnconverted;

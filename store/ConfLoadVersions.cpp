@@ -3,6 +3,8 @@
 #include "ConfKeptEntries_p.h"
 #include "ConfVersions_p.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 
 // What older versions of the program wrote, and what was kept for keys that did not exist.
@@ -19,6 +21,7 @@ void ConfLoad::loadKept(const QString &key)
         const bool isRemoval = ParsedMember(entry, mTimes).removalTime().has_value();
         if (isRemoval || !ConfKeptEntries::timeOf(entry))
             continue;
+        mIsFormer = isFormerName(withoutMark(name));
         merge(key, entry);
         if (!isMerged(key, entry) || !mStore.mKeptEntries)
             continue; // refused, for example
@@ -106,8 +109,14 @@ void ConfLoad::loadFormer()
     std::vector<Former> entries;
     entries.swap(mFormer); // a callback may load something
     std::stable_sort(entries.begin(), entries.end(), isNearer);
+    const QScopedValueRollback<bool> isFormer(mIsFormer, true);
     for (const Former &former : entries) {
-        if (isDeclared(former.key))
+        // Anything else would restore the default now, whenever the file is loaded.
+        const ParsedMember member(former.entry, mTimes);
+        const bool isEntry = member.removalTime()
+                                 ? mStore.findDynamicConfClass(former.key) != nullptr
+                                 : member.time() || !member.value().isUndefined();
+        if (isEntry && isDeclared(former.key))
             merge(former.key, former.entry);
     }
 }

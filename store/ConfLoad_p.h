@@ -55,12 +55,17 @@ private:
     /// dump twice changes nothing.
     bool storedWins(qint64 stored, qint64 incoming) const
     {
-        return !mReplaces && stored >= incoming;
+        return !replaces() && stored >= incoming;
     }
+    /// Returns whether the loaded entry wins. An entry of a former name may be older than that of
+    /// the current name in the same file.
+    bool replaces() const { return mReplaces && !mIsFormer; }
+    /// Returns whether ties are decided by the content of the entries. In the local file the
+    /// current name wins, as the entry of a former name stays there when the user changes the
+    /// setting in the same second.
+    bool resolvesTies() const { return mResolvesTies && !mReplaces && !(mIsFormer && mIsLocal); }
     /// The same for a change that may not exist.
     bool storedWins(const QDateTime &stored, const QDateTime &incoming) const;
-    /// Returns whether ties are decided by the content of the entries.
-    bool resolvesTies() const { return mResolvesTies && !mReplaces; }
     static QDateTime timeOfChange(std::optional<qint64> seconds);
     /// Returns the new value of a setting; undefined if the entry sets the default value.
     template<class Member> QJsonValue newValue(const Member &member) const
@@ -120,6 +125,7 @@ private:
     bool mIsSavable = false; // whether every value of the source can be saved
     bool mIsRetry = false;   // of kept entries, which were reported when they were kept
     bool mIsKept = false;    // whether the entries that are loaded are kept already
+    bool mIsFormer = false;  // whether entries of former names are being loaded
     const QJsonValue *mUnconverted = nullptr; // the entry that is being loaded in another form
 
     /// An entry of a former name.

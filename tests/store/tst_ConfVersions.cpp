@@ -187,6 +187,11 @@ private Q_SLOTS:
     void changesOfBothVersionsAreKept();
     void newestOfBothNamesWins_data();
     void newestOfBothNamesWins();
+    void tieOfTheLocalFileKeepsTheCurrentName_data();
+    void tieOfTheLocalFileKeepsTheCurrentName();
+    void olderFormerEntryOfASharedFileReplacesNothing();
+    void formerEntryWithoutAValueChangesNothing_data();
+    void formerEntryWithoutAValueChangesNothing();
     void formerEntryIsKeptInTheFileOrDropped_data();
     void formerEntryIsKeptInTheFileOrDropped();
     void formerEntryIsNotShared();
@@ -347,6 +352,75 @@ void tst_ConfVersions::newestOfBothNamesWins()
         QTEST(host.number, "result");
         QCOMPARE(host.save(), saved);
     }
+}
+
+void tst_ConfVersions::tieOfTheLocalFileKeepsTheCurrentName_data()
+{
+    QTest::addColumn<quint32>("options");
+    const quint32 resolves = ConfStorage::ResolveTies;
+    QTest::newRow("resolved") << resolves;
+    QTest::newRow("resolved, unknown entries are kept")
+        << (resolves | ConfStorage::KeepUnknownEntries);
+    QTest::newRow("resolved in a shared file")
+        << (resolves | ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile);
+}
+
+void tst_ConfVersions::tieOfTheLocalFileKeepsTheCurrentName()
+{
+    QFETCH(quint32, options);
+    const QByteArray text = R"({"new":{"t":100,"v":6},"old":{"t":100,"v":9}})";
+    write(text);
+    for (int start = 0; start < 2; ++start) {
+        Host host(options);
+        host.store.addFormerName("new", "old");
+        host.store.loadLocalConfFile();
+        QCOMPARE(host.number, 6);
+        if (options & ConfStorage::KeepUnknownEntries) {
+            host.store.releaseConf("new");
+            host.store.reserveConf("new", &host.number);
+            QCOMPARE(host.number, 6);
+        }
+        QCOMPARE(host.save(), text);
+    }
+}
+
+void tst_ConfVersions::olderFormerEntryOfASharedFileReplacesNothing()
+{
+    write(R"({"new":{"t":200,"v":6},"old":{"t":100,"v":5}})");
+    Host host(ConfStorage::SharedFile | ConfStorage::ResolveTies);
+    host.store.addFormerName("new", "old");
+    host.store.loadLocalConfFile();
+    write(R"({"new":{"t":200,"v":6},"old":{"t":150,"v":9}})"); // by the older version
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.number, 6);
+    host.store.set("new", 7);
+    write(R"({"new":{"t":200,"v":6},"old":{"t":160,"v":9}})");
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.number, 7);
+    QVERIFY(host.store.mChanged);
+    host.store.saveToLocalConfFile();
+    QCOMPARE(parsed(savedText()).value("new").toObject().value("v"), QJsonValue(7));
+    QCOMPARE(parsed(savedText()).value("old").toObject().value("t"), QJsonValue(160));
+}
+
+void tst_ConfVersions::formerEntryWithoutAValueChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("old");
+    QTest::newRow("not an entry") << QByteArray("5");
+    QTest::newRow("empty") << QByteArray("{}");
+    QTest::newRow("removal") << QByteArray(R"({"d":100})");
+}
+
+void tst_ConfVersions::formerEntryWithoutAValueChangesNothing()
+{
+    QFETCH(QByteArray, old);
+    const QByteArray text = R"({"new":{"t":100,"v":6},"old":)" + old + '}';
+    write(text);
+    Host host;
+    host.store.addFormerName("new", "old");
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.number, 6);
+    QCOMPARE(host.save(), text);
 }
 
 void tst_ConfVersions::formerEntryIsKeptInTheFileOrDropped_data()
