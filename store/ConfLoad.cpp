@@ -192,6 +192,8 @@ bool ConfLoad::deferFormer(const QString &key, const QString &name, const Member
     const QString currentName = currentNameOf(key, &steps);
     if (steps == 0)
         return false;
+    if (!mIsLocal && isLocalOnly(currentName))
+        return true;
     const bool isCurrentDeclared = isDeclared(currentName);
     if (mStore.mVersions->isKept(key) || (mKeepsUnknown && !isCurrentDeclared))
         keep(name, member.entry());

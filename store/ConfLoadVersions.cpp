@@ -144,6 +144,13 @@ bool ConfLoad::isFormerName(const QString &key) const
     return mStore.mVersions && mStore.mVersions->mFormerNames.contains(key) && !isDeclared(key);
 }
 
+bool ConfLoad::isLocalOnly(const QString &key) const
+{
+    const ConfStorage::DynamicConfClass *cls = mStore.findDynamicConfClass(key);
+    const quint32 flags = mStore.mConfMetas.value(key).flags | (cls ? cls->flags : 0);
+    return flags & ConfStorage::FlagLocalOnly;
+}
+
 QString ConfLoad::withoutMark(const QString &name) const
 {
     return name.endsWith(mSystemMark) ? name.chopped(mSystemMark.size()) : name;

@@ -86,6 +86,7 @@ private:
     void merge(const QString &key, const QJsonValue &entry);
     QString currentNameOf(const QString &key, int *steps = nullptr) const;
     bool isFormerName(const QString &key) const;
+    bool isLocalOnly(const QString &key) const;
     QString withoutMark(const QString &name) const;
     QJsonValue converted(const QString &key, const QJsonValue &entry);
     bool isMerged(const QString &key, const QJsonValue &entry) const;

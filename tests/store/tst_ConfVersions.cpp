@@ -190,6 +190,7 @@ private Q_SLOTS:
     void tieOfTheLocalFileKeepsTheCurrentName_data();
     void tieOfTheLocalFileKeepsTheCurrentName();
     void olderFormerEntryOfASharedFileReplacesNothing();
+    void formerEntryOfALocalOnlySettingIsNotTakenFromDumps();
     void formerEntryWithoutAValueChangesNothing_data();
     void formerEntryWithoutAValueChangesNothing();
     void formerEntryIsKeptInTheFileOrDropped_data();
@@ -401,6 +402,18 @@ void tst_ConfVersions::olderFormerEntryOfASharedFileReplacesNothing()
     host.store.saveToLocalConfFile();
     QCOMPARE(parsed(savedText()).value("new").toObject().value("v"), QJsonValue(7));
     QCOMPARE(parsed(savedText()).value("old").toObject().value("t"), QJsonValue(160));
+}
+
+void tst_ConfVersions::formerEntryOfALocalOnlySettingIsNotTakenFromDumps()
+{
+    Host host(ConfStorage::KeepUnknownEntries);
+    host.store.addFormerName("new", "old");
+    host.store.mConfMetas["new"].flags |= ConfStorage::FlagLocalOnly;
+    host.load(R"({"old":{"t":100,"v":5}})", ConfStorage::LoadShared);
+    QCOMPARE(host.number, 1);
+    QCOMPARE(host.save(), QByteArray("{}"));
+    host.load(R"({"old":{"t":100,"v":5}})", ConfStorage::LoadLocal);
+    QCOMPARE(host.number, 5);
 }
 
 void tst_ConfVersions::formerEntryWithoutAValueChangesNothing_data()
