@@ -22,10 +22,12 @@ void ConfLoad::loadKept(const QString &key)
         if (isRemoval || !ConfKeptEntries::timeOf(entry))
             continue;
         mIsFormer = isFormerName(withoutMark(name));
+        const int taken = mReport.taken;
         merge(key, entry);
         if (!isMerged(key, entry) || !mStore.mKeptEntries)
             continue; // refused, for example
-        mStore.mKeptEntries->setApplied(key, entry);
+        if (mReport.taken > taken)
+            mStore.mKeptEntries->setApplied(key, entry);
         if (!isFormerName(withoutMark(name)) || !mStore.mVersions->isKept(withoutMark(name)))
             mStore.mKeptEntries->remove(name);
     }

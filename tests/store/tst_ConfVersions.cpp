@@ -215,6 +215,7 @@ private Q_SLOTS:
     void converterThatIsSetLateConvertsAKeptEntry_data();
     void converterThatIsSetLateConvertsAKeptEntry();
     void converterThatIsSetLateKeepsAChange();
+    void converterThatIsSetLateConvertsTheNewestEntry();
 };
 
 void tst_ConfVersions::newestVersionReadsTheFilesOfEarlierOnes_data()
@@ -746,6 +747,17 @@ void tst_ConfVersions::converterThatIsSetLateKeepsAChange()
     host.store.set("late", 9);
     host.store.setConfConverter("late", secondsOf);
     QCOMPARE(late, 9);
+}
+
+void tst_ConfVersions::converterThatIsSetLateConvertsTheNewestEntry()
+{
+    Host host(ConfStorage::KeepUnknownEntries);
+    host.load(R"({"late":{"t":100,"v":"5 s"},"older":{"t":50,"v":"7 s"}})");
+    int late = 1;
+    host.store.reserveConf("late", &late);
+    host.store.addFormerName("late", "older");
+    host.store.setConfConverter("late", secondsOf);
+    QCOMPARE(late, 5);
 }
 
 int main(int argc, char **argv)
