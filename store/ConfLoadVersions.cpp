@@ -70,6 +70,19 @@ QStringList ConfLoad::keptNamesOf(const QString &key) const
     return names;
 }
 
+QDateTime ConfLoad::timeAfterKept(const QString &key) const
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    qint64 newest = now.toSecsSinceEpoch();
+    const QStringList names = keptNamesOf(key);
+    for (const QString &name : names) {
+        const QJsonValue entry = mStore.mKeptEntries->entries().value(name);
+        const ParsedMember member(entry, mTimes);
+        newest = std::max(newest, member.removalTime().value_or(member.time().value_or(0)));
+    }
+    return newest > now.toSecsSinceEpoch() ? timeOfChange(newest + 1) : now;
+}
+
 void ConfLoad::loadKeptOfClasses(ConfStorage &store)
 {
     if (!store.mKeptEntries)

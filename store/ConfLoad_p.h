@@ -48,6 +48,13 @@ public:
     static void loadKeptOfClasses(ConfStorage &store);
     /// Merges the entry that has set the value of `key` when it was reserved, for a new converter.
     void convertApplied(const QString &key);
+    /// Returns the timestamp of a change of `key` by the user: now, or a second after the kept
+    /// entries of the key, which would win against the change otherwise.
+    static QDateTime timeOfUserChange(ConfStorage &store, const QString &key)
+    {
+        return store.mKeptEntries ? ConfLoad(store, ConfStorage::LoadLocal).timeAfterKept(key)
+                                  : QDateTime::currentDateTimeUtc();
+    }
 
 private:
     // `Member` has the functions of `ParsedMember`.
@@ -91,6 +98,7 @@ private:
     QJsonValue converted(const QString &key, const QJsonValue &entry);
     bool isMerged(const QString &key, const QJsonValue &entry) const;
     QStringList keptNamesOf(const QString &key) const;
+    QDateTime timeAfterKept(const QString &key) const;
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     bool isRefused(const QString &key, const QJsonValue &value);
     void refuseType(const QString &key, bool isMarked, const QJsonValue &entry);

@@ -92,11 +92,11 @@ void ConfStorage::setToDefault(const QString &key, bool updateTime)
 {
     if (isLocked(key))
         return;
-    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const QDateTime time = ConfLoad::timeOfUserChange(*this, key);
     if (mConfValues.contains(key))
-        restore(key, updateTime ? now : QDateTime());
+        restore(key, updateTime ? time : QDateTime());
     else
-        restorePreset(key, now);
+        restorePreset(key, time);
 }
 
 /// Restores the default value of a key that exists. A null time keeps the timestamp.
@@ -172,7 +172,7 @@ void ConfStorage::setConfChangedCallback(const QString &key, ConfChangedCallback
 void ConfStorage::markUserChange(const QString &key, ConfValue *value, const ChangePtr &change)
 {
     ConfMeta &meta = mConfMetas[key];
-    meta.lastChangeTime = QDateTime::currentDateTimeUtc();
+    meta.lastChangeTime = ConfLoad::timeOfUserChange(*this, key);
     meta.flags &= ~FlagIsDefault;
     if (change)
         finishChange(change);

@@ -74,7 +74,7 @@ bool ConfStorage::createDynamic(const QString &key, const QJsonValue &value,
     if (mConfValues.contains(name))
         mRemovedDynamicConfs.remove(name);
     ConfMeta &meta = mConfMetas[name];
-    meta.lastChangeTime = QDateTime::currentDateTimeUtc();
+    meta.lastChangeTime = ConfLoad::timeOfUserChange(*this, name);
     meta.flags |= flags;
     mChanged = true;
     return true;
@@ -112,7 +112,7 @@ bool ConfStorage::removeDynamic(const QString &key)
         remover(name);
     }
     mBusyDynamicConfs.remove(name);
-    mRemovedDynamicConfs[name] = QDateTime::currentDateTimeUtc();
+    mRemovedDynamicConfs[name] = ConfLoad::timeOfUserChange(*this, name);
     mConfValues.remove(name);
     mConfMetas.remove(name);
     mChanged = true;

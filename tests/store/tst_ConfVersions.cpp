@@ -191,6 +191,8 @@ private Q_SLOTS:
     void tieOfTheLocalFileKeepsTheCurrentName();
     void olderFormerEntryOfASharedFileReplacesNothing();
     void formerEntryOfALocalOnlySettingIsNotTakenFromDumps();
+    void changeWinsAgainstAFormerEntryOfTheFuture_data();
+    void changeWinsAgainstAFormerEntryOfTheFuture();
     void formerEntryWithoutAValueChangesNothing_data();
     void formerEntryWithoutAValueChangesNothing();
     void formerEntryIsKeptInTheFileOrDropped_data();
@@ -415,6 +417,36 @@ void tst_ConfVersions::formerEntryOfALocalOnlySettingIsNotTakenFromDumps()
     QCOMPARE(host.save(), QByteArray("{}"));
     host.load(R"({"old":{"t":100,"v":5}})", ConfStorage::LoadLocal);
     QCOMPARE(host.number, 5);
+}
+
+void tst_ConfVersions::changeWinsAgainstAFormerEntryOfTheFuture_data()
+{
+    QTest::addColumn<bool>("isRestored");
+    QTest::newRow("set") << false;
+    QTest::newRow("restored") << true;
+}
+
+void tst_ConfVersions::changeWinsAgainstAFormerEntryOfTheFuture()
+{
+    QFETCH(bool, isRestored);
+    const qint64 later = QDateTime::currentSecsSinceEpoch() + 5000;
+    write(compact({{"old", QJsonObject{{"t", later}, {"v", 5}}}}));
+    {
+        Host host;
+        host.store.addFormerName("new", "old");
+        host.store.loadLocalConfFile();
+        QCOMPARE(host.number, 5);
+        if (isRestored)
+            host.store.setToDefault("new", true);
+        else
+            host.store.set("new", 1);
+        QCOMPARE(host.store.mConfMetas["new"].lastChangeTime.toSecsSinceEpoch(), later + 1);
+        host.save();
+    }
+    Host host;
+    host.store.addFormerName("new", "old");
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.number, 1);
 }
 
 void tst_ConfVersions::formerEntryWithoutAValueChangesNothing_data()

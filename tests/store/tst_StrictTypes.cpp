@@ -123,6 +123,8 @@ private Q_SLOTS:
     void refusedEntryOfTheLocalFileIsKept_data();
     void refusedEntryOfTheLocalFileIsKept();
     void laterChangeReplacesTheRefusedEntry();
+    void laterChangeReplacesARefusedEntryOfTheFuture_data();
+    void laterChangeReplacesARefusedEntryOfTheFuture();
     void refusedEntryOfADumpIsNotKept();
     void refusedEntryIsKeptInItsOldForm();
     void keptEntryOfAnotherTypeIsRefusedWhenItsKeyIsReserved();
@@ -391,6 +393,39 @@ void tst_StrictTypes::laterChangeReplacesTheRefusedEntry()
     host.store.loadLocalConfFile();
     host.store.set("number", 5);
     QCOMPARE(savedObject(host.store).value("number").toObject().value("v"), QJsonValue(5));
+}
+
+void tst_StrictTypes::laterChangeReplacesARefusedEntryOfTheFuture_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<quint32>("option");
+    for (const char *key : {"number", "number#s.mac", "Entry.a"}) {
+        QTest::addRow("%s", key) << QString(key) << quint32(ConfStorage::KeepUnknownEntries);
+        QTest::addRow("%s of a shared file", key)
+            << QString(key) << quint32(ConfStorage::SharedFile | ConfStorage::KeepUnknownEntries);
+    }
+}
+
+void tst_StrictTypes::laterChangeReplacesARefusedEntryOfTheFuture()
+{
+    QFETCH(QString, key);
+    QFETCH(quint32, option);
+    const LogCapture log;
+    const QString name = key.section('#', 0, 0);
+    const qint64 later = QDateTime::currentSecsSinceEpoch() + 5000;
+    writeFile(dumpOf(key, "12", later));
+    Host host(ConfStorage::StrictTypes | option);
+    if (key != name)
+        host.store.mConfMetas[name].flags |= ConfStorage::FlagSystemIndependent;
+    host.store.loadLocalConfFile();
+    if (name == "Entry.a")
+        host.store.removeDynamicConf(name);
+    else
+        host.store.set("number", 5);
+    const QJsonObject saved = savedObject(host.store).value(key).toObject();
+    QCOMPARE(saved.value("v"),
+             name == "Entry.a" ? QJsonValue(QJsonValue::Undefined) : QJsonValue(5));
+    QVERIFY(saved.contains("d") == (name == "Entry.a"));
 }
 
 void tst_StrictTypes::refusedEntryOfADumpIsNotKept()
