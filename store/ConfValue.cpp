@@ -9,10 +9,6 @@
 
 namespace {
 
-// In points or pixels: just visible, and far larger than any screen.
-constexpr qreal sMinFontSize = 0.1;
-constexpr qreal sMaxFontSize = 4096;
-
 /// Calls `visitor` with a null pointer to the C++ type of `type`; logs an unknown type.
 template<class Visitor> void visitType(ConfValue::ConfType type, Visitor visitor)
 {
@@ -69,16 +65,6 @@ void fromJson(const QJsonValue &json, QString &text)
 {
     text = json.toString();
 }
-/// Returns whether text can be drawn in this font. QFont::fromString accepts sizes such as "inf"
-/// and a thousand million points, with which a program stalls or draws nothing.
-bool hasUsableSize(const QFont &font)
-{
-    const qreal size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
-    // Without a QGuiApplication there is no default size, so a text without a size leaves none.
-    const bool isUnset = size <= 0;
-    return isUnset || (size >= sMinFontSize && size <= sMaxFontSize);
-}
-
 void fromJson(const QJsonValue &json, QFont &font)
 {
     QFont read;

@@ -32,6 +32,12 @@ bool isColor(const QString &text)
            && std::all_of(text.begin(), text.end(), isHexDigit);
 }
 
+bool isFont(const QString &text)
+{
+    QFont font;
+    return !toQt5FontText(text).isNull() && readFontText(text, &font) && hasUsableSize(font);
+}
+
 /// The number of a text that `appendJsonValue` writes for a number that JSON does not have.
 std::optional<QJsonValue> numberOf(const QString &text)
 {
@@ -51,7 +57,7 @@ bool fits(const QJsonValue &json, ConfValue::ConfType type)
     case ConfValue::TyInt32: return isInt(json);
     case ConfValue::TyQreal: return json.isDouble();
     case ConfValue::TyBool: return json.isBool();
-    case ConfValue::TyQFont: return json.isString() && !toQt5FontText(json.toString()).isNull();
+    case ConfValue::TyQFont: return json.isString() && isFont(json.toString());
     case ConfValue::TyQString:
     case ConfValue::TyQKeySequence: return json.isString();
     case ConfValue::TyQJsonObject: return json.isObject();

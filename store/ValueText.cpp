@@ -206,6 +206,17 @@ bool readFontText(const QString &text, QFont *font)
     return true;
 }
 
+bool hasUsableSize(const QFont &font)
+{
+    // In points or pixels: just visible, and far larger than any screen.
+    constexpr qreal sMinFontSize = 0.1;
+    constexpr qreal sMaxFontSize = 4096;
+    const qreal size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
+    // Without a QGuiApplication there is no default size, so a text without a size leaves none.
+    const bool isUnset = size <= 0;
+    return isUnset || (size >= sMinFontSize && size <= sMaxFontSize);
+}
+
 QString toKeysText(const QKeySequence &keys)
 {
     const QVector<int> chords = chordsOf(keys);

@@ -25,6 +25,10 @@ QString toFontText(const QFont &font);
 /// neither.
 bool readFontText(const QString &text, QFont *font);
 
+/// Returns whether text can be drawn in this font. QFont::fromString accepts sizes such as "inf"
+/// and a thousand million points, with which a program stalls or draws nothing.
+bool hasUsableSize(const QFont &font);
+
 /// Returns the text of a font in the form of Qt 5, given in that of Qt 5 or Qt 6; a null string
 /// when it is neither. In the form of Qt 6 it has 16 fields, or 17 with the name of a style.
 QString toQt5FontText(const QString &text);

@@ -210,6 +210,8 @@ void tst_StrictTypes::valueOfAnotherTypeIsRefused_data()
     row("text that is no font", "font", "a,b,c");
     row("empty font", "font", "");
     row("number for a font", "font", 12);
+    row("font of no usable size", "font", "Sans,inf,-1,5,50,0,0,0,0,0");
+    row("font of too many points", "font", "Sans,1000000,-1,5,50,0,0,0,0,0");
     row("number for keys", "keys", 83);
     row("array for an object", "object", QJsonArray{1});
     row("text for an object", "object", "{}");
