@@ -55,7 +55,7 @@ QStringList keptRow(const QString &name, const QJsonValue &entry)
             QStringLiteral("kept"), timeText(time),  nothing()};
 }
 
-QString flagsText(quint32 flags)
+QString flagsText(quint32 flags, bool isLocked)
 {
     QStringList names;
     if (flags & ConfStorage::FlagIsDefault)
@@ -64,6 +64,8 @@ QString flagsText(quint32 flags)
         names.append(QStringLiteral("system"));
     if (flags & ConfStorage::FlagLocalOnly)
         names.append(QStringLiteral("local"));
+    if (isLocked)
+        names.append(QStringLiteral("locked"));
     return names.isEmpty() ? nothing() : names.join(QLatin1Char(','));
 }
 
@@ -103,7 +105,7 @@ QString ConfStorage::debugTable() const
         const ConfMeta meta = mConfMetas.value(key);
         rows.append({keyText(key), valueText(mConfValues.value(key)), valueText(meta.defaultValue),
                      isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),
-                     timeText(meta.lastChangeTime), flagsText(meta.flags)});
+                     timeText(meta.lastChangeTime), flagsText(meta.flags, isLocked(key))});
     }
     for (auto removed = mRemovedDynamicConfs.cbegin(); removed != mRemovedDynamicConfs.cend();
          ++removed) {

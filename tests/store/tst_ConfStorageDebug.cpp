@@ -12,6 +12,7 @@ private Q_SLOTS:
     void cleanup() { clearStore(); }
     void emptyStorePrintsOnlyTheHeading();
     void everyKeyHasARow();
+    void lockedKeysAreMarked();
     void keysWithoutValueOrRecordAreShown();
     void hostileKeysAndLongValuesStayOnOneLine();
     void longKeysAreTruncated();
@@ -48,6 +49,20 @@ void tst_ConfStorageDebug::everyKeyHasARow()
                  "Format  \"BMP\"  \"PNG\"    changed  2023-11-14T22:13:20Z  -\n"
                  "Sound   true   true     -        -                     default\n"
                  "Tool.7  -      -        removed  2023-11-14T22:13:21Z  -\n"));
+}
+
+void tst_ConfStorageDebug::lockedKeysAreMarked()
+{
+    ConfStorage store;
+    int delay = 3, size = 4;
+    store.reserveConf("Delay", &delay);
+    store.reserveConf("Size", &size);
+    store.lockConf("Delay", 5);
+    store.lockConf("Size", QJsonValue());
+    QCOMPARE(store.debugTable(),
+             QStringLiteral("KEY    VALUE  DEFAULT  STATE    CHANGED AT  FLAGS\n"
+                            "Delay  5      3        changed  -           locked\n"
+                            "Size   4      4        -        -           default,locked\n"));
 }
 
 void tst_ConfStorageDebug::keysWithoutValueOrRecordAreShown()
