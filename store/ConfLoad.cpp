@@ -225,8 +225,10 @@ void ConfLoad::merge(const QString &key, const QJsonValue &entry)
 template<class Member> void ConfLoad::loadLocked(const QString &key, const Member &member)
 {
     forgetPosition();
+    const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Loaded);
     const std::shared_ptr<ShadowStore> shadow = mStore.mLockedConfs->ownStore(mStore, key);
     ConfStorage &own = shadow->store();
+    const int taken = mReport.taken;
     {
         ConfLoad load(own, mIsLocal ? ConfStorage::LoadLocal : ConfStorage::LoadShared,
                       mReplaces ? Merge::Replace : Merge::NewerWins);
@@ -242,20 +244,22 @@ template<class Member> void ConfLoad::loadLocked(const QString &key, const Membe
     mStore.mChanged = mStore.mChanged || std::exchange(own.mChanged, false);
     const auto meta = mStore.mConfMetas.find(key);
     const auto ownMeta = own.mConfMetas.constFind(key);
-    if (meta != mStore.mConfMetas.end() && ownMeta != own.mConfMetas.constEnd())
-        meta->lastChangeTime = ownMeta->lastChangeTime;
-    if (!own.mKeptEntries)
-        return;
-    if (!mStore.mKeptEntries)
-        mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
-    const QMap<QString, QJsonValue> refused = std::exchange(own.mKeptEntries, nullptr)->entries();
-    for (auto entry = refused.cbegin(); entry != refused.cend(); ++entry)
-        mStore.mKeptEntries->keep(entry.key(), *entry);
+    if (meta != mStore.mConfMetas.end())
+        meta->lastChangeTime = ownMeta != own.mConfMetas.constEnd()
+                                   ? ownMeta->lastChangeTime
+                                   : own.mRemovedDynamicConfs.value(key);
+    if (const auto refused = std::exchange(own.mKeptEntries, nullptr)) {
+        for (auto entry = refused->entries().cbegin(); entry != refused->entries().cend(); ++entry)
+            keep(entry.key(), *entry);
+    }
+    // The variable stays the same, but the entry has changed: it is to be saved.
+    if (mReport.taken > taken)
+        ConfObservers::finishChange(mStore, change);
 }
 
 template<class Member> void ConfLoad::loadDeclared(const QString &key, const Member &member)
 {
-    if (mStore.mLockedConfs && mStore.isLocked(key)) {
+    if (mStore.mLockedConfs && mStore.isLocked(key) && mStore.mConfValues.contains(key)) {
         loadLocked(key, member);
         return;
     }

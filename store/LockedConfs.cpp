@@ -57,9 +57,14 @@ std::shared_ptr<ShadowStore> LockedConfs::ownStore(const ConfStorage &store, con
     mOwn->copyRules(store);
     const auto own = mOwn->store().mConfMetas.find(key);
     const auto meta = store.mConfMetas.constFind(key);
-    if (own != mOwn->store().mConfMetas.end() && meta != store.mConfMetas.constEnd()) {
+    const auto removed = mOwn->store().mRemovedDynamicConfs.find(key);
+    if (meta == store.mConfMetas.constEnd())
+        return mOwn;
+    if (own != mOwn->store().mConfMetas.end()) {
         own->lastChangeTime = meta->lastChangeTime;
         own->flags = mixedFlags(own->flags, meta->flags);
+    } else if (removed != mOwn->store().mRemovedDynamicConfs.end()) {
+        *removed = meta->lastChangeTime;
     }
     return mOwn;
 }

@@ -77,6 +77,9 @@ private Q_SLOTS:
     void unknownKeyIsNotLocked();
     void lockedVariableIsNotChanged_data();
     void lockedVariableIsNotChanged();
+    void loadOfANewerEntryIsAnEvent();
+    void importIsSavedToASharedFile_data();
+    void importIsSavedToASharedFile();
     void valueOfTheUserIsDumped_data();
     void valueOfTheUserIsDumped();
     void loadsMergeIntoTheValueOfTheUser_data();
@@ -89,10 +92,14 @@ private Q_SLOTS:
     void clearForgetsTheLock();
     void keyThatIsReservedAgainIsStillLocked();
     void releasedKeyKeepsTheValueOfTheUser();
+    void releasedEntryIsCreatedByALoad();
+    void lockedPresetIsMergedAndRestored();
+    void formerNameOfALockedKeyIsMerged();
+    void keptEntryOfALockedKeyIsMerged();
     void lockedDynamicEntryIsNotRemoved();
     void removalOfALockedEntryIsDumped();
     void refusedEntryOfALockedKeyIsKept();
-    void previewListsNothingOfALockedKey();
+    void previewListsALockedKeyWithTheLockedValue();
     void callbackOfTheLockMayClearTheStore();
 };
 
@@ -164,13 +171,56 @@ void tst_LockedConfs::lockedVariableIsNotChanged()
     QFETCH(std::function<void(Host &)>, change);
     Host host;
     host.store.lockConf("n", 9);
-    int events = 0;
-    host.store.addObserver([&](const ConfChange &) { ++events; });
+    bool isChanged = false;
+    host.store.addObserver(
+        [&](const ConfChange &heard) { isChanged |= heard.before.value != heard.after.value; });
     change(host);
     QCOMPARE(host.number, 9);
     QCOMPARE(host.store.get<int>("n"), 9);
     QCOMPARE(host.calls, 1); // for the lock
-    QCOMPARE(events, 0);
+    QVERIFY(!isChanged);
+}
+
+void tst_LockedConfs::loadOfANewerEntryIsAnEvent()
+{
+    Host host;
+    host.store.lockConf("n", 9);
+    QVector<ConfChange> changes;
+    host.store.addObserver([&](const ConfChange &change) { changes << change; });
+    host.load("n", entry(100, 7));
+    QVERIFY(changes.isEmpty());
+    host.load("n", entry(200, 7));
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().cause, ConfChange::Cause::Loaded);
+    QCOMPARE(changes.first().before.value, QJsonValue(9));
+    QCOMPARE(changes.first().after.value, QJsonValue(9));
+    QCOMPARE(changes.first().time, second(200));
+}
+
+void tst_LockedConfs::importIsSavedToASharedFile_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("imported");
+    QTest::newRow("value") << "n" << QJsonValue(entry(200, 7));
+    QTest::newRow("default") << "n" << QJsonValue(QJsonObject{{"t", 200}});
+    QTest::newRow("removal") << "Entry.a" << QJsonValue(QJsonObject{{"d", 200}});
+}
+
+void tst_LockedConfs::importIsSavedToASharedFile()
+{
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, imported);
+    Host host(ConfStorage::SharedFile);
+    host.store.loadLocalConfFile();
+    host.store.lockConf("n", 9);
+    host.store.lockConf("Entry.a", QJsonObject{{"n", 9}});
+    host.store.saveToLocalConfFile();
+    host.load(key, imported);
+    host.store.saveToLocalConfFile();
+    QVERIFY(!host.store.mChanged);
+    QFile file(sPath);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QJsonDocument::fromJson(file.readAll()).object().value(key), imported);
 }
 
 void tst_LockedConfs::valueOfTheUserIsDumped_data()
@@ -309,6 +359,67 @@ void tst_LockedConfs::releasedKeyKeepsTheValueOfTheUser()
     QCOMPARE(host.dumped("n"), QJsonValue(entry(100, 5)));
 }
 
+void tst_LockedConfs::releasedEntryIsCreatedByALoad()
+{
+    Host host(ConfStorage::KeepUnknownEntries);
+    host.store.lockConf("Entry.a", QJsonObject{{"n", 9}});
+    host.store.releaseConf("Entry.a");
+    host.item = {};
+    host.load("Entry.a", entry(200, QJsonObject{{"n", 3}}));
+    QVERIFY(host.store.mConfValues.contains("Entry.a"));
+    QCOMPARE(host.item, (QJsonObject{{"n", 9}}));
+    QCOMPARE(host.dumped("Entry.a"), QJsonValue(entry(200, QJsonObject{{"n", 3}})));
+}
+
+void tst_LockedConfs::lockedPresetIsMergedAndRestored()
+{
+    Host host;
+    host.store.mPresetDynamicConfs["Entry.p"] = QJsonObject{{"n", 2}};
+    host.store.loadPresetDynamicConf();
+    host.store.lockConf("Entry.p", QJsonObject{{"n", 9}});
+    QVERIFY(!host.store.isEqualToDefault("Entry.p"));
+    QVERIFY(host.dumped("Entry.p").isUndefined());
+    host.load("Entry.p", entry(200, QJsonObject{{"n", 3}}));
+    QCOMPARE(host.dumped("Entry.p"), QJsonValue(entry(200, QJsonObject{{"n", 3}})));
+    host.load("Entry.p", QJsonObject{{"d", 300}});
+    QCOMPARE(host.dumped("Entry.p"), QJsonValue(QJsonObject{{"d", 300}}));
+    host.load("Entry.p", entry(299, QJsonObject{{"n", 4}}));
+    QCOMPARE(host.dumped("Entry.p"), QJsonValue(QJsonObject{{"d", 300}}));
+    host.load("Entry.p", QJsonObject{{"t", 400}});
+    QCOMPARE(host.dumped("Entry.p"), QJsonValue(QJsonObject{{"t", 400}}));
+    host.store.restoreDynamicConf("Entry.");
+    host.store.loadPresetDynamicConf();
+    QCOMPARE(host.dumped("Entry.p"), QJsonValue(QJsonObject{{"t", 400}}));
+    QCOMPARE(host.item, (QJsonObject{{"n", 9}}));
+    QVERIFY(!host.store.isEqualToDefault("Entry.p"));
+}
+
+void tst_LockedConfs::formerNameOfALockedKeyIsMerged()
+{
+    Host host;
+    host.store.addFormerName("n", "old");
+    host.store.lockConf("n", 9);
+    host.load("old", entry(99, 6));
+    QCOMPARE(host.dumped("n"), QJsonValue(entry(100, 5)));
+    host.load("old", entry(200, 7));
+    QCOMPARE(host.dumped("n"), QJsonValue(entry(200, 7)));
+    QCOMPARE(host.dumped("old"), QJsonValue(entry(200, 7)));
+    QCOMPARE(host.number, 9);
+}
+
+void tst_LockedConfs::keptEntryOfALockedKeyIsMerged()
+{
+    Host host(ConfStorage::KeepUnknownEntries);
+    host.store.lockConf("n", 9);
+    host.store.releaseConf("n");
+    host.load("n", entry(200, 7));
+    QCOMPARE(host.dumped("n"), QJsonValue(entry(200, 7)));
+    int other = 3;
+    host.store.reserveConf("n", &other);
+    QCOMPARE(other, 9);
+    QCOMPARE(host.dumped("n"), QJsonValue(entry(200, 7)));
+}
+
 void tst_LockedConfs::lockedDynamicEntryIsNotRemoved()
 {
     const LogCapture log;
@@ -346,11 +457,14 @@ void tst_LockedConfs::refusedEntryOfALockedKeyIsKept()
     QCOMPARE(host.dumped("n"), QJsonValue(entry(200, "many")));
 }
 
-void tst_LockedConfs::previewListsNothingOfALockedKey()
+void tst_LockedConfs::previewListsALockedKeyWithTheLockedValue()
 {
     Host host;
     host.store.lockConf("n", 9);
-    QVERIFY(host.store.previewLoad({{"n", entry(200, 7)}}, ConfStorage::LoadShared).isEmpty());
+    const auto changes = host.store.previewLoad({{"n", entry(200, 7)}}, ConfStorage::LoadShared);
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().after.value, QJsonValue(9));
+    QCOMPARE(changes.first().time, second(200));
     QCOMPARE(host.dumped("n"), QJsonValue(entry(100, 5)));
 }
 
