@@ -139,6 +139,32 @@ void ConfFileSharing::useFile(const QString &path)
     const QList<QString> removed = mStore.mRemovedDynamicConfs.keys();
     for (const QString &key : removed)
         mTouched.insert(key);
+    const QList<QString> kept = mStore.mKeptEntries ? mStore.mKeptEntries->entries().keys()
+                                                    : QList<QString>();
+    for (const QString &name : kept)
+        touchKept(name);
+}
+
+void ConfFileSharing::touchKept(const QString &name)
+{
+    mTouched.insert(keyOf(name));
+}
+
+ConfFileSharing::UnchangedEntry::UnchangedEntry(const std::shared_ptr<ConfFileSharing> &sharing,
+                                                const QString &name)
+    : mSharing(sharing)
+{
+    if (!mSharing)
+        return;
+    const bool isTouched = mSharing->mTouched.contains(keyOf(name));
+    mOuterDepth = std::exchange(mSharing->mMergeDepth,
+                                isTouched ? -1 : mSharing->mStore.mCallbackDepth);
+}
+
+ConfFileSharing::UnchangedEntry::~UnchangedEntry()
+{
+    if (mSharing)
+        mSharing->mMergeDepth = mOuterDepth;
 }
 
 /// The members of `text` are found when they are needed.
@@ -217,8 +243,10 @@ QByteArray ConfFileSharing::merged(const QSet<QString> &touched)
             appendMember(&text, ours.name, view(dump.entryText(i, ours.time)));
             continue;
         }
-        if (ours.isKept || touchedNames.contains(ours.name))
+        if (touchedNames.contains(ours.name))
             appendMember(&text, ours.name, view(winner(dump, i, their->value)));
+        else if (ours.isKept)
+            appendMember(&text, ours.name, view(keptWinner(dump, i, their->value)));
         else
             appendMember(&text, ours.name, their->value);
         ++their;
@@ -229,7 +257,7 @@ QByteArray ConfFileSharing::merged(const QSet<QString> &touched)
     return text;
 }
 
-/// Returns the entry of a touched or a kept key, or that of the file.
+/// Returns the entry of a touched key, or that of the file.
 QByteArray ConfFileSharing::winner(const ConfDump &dump, size_t index, std::string_view theirs)
 {
     const ConfDump::Entry ours = dump.at(index);
@@ -237,18 +265,26 @@ QByteArray ConfFileSharing::winner(const ConfDump &dump, size_t index, std::stri
     if (view(entry) == theirs)
         return entry;
     const qint64 theirTime = timeOf(theirs, timeRange());
-    if (ours.isKept) {
-        const bool isNew = mForeign.contains(ours.name) && isMadeNow(theirs);
-        return !isNew && ours.time > theirTime ? entry : toBytes(theirs);
-    }
     if (mContested.contains(ours.name) && yields(ours.time, theirTime)) {
         mForeign[ours.name] = toBytes(theirs);
         return toBytes(theirs);
     }
     if (theirTime < ours.time)
         return entry;
+    if (ours.isKept)
+        return mStore.mKeptEntries ? mStore.mKeptEntries->stamp(ours.name, theirTime + 1) : entry;
     stamp(keyOf(ours.name), theirTime + 1);
     return dump.entryText(index, theirTime + 1);
+}
+
+/// Returns the kept entry of a key that is not touched, or that of the file.
+QByteArray ConfFileSharing::keptWinner(const ConfDump &dump, size_t index,
+                                       std::string_view theirs) const
+{
+    const ConfDump::Entry ours = dump.at(index);
+    const bool isNew = mForeign.contains(ours.name) && isMadeNow(theirs);
+    return !isNew && ours.time > timeOf(theirs, timeRange()) ? dump.entryText(index, ours.time)
+                                                             : toBytes(theirs);
 }
 
 /// Returns whether a change here yields to that of the file.

@@ -42,6 +42,23 @@ public:
     /// or locked for too long.
     void update();
 
+    /// Notes that an operation of this store has changed the kept entry `name`.
+    void touchKept(const QString &name);
+
+    /// Marks that loads during the lifetime of the object do not change the entry `name`: it was
+    /// kept until now, or its key is being locked. Does nothing if the entry is to be saved anyway.
+    class UnchangedEntry
+    {
+    public:
+        UnchangedEntry(const std::shared_ptr<ConfFileSharing> &sharing, const QString &name);
+        ~UnchangedEntry();
+        Q_DISABLE_COPY(UnchangedEntry)
+
+    private:
+        const std::shared_ptr<ConfFileSharing> mSharing; // may be null
+        int mOuterDepth = 0;
+    };
+
     /// Returns whether operations of this store are not in the file yet, or the file is damaged.
     bool hasChanges() const { return mNeedsRepair || !mTouched.isEmpty(); }
 
@@ -59,6 +76,7 @@ private:
     bool collectForeign(const Members &known);
     QByteArray merged(const QSet<QString> &touched);
     QByteArray winner(const ConfDump &dump, size_t index, std::string_view theirs);
+    QByteArray keptWinner(const ConfDump &dump, size_t index, std::string_view theirs) const;
     static bool yields(qint64 ourTime, qint64 theirTime);
     TimeRange timeRange() const;
     void stamp(const QString &key, qint64 seconds);

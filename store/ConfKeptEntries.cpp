@@ -76,6 +76,18 @@ void ConfKeptEntries::remove(const QString &name)
     mEntries.erase(stored);
 }
 
+QByteArray ConfKeptEntries::stamp(const QString &name, qint64 seconds)
+{
+    QJsonObject entry = mEntries.value(name).toObject();
+    const bool isRemoval = entry.contains(sRemovedKey.name());
+    entry.insert(isRemoval ? sRemovedKey.name() : sTimeKey.name(), seconds);
+    remove(name);
+    keep(name, entry);
+    QByteArray text;
+    appendJsonValue(text, entry);
+    return text;
+}
+
 std::optional<qint64> ConfKeptEntries::timeOf(const QJsonValue &entry)
 {
     // All timestamps count, so that no option of the store decides which entry is newer.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonValue>
 #include <QMap>
 #include <QString>
@@ -28,6 +29,8 @@ public:
     /// Keeps the entry of a setting of this program, which also wins a tie.
     void keepReleased(const QString &name, const QJsonValue &entry);
     void remove(const QString &name);
+    /// Sets the timestamp of the entry `name` and returns the JSON text of the entry.
+    QByteArray stamp(const QString &name, qint64 seconds);
 
     /// Notes that the entry of `key` has set the value. The converter of the key may be set later.
     void setApplied(const QString &key, const QJsonValue &entry) { mApplied[key] = entry; }

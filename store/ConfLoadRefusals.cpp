@@ -1,5 +1,6 @@
 #include "ConfLoad_p.h"
 
+#include "ConfFileSharing_p.h"
 #include "ConfKeptEntries_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
@@ -93,6 +94,9 @@ void ConfLoad::keep(const QString &name, const QJsonValue &entry)
     const KeptTie tie = mReplaces       ? KeptTie::Incoming
                         : mResolvesTies ? KeptTie::Resolved
                                         : KeptTie::Stored;
-    if (mStore.mKeptEntries->keep(name, entry, tie))
-        mStore.mChanged = true;
+    if (!mStore.mKeptEntries->keep(name, entry, tie))
+        return;
+    mStore.mChanged = true;
+    if (mStore.mFileSharing && mReport.file.isEmpty())
+        mStore.mFileSharing->touchKept(name);
 }

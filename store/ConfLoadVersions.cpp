@@ -1,5 +1,6 @@
 #include "ConfLoad_p.h"
 
+#include "ConfFileSharing_p.h"
 #include "ConfKeptEntries_p.h"
 #include "ConfVersions_p.h"
 
@@ -21,6 +22,7 @@ void ConfLoad::loadKept(const QString &key)
         const bool isRemoval = ParsedMember(entry, mTimes).removalTime().has_value();
         if (isRemoval || !ConfKeptEntries::timeOf(entry))
             continue;
+        const ConfFileSharing::UnchangedEntry unchanged(mStore.mFileSharing, name);
         mIsFormer = isFormerName(withoutMark(name));
         const int taken = mReport.taken;
         merge(key, entry);
@@ -100,6 +102,7 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
         const QJsonValue entry = store.mKeptEntries->entries().value(name);
         if (!ConfKeptEntries::timeOf(entry))
             continue;
+        const ConfFileSharing::UnchangedEntry unchanged(store.mFileSharing, name);
         load.merge(key, entry);
         if (load.isMerged(key, entry) && store.mKeptEntries)
             store.mKeptEntries->remove(name);

@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include "ConfFileSharing_p.h"
 #include "ConfObservers_p.h"
 #include "EntryLog_p.h"
 #include "LockedConfs_p.h"
@@ -38,6 +39,7 @@ void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
     const auto meta = mConfMetas.constFind(name);
     if (meta == mConfMetas.constEnd() || mConfValues.value(name).toJsonValue() == before)
         return;
+    const ConfFileSharing::UnchangedEntry unchanged(mFileSharing, name);
     if (change)
         finishChange(change);
     else

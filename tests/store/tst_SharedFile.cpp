@@ -108,6 +108,12 @@ private Q_SLOTS:
     void changesBeforeTheLoadAreKept();
     void loadDoesNotForgetChanges();
     void saveWithoutALoadMerges();
+    void importedUnknownEntryIsSaved_data();
+    void importedUnknownEntryIsSaved();
+    void changeBeforeAReleaseIsSaved();
+    void entryThatIsReservedLateIsNotWrittenOverTheFile_data();
+    void entryThatIsReservedLateIsNotWrittenOverTheFile();
+    void lockedKeyIsNotWrittenOverTheFile();
     void vanishedEntryIsWrittenAgain();
     void entryOfANewFileReplacesThatOfADeletedOne();
     void failedSaveIsNotAcknowledged();
@@ -468,6 +474,103 @@ void tst_SharedFile::saveWithoutALoadMerges()
     QVERIFY(program.save());
     QCOMPARE(program.b, 4);
     QVERIFY(contentOf(mPath).contains(R"("b":{"t":5,"v":4})"));
+}
+
+void tst_SharedFile::importedUnknownEntryIsSaved_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<int>("seconds"); // of the import
+    QTest::addColumn<int>("saved");   // seconds in the file afterwards
+    QTest::newRow("new entry") << QByteArray("{}") << 100 << 100;
+    QTest::newRow("newer entry") << QByteArray(R"({"z":{"t":99,"v":1}})") << 100 << 100;
+    QTest::newRow("tie") << QByteArray(R"({"z":{"t":100,"v":1}})") << 100 << 101;
+}
+
+void tst_SharedFile::importedUnknownEntryIsSaved()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(int, seconds);
+    QFETCH(int, saved);
+    writeFile(mPath, file);
+    Program program(mPath);
+    program.store.mFileOptions |= ConfStorage::ResolveTies | ConfStorage::KeepUnknownEntries;
+    program.store.loadLocalConfFile();
+    program.store.loadConf({{"z", QJsonObject{{"t", seconds}, {"v", 2}}}}, ConfStorage::LoadShared);
+    writeFile(mPath, file + ' '); // by another program
+    program.store.loadLocalConfFile();
+    QVERIFY(program.store.mChanged);
+    QVERIFY(program.save());
+    QCOMPARE(QJsonDocument::fromJson(contentOf(mPath)).object().value("z").toObject(),
+             (QJsonObject{{"t", saved}, {"v", 2}}));
+    int z = 1;
+    program.store.reserveConf("z", &z);
+    QCOMPARE(z, 2);
+}
+
+void tst_SharedFile::changeBeforeAReleaseIsSaved()
+{
+    Program one(mPath);
+    one.store.loadLocalConfFile();
+    for (const int value : {8, 9}) { // in one second
+        one.store.set("a", value);
+        one.setTime("a", 1000000);
+        if (value == 8)
+            QVERIFY(one.save());
+    }
+    one.store.releaseConf("a");
+    QVERIFY(one.save());
+    Program two(mPath);
+    two.store.loadLocalConfFile();
+    QCOMPARE(two.a, 9);
+    one.store.reserveConf("a", &one.a);
+    QCOMPARE(one.a, 9);
+    QCOMPARE(one.store.mConfMetas["a"].lastChangeTime, two.store.mConfMetas["a"].lastChangeTime);
+}
+
+void tst_SharedFile::entryThatIsReservedLateIsNotWrittenOverTheFile_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("setting") << QByteArray("late");
+    QTest::newRow("dynamic entry") << QByteArray("late.x");
+}
+
+void tst_SharedFile::entryThatIsReservedLateIsNotWrittenOverTheFile()
+{
+    QFETCH(QByteArray, name);
+    writeFile(mPath, "{\"" + name + R"(":{"t":5,"v":3}})");
+    Program program(mPath);
+    program.store.mFileOptions |= ConfStorage::KeepUnknownEntries;
+    program.store.loadLocalConfFile();
+    writeFile(mPath, "{\"" + name + R"(":{"t":5,"v":4}})"); // in the same second
+    int late = 1;
+    ConfStorage::DynamicConfClass cls = program.list;
+    if (name.contains('.')) {
+        cls.prefix = "late.";
+        program.store.mDynamicConfClasses.append(&cls);
+        program.store.loadPresetDynamicConf();
+        QCOMPARE(*program.entries.at(name), 3);
+    } else {
+        program.store.reserveConf(name, &late);
+        QCOMPARE(late, 3);
+    }
+    program.store.set("b", 10);
+    QVERIFY(program.save());
+    QCOMPARE(program.store.get<int>(name), 4);
+    QCOMPARE(QJsonDocument::fromJson(contentOf(mPath)).object().value(name).toObject(),
+             (QJsonObject{{"t", 5}, {"v", 4}}));
+}
+
+void tst_SharedFile::lockedKeyIsNotWrittenOverTheFile()
+{
+    writeFile(mPath, R"({"a":{"t":5,"v":3}})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    writeFile(mPath, R"({"a":{"t":5,"v":4}})"); // in the same second
+    program.store.lockConf("a", 9);
+    program.store.set("b", 10);
+    QVERIFY(program.save());
+    QVERIFY(contentOf(mPath).startsWith(R"({"a":{"t":5,"v":4})"));
+    QCOMPARE(program.a, 9);
 }
 
 void tst_SharedFile::vanishedEntryIsWrittenAgain()
