@@ -28,7 +28,7 @@ std::pair<int, QByteArray> rankOf(const QJsonValue &entry)
     const ParsedMember member(entry, TimeRange::Long);
     if (member.removalTime())
         return {2, QByteArray()};
-    if (member.value().isUndefined())
+    if (member.value().isUndefined() || member.value().isNull())
         return {0, QByteArray()};
     QByteArray text;
     appendJsonValue(text, member.value());

@@ -189,6 +189,7 @@ void tst_KeptEntries::tiesOfUnknownEntriesAreResolvedWithTheOption_data()
     QTest::newRow("greater text") << value << QByteArray(R"({"a":{"t":100,"v":2}})");
     QTest::newRow("removal") << value << QByteArray(R"({"a":{"d":100}})");
     QTest::newRow("value against default") << QByteArray(R"({"a":{"t":100}})") << value;
+    QTest::newRow("value against null") << QByteArray(R"({"a":{"t":100,"v":null}})") << value;
 }
 
 void tst_KeptEntries::tiesOfUnknownEntriesAreResolvedWithTheOption()

@@ -3,6 +3,7 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <algorithm>
 #include <array>
 #include <random>
 
@@ -129,6 +130,8 @@ private Q_SLOTS:
     void valueThatEqualsThePresetStaysAValue();
     void unboundKeyKeepsItsTie();
     void emptyTextIsNotNull();
+    void everyOrderOfOneSecondHasTheSameResult_data();
+    void everyOrderOfOneSecondHasTheSameResult();
     void randomHistoriesAgreeIfTiesAreResolved();
 };
 
@@ -484,6 +487,90 @@ void tst_MergingTies::emptyTextIsNotNull()
     }
     QCOMPARE(text, QString("a"));
     QCOMPARE(calls, 1);
+}
+
+namespace {
+
+/// A member of a dump.
+using Change100 = std::pair<QString, QJsonValue>;
+
+/// Merges `changes` one after the other, and declares the setting "n" with the former name "old",
+/// the class "Entry." and its preset "Entry.p" after the first `declaredAfter` ones.
+QJsonObject mergedDump(const std::vector<Change100> &changes, size_t declaredAfter)
+{
+    int number = 1;
+    std::map<QString, QJsonObject> entries;
+    ConfStorage store;
+    store.mFileOptions = ConfStorage::ResolveTies | ConfStorage::KeepUnknownEntries
+                         | ConfStorage::NullIsDefault | ConfStorage::StrictTypes;
+    store.mPresetDynamicConfs["Entry.p"] = QJsonObject{{"n", 2}};
+    store.addFormerName("n", "old");
+    ConfStorage::DynamicConfClass cls;
+    cls.prefix = "Entry.";
+    cls.creator = [&](const QString &key, const QJsonValue *value) {
+        QJsonObject &entry = entries[key] = value->toObject();
+        store.reserveConf(key, &entry);
+    };
+    for (size_t i = 0; i <= changes.size(); ++i) {
+        if (i == declaredAfter) {
+            store.reserveConf("n", &number);
+            store.mDynamicConfClasses.append(&cls);
+            store.loadPresetDynamicConf();
+        }
+        if (i < changes.size())
+            store.loadConf({{changes[i].first, changes[i].second}}, ConfStorage::LoadShared);
+    }
+    return store.dumpConf(ConfStorage::DumpShared);
+}
+
+} // namespace
+
+void tst_MergingTies::everyOrderOfOneSecondHasTheSameResult_data()
+{
+    QTest::addColumn<QStringList>("names"); // of the entries
+    QTest::addColumn<bool>("isDynamic");
+    QTest::newRow("setting") << QStringList{"n"} << false;
+    QTest::newRow("setting and its former name") << QStringList{"n", "old"} << false;
+    QTest::newRow("dynamic entry") << QStringList{"Entry.a"} << true;
+    QTest::newRow("preset") << QStringList{"Entry.p"} << true;
+}
+
+void tst_MergingTies::everyOrderOfOneSecondHasTheSameResult()
+{
+    QFETCH(QStringList, names);
+    QFETCH(bool, isDynamic);
+    std::vector<QJsonObject> kinds{{{"t", 100}, {"v", QJsonValue()}}};
+    for (const int value : {2, 3, 10})
+        kinds.push_back(
+            {{"t", 100}, {"v", isDynamic ? QJsonValue(QJsonObject{{"n", value}}) : value}});
+    if (isDynamic)
+        kinds.push_back({{"d", 100}});
+    if (names != QStringList("Entry.a")) // which cannot be restored without a preset
+        kinds.push_back({{"t", 100}});
+    else
+        kinds.erase(kinds.begin());
+    int orders = 0;
+    for (unsigned chosen = 1; chosen < 1U << kinds.size(); ++chosen) {
+        std::vector<Change100> changes;
+        std::vector<int> order;
+        for (size_t kind = 0; kind < kinds.size(); ++kind) {
+            if (!(chosen & (1U << kind)))
+                continue;
+            order.push_back(int(changes.size()));
+            changes.push_back({names.at(int(kind) % int(names.size())), kinds[kind]});
+        }
+        const QJsonObject expected = mergedDump(changes, 0);
+        do {
+            std::vector<Change100> ordered;
+            for (const int index : order)
+                ordered.push_back(changes[size_t(index)]);
+            // Of entries that were kept, the current name wins ties, until dumps are exchanged.
+            const size_t last = names.size() == 1 ? changes.size() : 0;
+            for (size_t declared = 0; declared <= last; ++declared, ++orders)
+                QCOMPARE(mergedDump(ordered, declared), expected);
+        } while (std::next_permutation(order.begin(), order.end()));
+    }
+    QVERIFY(orders > 100);
 }
 
 void tst_MergingTies::randomHistoriesAgreeIfTiesAreResolved()
