@@ -84,7 +84,7 @@ void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool 
     ++(isKnown ? mReport.taken : mReport.unknown);
     if (isKnown && isTimed)
         meta->lastChangeTime = incoming;
-    if (isPresent && isDefault)
+    if (isPresent && isDefault && isTimed)
         ConfObservers::finishChange(mStore, change); // only the timestamp has changed
 }
 

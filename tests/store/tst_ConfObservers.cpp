@@ -202,6 +202,13 @@ void tst_ConfObservers::operationsWithoutEffectAreNoEvents_data()
     QTest::newRow("load an unknown key") << Act([](ConfStorage &store) {
         store.loadConf(QJsonObject{{"x", QJsonObject{{"t", 1}, {"v", 1}}}}, ConfStorage::LoadLocal);
     });
+    QTest::newRow("load the default of a dynamic key that has it") << Act([](ConfStorage &store) {
+        static int sEntry = 0;
+        store.reserveConf("list.a", &sEntry);
+        store.mConfMetas["list.a"].flags |= ConfStorage::FlagIsDefault;
+        store.loadConf(QJsonObject{{"list.a", QJsonObject()}}, ConfStorage::LoadLocal);
+        store.mConfValues.remove("list.a");
+    });
     QTest::newRow("set an unknown key from JSON")
         << Act([](ConfStorage &store) { store.loadValueFromJson("x", 1); });
     QTest::newRow("release") << Act([](ConfStorage &store) { store.releaseConf("size"); });
