@@ -2,6 +2,7 @@
 
 #include "ConfFileSharing_p.h"
 #include "ConfObservers_p.h"
+#include "ConfVersions_p.h"
 #include "EntryLog_p.h"
 #include "LockedConfs_p.h"
 #include "StrictTypes_p.h"
@@ -16,10 +17,12 @@ bool ConfStorage::isLocked(const QString &key) const
 void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
 {
     const QString name = key; // which may refer to one of the maps
+    QJsonValue fixed = mVersions ? mVersions->convert(name, value) : value;
+    if (fixed.isUndefined())
+        fixed = QJsonValue();
     const auto stored = mConfValues.constFind(name);
     if (stored == mConfValues.constEnd())
         return;
-    QJsonValue fixed = value.isUndefined() ? QJsonValue() : value;
     if (mFileOptions & StrictTypes) {
         const auto fitting = strictJson(fixed, stored->mType);
         if (!fitting) {

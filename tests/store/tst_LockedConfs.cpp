@@ -88,6 +88,7 @@ private Q_SLOTS:
     void secondLockReplacesTheFixedValueOnly();
     void nullLocksTheDefaultValue();
     void valueOfAnotherTypeIsNotLocked();
+    void lockedValueMayHaveAnOlderForm();
     void lockedKeyIsDefaultIfItsFixedValueIs();
     void clearForgetsTheLock();
     void keyThatIsReservedAgainIsStillLocked();
@@ -314,6 +315,18 @@ void tst_LockedConfs::valueOfAnotherTypeIsNotLocked()
     QCOMPARE(host.number, 5);
     QCOMPARE(log.texts(QtWarningMsg),
              QStringList("ConfStorage::loadConf() value of another type refused:  \"n\""));
+}
+
+void tst_LockedConfs::lockedValueMayHaveAnOlderForm()
+{
+    const LogCapture log;
+    Host host(ConfStorage::StrictTypes);
+    host.store.setConfConverter("n", [](const QJsonValue &value) {
+        return value.isString() ? QJsonValue(value.toString().toInt()) : value;
+    });
+    host.store.lockConf("n", "9");
+    QVERIFY(host.store.isLocked("n"));
+    QCOMPARE(host.number, 9);
 }
 
 void tst_LockedConfs::lockedKeyIsDefaultIfItsFixedValueIs()
