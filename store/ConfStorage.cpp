@@ -140,7 +140,8 @@ void ConfStorage::restorePreset(const QString &key, const QDateTime &time)
     const bool isCreated = createDynamic(name, value, nullptr);
     const auto meta = mConfMetas.find(name);
     if (meta != mConfMetas.end()) {
-        meta->flags |= FlagIsDefault;
+        if (!isLocked(name))
+            meta->flags |= FlagIsDefault;
         if (isCreated || time.isNull())
             meta->lastChangeTime = time;
     }

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void valueOfAnotherTypeIsNotLocked();
     void lockedValueMayHaveAnOlderForm();
     void lockedKeyIsDefaultIfItsFixedValueIs();
+    void lockedPresetThatIsCreatedAgainIsNoDefault();
     void clearForgetsTheLock();
     void keyThatIsReservedAgainIsStillLocked();
     void releasedKeyKeepsTheValueOfTheUser();
@@ -327,6 +328,19 @@ void tst_LockedConfs::lockedValueMayHaveAnOlderForm()
     host.store.lockConf("n", "9");
     QVERIFY(host.store.isLocked("n"));
     QCOMPARE(host.number, 9);
+}
+
+void tst_LockedConfs::lockedPresetThatIsCreatedAgainIsNoDefault()
+{
+    Host host;
+    host.store.mPresetDynamicConfs["Entry.p"] = QJsonObject{{"n", 2}};
+    host.store.loadPresetDynamicConf();
+    host.store.lockConf("Entry.p", QJsonObject{{"n", 9}});
+    host.store.releaseConf("Entry.p");
+    host.store.loadPresetDynamicConf();
+    QCOMPARE(host.item, (QJsonObject{{"n", 9}}));
+    QVERIFY(!host.store.isEqualToDefault("Entry.p"));
+    QVERIFY(host.dumped("Entry.p").isUndefined());
 }
 
 void tst_LockedConfs::lockedKeyIsDefaultIfItsFixedValueIs()
