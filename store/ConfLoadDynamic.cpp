@@ -39,21 +39,29 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
         return true;
     }
     const QJsonValue value = newValue(member);
+    const bool exists = mStore.mConfValues.contains(key);
     if (value.isUndefined()) {
-        mergeDefault(key, incoming, time.has_value());
+        if (mKeepsUnknown && !exists && !mStore.mPresetDynamicConfs.contains(key))
+            keepDynamic(key, member.entry(), cls->flags); // of a version that has a preset
+        else
+            mergeDefault(key, incoming, time.has_value());
         return true;
     }
-    const bool exists = mStore.mConfValues.contains(key);
     if (!exists && (isBeyondLimits(key) || (!mIsSavable && isRefused(key, value))))
         return true;
     mStore.mRemovedDynamicConfs.remove(key);
     if (exists)
         return false;
+    const QJsonValue entry = mKeepsUnknown ? member.entry() : QJsonValue();
+    const quint32 flags = cls->flags;
     const auto change = ConfObservers::beginChange(mStore, key, ConfChange::Cause::Created);
     const bool isCreated = mStore.createDynamic(key, value, cls);
     const auto meta = mStore.mConfMetas.find(key);
     if (meta != mStore.mConfMetas.end()) {
-        ++mReport.taken;
+        if (mKeepsUnknown && isCreated && !mStore.mConfValues.contains(key))
+            keepDynamic(key, entry, flags); // the creator does not accept it
+        else
+            ++mReport.taken;
         meta->lastChangeTime = incoming;
         // A value that equals the preset stays a value, as it is in the other copy.
         if (mResolvesTies)
@@ -66,6 +74,15 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
     if (isCreated)
         ConfObservers::finishChange(mStore, change);
     return true;
+}
+
+/// Keeps an entry that creates nothing. `flags` are those of its class.
+void ConfLoad::keepDynamic(const QString &key, const QJsonValue &entry, quint32 flags)
+{
+    ++mReport.unknown;
+    const bool isMarked = flags & ConfStorage::FlagSystemIndependent;
+    if (!mIsKept)
+        keep(isMarked ? addSysMark(key) : key, mUnconverted ? *mUnconverted : entry);
 }
 
 void ConfLoad::mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed)

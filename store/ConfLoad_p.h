@@ -114,6 +114,7 @@ private:
     void applyValue(const QString &key, const QJsonValue &value,
                     QMap<QString, ConfValue>::iterator stored,
                     QMap<QString, ConfStorage::ConfMeta>::iterator meta);
+    void keepDynamic(const QString &key, const QJsonValue &entry, quint32 flags);
     void mergeDefault(const QString &key, const QDateTime &incoming, bool isTimed);
     void mergeRemoval(const QString &key, const QDateTime &incoming);
 

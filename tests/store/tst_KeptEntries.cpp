@@ -86,6 +86,9 @@ private Q_SLOTS:
     void classThatIsDeclaredLaterGetsItsEntries();
     void createdKeyIsNotOverwrittenByItsKeptEntry();
     void entriesThatTheCreatorDoesNotAcceptAreKept();
+    void entriesThatCreateNothingAreKept_data();
+    void entriesThatCreateNothingAreKept();
+    void keptDefaultIsThatOfALaterPreset();
     void futureTimestampOfAnUnknownKeyIsRefusedByASharedLoad();
     void dumpsCannotAddMoreThanHalfOfTheFile();
     void keysOfDumpsAreLimited();
@@ -549,6 +552,71 @@ void tst_KeptEntries::entriesThatTheCreatorDoesNotAcceptAreKept()
     host.store.loadPresetDynamicConf();
     QCOMPARE(host.save(), text);
     host.store.loadLocalConfFile();
+    QCOMPARE(host.save(), text);
+}
+
+void tst_KeptEntries::entriesThatCreateNothingAreKept_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<quint32>("flags");
+    QTest::newRow("not accepted by the creator")
+        << QByteArray("Entry.1") << QByteArray(R"({"t":100,"v":{"kind":"new"}})") << 0U;
+    QTest::newRow("not accepted, of this system")
+        << QByteArray("Entry.1#s.mac") << QByteArray(R"({"t":100,"v":{"kind":"new"}})")
+        << quint32(ConfStorage::FlagSystemIndependent);
+    QTest::newRow("default without a preset")
+        << QByteArray("Entry.1") << QByteArray(R"({"t":100})") << 0U;
+}
+
+void tst_KeptEntries::entriesThatCreateNothingAreKept()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, entry);
+    QFETCH(quint32, flags);
+    const QByteArray text = "{\"" + name + "\":" + entry + '}';
+    write(text);
+    for (int start = 0; start < 2; ++start) {
+        const LogCapture log;
+        Host host;
+        Entries entries(&host.store);
+        entries.cls.flags = flags;
+        const auto creator = entries.cls.creator;
+        entries.cls.creator = [&](const QString &key, const QJsonValue *value) {
+            if (value->toObject().value("kind") != QLatin1String("new"))
+                creator(key, value);
+        };
+        host.store.loadLocalConfFile();
+        QVERIFY(log.texts(QtCriticalMsg).isEmpty());
+        QCOMPARE(host.save(), text);
+        host.store.loadLocalConfFile();
+        QCOMPARE(host.save(), text);
+    }
+    Host host;
+    Entries entries(&host.store);
+    entries.cls.flags = flags;
+    entries.cls.creator = nullptr;
+    host.store.loadLocalConfFile();
+    Entries later(&host.store);
+    host.store.mDynamicConfClasses = {&later.cls};
+    later.cls.flags = flags;
+    const QByteArray newer = "{\"" + name + R"(":{"t":101,"v":{"n":1}}})";
+    host.load(newer);
+    QCOMPARE(later.values["Entry.1"], (QJsonObject{{"n", 1}}));
+    QCOMPARE(host.save(), newer);
+}
+
+void tst_KeptEntries::keptDefaultIsThatOfALaterPreset()
+{
+    const QByteArray text = R"({"Entry.1":{"t":100}})";
+    write(text);
+    Host host;
+    Entries entries(&host.store);
+    host.store.loadLocalConfFile();
+    host.store.mPresetDynamicConfs["Entry.1"] = QJsonObject{{"n", 2}};
+    host.store.loadPresetDynamicConf();
+    QCOMPARE(entries.values["Entry.1"], (QJsonObject{{"n", 2}}));
+    QCOMPARE(host.time("Entry.1"), qint64(100));
     QCOMPARE(host.save(), text);
 }
 
