@@ -3,6 +3,7 @@
 // text.
 #include "ByteReader.h"
 #include "FuzzTarget.h"
+#include "support/FileText.h"
 
 #include "MaltoConfiguration/store/SafeFile_p.h"
 
@@ -13,12 +14,6 @@
 namespace {
 
 const QByteArray sOldText = "{\"a\":{\"t\":1}}";
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// Returns the journal of a save from `oldText` to `newText`.
 QByteArray journalOf(const QByteArray &oldText, const QByteArray &newText)
@@ -72,9 +67,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
            "a load returns the text of the file or of the journal", loaded.text, newText);
     using Recovery = SafeFile::Recovery;
     if (loaded.recovery == Recovery::JournalUnreadable)
-        expect(contentOf(journalPath) == journal, "a journal that was not read is kept");
+        expect(fileText(journalPath) == journal, "a journal that was not read is kept");
     if (!loaded.isComplete())
-        expect(contentOf(path) == text, "a file that was not read is kept");
+        expect(fileText(path) == text, "a file that was not read is kept");
     const bool isFound = isWhole && !isShortRead && !(hasOtherName && text.endsWith('}'));
     const bool isOther = text != sOldText && QJsonDocument::fromJson(text).isObject();
     if (isFound && !isOther && (isOfOldText || text != sOldText) && !text.trimmed().endsWith('}'))

@@ -3,8 +3,8 @@
 // byte that of the next save. Without one nobody changes the file.
 #include "FuzzTarget.h"
 #include "StoreHost.h"
+#include "support/FileText.h"
 
-#include <QFile>
 #include <QJsonDocument>
 
 namespace {
@@ -21,12 +21,6 @@ StoreDeclarations declarations()
     all.families.push_back({"m.", ConfStorage::FlagSystemIndependent, true});
     all.presets.insert("p.preset", QJsonObject{{"n", 1}});
     return all;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QByteArray jsonText(const QJsonValue &value)
@@ -78,6 +72,26 @@ double timeOf(const QJsonValue &entry)
     return object.value(object.contains("d") ? "d" : "t").toDouble(-1);
 }
 
+/// Returns `value` as files have it: Qt 6 can also hold whole numbers that no double has.
+QJsonValue withDoubles(const QJsonValue &value)
+{
+    if (value.isDouble())
+        return value.toDouble();
+    if (value.isArray()) {
+        QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i)
+            array.replace(i, withDoubles(array.at(i)));
+        return array;
+    }
+    if (value.isObject()) {
+        QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it)
+            it.value() = withDoubles(it.value());
+        return object;
+    }
+    return value;
+}
+
 /// Returns the entry of this program for the member `name` in its local file.
 QJsonValue entryOf(const StoreHost &host, const QString &name)
 {
@@ -89,7 +103,8 @@ bool isNewerKept(const StoreHost &host, const QString &name, const QJsonValue &s
                  const QJsonValue &theirs)
 {
     return (host.store.mFileOptions & ConfStorage::KeepUnknownEntries)
-           && timeOf(saved) > timeOf(theirs) && saved == entryOf(host, name);
+           && timeOf(saved) > timeOf(theirs)
+           && withDoubles(saved) == withDoubles(entryOf(host, name));
 }
 
 } // namespace
@@ -118,7 +133,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         host.store.mFileOptions |= ConfStorage::LongTimes | ConfStorage::NullIsDefault;
     writeScratchFile(sPath, loaded);
     host.store.loadLocalConfFile();
-    expect(contentOf(sPath) == loaded, "a load does not change the file");
+    expect(fileText(sPath) == loaded, "a load does not change the file");
 
     const QStringList names = change(host, choices);
     QJsonObject ours;
@@ -128,7 +143,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     host.store.mChanged = true;
     host.store.saveToLocalConfFile();
     expect(!host.store.mChanged, "the save is acknowledged");
-    const QByteArray content = contentOf(sPath);
+    const QByteArray content = fileText(sPath);
     const QJsonDocument document = QJsonDocument::fromJson(content);
     expect(document.isObject(), "the file is an object", content);
     const QJsonObject saved = document.object();
@@ -150,8 +165,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     other.store.mLocalSaveFile = sPath;
     other.store.mFileOptions = host.store.mFileOptions;
     other.store.loadLocalConfFile();
-    expect(!other.store.mChanged && contentOf(sPath) == content,
-           "another program only reads the file", contentOf(sPath), content);
+    expect(!other.store.mChanged && fileText(sPath) == content,
+           "another program only reads the file", fileText(sPath), content);
     const double latest = choices & 64 ? 9007199254740991.0 : 2147483647.0;
     for (const QString &name : names) {
         const QJsonValue entry = entryOf(other, name);
