@@ -112,8 +112,9 @@ ConfFileSharing::~ConfFileSharing()
 
 void ConfFileSharing::observe(const ConfChange &change)
 {
-    // A callback of a change that is loaded from the file may load something else.
-    const bool isFromFile = mMergeDepth == mStore.mCallbackDepth
+    // Host code that a load of the file calls may load something else.
+    constexpr int sObserver = 1; // which this is
+    const bool isFromFile = mMergeDepth + sObserver == mObservers->hostDepth()
                             && change.cause == ConfChange::Cause::Loaded;
     const bool isSaved = change.time.isValid(); // a preset that was never changed is not
     if (isFromFile || !isSaved)
@@ -158,7 +159,7 @@ ConfFileSharing::UnchangedEntry::UnchangedEntry(const std::shared_ptr<ConfFileSh
         return;
     const bool isTouched = mSharing->mTouched.contains(keyOf(name));
     mOuterDepth = std::exchange(mSharing->mMergeDepth,
-                                isTouched ? -1 : mSharing->mStore.mCallbackDepth);
+                                isTouched ? -1 : mSharing->mObservers->hostDepth());
 }
 
 ConfFileSharing::UnchangedEntry::~UnchangedEntry()
@@ -356,7 +357,7 @@ bool ConfFileSharing::write(LocalFile *file)
 void ConfFileSharing::load()
 {
     loadFile();
-    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    const QScopedValueRollback<int> depth(mMergeDepth, mObservers->hostDepth());
     mStore.loadPresetDynamicConf();
 }
 
@@ -393,7 +394,7 @@ void ConfFileSharing::loadFile()
 /// Loads the text without comparing it with a previous one.
 void ConfFileSharing::loadWhole()
 {
-    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    const QScopedValueRollback<int> depth(mMergeDepth, mObservers->hostDepth());
     ConfLoad(mStore, ConfStorage::LoadLocal).loadFile(mPath, mText);
 }
 
@@ -423,7 +424,7 @@ void ConfFileSharing::update()
 
 void ConfFileSharing::loadForeign()
 {
-    const QScopedValueRollback<int> depth(mMergeDepth, mStore.mCallbackDepth);
+    const QScopedValueRollback<int> depth(mMergeDepth, mObservers->hostDepth());
     ConfLoad load(mStore, ConfStorage::LoadLocal, ConfLoad::Merge::Replace);
     load.setFile(mPath);
     // A callback may read the file again, and so change the map.

@@ -87,7 +87,7 @@ private:
     std::shared_ptr<ConfObservers> mObservers;
     int mObserver = 0;
     bool mNeedsRepair = false; // the file was damaged
-    int mMergeDepth = -1;      // of callbacks while entries of the file are loaded; -1: none are
+    int mMergeDepth = -1;      // of host code while entries of the file are loaded; -1: none are
 
     QString mPath;                        // of the file that the following belongs to
     bool mIsRead = false;                 // even if the file did not exist

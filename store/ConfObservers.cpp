@@ -90,7 +90,14 @@ void ConfObservers::begin(std::optional<ConfChange::Cause> cause)
 
 void ConfObservers::beginHostCode()
 {
+    ++mHostDepth;
     mCauses.append(std::nullopt);
+}
+
+void ConfObservers::endHostCode()
+{
+    end();
+    --mHostDepth;
 }
 
 void ConfObservers::end()
@@ -146,7 +153,7 @@ ConfObservers::HostCode::HostCode(const std::shared_ptr<ConfObservers> &observer
 ConfObservers::HostCode::~HostCode()
 {
     if (mObservers)
-        mObservers->end();
+        mObservers->endHostCode();
 }
 
 ConfOperation::ConfOperation(ConfStorage *store) : mObservers(store->mObservers)

@@ -30,6 +30,8 @@ public:
     {
         return store.mObservers ? newChange(store, key, cause) : nullptr;
     }
+    /// Returns how many calls of host code are nested now. An observer is one of them.
+    int hostDepth() const { return mHostDepth; }
     /// Returns whether a load is running. False if nobody observes `store`.
     static bool isLoading(const ConfStorage &store);
     /// Calls the observers with `change`, which is complete now. Does nothing if it is null.
@@ -56,6 +58,7 @@ private:
     };
 
     void beginHostCode();
+    void endHostCode();
     static std::shared_ptr<ConfChange> newChange(const ConfStorage &store, const QString &key,
                                                  ConfChange::Cause cause);
     const Entry *find(int id) const;
@@ -65,6 +68,7 @@ private:
     QVector<Entry> mObservers;
     int mLastId = 0;
     int mNotifyDepth = 0;
+    int mHostDepth = 0;
     bool mIsStopped = false;
     quint64 mLastOperation = 0;
     QVector<std::optional<ConfChange::Cause>> mCauses; // of the running operations; null: any

@@ -13,6 +13,7 @@
 
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -103,6 +104,8 @@ private Q_SLOTS:
     void observerMayRemoveKeysWhoseTimestampsChange();
     void callbacksRunWithoutTheLock();
     void changesOfCallbacksAreSavedNext();
+    void changesThatHostCodeImportsDuringALoadAreSaved_data();
+    void changesThatHostCodeImportsDuringALoadAreSaved();
     void importedChangesAreSaved();
     void changesImportedBeforeTheFirstLoadAreSaved();
     void changesBeforeTheLoadAreKept();
@@ -418,6 +421,49 @@ void tst_SharedFile::changesOfCallbacksAreSavedNext()
     QVERIFY(two.save());
     one.store.loadLocalConfFile();
     QCOMPARE(one.b, 11);
+}
+
+void tst_SharedFile::changesThatHostCodeImportsDuringALoadAreSaved_data()
+{
+    QTest::addColumn<QString>("caller");
+    for (const char *caller : {"callback", "observer", "creator", "remover"})
+        QTest::newRow(caller) << QString(caller);
+}
+
+void tst_SharedFile::changesThatHostCodeImportsDuringALoadAreSaved()
+{
+    QFETCH(QString, caller);
+    writeFile(mPath, R"({"a":{"t":5,"v":3},"b":{"t":5,"v":4},"list.x":{"t":5,"v":5}})");
+    Program program(mPath);
+    program.store.loadLocalConfFile();
+    writeFile(mPath, R"({"a":{"t":6,"v":4},"b":{"t":5,"v":4},"list.x":{"d":6},)"
+                     R"("list.y":{"t":6,"v":5}})");
+    bool isImported = false;
+    const auto import = [&] {
+        if (!std::exchange(isImported, true))
+            program.store.loadConf({{"b", QJsonObject{{"t", 7}, {"v", 10}}}},
+                                   ConfStorage::LoadShared);
+    };
+    if (caller == "callback")
+        program.store.setConfChangedCallback("a",
+                                             [&](const QString &, const ConfValue *) { import(); });
+    if (caller == "observer")
+        program.store.addObserver([&](const ConfChange &) { import(); });
+    const auto creator = program.list.creator;
+    program.list.creator = [&](const QString &key, const QJsonValue *value) {
+        creator(key, value);
+        if (caller == "creator")
+            import();
+    };
+    program.list.remover = [&](const QString &) {
+        if (caller == "remover")
+            import();
+    };
+    program.store.loadLocalConfFile();
+    QVERIFY(isImported);
+    QVERIFY(program.store.mChanged);
+    QVERIFY(program.save());
+    QVERIFY(contentOf(mPath).contains(R"("b":{"t":7,"v":10})"));
 }
 
 void tst_SharedFile::importedChangesAreSaved()
