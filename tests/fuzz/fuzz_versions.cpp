@@ -104,13 +104,14 @@ bool isRepeatable(const QJsonObject &file)
     return true;
 }
 
-/// Returns whether the file has a change without a time that counts. Its value is loaded, but only
-/// saved as long as its key is unknown.
+/// Returns whether the file has an entry without a time that counts: the next version that knows
+/// its key changes it.
 bool hasUntimed(const QJsonObject &file)
 {
-    return std::any_of(file.begin(), file.end(), [](const QJsonValue &entry) {
-        const double time = entry.toObject().value("t").toDouble(1);
-        return time < 1 || time > 9007199254740991.0; // of LongTimes
+    return std::any_of(file.begin(), file.end(), [](const QJsonValue &value) {
+        const QJsonObject entry = value.toObject();
+        const double time = entry.value("t").toDouble();
+        return !entry.contains("d") && (time < 1 || time > 9007199254740991.0); // of LongTimes
     });
 }
 
