@@ -4,6 +4,7 @@
 #include "PosixFile_p.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QThread>
 
@@ -19,6 +20,10 @@ FileLock::FileLock(const QString &path)
 
 FileLock::Result FileLock::lock()
 {
+    // QLockFile would read a pipe, and so wait for another program to write it.
+    const QFileInfo file(mPath);
+    if (file.exists() && !file.isFile())
+        return Result::NotPermitted;
     // Not QLockFile's own waiting, whose pauses grow to seconds.
     constexpr int sLongestPause = 15; // milliseconds; longer than a save with a solid-state drive
     QElapsedTimer timer;
