@@ -227,9 +227,8 @@ bool ConfFileSharing::collectForeign(const Members &known)
 }
 
 /// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
-QByteArray ConfFileSharing::merged(const QSet<QString> &touched)
+QByteArray ConfFileSharing::merged(const ConfDump &dump, const QSet<QString> &touched)
 {
-    const ConfDump dump(mStore, ConfStorage::DumpLocal);
     const std::vector<NamedText> theirs = sortedByName(*mMembers);
     NamesInOrder touchedNames(touched);
     QByteArray text;
@@ -303,10 +302,11 @@ void ConfFileSharing::stamp(const QString &key, qint64 seconds)
 {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
     const auto meta = mStore.mConfMetas.find(key);
+    const auto removed = mStore.mRemovedDynamicConfs.find(key);
     if (meta != mStore.mConfMetas.end())
         meta->lastChangeTime = time;
-    else
-        mStore.mRemovedDynamicConfs[key] = time;
+    else if (removed != mStore.mRemovedDynamicConfs.end())
+        *removed = time;
 }
 
 bool ConfFileSharing::save()
@@ -340,17 +340,21 @@ bool ConfFileSharing::save()
 
 bool ConfFileSharing::write(LocalFile *file)
 {
-    // Messages may call a log handler of the host, which may change the store.
-    const QSet<QString> touched = std::exchange(mTouched, {});
-    const QByteArray text = merged(touched);
+    // Messages may call a log handler of the host, which may change the store and its file.
+    const QString path = mPath;
+    QSet<QString> touched = std::exchange(mTouched, {});
+    const ConfDump dump(mStore, ConfStorage::DumpLocal);
+    if (!mIsRead || mPath != path)
+        return false;
+    const QByteArray text = merged(dump, touched);
     if (text == file->content() || file->write([&text] { return text; })) {
         setText(text, true);
         mNeedsRepair = false;
         return true;
     }
-    mTouched.unite(touched);
     for (auto it = mForeign.cbegin(); it != mForeign.cend(); ++it)
-        mTouched.remove(keyOf(it.key())); // yielded
+        touched.remove(keyOf(it.key())); // yielded
+    mTouched.unite(touched);
     return false;
 }
 

@@ -74,7 +74,7 @@ private:
     void findMembers();
     bool write(LocalFile *file);
     bool collectForeign(const Members &known);
-    QByteArray merged(const QSet<QString> &touched);
+    QByteArray merged(const ConfDump &dump, const QSet<QString> &touched);
     QByteArray winner(const ConfDump &dump, size_t index, std::string_view theirs);
     QByteArray keptWinner(const ConfDump &dump, size_t index, std::string_view theirs) const;
     static bool yields(qint64 ourTime, qint64 theirTime);

@@ -55,6 +55,32 @@ bool writeTo(const QString &path, const QByteArray &text)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
+/// Calls a function once, for the message about a removed key without a class, which the store logs
+/// while it composes the text of a save.
+class DuringASave
+{
+public:
+    explicit DuringASave(Action action)
+    {
+        sAction = std::move(action);
+        mPrevious = qInstallMessageHandler(&DuringASave::handle);
+    }
+    ~DuringASave() { qInstallMessageHandler(mPrevious); }
+    Q_DISABLE_COPY(DuringASave)
+
+    static bool isDone() { return !sAction; }
+
+private:
+    static void handle(QtMsgType, const QMessageLogContext &, const QString &text)
+    {
+        if (sAction && text.contains(QLatin1String("findDynamicConfClass error")))
+            std::exchange(sAction, nullptr)();
+    }
+
+    static inline Action sAction;
+    QtMessageHandler mPrevious;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -78,6 +104,8 @@ private Q_SLOTS:
     void fileThatIsReplacedIsMerged();
     void pathThatChangesBeforeASaveMergesBothFiles();
     void pipeInPlaceOfTheLockIsNotRead();
+    void logHandlerMayChangeThePathDuringASave();
+    void logHandlerMayClearTheStoreDuringASave();
 };
 
 void tst_SharedFilePaths::fileThatCannotBeWrittenKeepsTheChangePending_data()
@@ -182,6 +210,44 @@ void tst_SharedFilePaths::pipeInPlaceOfTheLockIsNotRead()
     const QString message = "ConfStorage::saveToLocalConfFile() lock file could not be created: ";
     QVERIFY(log.texts(QtCriticalMsg).value(0).startsWith(message));
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
+}
+
+void tst_SharedFilePaths::logHandlerMayChangeThePathDuringASave()
+{
+    write(R"({"a":{"t":100,"v":10},"z":{"t":100,"v":0}})");
+    QVERIFY(writeTo(sOther, R"({"a":{"t":50,"v":11},"y":{"t":100,"v":0}})"));
+    Program program;
+    program.store.loadLocalConfFile();
+    program.store.mRemovedDynamicConfs["removed"] = second(100);
+    program.store.set("b", 20);
+    const DuringASave change([&] {
+        program.store.mLocalSaveFile = sOther;
+        program.store.saveToLocalConfFile();
+    });
+    program.store.saveToLocalConfFile();
+    QVERIFY(change.isDone());
+    QCOMPARE(entriesOf(sPath).keys().mid(0, 1), QStringList("a"));
+    QVERIFY(entriesOf(sPath).contains("z"));
+    QVERIFY(!entriesOf(sPath).contains("y"));
+    QVERIFY(program.save());
+    QCOMPARE(entriesOf(sOther).value("b").toObject().value("v").toInt(), 20);
+    QVERIFY(entriesOf(sOther).contains("y"));
+}
+
+void tst_SharedFilePaths::logHandlerMayClearTheStoreDuringASave()
+{
+    write(R"({"a":{"t":100,"v":10}})");
+    Program program;
+    program.store.loadLocalConfFile();
+    program.store.mRemovedDynamicConfs["removed"] = second(100);
+    program.store.set("a", 11);
+    program.store.mConfMetas["a"].lastChangeTime = second(100);
+    const DuringASave clear([&] { program.store.clear(); });
+    program.store.saveToLocalConfFile();
+    QVERIFY(clear.isDone());
+    QVERIFY(program.store.mConfMetas.isEmpty());
+    QVERIFY(program.store.mRemovedDynamicConfs.isEmpty());
+    QCOMPARE(entriesOf(sPath).value("a").toObject(), entry(101, 11));
 }
 
 int main(int argc, char **argv)
