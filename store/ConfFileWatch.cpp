@@ -63,8 +63,8 @@ void ConfFileWatch::start()
     poll->start(sPollInterval);
     if (mPath.isEmpty())
         return;
-    addPaths();
     mDelay->start(); // the file may have changed before it was watched
+    addPaths();
 }
 
 void ConfFileWatch::watch(const QString &path, const QByteArray &content)
@@ -78,9 +78,9 @@ void ConfFileWatch::watch(const QString &path, const QByteArray &content)
     }
     if (!mWatcher)
         return;
-    addPaths();
     if (isNew)
         mDelay->start();
+    addPaths();
 }
 
 void ConfFileWatch::note(const QByteArray &content)
@@ -107,6 +107,7 @@ ConfFileWatch::Status ConfFileWatch::statusOf(const QString &path)
 }
 
 /// Watches the file, its folder and that of a link to it. Does nothing for what is watched already.
+/// Qt logs a warning if that fails, and a log handler may destroy this object.
 void ConfFileWatch::addPaths()
 {
     const QFileInfo file(mPath);
@@ -116,6 +117,7 @@ void ConfFileWatch::addPaths()
     QStringList paths{file.absolutePath()};
     if (!mTarget.isEmpty())
         paths << mTarget << QFileInfo(mTarget).path();
+    const QPointer<QObject> context(mContext.get());
     QStringList watched = mWatcher->files() + mWatcher->directories();
     for (const QString &path : std::as_const(watched)) {
         if (!paths.contains(path))
@@ -125,7 +127,10 @@ void ConfFileWatch::addPaths()
         if (watched.contains(path) || mRefused.contains(path) || !QFileInfo::exists(path))
             continue;
         watched.append(path);
-        if (!mWatcher->addPath(path))
+        const bool isWatched = mWatcher->addPath(path);
+        if (!context)
+            return;
+        if (!isWatched)
             mRefused.append(path);
     }
 }
@@ -138,8 +143,9 @@ void ConfFileWatch::check()
         mWatcher->removePath(mTarget); // the watch belongs to the file that was replaced
     const bool isChanged = std::exchange(mIsChanged, false) || status != mStatus;
     mStatus = status;
+    const QPointer<QObject> context(mContext.get());
     addPaths();
-    if (!isChanged)
+    if (!isChanged || !context)
         return;
     const std::function<void()> handleChange = mHandleChange; // which may destroy this object
     handleChange();

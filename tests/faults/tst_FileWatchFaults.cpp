@@ -81,6 +81,7 @@ private Q_SLOTS:
 
     void changeIsFoundWithoutTheSystem_data();
     void changeIsFoundWithoutTheSystem();
+    void storeMayBeClearedByALogHandler();
     void statusThatCannotBeReadChangesNothing_data();
     void statusThatCannotBeReadChangesNothing();
     void fileThatCannotBeReadChangesNothing_data();
@@ -113,6 +114,24 @@ void tst_FileWatchFaults::changeIsFoundWithoutTheSystem()
     }
     QVERIFY(sInit.made > 0);
     QVERIFY2(log.messages().size() <= 3, qPrintable(log.texts(QtWarningMsg).join('\n')));
+}
+
+void tst_FileWatchFaults::storeMayBeClearedByALogHandler()
+{
+    sAddWatch = {ENOSPC, sAlways, 0};
+    SavedSettings settings(sOptions);
+    static ConfStorage *sStore = nullptr;
+    sStore = &settings.store;
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) {
+            if (sStore)
+                std::exchange(sStore, nullptr)->clear();
+        });
+    settings.store.loadLocalConfFile();
+    qInstallMessageHandler(previous);
+    QVERIFY(!sStore);
+    QVERIFY(settings.store.mConfValues.isEmpty());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void tst_FileWatchFaults::statusThatCannotBeReadChangesNothing_data()
