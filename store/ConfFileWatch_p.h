@@ -32,6 +32,9 @@ public:
     /// Watches the file `path`, which may be a link, and notes `content` as its current content.
     void watch(const QString &path, const QByteArray &content);
 
+    /// The path of the last call of `watch`.
+    QString path() const { return mPath; }
+
     /// Notes `content` as the current content of the file.
     void note(const QByteArray &content);
 

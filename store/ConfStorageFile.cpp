@@ -89,6 +89,8 @@ void ConfStorage::watchFile(const QByteArray &content)
 void ConfStorage::reloadChangedFile()
 {
     const EntryLog log;
+    if (mFileWatch->path() != mLocalSaveFile)
+        return; // the host will load another file
     if (mFileOptions & SharedFile) {
         updateSharedFile();
         return;

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void watchMayBeSwitchedOffInACallback();
     void storeMayBeDestroyedBeforeTheChangeIsHandled();
     void otherFileIsWatchedAfterItWasLoaded();
+    void otherFileIsNotLoadedWhenTheWatchedOneChanges();
     void storesThatShareAFileFollowEachOther();
 };
 
@@ -271,15 +272,17 @@ void tst_FileWatch::olderEntryIsNotTaken()
 void tst_FileWatch::unfinishedFileIsIgnored_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("cut") << textOf(2).left(12);
+    QTest::addColumn<quint32>("option");
+    QTest::newRow("empty") << QByteArray() << 0U;
+    QTest::newRow("cut") << textOf(2).left(12) << 0U;
 }
 
 void tst_FileWatch::unfinishedFileIsIgnored()
 {
     QFETCH(QByteArray, text);
+    QFETCH(quint32, option);
     const LogCapture log;
-    Host host(ConfStorage::WatchFile | ConfStorage::KeepDamagedFiles);
+    Host host(ConfStorage::WatchFile | ConfStorage::KeepDamagedFiles | option);
     Host other;
     other.store.mLocalSaveFile = "box/other.json";
     other.store.loadLocalConfFile();
@@ -384,6 +387,19 @@ void tst_FileWatch::otherFileIsWatchedAfterItWasLoaded()
     QCOMPARE(host.size, 2);
     QVERIFY(write(textOf(3), "box/other.json"));
     QTRY_COMPARE(host.size, 3);
+}
+
+void tst_FileWatch::otherFileIsNotLoadedWhenTheWatchedOneChanges()
+{
+    QVERIFY(write(textOf(5), "box/other.json"));
+    Host host;
+    QVERIFY(host.settle());
+    host.store.mLocalSaveFile = "box/other.json"; // which the host will load later
+    Host other;
+    QVERIFY(other.settle());
+    QVERIFY(write(textOf(3)));
+    QTRY_COMPARE(other.size, 3); // so the change is handled in the other store, too
+    QCOMPARE(host.size, 1);
 }
 
 void tst_FileWatch::storesThatShareAFileFollowEachOther()
