@@ -4,6 +4,7 @@
 #include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
+#include "DamagedFile_p.h"
 #include "DumpMember_p.h"
 #include "FileLock_p.h"
 #include "JsonText_p.h"
@@ -420,8 +421,11 @@ void ConfFileSharing::yieldToNewer()
 
 void ConfFileSharing::update()
 {
-    if (mPath != mStore.mLocalSaveFile
-        || PosixFile::read(mPath, mStore.mMaxFileSize).bytes == mText)
+    if (mPath != mStore.mLocalSaveFile)
+        return;
+    // A file that is not whole is left alone: a program without the lock may be writing it.
+    const QByteArray text = PosixFile::read(mPath, mStore.mMaxFileSize).bytes;
+    if (text.isEmpty() || text == mText || DamagedFile::isDamaged(text))
         return;
     loadFile();
 }

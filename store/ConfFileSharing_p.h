@@ -39,7 +39,7 @@ public:
     bool save();
 
     /// Loads what others have changed since the file was last read. Does nothing if it is unchanged
-    /// or locked for too long.
+    /// or locked for too long, or not a JSON object.
     void update();
 
     /// Notes that an operation of this store has changed the kept entry `name`.

@@ -273,8 +273,11 @@ void tst_FileWatch::unfinishedFileIsIgnored_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<quint32>("option");
+    const quint32 shared = ConfStorage::SharedFile;
     QTest::newRow("empty") << QByteArray() << 0U;
     QTest::newRow("cut") << textOf(2).left(12) << 0U;
+    QTest::newRow("empty, shared") << QByteArray() << shared;
+    QTest::newRow("cut, shared") << textOf(2).left(12) << shared;
 }
 
 void tst_FileWatch::unfinishedFileIsIgnored()
