@@ -97,6 +97,30 @@ void appendMember(QByteArray *text, const QString &name, std::string_view value)
     text->append(value.data(), static_cast<int>(value.size()));
 }
 
+/// Returns an object with the newest entry of each name. A tie takes that of `known`.
+QByteArray newestOf(const std::vector<MemberText> &known, const std::vector<MemberText> &others,
+                    TimeRange times)
+{
+    const std::vector<NamedText> theirs = sortedByName(others);
+    QByteArray text = "{";
+    auto their = theirs.cbegin();
+    const std::vector<NamedText> ours = sortedByName(known);
+    for (const NamedText &our : ours) {
+        for (; their != theirs.cend() && their->name < our.name; ++their)
+            appendMember(&text, their->name, their->value);
+        const bool isShared = their != theirs.cend() && their->name == our.name;
+        const bool isNewer = isShared && our.value != their->value
+                             && timeOf(their->value, times) > timeOf(our.value, times);
+        appendMember(&text, our.name, isNewer ? their->value : our.value);
+        if (isShared)
+            ++their;
+    }
+    for (; their != theirs.cend(); ++their)
+        appendMember(&text, their->name, their->value);
+    text += '}';
+    return text;
+}
+
 } // namespace
 
 ConfFileSharing::ConfFileSharing(ConfStorage &store) : mStore(store)
@@ -175,6 +199,21 @@ void ConfFileSharing::setText(const QByteArray &text, std::optional<bool> isObje
     mText = text;
     mIsObject = isObject;
     mMembers.reset();
+}
+
+/// Returns the text of the file. If the file is damaged, returns what was last read or written,
+/// with the entries of the backup or the journal that are newer: the backup lacks the last save.
+QByteArray ConfFileSharing::read(LocalFile *file)
+{
+    const QByteArray text = file->read();
+    if (!file->isDamaged() || !mIsRead)
+        return text;
+    findMembers();
+    if (!*mIsObject)
+        return text;
+    const bool isObject = QJsonDocument::fromJson(text).isObject();
+    const auto members = isObject ? splitMembers(text) : std::nullopt;
+    return members ? newestOf(*mMembers, *members, timeRange()) : mText;
 }
 
 /// Compares `text` with the text that was last read or written, and keeps its members, or none if
@@ -325,7 +364,7 @@ bool ConfFileSharing::save()
         return false;
     }
     LocalFile file(mStore);
-    const QByteArray text = file.read();
+    const QByteArray text = read(&file);
     bool isSaved = false;
     if (file.isComplete()) {
         take(text);
@@ -377,7 +416,7 @@ void ConfFileSharing::loadFile()
     }
     LocalFile file(mStore);
     // Without the right to create the lock, nothing may be written either.
-    const QByteArray text = locked == FileLock::Result::Locked ? file.read() : file.peek();
+    const QByteArray text = locked == FileLock::Result::Locked ? read(&file) : file.peek();
     const bool isFirst = !mIsRead && mTouched.isEmpty();
     mNeedsRepair = file.isDamaged();
     if (isFirst) {

@@ -70,6 +70,7 @@ private:
     void loadFile();
     void loadWhole();
     void setText(const QByteArray &text, std::optional<bool> isObject);
+    QByteArray read(LocalFile *file);
     void take(const QByteArray &text);
     void findMembers();
     bool write(LocalFile *file);

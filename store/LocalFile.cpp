@@ -101,7 +101,8 @@ bool LocalFile::prepareOverwriting()
         qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: " << mPath;
         return false;
     }
-    if (content.bytes.isEmpty())
+    const bool isCopied = !mDamagedCopy.isEmpty() && content.bytes == mContent; // by read()
+    if (content.bytes.isEmpty() || isCopied)
         return true;
     if (DamagedFile::isDamaged(content.bytes)) {
         return DamagedFile::isRestOf(content.bytes, journalOf(file, mLimit))

@@ -71,6 +71,9 @@ private Q_SLOTS:
     void otherFilesAreNotRemoved();
     void copyIsBesideTheTargetOfALink();
     void fileThatWasDamagedAfterTheLoadIsCopiedBeforeASave();
+    void damageOfASharedFileLosesNothing_data();
+    void damageOfASharedFileLosesNothing();
+    void newerBackupOfASharedFileIsLoaded();
     void newFilesHaveTheirPermissions_data();
     void newFilesHaveTheirPermissions();
     void existingFileKeepsItsPermissions();
@@ -404,6 +407,59 @@ void tst_DamagedFiles::fileThatWasDamagedAfterTheLoadIsCopiedBeforeASave()
     QCOMPARE(contentOf("box/" + copy), sDamaged);
     QCOMPARE(contentOf(backupPath()), sText5);
     QCOMPARE(load(), 8);
+}
+
+void tst_DamagedFiles::damageOfASharedFileLosesNothing_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isLoaded");
+    QTest::addColumn<bool>("hasBackup");
+    QTest::newRow("load") << sDamaged << true << true;
+    QTest::newRow("save") << sDamaged << false << true;
+    QTest::newRow("load of an empty file") << QByteArray() << true << true;
+    QTest::newRow("save of an empty file") << QByteArray() << false << true;
+    QTest::newRow("load without a backup") << sDamaged << true << false;
+    QTest::newRow("save without a backup") << sDamaged << false << false;
+}
+
+void tst_DamagedFiles::damageOfASharedFileLosesNothing()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isLoaded);
+    QFETCH(bool, hasBackup);
+    QVERIFY(write(path(), "{\"size\":{\"t\":500,\"v\":5},\"z\":{\"t\":1,\"v\":0}}"));
+    const LogCapture log;
+    Host host(sKeep | ConfStorage::SharedFile);
+    host.store.loadLocalConfFile();
+    host.save(6);
+    QVERIFY(hasBackup || QFile::remove(backupPath()));
+    QVERIFY(write(path(), text));
+    if (isLoaded)
+        host.store.loadLocalConfFile();
+    QCOMPARE(host.size, 6);
+    host.store.mChanged = true;
+    host.store.saveToLocalConfFile();
+    QVERIFY(!host.store.mChanged);
+    QCOMPARE(host.size, 6);
+    QCOMPARE(contentOf(path()), sText6.chopped(1) + ",\"z\":{\"t\":1,\"v\":0}}");
+    QCOMPARE(copiesIn("box").size(), text.isEmpty() ? 0 : 1);
+    const int messages = isLoaded ? 2 : 1; // one for each call
+    QCOMPARE(log.texts(QtCriticalMsg).size(), text.isEmpty() ? 0 : messages);
+}
+
+void tst_DamagedFiles::newerBackupOfASharedFileIsLoaded()
+{
+    const LogCapture log;
+    Host host(sKeep | ConfStorage::SharedFile);
+    host.save(5);
+    Host other(sKeep | ConfStorage::SharedFile);
+    other.save(6);
+    other.save(7);
+    QVERIFY(write(path(), sDamaged));
+    host.store.loadLocalConfFile();
+    QCOMPARE(host.size, 6);
+    host.store.saveToLocalConfFile();
+    QCOMPARE(contentOf(path()), sText6);
 }
 
 void tst_DamagedFiles::newFilesHaveTheirPermissions_data()
