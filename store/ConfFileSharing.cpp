@@ -76,13 +76,6 @@ qint64 timeOf(std::string_view value, TimeRange times)
     return removal ? *removal : member.time().value_or(0);
 }
 
-/// Returns whether loading the entry gives it the current time.
-bool isMadeNow(std::string_view value)
-{
-    const QJsonValue entry = parsed(toBytes(value));
-    return entry.toObject().contains(sValueKey.name()) && !ConfKeptEntries::timeOf(entry);
-}
-
 std::string_view view(const QByteArray &text)
 {
     return {text.constData(), static_cast<size_t>(text.size())};
@@ -173,7 +166,9 @@ void ConfFileSharing::useFile(const QString &path)
 
 void ConfFileSharing::touchKept(const QString &name)
 {
-    mTouched.insert(keyOf(name));
+    // Without a timestamp it cannot win against that of another program.
+    if (ConfKeptEntries::timeOf(mStore.mKeptEntries->entries().value(name)))
+        mTouched.insert(keyOf(name));
 }
 
 ConfFileSharing::UnchangedEntry::UnchangedEntry(const std::shared_ptr<ConfFileSharing> &sharing,
@@ -317,14 +312,14 @@ QByteArray ConfFileSharing::winner(const ConfDump &dump, size_t index, std::stri
     return dump.entryText(index, theirTime + 1);
 }
 
-/// Returns the kept entry of a key that is not touched, or that of the file.
+/// Returns the kept entry of a key that is not touched, or that of the file. They differ if others
+/// have changed the entry, or if it got a timestamp when it was loaded.
 QByteArray ConfFileSharing::keptWinner(const ConfDump &dump, size_t index,
                                        std::string_view theirs) const
 {
     const ConfDump::Entry ours = dump.at(index);
-    const bool isNew = mForeign.contains(ours.name) && isMadeNow(theirs);
-    return !isNew && ours.time > timeOf(theirs, timeRange()) ? dump.entryText(index, ours.time)
-                                                             : toBytes(theirs);
+    const bool isNewer = !mForeign.contains(ours.name) && ours.time > timeOf(theirs, timeRange());
+    return isNewer ? dump.entryText(index, ours.time) : toBytes(theirs);
 }
 
 /// Returns whether a change here yields to that of the file.

@@ -49,10 +49,8 @@ bool ConfKeptEntries::keep(const QString &name, const QJsonValue &entry, KeptTie
     const std::optional<qint64> time = timeOf(incoming);
     const bool isMadeNow = time && !timeOf(entry); // always wins, as for declared keys
     const std::optional<qint64> storedTime = timeOf(*stored);
-    const bool winsTie = time == storedTime
-                         && (tie == KeptTie::Resolved
-                                 ? rankOf(incoming) > rankOf(*stored)
-                                 : tie == KeptTie::Incoming && incoming != *stored);
+    const bool winsTie = tie == KeptTie::Resolved && time == storedTime
+                         && rankOf(incoming) > rankOf(*stored);
     if (!time || (!isMadeNow && !winsTie && time <= storedTime)) // no time is less than any
         return false;
     mSize += sizeOf(name, incoming) - sizeOf(name, *stored);

@@ -9,9 +9,8 @@
 
 /// Which of two entries with the same timestamp is kept.
 enum class KeptTie {
-    Stored,   ///< the one that is there
-    Resolved, ///< see `ConfStorage::ResolveTies`
-    Incoming  ///< the other one
+    Stored,  ///< the one that is there
+    Resolved ///< see `ConfStorage::ResolveTies`
 };
 
 /// The entries of a store whose keys are not declared, or whose values were refused. They are

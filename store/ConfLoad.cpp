@@ -175,10 +175,13 @@ template<class Member> void ConfLoad::load(QString key, const Member &member)
     if (mStore.mVersions && !isForeign
         && deferFormer(key, isMarked ? addSysMark(key) : key, member))
         return;
-    if (mKeepsUnknown && (isForeign || !isDeclared(key))) {
-        mReport.unknown += isForeign ? 0 : 1;
-        keep(isMarked ? addSysMark(key) : key, member.entry());
-        return;
+    if ((mKeepsUnknown || mStore.mKeptEntries) && (isForeign || !isDeclared(key))) {
+        const QString name = isMarked ? addSysMark(key) : key;
+        if (keeps(name)) {
+            mReport.unknown += isForeign ? 0 : 1;
+            keep(name, member.entry());
+            return;
+        }
     }
     loadCurrent(key, member);
 }

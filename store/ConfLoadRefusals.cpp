@@ -83,6 +83,13 @@ bool ConfLoad::hasNoRoom(const QString &name, const QJsonValue &entry)
     return true;
 }
 
+/// Returns whether an entry is kept if its key is not declared: each one with the option, and that
+/// of a key that was released.
+bool ConfLoad::keeps(const QString &name) const
+{
+    return mKeepsUnknown || (mStore.mKeptEntries && mStore.mKeptEntries->entries().contains(name));
+}
+
 /// Keeps an entry that is not loaded. `name` is that of the member, with the system mark. What the
 /// local file contains is always kept; others can add to it within limits.
 void ConfLoad::keep(const QString &name, const QJsonValue &entry)
@@ -91,10 +98,10 @@ void ConfLoad::keep(const QString &name, const QJsonValue &entry)
         mStore.mKeptEntries = std::make_unique<ConfKeptEntries>();
     if (!mIsLocal && (isBeyondLimits(name) || hasNoRoom(name, entry)))
         return;
-    const KeptTie tie = mReplaces       ? KeptTie::Incoming
-                        : mResolvesTies ? KeptTie::Resolved
-                                        : KeptTie::Stored;
-    if (!mStore.mKeptEntries->keep(name, entry, tie))
+    if (mReplaces)
+        mStore.mKeptEntries->remove(name);
+    if (!mStore.mKeptEntries->keep(name, entry,
+                                   mResolvesTies ? KeptTie::Resolved : KeptTie::Stored))
         return;
     mStore.mChanged = true;
     if (mStore.mFileSharing && mReport.file.isEmpty())

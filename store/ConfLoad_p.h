@@ -106,6 +106,7 @@ private:
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
     bool hasNoRoom(const QString &name, const QJsonValue &entry);
+    bool keeps(const QString &name) const;
     void keep(const QString &name, const QJsonValue &entry);
     template<class Member> bool loadDynamic(const QString &key, const Member &member);
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,

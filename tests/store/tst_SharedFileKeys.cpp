@@ -70,6 +70,9 @@ private Q_SLOTS:
     void changeBeforeAReleaseIsSaved();
     void newerChangeOfOthersWinsAfterARelease();
     void keyThatIsDeclaredLaterDoesNotBringBackItsOldValue();
+    void keyThatIsReservedAgainGetsWhatOthersSaved_data();
+    void keyThatIsReservedAgainGetsWhatOthersSaved();
+    void keptEntryFollowsTheFile();
     void importedUnknownEntryIsSaved_data();
     void importedUnknownEntryIsSaved();
     void olderEntryOfAFormerNameIsNotTaken();
@@ -147,6 +150,52 @@ void tst_SharedFileKeys::keyThatIsDeclaredLaterDoesNotBringBackItsOldValue()
     QVERIFY(two.save());
     QCOMPARE(saved("a"), entry(time + 1, 11));
     QCOMPARE(two.a, 11);
+}
+
+void tst_SharedFileKeys::keyThatIsReservedAgainGetsWhatOthersSaved_data()
+{
+    QTest::addColumn<quint32>("options");
+    QTest::addColumn<int>("time");
+    QTest::newRow("shared, newer") << sShared << 101;
+    QTest::newRow("shared, same second") << sShared << 100;
+    QTest::newRow("shared, older") << sShared << 99;
+    QTest::newRow("kept, newer") << sKept << 101;
+    QTest::newRow("kept, same second") << sKept << 100;
+    QTest::newRow("kept, older") << sKept << 99;
+}
+
+void tst_SharedFileKeys::keyThatIsReservedAgainGetsWhatOthersSaved()
+{
+    QFETCH(quint32, options);
+    QFETCH(int, time);
+    write(R"({"a":{"t":100,"v":10}})");
+    Program program(options);
+    program.declareA();
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 10);
+    program.store.releaseConf("a");
+    const QByteArray text = compact({{"a", entry(time, 11)}});
+    write(text);
+    program.store.loadLocalConfFile();
+    program.declareA();
+    QCOMPARE(program.a, 11);
+    QCOMPARE(program.store.mConfMetas["a"].lastChangeTime, second(time));
+    program.store.mChanged = true;
+    QVERIFY(program.save());
+    QCOMPARE(savedText(), text);
+}
+
+void tst_SharedFileKeys::keptEntryFollowsTheFile()
+{
+    write(R"({"a":{"t":100,"v":10}})");
+    Program program;
+    program.store.loadLocalConfFile();
+    write(R"({"a":{"t":99,"v":11}})"); // an older copy of the file
+    program.store.set("b", 20);
+    QVERIFY(program.save());
+    QCOMPARE(saved("a"), entry(99, 11));
+    program.declareA();
+    QCOMPARE(program.a, 11);
 }
 
 void tst_SharedFileKeys::importedUnknownEntryIsSaved_data()
