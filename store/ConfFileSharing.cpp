@@ -261,6 +261,24 @@ bool ConfFileSharing::collectForeign(const Members &known)
     return true;
 }
 
+/// Notes the entries of keys that were declared, or reserved again, after the file was read.
+void ConfFileSharing::collectUnloaded()
+{
+    MemberIndex index(*mMembers);
+    for (auto meta = mStore.mConfMetas.cbegin(); meta != mStore.mConfMetas.cend(); ++meta) {
+        if (!meta->lastChangeTime.isNull() || mTouched.contains(meta.key()))
+            continue;
+        const bool isMarked = meta->flags & ConfStorage::FlagSystemIndependent;
+        const QString name = isMarked ? addSysMark(meta.key()) : meta.key();
+        QByteArray quoted;
+        appendJsonString(quoted, name);
+        const MemberText *member = index.find(view(quoted).substr(1, view(quoted).size() - 2));
+        const bool isRefused = mStore.mKeptEntries && mStore.mKeptEntries->entries().contains(name);
+        if (member && !isRefused && !mForeign.contains(name))
+            mForeign[name] = toBytes(member->value);
+    }
+}
+
 /// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
 QByteArray ConfFileSharing::merged(const ConfDump &dump, const QSet<QString> &touched)
 {
@@ -420,6 +438,7 @@ void ConfFileSharing::loadFile()
     } else if (file.isComplete()) {
         take(text);
         yieldToNewer();
+        collectUnloaded();
     }
     lock.unlock();
     if (isFirst)

@@ -75,6 +75,7 @@ private:
     void findMembers();
     bool write(LocalFile *file);
     bool collectForeign(const Members &known);
+    void collectUnloaded();
     QByteArray merged(const ConfDump &dump, const QSet<QString> &touched);
     QByteArray winner(const ConfDump &dump, size_t index, std::string_view theirs);
     QByteArray keptWinner(const ConfDump &dump, size_t index, std::string_view theirs) const;

@@ -75,6 +75,8 @@ private Q_SLOTS:
     void keptEntryFollowsTheFile();
     void importedUnknownEntryIsSaved_data();
     void importedUnknownEntryIsSaved();
+    void keyThatIsDeclaredLaterIsLoaded();
+    void keyThatIsReservedTwiceIsLoadedAgain();
     void olderEntryOfAFormerNameIsNotTaken();
     void pendingChangeWinsAgainstAFormerName();
     void importForALockedKeyIsSaved();
@@ -219,6 +221,31 @@ void tst_SharedFileKeys::importedUnknownEntryIsSaved()
     QCOMPARE(saved("a"), entry(101, 11));
     program.declareA();
     QCOMPARE(program.a, 11);
+}
+
+void tst_SharedFileKeys::keyThatIsDeclaredLaterIsLoaded()
+{
+    write(R"({"a":{"t":100,"v":10}})");
+    Program program(sShared);
+    program.store.loadLocalConfFile();
+    program.declareA();
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 10);
+    QVERIFY(!program.store.mChanged);
+}
+
+void tst_SharedFileKeys::keyThatIsReservedTwiceIsLoadedAgain()
+{
+    write(R"({"a":{"t":100,"v":10},"b#s.mac":{"t":100,"v":20}})");
+    Program program;
+    program.declareA();
+    program.store.loadLocalConfFile();
+    program.declareA();
+    program.store.reserveConf("b", &program.b);
+    program.store.set("b", 21);
+    program.store.loadLocalConfFile();
+    QCOMPARE(program.a, 10);
+    QCOMPARE(program.b, 21);
 }
 
 void tst_SharedFileKeys::olderEntryOfAFormerNameIsNotTaken()
