@@ -13,6 +13,9 @@ namespace {
 constexpr int sShortestRetry = 100;
 constexpr int sLongestRetry = 60 * 1000;
 
+/// Changes without a pause postpone a save by so many quiet times.
+constexpr int sMostQuietTimes = 10;
+
 } // namespace
 
 ConfAutosave::ConfAutosave(ConfStorage *store, int quietTime)
@@ -49,13 +52,16 @@ void ConfAutosave::noteChange()
 {
     mLastChange.start();
     // The timer is not started again for each change, which costs more.
-    if (mTimer && !mTimer->isActive())
-        mTimer->start(mQuietTime);
+    if (!mTimer || mTimer->isActive())
+        return;
+    mFirstChange.start();
+    mTimer->start(mQuietTime);
 }
 
 void ConfAutosave::saveIfQuiet()
 {
-    const qint64 rest = mQuietTime - mLastChange.elapsed();
+    const qint64 longest = sMostQuietTimes * qint64(mQuietTime) - mFirstChange.elapsed();
+    const qint64 rest = std::min(mQuietTime - mLastChange.elapsed(), longest);
     if (rest > 0)
         mTimer->start(static_cast<int>(rest));
     else

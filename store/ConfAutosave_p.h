@@ -11,7 +11,8 @@
 class ConfStorage;
 class QTimer;
 
-/// Saves the local file of a store when nothing has changed for a while, when the application ends
+/// Saves the local file of a store when nothing has changed for a while, or ten times as long after
+/// the first change, when the application ends
 /// and when the session manager ends the session. Does nothing without an application object, and
 /// nothing before the local file was loaded: a save would remove the settings that are in it.
 class ConfAutosave
@@ -32,6 +33,7 @@ private:
     const int mQuietTime;
     int mRetryDelay = 0; // 0: the last save worked
     int mObserver = 0;
+    QElapsedTimer mFirstChange; // of those that are not saved
     QElapsedTimer mLastChange;
     const std::unique_ptr<QObject> mContext; // of all connections
     QPointer<QTimer> mTimer;                 // a child of the application

@@ -3,6 +3,7 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QSessionManager>
 #include <QTimer>
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void isOffByDefault();
     void changeIsSavedAfterTheQuietTime();
     void changesDuringTheQuietTimePostponeTheSave();
+    void changesWithoutAPauseAreSaved();
     void everyKindOfChangeIsSaved_data();
     void everyKindOfChangeIsSaved();
     void importIsSavedToASharedFile();
@@ -149,6 +151,18 @@ void tst_Autosave::changesDuringTheQuietTimePostponeTheSave()
         if (!wasStopped)
             QTRY_VERIFY(host.isSaved());
     }
+}
+
+void tst_Autosave::changesWithoutAPauseAreSaved()
+{
+    const LogCapture log;
+    Host host("local.json", 100);
+    const QDeadlineTimer limit(30000);
+    while (!host.isSaved() && !limit.hasExpired()) {
+        host.store.set("size", 8);
+        QTest::qWait(1);
+    }
+    QVERIFY(host.isSaved());
 }
 
 void tst_Autosave::everyKindOfChangeIsSaved_data()
