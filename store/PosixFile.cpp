@@ -139,7 +139,8 @@ void PosixFile::close()
 
 PosixFile::Content PosixFile::read(qint64 limit) const
 {
-    // The size that the system reports may be wrong, as for the files in /proc.
+    // The size that the system reports may be wrong, as for the files in /proc, or too large.
+    constexpr qint64 sLargestBlock = 256 * sBlockSize;
     struct stat found = {};
     const qint64 likelySize = status(&found) ? qint64(found.st_size) + 1 : sBlockSize;
     QByteArray bytes;
@@ -148,7 +149,7 @@ PosixFile::Content PosixFile::read(qint64 limit) const
         const auto size = bytes.size();
         const qint64 expected = likelySize - size;
         const auto room = static_cast<int>(
-            qMin(expected > 0 ? expected : sBlockSize, limit + 1 - size));
+            qMin(expected > 0 ? qMin(expected, sLargestBlock) : sBlockSize, limit + 1 - size));
         bytes.resize(size + room);
         const auto count = uninterrupted(
             [&] { return ::read(mDescriptor, bytes.data() + size, static_cast<size_t>(room)); });
