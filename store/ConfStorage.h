@@ -167,8 +167,9 @@ public:
         /// Refuses values whose JSON type is not that of the setting. The variable keeps its
         /// value, and with `KeepUnknownEntries` or `SharedFile` the local file keeps an entry that
         /// it contains. Each one is logged, with the warning "ConfStorage::loadConf() value of
-        /// another type refused: " and the key. Without it such values are converted by Qt's
-        /// lenient rules, `"12"` to the number 0.
+        /// another type refused: " and the key. So is a font that is smaller than 0.1 or larger
+        /// than 4096 points or pixels. Without it such values are converted by Qt's lenient rules,
+        /// `"12"` to the number 0, and such a font to the default font.
         StrictTypes = 0x100,
         /// Decides ties by the content of the entries, so that all copies that merge each other's
         /// dumps end with the same values: a removal wins over a value, a value over a restored
@@ -366,7 +367,8 @@ public:
     /// Returns whether an administrator has fixed the value of `key`. Then `set`, `setToDefault`,
     /// `loadValueFromJson` and `removeDynamicConf` do nothing, silently. Loads merge into the value
     /// of the user, which the locked value hides: dumps and the local file contain it, and the
-    /// variable gets it when the key is not locked any more, in another run of the program.
+    /// variable gets it when the key is not locked any more, in another run of the program. Then
+    /// observers hear a change with the locked value before and after.
     bool isLocked(const QString &key) const;
 
     /// Fixes the value of `key` as `value`, in JSON as `ConfValue::toJsonValue` returns it, or as
@@ -416,8 +418,8 @@ public:
 
     /// Returns the content of the store as a table for debugging: for each key its value, its
     /// default value, whether they differ, the timestamp (UTC) and the flags ("default", "system",
-    /// "local"); then the tombstones. Long keys and values are truncated, and control characters
-    /// are escaped. After 10,000 rows, a line counts the rest.
+    /// "local", "locked"); then the tombstones. Long keys and values are truncated, and control
+    /// characters are escaped. After 10,000 rows, a line counts the rest.
     QString debugTable() const;
 
     bool mChanged = false;     ///< something has changed since the local file was written or loaded
