@@ -40,16 +40,17 @@ void ConfAutosave::start()
     mTimer->setSingleShot(true);
     QObject::connect(mTimer, &QTimer::timeout, mContext.get(), [this] { saveIfQuiet(); });
     QObject::connect(application, &QCoreApplication::aboutToQuit, mContext.get(),
-                     [this] { save(); });
+                     [this] { saveAtTheEnd(); });
     if (const auto *const gui = qobject_cast<QGuiApplication *>(application))
         QObject::connect(gui, &QGuiApplication::commitDataRequest, mContext.get(),
-                         [this] { save(); });
+                         [this] { saveAtTheEnd(); });
     if (mStore->mChanged)
         noteChange();
 }
 
 void ConfAutosave::noteChange()
 {
+    mHasHeard = true;
     mLastChange.start();
     // The timer is not started again for each change, which costs more.
     if (!mTimer || mTimer->isActive())
@@ -93,6 +94,17 @@ void ConfAutosave::save()
         mRetryDelay = std::min(2 * mRetryDelay, sLongestRetry);
     if (mTimer)
         mTimer->start(mRetryDelay);
+}
+
+/// Saves twice if callbacks, which are called for what others have saved, change something in
+/// answer.
+void ConfAutosave::saveAtTheEnd()
+{
+    mHasHeard = false;
+    const QPointer<QObject> context(mContext.get());
+    save();
+    if (context && mHasHeard)
+        save();
 }
 
 void ConfStorage::setAutosave(int quietTime)

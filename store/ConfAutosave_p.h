@@ -28,11 +28,13 @@ private:
     void noteChange();
     void saveIfQuiet();
     void save();
+    void saveAtTheEnd();
 
     ConfStorage *const mStore;
     const int mQuietTime;
     int mRetryDelay = 0; // 0: the last save worked
     int mObserver = 0;
+    bool mHasHeard = false;     // of a change since it was set to false
     QElapsedTimer mFirstChange; // of those that are not saved
     QElapsedTimer mLastChange;
     const std::unique_ptr<QObject> mContext; // of all connections

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void negativeTimeSwitchesItOff();
     void pendingChangeIsSavedWhenItIsSwitchedOn();
     void endOfTheApplicationIsSaved();
+    void answersToOthersAreSavedAtTheEndOfTheApplication();
     void endOfTheSessionIsSaved();
     void nothingIsSavedBeforeTheFirstLoad();
     void nothingIsSavedDuringALoad();
@@ -224,6 +225,30 @@ void tst_Autosave::endOfTheApplicationIsSaved()
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
     QVERIFY(host.isSaved());
+    QVERIFY(!host.store.mChanged);
+}
+
+void tst_Autosave::answersToOthersAreSavedAtTheEndOfTheApplication()
+{
+    const LogCapture log;
+    Host host("local.json", sHour);
+    host.store.mFileOptions = ConfStorage::SharedFile;
+    int width = 0;
+    int height = 0;
+    host.store.reserveConf("width", &width);
+    host.store.reserveConf("height", &height);
+    host.store.setConfChangedCallback(
+        "size", [&](const QString &, const ConfValue *) { host.store.set("width", host.size); });
+    host.store.loadLocalConfFile();
+    {
+        Host other("local.json");
+        other.store.set("size", 8);
+        other.store.saveToLocalConfFile();
+    }
+    host.store.set("height", 3);
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    QCOMPARE(width, 8);
     QVERIFY(!host.store.mChanged);
 }
 
