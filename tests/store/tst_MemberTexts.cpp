@@ -6,6 +6,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstring>
 #include <random>
 
 namespace {
@@ -28,6 +32,39 @@ QJsonObject objectOf(const std::vector<MemberText> &members)
         object.insert(member.name(), parsed(member.value));
     return object;
 }
+
+/// A page of memory. Reading the bytes behind it ends the process.
+class GuardedPage
+{
+public:
+    GuardedPage()
+        : mSize(static_cast<size_t>(::sysconf(_SC_PAGESIZE))),
+          mMemory(::mmap(nullptr, 2 * mSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS,
+                         -1, 0))
+    {
+        if (isValid())
+            ::mprotect(static_cast<char *>(mMemory) + mSize, mSize, PROT_NONE);
+    }
+    ~GuardedPage()
+    {
+        if (isValid())
+            ::munmap(mMemory, 2 * mSize);
+    }
+    Q_DISABLE_COPY(GuardedPage)
+
+    bool isValid() const { return mMemory != MAP_FAILED; }
+    /// Returns `text` in the last bytes of the page.
+    QByteArray atEnd(const QByteArray &text)
+    {
+        char *const start = static_cast<char *>(mMemory) + mSize - text.size();
+        std::memcpy(start, text.constData(), static_cast<size_t>(text.size()));
+        return QByteArray::fromRawData(start, static_cast<int>(text.size()));
+    }
+
+private:
+    const size_t mSize;
+    void *const mMemory;
+};
 
 /// Makes random JSON.
 class RandomJson
@@ -111,7 +148,10 @@ private Q_SLOTS:
     void otherTextIsRefused_data();
     void otherTextIsRefused();
     void truncatedTextIsRefused();
+    void nothingBehindTheTextIsRead();
     void valuesAreNotChecked();
+    void membersAreFoundInAnyOrder_data();
+    void membersAreFoundInAnyOrder();
 };
 
 void tst_MemberTexts::objectIsSplitIntoMembers_data()
@@ -260,6 +300,15 @@ void tst_MemberTexts::truncatedTextIsRefused()
         QVERIFY2(!splitMembers(text.left(size)), text.left(size));
 }
 
+void tst_MemberTexts::nothingBehindTheTextIsRead()
+{
+    GuardedPage page;
+    QVERIFY(page.isValid());
+    const QByteArray text = R"({"a\"}":[{"b":"\\"},-1.5e3,true],"c":{"d":"}\u007d"},"e":null})";
+    for (int size = 0; size <= static_cast<int>(text.size()); ++size)
+        QCOMPARE(splitMembers(page.atEnd(text.left(size))).has_value(), size == text.size());
+}
+
 void tst_MemberTexts::valuesAreNotChecked()
 {
     const QByteArray text = R"({"a":x y,"b":[1}})";
@@ -267,6 +316,37 @@ void tst_MemberTexts::valuesAreNotChecked()
     QVERIFY(members && members->size() == 2);
     QCOMPARE(toBytes(members->at(0).value), QByteArray("x y"));
     QCOMPARE(toBytes(members->at(1).value), QByteArray("[1}"));
+}
+
+void tst_MemberTexts::membersAreFoundInAnyOrder_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QList<int>>("values"); // -1: not found
+
+    QTest::newRow("in their order") << QStringList{"a", "b", "c"} << QList<int>{1, 2, 3};
+    QTest::newRow("backwards") << QStringList{"c", "b", "a"} << QList<int>{3, 2, 1};
+    QTest::newRow("last, then first") << QStringList{"c", "a"} << QList<int>{3, 1};
+    QTest::newRow("the same again") << QStringList{"b", "b"} << QList<int>{2, 2};
+    QTest::newRow("unknown") << QStringList{"x", "a", "x", "b"} << QList<int>{-1, 1, -1, 2};
+    QTest::newRow("several with the name") << QStringList{"b", "d"} << QList<int>{2, 6};
+    QTest::newRow("several, after the next one") << QStringList{"e", "d"} << QList<int>{5, 6};
+}
+
+void tst_MemberTexts::membersAreFoundInAnyOrder()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QList<int>, values);
+    const QByteArray text = R"({"a":1,"b":2,"c":3,"d":4,"e":5,"d":6})";
+    const auto members = splitMembers(text);
+    QVERIFY(members);
+    MemberIndex index(*members);
+    QList<int> found;
+    for (const QString &name : std::as_const(names)) {
+        const QByteArray rawName = name.toUtf8();
+        const MemberText *member = index.find({rawName.constData(), size_t(rawName.size())});
+        found << (member ? toBytes(member->value).toInt() : -1);
+    }
+    QCOMPARE(found, values);
 }
 
 int main(int argc, char **argv)
