@@ -3,6 +3,8 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 
+#include <MaltoConfiguration/store/ConfLoadReport.h>
+
 #include <algorithm>
 #include <array>
 #include <random>
@@ -126,6 +128,8 @@ private Q_SLOTS:
     void resolvedTieComparesTheTextThatIsDumped();
     void resolvedTieOfTheLocalFileHasTheSameWinner();
     void loadingAgainCallsNoCallbackIfTiesAreResolved();
+    void equalChangeIsNotTakenAgain_data();
+    void equalChangeIsNotTakenAgain();
     void numberThatJsonDoesNotHaveLosesLikeTheDefault();
     void valueThatEqualsThePresetStaysAValue();
     void unboundKeyKeepsItsTie();
@@ -428,6 +432,30 @@ void tst_MergingTies::loadingAgainCallsNoCallbackIfTiesAreResolved()
     a.set(sNumber, 9, 100);
     b.load(a.dump());
     QCOMPARE(calls, 1);
+}
+
+void tst_MergingTies::equalChangeIsNotTakenAgain_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QJsonObject>("entry");
+    const QJsonObject restored{{"t", 100}};
+    QTest::newRow("value") << int(sNumber) << QJsonObject{{"t", 100}, {"v", 5}};
+    QTest::newRow("default") << int(sNumber) << restored;
+    QTest::newRow("default of a preset") << int(sPreset) << restored;
+    QTest::newRow("removal") << int(sPreset) << QJsonObject{{"d", 100}};
+}
+
+void tst_MergingTies::equalChangeIsNotTakenAgain()
+{
+    QFETCH(int, key);
+    QFETCH(QJsonObject, entry);
+    MergeCopy copy(MergeSystem::Own, MergeTies::Greater);
+    const QJsonObject dump{{MergeCopy::name(size_t(key)), entry}};
+    copy.load(dump);
+    QCOMPARE(copy.store().lastLoad().taken, 1);
+    copy.load(dump);
+    QCOMPARE(copy.store().lastLoad().taken, 0);
+    QCOMPARE(copy.store().lastLoad().newerHere, 1);
 }
 
 void tst_MergingTies::numberThatJsonDoesNotHaveLosesLikeTheDefault()
