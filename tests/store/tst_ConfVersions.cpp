@@ -214,6 +214,7 @@ private Q_SLOTS:
     void converterGetsNoDefaultValue_data();
     void converterGetsNoDefaultValue();
     void converterOfADynamicKeyIsCalled();
+    void converterMayReserveAKey();
     void converterThatIsSetLateConvertsAKeptEntry_data();
     void converterThatIsSetLateConvertsAKeptEntry();
     void converterThatIsSetLateKeepsAChange();
@@ -746,6 +747,22 @@ void tst_ConfVersions::converterOfADynamicKeyIsCalled()
     QCOMPARE(entries["Entry.1"], (QJsonObject{{"n", 1}}));
     host.store.loadLoadDynamicConf("Entry.2", QJsonObject{{"t", 100}, {"v", 2}}, &cls);
     QCOMPARE(entries["Entry.2"], (QJsonObject{{"n", 2}}));
+}
+
+void tst_ConfVersions::converterMayReserveAKey()
+{
+    Host host;
+    int a = 1, other = 1;
+    host.store.reserveConf("a", &a);
+    QMap<QString, ConfStorage::ConfMeta> copy; // the load must not continue in it
+    host.store.setConfConverter("new", [&](const QJsonValue &value) {
+        copy = host.store.mConfMetas;
+        host.store.reserveConf("other", &other);
+        return value;
+    });
+    host.load(R"({"a":{"t":100,"v":5},"new":{"t":101,"v":6}})");
+    QCOMPARE(host.number, 6);
+    QCOMPARE(host.store.mConfMetas["new"].lastChangeTime.toSecsSinceEpoch(), qint64(101));
 }
 
 void tst_ConfVersions::converterThatIsSetLateConvertsAKeptEntry_data()
