@@ -84,6 +84,7 @@ private Q_SLOTS:
     void fileAddsKeysUpToANumber_data();
     void fileAddsKeysUpToANumber();
     void fileChangesTheKeysOfAFullStore();
+    void keptEntriesCountAsKeys();
 
 private:
     Host mAlmostFull; // the same for all rows, because filling it takes a while
@@ -203,6 +204,21 @@ void tst_ConfStorageLimits::fileChangesTheKeysOfAFullStore()
     host.load(dumpOf("P.1000000", false));
     QVERIFY(host.hasValue("P.1000000"));
     QVERIFY(log.messages().isEmpty());
+}
+
+void tst_ConfStorageLimits::keptEntriesCountAsKeys()
+{
+    Host host;
+    host.store.mFileOptions |= ConfStorage::KeepUnknownEntries;
+    fillAlmost(host.store);
+    const LogCapture log;
+    for (const char *key : {"unknown 1", "unknown 2"})
+        host.store.loadConf(dumpOf(key, false), ConfStorage::LoadShared);
+    QVERIFY(log.messages().isEmpty());
+    host.load(dumpOf("P.new", false));
+    QVERIFY(!host.hasValue("P.new"));
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("ConfStorage::loadConf() too many keys:  \"P.new\""));
 }
 
 int main(int argc, char **argv)

@@ -86,11 +86,14 @@ private Q_SLOTS:
     void classThatIsDeclaredLaterGetsItsEntries();
     void createdKeyIsNotOverwrittenByItsKeptEntry();
     void entriesThatTheCreatorDoesNotAcceptAreKept();
+    void entryThatTheCreatorDoesNotAcceptIsOfferedOnce();
     void entriesThatCreateNothingAreKept_data();
     void entriesThatCreateNothingAreKept();
     void keptDefaultIsThatOfALaterPreset();
     void futureTimestampOfAnUnknownKeyIsRefusedByASharedLoad();
     void dumpsCannotAddMoreThanHalfOfTheFile();
+    void sizeOfKeptEntriesIsThatInTheFile_data();
+    void sizeOfKeptEntriesIsThatInTheFile();
     void keysOfDumpsAreLimited();
     void largeUnknownEntryOfTheLocalFileIsKept();
     void debugTableShowsKeptEntries();
@@ -555,6 +558,18 @@ void tst_KeptEntries::entriesThatTheCreatorDoesNotAcceptAreKept()
     QCOMPARE(host.save(), text);
 }
 
+void tst_KeptEntries::entryThatTheCreatorDoesNotAcceptIsOfferedOnce()
+{
+    Host host(ConfStorage::KeepUnknownEntries | ConfStorage::ResolveTies);
+    host.load(R"({"Entry.1":{"t":100,"v":{"n":1}}})");
+    Entries entries(&host.store);
+    int calls = 0;
+    entries.cls.creator = [&](const QString &, const QJsonValue *) { ++calls; };
+    host.store.loadPresetDynamicConf();
+    host.store.loadPresetDynamicConf();
+    QCOMPARE(calls, 1);
+}
+
 void tst_KeptEntries::entriesThatCreateNothingAreKept_data()
 {
     QTest::addColumn<QByteArray>("name");
@@ -655,6 +670,38 @@ void tst_KeptEntries::dumpsCannotAddMoreThanHalfOfTheFile()
     QCOMPARE(host.store.dumpConf(ConfStorage::DumpLocal).keys(), QStringList("a"));
     host.store.loadSingleConf("b", QJsonObject{{"t", 100}, {"v", 1}}, ConfStorage::LoadShared);
     QCOMPARE(host.store.dumpConf(ConfStorage::DumpLocal).keys(), QStringList({"a", "b"}));
+}
+
+void tst_KeptEntries::sizeOfKeptEntriesIsThatInTheFile_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("first");  // characters of the value
+    QTest::addColumn<int>("second"); // of the value that replaces it
+    QTest::addColumn<bool>("hasRoom");
+    QTest::newRow("small") << "a" << 1 << 1 << true;
+    QTest::newRow("replaced by a larger one") << "a" << 1 << 300 << false;
+    QTest::newRow("replaced by a smaller one") << "a" << 300 << 1 << true;
+    QTest::newRow("long name") << QString(300, 'a') << 1 << 1 << false;
+}
+
+void tst_KeptEntries::sizeOfKeptEntriesIsThatInTheFile()
+{
+    QFETCH(QString, key);
+    QFETCH(int, first);
+    QFETCH(int, second);
+    QFETCH(bool, hasRoom);
+    Host host;
+    host.store.mMaxFileSize = 1000; // half of it is for kept entries
+    const auto load = [&](const QString &name, qint64 time, int length) {
+        host.store.loadSingleConf(name, QJsonObject{{"t", time}, {"v", QString(length, 'x')}},
+                                  ConfStorage::LoadShared);
+    };
+    const LogCapture log;
+    load(key, 100, first);
+    load(key, 101, second);
+    QCOMPARE(host.store.dumpConf(ConfStorage::DumpLocal).keys(), QStringList(key));
+    load("b", 100, 300);
+    QCOMPARE(host.store.dumpConf(ConfStorage::DumpLocal).contains("b"), hasRoom);
 }
 
 void tst_KeptEntries::keysOfDumpsAreLimited()
