@@ -155,6 +155,13 @@ void tst_ConfObservers::eachOperationIsOneEvent_data()
     QTest::newRow("load a removal of an absent key")
         << nothing << loaded("list.a", {{"d", later}}) << "list.a" << Cause::Loaded << "absent"
         << "absent";
+    const Act createdAndChanged = [](ConfStorage &store) {
+        store.createDynamicConf("list.a", 3, nullptr);
+        store.set("list.a", 4);
+    };
+    QTest::newRow("load the default of a dynamic key")
+        << createdAndChanged << loaded("list.a", {{"t", later}}) << "list.a" << Cause::Loaded << "4"
+        << "3 default";
     QTest::newRow("restore a missing preset") << nothing << Act([](ConfStorage &store) {
         store.mPresetDynamicConfs.insert("list.p", 2);
         store.setToDefault("list.p", true);

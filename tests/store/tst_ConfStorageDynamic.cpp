@@ -79,6 +79,7 @@ private Q_SLOTS:
     void mergingANewKeyCreatesIt();
     void entryWithoutATimestampCountsAsNew();
     void mergingARestoredPreset();
+    void mergingADefaultWithoutATimestampKeepsThatOfTheDefault();
     void mergingIntoALocalOnlyClass();
     void entryThatIsNotAnObjectCreatesNoDynamicKey();
     void removalIsMergedAndLosesToANewerChange();
@@ -366,6 +367,14 @@ void tst_ConfStorageDynamic::mergingARestoredPreset()
     mCopy->store.loadSingleConf("P.nopreset", QJsonObject{{"t", 50}}, ConfStorage::LoadShared);
     QCOMPARE(log.texts(QtCriticalMsg),
              QStringList("ConfStorage::set key not found:  \"P.nopreset\""));
+}
+
+void tst_ConfStorageDynamic::mergingADefaultWithoutATimestampKeepsThatOfTheDefault()
+{
+    mCopy->create("P.a", 1, 100);
+    mCopy->store.mConfMetas["P.a"].flags |= ConfStorage::FlagIsDefault;
+    mCopy->store.loadConf({{"P.a", QJsonObject()}}, ConfStorage::LoadShared);
+    QCOMPARE(mCopy->store.mConfMetas["P.a"].lastChangeTime, at(100));
 }
 
 void tst_ConfStorageDynamic::mergingIntoALocalOnlyClass()

@@ -100,6 +100,7 @@ private Q_SLOTS:
     void keptEntryOfALockedKeyIsMerged();
     void lockedDynamicEntryIsNotRemoved();
     void removalOfALockedEntryIsDumped();
+    void createdEntryReplacesTheRemovalOfALockedOne();
     void refusedEntryOfALockedKeyIsKept();
     void previewListsALockedKeyWithTheLockedValue();
     void callbackOfTheLockMayClearTheStore();
@@ -471,6 +472,18 @@ void tst_LockedConfs::removalOfALockedEntryIsDumped()
     QVERIFY(host.store.mConfValues.contains("Entry.a"));
     host.load("Entry.a", entry(300, QJsonObject{{"n", 3}}));
     QCOMPARE(host.dumped("Entry.a"), QJsonValue(entry(300, QJsonObject{{"n", 3}})));
+    QCOMPARE(host.item, (QJsonObject{{"n", 9}}));
+}
+
+void tst_LockedConfs::createdEntryReplacesTheRemovalOfALockedOne()
+{
+    Host host;
+    host.store.lockConf("Entry.a", QJsonObject{{"n", 9}});
+    host.load("Entry.a", QJsonObject{{"d", 200}});
+    host.store.releaseConf("Entry.a");
+    host.store.createDynamicConf("Entry.a", QJsonObject{{"n", 4}}, nullptr);
+    host.store.mConfMetas["Entry.a"].lastChangeTime = second(300);
+    QCOMPARE(host.dumped("Entry.a"), QJsonValue(entry(300, QJsonObject{{"n", 4}})));
     QCOMPARE(host.item, (QJsonObject{{"n", 9}}));
 }
 
