@@ -202,6 +202,8 @@ private Q_SLOTS:
     void formerEntryMayHaveTheSystemMark();
     void namesOfSeveralVersionsFormAChain_data();
     void namesOfSeveralVersionsFormAChain();
+    void nearestNameWinsATieInAnyOrder_data();
+    void nearestNameWinsATieInAnyOrder();
     void formerNameThatIsDeclaredKeepsItsEntries();
     void formerNamesInACircleLoadNothing();
     void formerEntryOfAKeyThatIsNotDeclaredIsKept();
@@ -565,6 +567,35 @@ void tst_ConfVersions::namesOfSeveralVersionsFormAChain()
     late.store.addFormerName("new", "a");
     late.store.reserveConf("new", &late.number);
     QTEST(late.number, "result");
+}
+
+void tst_ConfVersions::nearestNameWinsATieInAnyOrder_data()
+{
+    QTest::addColumn<QString>("nearest");
+    QTest::addColumn<QString>("oldest");
+    QTest::newRow("nearest name first") << "a"
+                                        << "z";
+    QTest::newRow("oldest name first") << "z"
+                                       << "a";
+}
+
+void tst_ConfVersions::nearestNameWinsATieInAnyOrder()
+{
+    QFETCH(QString, nearest);
+    QFETCH(QString, oldest);
+    const QJsonObject file{{nearest, QJsonObject{{"t", 100}, {"v", 6}}},
+                           {oldest, QJsonObject{{"t", 100}, {"v", 5}}}};
+    for (const bool isLate : {false, true}) {
+        Host host(ConfStorage::KeepUnknownEntries);
+        host.store.addFormerName(nearest, oldest);
+        host.store.addFormerName("new", nearest);
+        if (isLate)
+            host.store.releaseConf("new");
+        host.load(compact(file));
+        if (isLate)
+            host.store.reserveConf("new", &host.number);
+        QCOMPARE(host.number, 6);
+    }
 }
 
 void tst_ConfVersions::formerNameThatIsDeclaredKeepsItsEntries()

@@ -89,6 +89,8 @@ private Q_SLOTS:
     void entryThatTheCreatorDoesNotAcceptIsOfferedOnce();
     void entriesThatCreateNothingAreKept_data();
     void entriesThatCreateNothingAreKept();
+    void entryThatIsNotAcceptedLaterKeepsItsName_data();
+    void entryThatIsNotAcceptedLaterKeepsItsName();
     void keptDefaultIsThatOfALaterPreset();
     void futureTimestampOfAnUnknownKeyIsRefusedByASharedLoad();
     void dumpsCannotAddMoreThanHalfOfTheFile();
@@ -619,6 +621,26 @@ void tst_KeptEntries::entriesThatCreateNothingAreKept()
     host.load(newer);
     QCOMPARE(later.values["Entry.1"], (QJsonObject{{"n", 1}}));
     QCOMPARE(host.save(), newer);
+}
+
+void tst_KeptEntries::entryThatIsNotAcceptedLaterKeepsItsName_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::newRow("value") << QByteArray(R"({"t":100,"v":{"n":1}})");
+    QTest::newRow("default without a preset") << QByteArray(R"({"t":100})");
+}
+
+void tst_KeptEntries::entryThatIsNotAcceptedLaterKeepsItsName()
+{
+    QFETCH(QByteArray, entry);
+    const QByteArray text = "{\"Entry.1\":" + entry + '}';
+    Host host;
+    host.load(text);
+    Entries entries(&host.store);
+    entries.cls.flags = ConfStorage::FlagSystemIndependent;
+    entries.cls.creator = nullptr;
+    host.store.loadPresetDynamicConf();
+    QCOMPARE(host.save(), text);
 }
 
 void tst_KeptEntries::keptDefaultIsThatOfALaterPreset()
