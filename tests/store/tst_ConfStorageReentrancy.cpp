@@ -38,6 +38,8 @@ private Q_SLOTS:
     void logHandlerMayRemoveTheFontOfATie_data();
     void logHandlerMayRemoveTheFontOfATie();
     void logHandlerMayRemoveKeysWhenAKeyIsTooLong();
+    void logHandlerMayReserveAKeyDuringALoad_data();
+    void logHandlerMayReserveAKeyDuringALoad();
     void logHandlerMayRemoveTheKeyBeingRestored();
     void creatorMayRemoveItsClass();
     void removerMayRemoveTheClass();
@@ -393,6 +395,56 @@ void tst_ConfStorageReentrancy::logHandlerMayRemoveKeysWhenAKeyIsTooLong()
     QVERIFY(mStore->mConfValues.isEmpty());
     QCOMPARE(mSize, 8);
     QCOMPARE(next, 7);
+}
+
+namespace {
+
+ConfStorage *sChangedStore = nullptr;
+QMap<QString, ConfStorage::ConfMeta> sCopiedMetas;
+
+/// Copies the records, so that the store changes another copy of them from now on.
+void reserveAKey(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    static int sNumber = 0;
+    sCopiedMetas = sChangedStore->mConfMetas;
+    sChangedStore->reserveConf("new", &sNumber);
+}
+
+} // namespace
+
+void tst_ConfStorageReentrancy::logHandlerMayReserveAKeyDuringALoad_data()
+{
+    QTest::addColumn<QString>("key"); // of the entry that is logged
+    QTest::addColumn<QJsonValue>("value");
+    QTest::newRow("value that cannot be saved")
+        << "General.SizeB" << QJsonValue(QString(1001, 'x'));
+    QTest::newRow("value of another type") << "General.SizeB" << QJsonValue("text");
+    QTest::newRow("unknown entry without room")
+        << "General.SizeUnknown" << QJsonValue(QString(501, 'x'));
+    QTest::newRow("key that is too long") << "General.Size" + QString(70000, 'x') << QJsonValue(1);
+}
+
+void tst_ConfStorageReentrancy::logHandlerMayReserveAKeyDuringALoad()
+{
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, value);
+    mStore->mFileOptions = ConfStorage::KeepUnknownEntries | ConfStorage::StrictTypes;
+    mStore->mMaxFileSize = 1000;
+    int next = 7, last = 7;
+    if (key == "General.SizeB")
+        mStore->reserveConf(key, &next);
+    mStore->reserveConf("General.T", &last);
+    const QJsonObject entry{{"t", 5}, {"v", 8}};
+    sChangedStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(reserveAKey);
+    mStore->loadConf(
+        {{"General.Size", entry}, {key, QJsonObject{{"t", 5}, {"v", value}}}, {"General.T", entry}},
+        ConfStorage::LoadShared);
+    qInstallMessageHandler(previous);
+    sCopiedMetas.clear();
+    QVERIFY(mStore->mConfValues.contains("new"));
+    QCOMPARE(last, 8);
+    QCOMPARE(mStore->mConfMetas["General.T"].lastChangeTime.toSecsSinceEpoch(), qint64(5));
 }
 
 void tst_ConfStorageReentrancy::logHandlerMayRemoveTheKeyBeingRestored()
