@@ -74,6 +74,8 @@ private Q_SLOTS:
     void damageOfASharedFileLosesNothing_data();
     void damageOfASharedFileLosesNothing();
     void newerBackupOfASharedFileIsLoaded();
+    void newestEntriesOfASharedFileAreKept_data();
+    void newestEntriesOfASharedFileAreKept();
     void newFilesHaveTheirPermissions_data();
     void newFilesHaveTheirPermissions();
     void existingFileKeepsItsPermissions();
@@ -460,6 +462,36 @@ void tst_DamagedFiles::newerBackupOfASharedFileIsLoaded()
     QCOMPARE(host.size, 6);
     host.store.saveToLocalConfFile();
     QCOMPARE(contentOf(path()), sText6);
+}
+
+void tst_DamagedFiles::newestEntriesOfASharedFileAreKept_data()
+{
+    QTest::addColumn<QByteArray>("backup");
+    QTest::addColumn<QByteArray>("saved");
+    const QByteArray a = "{\"a\":{\"t\":1,\"v\":0},";
+    const QByteArray z = ",\"z\":{\"t\":1,\"v\":0}}";
+    const QByteArray older = sText5.mid(1).chopped(1);
+    const QByteArray newer = "{\"size\":{\"t\":601,\"v\":8}}";
+    QTest::newRow("older") << sText5 << sText6;
+    QTest::newRow("same second") << QByteArray("{\"size\":{\"t\":600,\"v\":8}}") << sText6;
+    QTest::newRow("newer") << newer << newer;
+    QTest::newRow("other entries") << a + older + z << a + sText6.mid(1).chopped(1) + z;
+    QTest::newRow("other entry before") << a + sText5.mid(1) << a + sText6.mid(1);
+    QTest::newRow("only other entries") << a.chopped(1) + z << a + sText6.mid(1).chopped(1) + z;
+}
+
+void tst_DamagedFiles::newestEntriesOfASharedFileAreKept()
+{
+    QFETCH(QByteArray, backup);
+    QFETCH(QByteArray, saved);
+    const LogCapture log;
+    Host host(sKeep | ConfStorage::SharedFile);
+    host.save(6);
+    QVERIFY(write(backupPath(), backup));
+    QVERIFY(write(path(), sDamaged));
+    host.store.loadLocalConfFile();
+    host.store.saveToLocalConfFile();
+    QCOMPARE(contentOf(path()), saved);
 }
 
 void tst_DamagedFiles::newFilesHaveTheirPermissions_data()
