@@ -763,6 +763,7 @@ void tst_SharedFile::textThatIsNoObjectCountsAsEmpty_data()
     QTest::newRow("page") << QByteArray("<html><body>{}</body></html>");
     QTest::newRow("no value") << QByteArray(R"({"a":})");
     QTest::newRow("value that is not JSON") << QByteArray(R"({"a":{"t":5,"v":x}})");
+    QTest::newRow("unknown entry that is not JSON") << QByteArray(R"({"z":{"t":5,"v":x}})");
     QTest::newRow("more text") << QByteArray(R"({"a":{"t":5,"v":3}} x)");
 }
 
