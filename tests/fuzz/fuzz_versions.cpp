@@ -104,15 +104,14 @@ bool isRepeatable(const QJsonObject &file)
     return true;
 }
 
-/// Returns whether the file has an entry without a time that counts: the next version that knows
-/// its key changes it.
-bool hasUntimed(const QJsonObject &file)
+/// Returns whether no version of the program writes an entry of this form: a change and a removal
+/// in one, or neither, or without a time that counts.
+bool isMalformed(const QJsonValue &value)
 {
-    return std::any_of(file.begin(), file.end(), [](const QJsonValue &value) {
-        const QJsonObject entry = value.toObject();
-        const double time = entry.value("t").toDouble();
-        return !entry.contains("d") && (time < 1 || time > 9007199254740991.0); // of LongTimes
-    });
+    const QJsonObject entry = value.toObject();
+    const double time = entry.value("t").toDouble();
+    const bool isTimed = time >= 1 && time <= 9007199254740991.0; // of LongTimes
+    return entry.contains("d") ? entry.contains("t") : !isTimed;
 }
 
 } // namespace
@@ -139,7 +138,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         expect(again == saved, "loading again changes nothing", again, saved);
         expect(first.calls.isEmpty(), "loading again calls no callback");
     }
-    if (hasUntimed(QJsonDocument::fromJson(saved).object()))
+    const QJsonObject entries = QJsonDocument::fromJson(saved).object();
+    if (std::any_of(entries.begin(), entries.end(), isMalformed))
         return 0;
     const QJsonObject values = CurrentHost(options).values();
     OlderHost(options).save();
