@@ -6,115 +6,16 @@
 #include "ConfObservers_p.h"
 #include "DamagedFile_p.h"
 #include "DumpMember_p.h"
+#include "EntryTexts_p.h"
 #include "FileLock_p.h"
 #include "JsonText_p.h"
 #include "LocalFile_p.h"
 #include "PosixFile_p.h"
 
 #include <QDebug>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QScopedValueRollback>
-
-#include <algorithm>
-
-namespace {
-
-QByteArray toBytes(std::string_view text)
-{
-    return QByteArray(text.data(), static_cast<int>(text.size()));
-}
-
-/// Returns the key of a member, whose name may have the system mark.
-QString keyOf(const QString &name)
-{
-    if (!name.contains(QLatin1Char('#')))
-        return name;
-    const QString mark = addSysMark(QString());
-    return name.endsWith(mark) ? name.chopped(mark.size()) : name;
-}
-
-/// The members of some keys, to be asked for in their order.
-class NamesInOrder
-{
-public:
-    explicit NamesInOrder(const QSet<QString> &keys)
-    {
-        mNames.reserve(2 * static_cast<size_t>(keys.size()));
-        for (const QString &key : keys) {
-            mNames.push_back(key);
-            mNames.push_back(addSysMark(key));
-        }
-        std::sort(mNames.begin(), mNames.end());
-        mNext = mNames.cbegin();
-    }
-
-    bool contains(const QString &name)
-    {
-        while (mNext != mNames.cend() && *mNext < name)
-            ++mNext;
-        return mNext != mNames.cend() && *mNext == name;
-    }
-
-private:
-    std::vector<QString> mNames;
-    std::vector<QString>::const_iterator mNext;
-};
-
-/// Undefined if `value` is not JSON.
-QJsonValue parsed(const QByteArray &value)
-{
-    const QJsonArray array = QJsonDocument::fromJson('[' + value + ']').array();
-    return array.isEmpty() ? QJsonValue(QJsonValue::Undefined) : array.at(0);
-}
-
-qint64 timeOf(std::string_view value, TimeRange times)
-{
-    const ParsedMember member(parsed(toBytes(value)), times);
-    const std::optional<qint64> removal = member.removalTime();
-    return removal ? *removal : member.time().value_or(0);
-}
-
-std::string_view view(const QByteArray &text)
-{
-    return {text.constData(), static_cast<size_t>(text.size())};
-}
-
-void appendMember(QByteArray *text, const QString &name, std::string_view value)
-{
-    if (text->size() > 1)
-        *text += ',';
-    appendJsonString(*text, name);
-    *text += ':';
-    text->append(value.data(), static_cast<int>(value.size()));
-}
-
-/// Returns an object with the newest entry of each name. A tie takes that of `known`.
-QByteArray newestOf(const std::vector<MemberText> &known, const std::vector<MemberText> &others,
-                    TimeRange times)
-{
-    const std::vector<NamedText> theirs = sortedByName(others);
-    QByteArray text = "{";
-    auto their = theirs.cbegin();
-    const std::vector<NamedText> ours = sortedByName(known);
-    for (const NamedText &our : ours) {
-        for (; their != theirs.cend() && their->name < our.name; ++their)
-            appendMember(&text, their->name, their->value);
-        const bool isShared = their != theirs.cend() && their->name == our.name;
-        const bool isNewer = isShared && our.value != their->value
-                             && timeOf(their->value, times) > timeOf(our.value, times);
-        appendMember(&text, our.name, isNewer ? their->value : our.value);
-        if (isShared)
-            ++their;
-    }
-    for (; their != theirs.cend(); ++their)
-        appendMember(&text, their->name, their->value);
-    text += '}';
-    return text;
-}
-
-} // namespace
 
 ConfFileSharing::ConfFileSharing(ConfStorage &store) : mStore(store)
 {
@@ -168,7 +69,7 @@ void ConfFileSharing::touchKept(const QString &name)
 {
     // Without a timestamp it cannot win against that of another program.
     if (ConfKeptEntries::timeOf(mStore.mKeptEntries->entries().value(name)))
-        mTouched.insert(keyOf(name));
+        mTouched.insert(EntryTexts::keyOf(name));
 }
 
 ConfFileSharing::UnchangedEntry::UnchangedEntry(const std::shared_ptr<ConfFileSharing> &sharing,
@@ -177,7 +78,7 @@ ConfFileSharing::UnchangedEntry::UnchangedEntry(const std::shared_ptr<ConfFileSh
 {
     if (!mSharing)
         return;
-    const bool isTouched = mSharing->mTouched.contains(keyOf(name));
+    const bool isTouched = mSharing->mTouched.contains(EntryTexts::keyOf(name));
     mOuterDepth = std::exchange(mSharing->mMergeDepth,
                                 isTouched ? -1 : mSharing->mObservers->hostDepth());
 }
@@ -208,7 +109,7 @@ QByteArray ConfFileSharing::read(LocalFile *file)
         return text;
     const bool isObject = QJsonDocument::fromJson(text).isObject();
     const auto members = isObject ? splitMembers(text) : std::nullopt;
-    return members ? newestOf(*mMembers, *members, timeRange()) : mText;
+    return members ? EntryTexts::newestOf(*mMembers, *members, timeRange()) : mText;
 }
 
 /// Compares `text` with the text that was last read or written, and keeps its members, or none if
@@ -250,11 +151,11 @@ bool ConfFileSharing::collectForeign(const Members &known)
         const MemberText *old = index.find(member.rawName);
         if (old && old->value == member.value)
             continue;
-        const QByteArray value = toBytes(member.value);
+        const QByteArray value = EntryTexts::toBytes(member.value);
         const QString name = member.name();
-        if (parsed(value).isUndefined())
+        if (EntryTexts::parsed(value).isUndefined())
             return false;
-        (mTouched.contains(keyOf(name)) ? contested : foreign)[name] = value;
+        (mTouched.contains(EntryTexts::keyOf(name)) ? contested : foreign)[name] = value;
     }
     mForeign = foreign;
     mContested = contested;
@@ -272,94 +173,17 @@ void ConfFileSharing::collectUnloaded()
         const QString name = isMarked ? addSysMark(meta.key()) : meta.key();
         QByteArray quoted;
         appendJsonString(quoted, name);
-        const MemberText *member = index.find(view(quoted).substr(1, view(quoted).size() - 2));
+        const MemberText *member = index.find(
+            EntryTexts::view(quoted).substr(1, EntryTexts::view(quoted).size() - 2));
         const bool isRefused = mStore.mKeptEntries && mStore.mKeptEntries->entries().contains(name);
         if (member && !isRefused && !mForeign.contains(name))
-            mForeign[name] = toBytes(member->value);
+            mForeign[name] = EntryTexts::toBytes(member->value);
     }
-}
-
-/// Returns the text of the merged file. Takes the entries of others that touched ones yield to.
-QByteArray ConfFileSharing::merged(const ConfDump &dump, const QSet<QString> &touched)
-{
-    const std::vector<NamedText> theirs = sortedByName(*mMembers);
-    NamesInOrder touchedNames(touched);
-    QByteArray text;
-    text.reserve(mText.size() + mText.size() / 8 + 64);
-    text += '{';
-    auto their = theirs.cbegin();
-    for (size_t i = 0; i < dump.size(); ++i) {
-        const ConfDump::Entry ours = dump.at(i);
-        for (; their != theirs.cend() && their->name < ours.name; ++their)
-            appendMember(&text, their->name, their->value);
-        if (their == theirs.cend() || their->name != ours.name) {
-            appendMember(&text, ours.name, view(dump.entryText(i, ours.time)));
-            continue;
-        }
-        if (touchedNames.contains(ours.name))
-            appendMember(&text, ours.name, view(winner(dump, i, their->value)));
-        else if (ours.isKept)
-            appendMember(&text, ours.name, view(keptWinner(dump, i, their->value)));
-        else
-            appendMember(&text, ours.name, their->value);
-        ++their;
-    }
-    for (; their != theirs.cend(); ++their)
-        appendMember(&text, their->name, their->value);
-    text += '}';
-    return text;
-}
-
-/// Returns the entry of a touched key, or that of the file.
-QByteArray ConfFileSharing::winner(const ConfDump &dump, size_t index, std::string_view theirs)
-{
-    const ConfDump::Entry ours = dump.at(index);
-    const QByteArray entry = dump.entryText(index, ours.time);
-    if (view(entry) == theirs)
-        return entry;
-    const qint64 theirTime = timeOf(theirs, timeRange());
-    if (mContested.contains(ours.name) && yields(ours.time, theirTime)) {
-        mForeign[ours.name] = toBytes(theirs);
-        return toBytes(theirs);
-    }
-    if (theirTime < ours.time)
-        return entry;
-    if (ours.isKept)
-        return mStore.mKeptEntries ? mStore.mKeptEntries->stamp(ours.name, theirTime + 1) : entry;
-    stamp(keyOf(ours.name), theirTime + 1);
-    return dump.entryText(index, theirTime + 1);
-}
-
-/// Returns the kept entry of a key that is not touched, or that of the file. They differ if others
-/// have changed the entry, or if it got a timestamp when it was loaded.
-QByteArray ConfFileSharing::keptWinner(const ConfDump &dump, size_t index,
-                                       std::string_view theirs) const
-{
-    const ConfDump::Entry ours = dump.at(index);
-    const bool isNewer = !mForeign.contains(ours.name) && ours.time > timeOf(theirs, timeRange());
-    return isNewer ? dump.entryText(index, ours.time) : toBytes(theirs);
-}
-
-/// Returns whether a change here yields to that of the file.
-bool ConfFileSharing::yields(qint64 ourTime, qint64 theirTime)
-{
-    return theirTime > ourTime && theirTime <= QDateTime::currentSecsSinceEpoch();
 }
 
 TimeRange ConfFileSharing::timeRange() const
 {
     return mStore.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038;
-}
-
-void ConfFileSharing::stamp(const QString &key, qint64 seconds)
-{
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    const auto meta = mStore.mConfMetas.find(key);
-    const auto removed = mStore.mRemovedDynamicConfs.find(key);
-    if (meta != mStore.mConfMetas.end())
-        meta->lastChangeTime = time;
-    else if (removed != mStore.mRemovedDynamicConfs.end())
-        *removed = time;
 }
 
 bool ConfFileSharing::save()
@@ -406,7 +230,7 @@ bool ConfFileSharing::write(LocalFile *file)
         return true;
     }
     for (auto it = mForeign.cbegin(); it != mForeign.cend(); ++it)
-        touched.remove(keyOf(it.key())); // yielded
+        touched.remove(EntryTexts::keyOf(it.key())); // yielded
     mTouched.unite(touched);
     return false;
 }
@@ -465,9 +289,10 @@ void ConfFileSharing::yieldToNewer()
     for (size_t i = 0; i < dump.size(); ++i) {
         const ConfDump::Entry ours = dump.at(i);
         const QByteArray theirs = mContested.value(ours.name);
-        if (!theirs.isEmpty() && yields(ours.time, timeOf(view(theirs), timeRange()))) {
+        if (!theirs.isEmpty()
+            && yields(ours.time, EntryTexts::timeOf(EntryTexts::view(theirs), timeRange()))) {
             mForeign[ours.name] = theirs;
-            mTouched.remove(keyOf(ours.name));
+            mTouched.remove(EntryTexts::keyOf(ours.name));
         }
     }
 }
@@ -491,8 +316,8 @@ void ConfFileSharing::loadForeign()
     // A callback may read the file again, and so change the map.
     while (!mForeign.isEmpty()) {
         const QString name = mForeign.firstKey();
-        const QJsonValue entry = parsed(mForeign.take(name));
-        if (!mTouched.contains(keyOf(name)))
+        const QJsonValue entry = EntryTexts::parsed(mForeign.take(name));
+        if (!mTouched.contains(EntryTexts::keyOf(name)))
             load.loadMember(name, entry);
     }
 }

@@ -351,12 +351,13 @@ public:
     /// @see setAutosave
     void useRobustFiles();
 
-    /// Saves the local file when nothing has changed for `quietTime` milliseconds, when the
-    /// application emits `QCoreApplication::aboutToQuit`, and when the session manager ends the
-    /// session. A negative time switches this off, as it is by default. Without an application
-    /// object and its event loop nothing is saved. Nothing is saved before `loadLocalConfFile` has
-    /// run and during a load. Changes without an event, such as writing a variable, do not begin
-    /// the quiet time, but are saved if `mChanged` is set.
+    /// Saves the local file when nothing has changed for `quietTime` milliseconds, or ten times as
+    /// long after the first of changes that do not stop, when the application emits
+    /// `QCoreApplication::aboutToQuit`, and when the session manager ends the session. A negative
+    /// time switches this off, as it is by default. Without an application object and its event
+    /// loop nothing is saved. Nothing is saved before `loadLocalConfFile` has run and during a
+    /// load. Changes without an event, such as writing a variable, do not begin the quiet time, but
+    /// are saved if `mChanged` is set.
     ///
     /// After a save that fails, the next try follows after the quiet time, the one after that in
     /// twice the time, and so on up to a minute.
