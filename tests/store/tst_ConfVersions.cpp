@@ -359,6 +359,11 @@ void tst_ConfVersions::newestOfBothNamesWins()
         QTEST(host.number, "result");
         QCOMPARE(host.save(), saved);
     }
+    write(indented);
+    Host sharing(ConfStorage::SharedFile);
+    sharing.store.addFormerName("new", formerName);
+    sharing.store.loadLocalConfFile();
+    QTEST(sharing.number, "result");
 }
 
 void tst_ConfVersions::tieOfTheLocalFileKeepsTheCurrentName_data()
