@@ -95,6 +95,8 @@ private Q_SLOTS:
     void assignedVariableIsNotWrittenOverTheFile();
     void touchedEntryAndTheFile_data();
     void touchedEntryAndTheFile();
+    void touchedEntryAndALoadOfTheFile_data() { touchedEntryAndTheFile_data(); }
+    void touchedEntryAndALoadOfTheFile();
     void ownChangesOfOneSecondAreStampedInOrder();
     void entryOfOthersWinsATie();
     void entriesCreatedAndRemovedByOthersFollow();
@@ -123,7 +125,7 @@ private Q_SLOTS:
     void anotherFileGetsEverything();
     void callbackMaySaveAgain();
     void callbackMayClearTheStore();
-    void lockOfARunningProgramDelaysTheSave();
+    void lockOfARunningProgramDelaysSavesAndLoads();
     void lockWithoutContentIsTakenOver();
     void lockOfADeadProgramIsTakenOver();
     void textThatIsNoObjectCountsAsEmpty_data();
@@ -265,6 +267,26 @@ void tst_SharedFile::touchedEntryAndTheFile()
     two.store.loadLocalConfFile();
     QCOMPARE(two.a, value);
     QCOMPARE(two.store.mConfMetas["a"].lastChangeTime.toSecsSinceEpoch(), start + seconds);
+}
+
+void tst_SharedFile::touchedEntryAndALoadOfTheFile()
+{
+    QFETCH(int, ours);
+    QFETCH(int, theirs);
+    QFETCH(int, value);
+
+    const qint64 start = now();
+    Program one(mPath);
+    Program two(mPath);
+    one.store.loadLocalConfFile();
+    two.store.set("a", 20);
+    two.setTime("a", start + theirs);
+    QVERIFY(two.save());
+    one.store.set("a", 10);
+    one.setTime("a", start + ours);
+    one.store.loadLocalConfFile();
+    QCOMPARE(one.a, value);
+    QCOMPARE(one.store.mChanged, value == 10);
 }
 
 void tst_SharedFile::ownChangesOfOneSecondAreStampedInOrder()
@@ -704,7 +726,7 @@ void tst_SharedFile::callbackMayClearTheStore()
     two.store.removeObserver(observer);
 }
 
-void tst_SharedFile::lockOfARunningProgramDelaysTheSave()
+void tst_SharedFile::lockOfARunningProgramDelaysSavesAndLoads()
 {
     // The lock is beside the file that a link leads to.
     QVERIFY(QDir(mFolder->path()).mkdir("target"));
@@ -723,6 +745,10 @@ void tst_SharedFile::lockOfARunningProgramDelaysTheSave()
     QCOMPARE(
         log.texts(QtCriticalMsg),
         QStringList("ConfStorage::saveToLocalConfFile() file is locked:  \"" + target + ".lock\""));
+    one.store.loadLocalConfFile();
+    QCOMPARE(log.texts(QtCriticalMsg).last(),
+             QString("ConfStorage::loadLocalConfFile() file is locked:  \"" + target + ".lock\""));
+    QCOMPARE(one.a, 1);
     QVERIFY(lock.isLocked());
     lock.unlock();
     QVERIFY(one.save());
