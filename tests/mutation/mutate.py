@@ -23,7 +23,7 @@ from mutants import mutants_of
 
 ROOT = Path(__file__).resolve().parents[2]
 # The folders whose tests cover a folder's code: its own first, then the folders that use it.
-TEST_FOLDERS = {"store": ("store", "manage"),
+TEST_FOLDERS = {"store": ("store", "manage", "faults"),
                 "manage": ("manage", "window", "widgets"),
                 "widgets": ("widgets", "window"),
                 "window": ("window", "demo"),
