@@ -5,6 +5,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <unistd.h>
 
@@ -120,6 +121,11 @@ void tst_FileWatch::changesOfOthersAreLoaded_data()
     QTest::newRow("removed and created") << Action([] {
         QVERIFY(QFile::remove("box/local.json"));
         QVERIFY(write(textOf(2)));
+    });
+    QTest::newRow("rewritten with the same length and modification time") << Action([] {
+        const auto time = std::filesystem::last_write_time("box/local.json");
+        QVERIFY(write("{\"size\":{\"t\":200,\"v\":2},\"width\":{\"t\":100,\"v\":1}}"));
+        std::filesystem::last_write_time("box/local.json", time);
     });
     QTest::newRow("formatted by an editor")
         << Action([] { QVERIFY(write("{\n  \"size\": { \"t\": 200, \"v\": 2 }\n}\n")); });
