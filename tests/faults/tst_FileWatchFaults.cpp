@@ -35,6 +35,7 @@ FailingCalls sInit;
 FailingCalls sAddWatch;
 FailingCalls sStat;
 constexpr int sAlways = 1000000;
+constexpr int sBeforeThePoll = 3000; // milliseconds; the first poll is after five seconds
 
 template<class Function> Function next(const char *name)
 {
@@ -81,6 +82,8 @@ private Q_SLOTS:
 
     void changeIsFoundWithoutTheSystem_data();
     void changeIsFoundWithoutTheSystem();
+    void refusedFolderIsWatchedForAnotherFile();
+    void storeMayBeClearedByALogHandler_data();
     void storeMayBeClearedByALogHandler();
     void statusThatCannotBeReadChangesNothing_data();
     void statusThatCannotBeReadChangesNothing();
@@ -116,10 +119,35 @@ void tst_FileWatchFaults::changeIsFoundWithoutTheSystem()
     QVERIFY2(log.messages().size() <= 3, qPrintable(log.texts(QtWarningMsg).join('\n')));
 }
 
-void tst_FileWatchFaults::storeMayBeClearedByALogHandler()
+void tst_FileWatchFaults::refusedFolderIsWatchedForAnotherFile()
 {
     sAddWatch = {ENOSPC, sAlways, 0};
+    const LogCapture log;
     SavedSettings settings(sOptions);
+    settings.store.loadLocalConfFile();
+    sAddWatch = FailingCalls();
+    settings.store.mLocalSaveFile = "box/later-local.json";
+    settings.store.loadLocalConfFile();
+    sStat = FailingCalls();
+    QTRY_VERIFY(sStat.made > 0); // the first look, which does not find the file
+    QVERIFY(SavedSettings::write(SavedSettings::fileText(2), "box/later-local.json"));
+    QTRY_COMPARE_WITH_TIMEOUT(settings.number(), 2, sBeforeThePoll);
+}
+
+void tst_FileWatchFaults::storeMayBeClearedByALogHandler_data()
+{
+    QTest::addColumn<bool>("isLoaded");
+    QTest::newRow("during the load") << false;
+    QTest::newRow("after a change") << true;
+}
+
+void tst_FileWatchFaults::storeMayBeClearedByALogHandler()
+{
+    QFETCH(bool, isLoaded);
+    SavedSettings settings(sOptions);
+    if (isLoaded)
+        settings.store.loadLocalConfFile();
+    sAddWatch = {ENOSPC, sAlways, 0};
     static ConfStorage *sStore = nullptr;
     sStore = &settings.store;
     const QtMessageHandler previous = qInstallMessageHandler(
@@ -127,7 +155,13 @@ void tst_FileWatchFaults::storeMayBeClearedByALogHandler()
             if (sStore)
                 std::exchange(sStore, nullptr)->clear();
         });
-    settings.store.loadLocalConfFile();
+    if (isLoaded) {
+        QVERIFY(SavedSettings::write(SavedSettings::fileText(2), "box/new"));
+        QVERIFY(std::rename("box/new", "box/local.json") == 0);
+        QTRY_VERIFY(!sStore);
+    } else {
+        settings.store.loadLocalConfFile();
+    }
     qInstallMessageHandler(previous);
     QVERIFY(!sStore);
     QVERIFY(settings.store.mConfValues.isEmpty());
