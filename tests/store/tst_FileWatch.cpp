@@ -4,6 +4,9 @@
 #include <MaltoConfiguration/store/ConfLoadReport.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <QTimer>
+
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <functional>
@@ -88,6 +91,7 @@ private Q_SLOTS:
     void targetThatIsCreatedAgainIsFound();
     void fileThatReplacesAnOpenOneIsWatched();
     void folderThatIsCreatedLaterIsFound();
+    void processRarelyWakesUpWithoutAChange();
     void ownSavesAreNotLoaded();
     void sameContentCallsNoCallback();
     void olderEntryIsNotTaken();
@@ -234,6 +238,20 @@ void tst_FileWatch::folderThatIsCreatedLaterIsFound()
     QVERIFY(QDir("box").mkdir("later"));
     QVERIFY(write(textOf(2), "box/later/local.json"));
     QTRY_COMPARE_WITH_TIMEOUT(host.size, 2, 30000); // found by the slow poll
+}
+
+void tst_FileWatch::processRarelyWakesUpWithoutAChange()
+{
+    Host host;
+    QVERIFY(host.settle());
+    const auto wakesUpOften = [] {
+        const QList<QTimer *> timers = qApp->findChildren<QTimer *>();
+        return std::any_of(timers.cbegin(), timers.cend(), [](const QTimer *timer) {
+            return timer->isActive()
+                   && (timer->interval() < 1000 || timer->timerType() != Qt::VeryCoarseTimer);
+        });
+    };
+    QTRY_VERIFY(!wakesUpOften());
 }
 
 void tst_FileWatch::ownSavesAreNotLoaded()
