@@ -114,8 +114,8 @@ void tst_ConfStorageDebug::controlCharactersAreEscaped_data()
     QTest::newRow("half of a pair") << QString("a") + QChar(0xd83d) << "a\\ud83d";
     QTest::newRow("invisible character of a pair")
         << QString::fromUtf8("a\xf3\xa0\x81\x81") << "a\\ue0041";
-    QTest::newRow("emoji") << QString::fromUtf8("a\xf0\x9f\x98\x80")
-                           << QString::fromUtf8("a\xf0\x9f\x98\x80");
+    QTest::newRow("emoji") << QString::fromUtf8("a\xf0\x9f\x98\x80z")
+                           << QString::fromUtf8("a\xf0\x9f\x98\x80z");
     QTest::newRow("pair at the limit") << QString(198, 'x') + QString::fromUtf8("\xf0\x9f\x98\x80")
                                        << QString(198, 'x') + QString::fromUtf8("\xf0\x9f\x98\x80");
     QTest::newRow("pair beyond the limit")
