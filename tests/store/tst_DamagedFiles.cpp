@@ -67,6 +67,7 @@ private Q_SLOTS:
     void sameDamageIsCopiedOnce();
     void newestThreeCopiesAreKept();
     void copiesOfOneSecondAreNumbered();
+    void hundredCopiesOfOneSecondAreMade();
     void newCopyIsKeptIfTheClockWentBack();
     void otherFilesAreNotRemoved();
     void copyIsBesideTheTargetOfALink();
@@ -339,6 +340,25 @@ void tst_DamagedFiles::copiesOfOneSecondAreNumbered()
     QCOMPARE(contentOf("box/" + copies.at(0)), sDamaged + "0");
     QCOMPARE(contentOf("box/" + copies.at(1)), sDamaged + "1");
     QCOMPARE(contentOf("box/" + copies.at(2)), sDamaged + "2");
+}
+
+void tst_DamagedFiles::hundredCopiesOfOneSecondAreMade()
+{
+    // Whatever the second of the next copy is, 99 names are used already.
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    for (int second = 0; second < 30; ++second) {
+        const QString name = path() + ".damaged-"
+                             + now.addSecs(second).toString("yyyyMMdd'T'hhmmss'Z'");
+        QVERIFY(write(name, "x"));
+        for (int number = 2; number <= 99; ++number)
+            QVERIFY(write(name + '-' + QString::number(number), "x"));
+    }
+    QVERIFY(write(path(), sDamaged));
+    const LogCapture log;
+    load();
+    const QStringList copies = copiesIn("box").filter("Z-100");
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(contentOf("box/" + copies.first()), sDamaged);
 }
 
 void tst_DamagedFiles::newCopyIsKeptIfTheClockWentBack()
