@@ -93,6 +93,7 @@ private Q_SLOTS:
     void pendingChangeIsSavedWhenItIsSwitchedOn();
     void endOfTheApplicationIsSaved();
     void answersToOthersAreSavedAtTheEndOfTheApplication();
+    void failedSaveAtTheEndOfTheApplicationIsNotRepeated();
     void endOfTheSessionIsSaved();
     void nothingIsSavedBeforeTheFirstLoad();
     void nothingIsSavedDuringALoad();
@@ -265,6 +266,16 @@ void tst_Autosave::answersToOthersAreSavedAtTheEndOfTheApplication()
     QCoreApplication::exec();
     QCOMPARE(width, 8);
     QVERIFY(!host.store.mChanged);
+}
+
+void tst_Autosave::failedSaveAtTheEndOfTheApplicationIsNotRepeated()
+{
+    Host host("missing/local.json", sHour);
+    const LogCapture log;
+    host.store.set("size", 8);
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 1);
 }
 
 void tst_Autosave::endOfTheSessionIsSaved()
