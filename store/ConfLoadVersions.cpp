@@ -12,7 +12,6 @@
 
 void ConfLoad::loadKept(const QString &key)
 {
-    mLastTime.reset(); // the load that kept the entries has reported them
     mIsKept = true;
     const QStringList names = keptNamesOf(key);
     for (const QString &name : names) {
@@ -90,7 +89,6 @@ void ConfLoad::loadKeptOfClasses(ConfStorage &store)
     if (!store.mKeptEntries)
         return;
     ConfLoad load(store, ConfStorage::LoadLocal);
-    load.mLastTime.reset();
     load.mIsKept = true;
     load.mIsRetry = true;
     const QList<QString> names = store.mKeptEntries->entries().keys();
@@ -117,7 +115,6 @@ void ConfLoad::convertApplied(const QString &key)
         || record->lastChangeTime.toSecsSinceEpoch() != ConfKeptEntries::timeOf(entry))
         return;
     record->lastChangeTime = QDateTime(); // or the entry would lose against itself
-    mLastTime.reset();
     merge(key, entry);
 }
 

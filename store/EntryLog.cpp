@@ -37,8 +37,7 @@ QString escaped(uint character)
 
 EntryLog::EntryLog()
 {
-    if (sDepth++ == 0)
-        sMessages = 0;
+    ++sDepth;
 }
 
 EntryLog::~EntryLog()
