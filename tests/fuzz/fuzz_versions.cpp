@@ -7,8 +7,6 @@
 
 #include <QJsonDocument>
 
-#include <algorithm>
-
 namespace {
 
 StoreDeclarations currentDeclarations()
@@ -104,14 +102,20 @@ bool isRepeatable(const QJsonObject &file)
     return true;
 }
 
-/// Returns whether no version of the program writes an entry of this form: a change and a removal
-/// in one, or neither, or without a time that counts.
-bool isMalformed(const QJsonValue &value)
+/// Returns whether a version of the program writes such entries: a change or a removal, not both,
+/// with a time that counts, and removals of dynamic keys only.
+bool isWellFormed(const QJsonObject &file)
 {
-    const QJsonObject entry = value.toObject();
-    const double time = entry.value("t").toDouble();
-    const bool isTimed = time >= 1 && time <= 9007199254740991.0; // of LongTimes
-    return entry.contains("d") ? entry.contains("t") : !isTimed;
+    for (auto it = file.begin(); it != file.end(); ++it) {
+        const QJsonObject entry = it->toObject();
+        const bool isRemoval = entry.contains("d");
+        const double time = entry.value(isRemoval ? "d" : "t").toDouble();
+        if (time < 1 || time > 9007199254740991.0) // of LongTimes
+            return false;
+        if (isRemoval && (entry.size() > 1 || !it.key().startsWith("p.")))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -138,8 +142,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         expect(again == saved, "loading again changes nothing", again, saved);
         expect(first.calls.isEmpty(), "loading again calls no callback");
     }
-    const QJsonObject entries = QJsonDocument::fromJson(saved).object();
-    if (std::any_of(entries.begin(), entries.end(), isMalformed))
+    if (!isWellFormed(QJsonDocument::fromJson(saved).object()))
         return 0;
     const QJsonObject values = CurrentHost(options).values();
     OlderHost(options).save();
