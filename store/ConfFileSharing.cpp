@@ -166,11 +166,14 @@ bool ConfFileSharing::collectForeign(const Members &known)
 void ConfFileSharing::collectUnloaded()
 {
     MemberIndex index(*mMembers);
-    for (auto meta = mStore.mConfMetas.cbegin(); meta != mStore.mConfMetas.cend(); ++meta) {
-        if (!meta->lastChangeTime.isNull() || mTouched.contains(meta.key()))
+    const QSet<QString> reserved = std::exchange(mReserved, {});
+    for (const QString &key : reserved) {
+        const auto meta = mStore.mConfMetas.constFind(key);
+        if (meta == mStore.mConfMetas.cend() || !meta->lastChangeTime.isNull()
+            || mTouched.contains(key))
             continue;
         const bool isMarked = meta->flags & ConfStorage::FlagSystemIndependent;
-        const QString name = isMarked ? addSysMark(meta.key()) : meta.key();
+        const QString name = isMarked ? addSysMark(key) : key;
         QByteArray quoted;
         appendJsonString(quoted, name);
         const MemberText *member = index.find(

@@ -59,6 +59,10 @@ public:
         int mOuterDepth = 0;
     };
 
+    /// Lets the next load take the entry of a key that is reserved now, even if the file stays the
+    /// same.
+    void addReserved(const QString &key) { mReserved.insert(key); }
+
     /// Returns whether operations of this store are not in the file yet, or the file is damaged.
     bool hasChanges() const { return mNeedsRepair || !mTouched.isEmpty(); }
 
@@ -97,6 +101,7 @@ private:
     std::optional<bool> mIsObject;        // whether `mText` is a JSON object, if that is known
     std::optional<Members> mMembers;      // of `mText`, if they are known
     QSet<QString> mTouched;               // keys that were changed here since then
+    QSet<QString> mReserved;              // keys that were reserved since the last load
     QMap<QString, QByteArray> mForeign;   // entries by name that are to be loaded
     QMap<QString, QByteArray> mContested; // entries by name that others changed, of touched keys
 };

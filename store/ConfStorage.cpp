@@ -66,6 +66,8 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
             meta.flags &= ~FlagIsDefault;
     }
     mConfMetas[exactKey] = meta;
+    if (mFileSharing)
+        mFileSharing->addReserved(exactKey);
     if (isLocked(exactKey))
         mLockedConfs->takeOwn(*this, exactKey);
     if (mKeptEntries && !mBusyDynamicConfs.contains(exactKey))
