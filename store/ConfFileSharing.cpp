@@ -5,7 +5,6 @@
 #include "ConfLoad_p.h"
 #include "ConfObservers_p.h"
 #include "DamagedFile_p.h"
-#include "DumpMember_p.h"
 #include "EntryTexts_p.h"
 #include "FileLock_p.h"
 #include "JsonText_p.h"

@@ -336,7 +336,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
     QJsonValue value = newValue(member);
-    if (!mIsSavable && isRefused(key, value))
+    if (!mIsSavable && isRefused(key, value, mStore.mMaxFileSize))
         return;
     if (mIsStrict) {
         const auto fitting = strictJson(value, stored->mType);

@@ -47,7 +47,8 @@ template<class Member> bool ConfLoad::mergeDynamic(const QString &key, const Mem
             mergeDefault(key, incoming, time.has_value());
         return true;
     }
-    if (!exists && (isBeyondLimits(key) || (!mIsSavable && isRefused(key, value))))
+    if (!exists
+        && (isBeyondLimits(key) || (!mIsSavable && isRefused(key, value, mStore.mMaxFileSize))))
         return true;
     mStore.mRemovedDynamicConfs.remove(key);
     if (exists)

@@ -11,10 +11,11 @@
 
 // The entries that a load refuses, and those that it keeps without loading them.
 
-/// Returns whether `value` would make all further saves fail, and logs this.
-bool ConfLoad::isRefused(const QString &key, const QJsonValue &value)
+/// Returns whether `value` needs more than `limit` bytes of the local file, so that all further
+/// saves could fail, and logs this.
+bool ConfLoad::isRefused(const QString &key, const QJsonValue &value, qint64 limit)
 {
-    if (isSavable(value, mStore.mMaxFileSize))
+    if (isSavable(value, limit))
         return false;
     refuse(key, ConfLoadReport::Reason::NotSavable);
     forgetPosition();
@@ -73,14 +74,7 @@ void ConfLoad::refuse(const QString &key, ConfLoadReport::Reason reason)
 bool ConfLoad::hasNoRoom(const QString &name, const QJsonValue &entry)
 {
     // The other half of the file is for the settings of this program.
-    if (isSavable(entry, mStore.mMaxFileSize / 2 - mStore.mKeptEntries->size()))
-        return false;
-    refuse(name, ConfLoadReport::Reason::NotSavable);
-    forgetPosition();
-    if (EntryLog::permits())
-        qCritical() << "ConfStorage::loadConf() value could not be saved: "
-                    << EntryLog::truncated(name);
-    return true;
+    return isRefused(name, entry, mStore.mMaxFileSize / 2 - mStore.mKeptEntries->size());
 }
 
 /// Returns whether an entry is kept if its key is not declared: each one with the option, and that

@@ -100,7 +100,7 @@ private:
     QStringList keptNamesOf(const QString &key) const;
     QDateTime timeAfterKept(const QString &key) const;
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
-    bool isRefused(const QString &key, const QJsonValue &value);
+    bool isRefused(const QString &key, const QJsonValue &value, qint64 limit);
     void refuseType(const QString &key, bool isMarked, const QJsonValue &entry);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
