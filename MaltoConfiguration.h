@@ -12,6 +12,8 @@
 #include <MaltoConfiguration/store/ConfOperation.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 #include <MaltoConfiguration/store/ConfValue.h>
+#include <MaltoConfiguration/store/JsonForm.h>
+#include <MaltoConfiguration/store/JsonTypes.h>
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>

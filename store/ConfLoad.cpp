@@ -338,7 +338,7 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
     QJsonValue value = newValue(member);
     if (!mIsSavable && isRefused(key, value, mStore.mMaxFileSize))
         return;
-    if (mIsStrict) {
+    if (isStrictType(mIsStrict, stored->mType)) {
         const auto fitting = strictJson(value, stored->mType);
         if (!fitting) {
             const bool isMarked = meta->flags & ConfStorage::FlagSystemIndependent;

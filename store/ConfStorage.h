@@ -4,6 +4,7 @@
 
 #include <MaltoConfiguration/malto_export.h>
 #include <MaltoConfiguration/store/ConfValue.h>
+#include <MaltoConfiguration/store/JsonForm.h>
 
 #include <QDateTime>
 #include <QJsonValue>
@@ -201,9 +202,9 @@ public:
 
     /// Binds `key` to `*ptr`, whose current content becomes the default value. Reserving a key
     /// again binds it to the new variable and resets its callback, timestamp and flags. Calls no
-    /// callback. `T` is `int`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence` or another type
-    /// of `ConfValue`. Logs the critical message "ConfStorage::reserveConf null pointer: " with the
-    /// key and reserves nothing if `ptr` is null.
+    /// callback. `T` is a type of `ConfValue`, or one with a `MtConf::JsonForm`. Logs the critical
+    /// message "ConfStorage::reserveConf null pointer: " with the key and reserves nothing if `ptr`
+    /// is null.
     template<class T> void reserveConf(const QString &key, T *ptr);
 
     /// Ends the binding of `key` to its variable, which may be destroyed afterwards, and removes

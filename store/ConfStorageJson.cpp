@@ -60,8 +60,9 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
         setToDefault(key, true);
         return;
     }
-    if (mFileOptions & StrictTypes) {
-        const auto fitting = strictJson(value, mConfValues.value(key).mType);
+    const ConfValue::ConfType valueType = mConfValues.value(key).mType;
+    if (isStrictType(mFileOptions & StrictTypes, valueType)) {
+        const auto fitting = strictJson(value, valueType);
         if (!fitting) {
             logOtherType(key);
             return;

@@ -23,7 +23,7 @@ void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
     const auto stored = mConfValues.constFind(name);
     if (stored == mConfValues.constEnd())
         return;
-    if (mFileOptions & StrictTypes) {
+    if (isStrictType(mFileOptions & StrictTypes, stored->mType)) {
         const auto fitting = strictJson(fixed, stored->mType);
         if (!fitting) {
             logOtherType(name);

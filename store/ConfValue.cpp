@@ -89,6 +89,18 @@ void fromJson(const QJsonValue &json, QJsonArray &array)
     array = json.toArray();
 }
 
+/// The variable of a bound value of a type with a `JsonForm`.
+void *variableOf(const ConfValue &value)
+{
+    return value.mValue.value<void *>();
+}
+
+/// Whether the values are of a type with a `JsonForm`. Equal values have equal JSON.
+bool isJsonType(const ConfValue &value)
+{
+    return MtConf::jsonOperations(value.mType) != nullptr;
+}
+
 /// What QVariant::isNull() says with Qt 5: with Qt 6 it no longer asks the text that it holds, and
 /// says yes to a pointer that is null.
 bool isNull(const ConfValue &value)
@@ -105,7 +117,12 @@ bool isNull(const ConfValue &value)
 BoundCopy boundCopy(const ConfValue &value)
 {
     BoundCopy copy{value, nullptr};
-    if (value.mIsPtr) {
+    const MtConf::JsonOperations *operations = MtConf::jsonOperations(value.mType);
+    if (value.mIsPtr && operations) {
+        if (const void *variable = variableOf(value))
+            copy.variable = operations->copy(variable);
+        copy.value.mValue = QVariant::fromValue(copy.variable.get());
+    } else if (value.mIsPtr) {
         visitType(value.mType, [&](auto *type) {
             using T = std::remove_pointer_t<decltype(type)>;
             const auto variable = std::make_shared<T>(value.get<T>());
@@ -113,6 +130,18 @@ BoundCopy boundCopy(const ConfValue &value)
         });
     }
     return copy;
+}
+
+/// Sets the value of a type with a `JsonForm`. Returns false if the form refuses it.
+bool ConfValue::setJson(const QJsonValue &json)
+{
+    const MtConf::JsonOperations *operations = MtConf::jsonOperations(mType);
+    if (void *variable = mIsPtr ? variableOf(*this) : nullptr)
+        return operations->fromJson(json, variable);
+    const bool isAccepted = operations->accepts(json);
+    if (isAccepted && !mIsPtr)
+        mValue.setValue(json);
+    return isAccepted;
 }
 
 void ConfValue::logGetMismatch()
@@ -126,6 +155,10 @@ void ConfValue::set(const ConfValue &other)
         qWarning() << "ConfValue::set() type mismatch";
         return;
     }
+    if (isJsonType(other)) {
+        setJson(other.toJsonValue());
+        return;
+    }
     visitType(mType, [&](auto *type) {
         using T = std::remove_pointer_t<decltype(type)>;
         set<T>(other.get<T>());
@@ -135,7 +168,9 @@ void ConfValue::set(const ConfValue &other)
 bool ConfValue::operator==(const ConfValue &other) const
 {
     bool equal = false;
-    if (mType == other.mType) {
+    if (mType == other.mType && isJsonType(other)) {
+        equal = toJsonValue() == other.toJsonValue();
+    } else if (mType == other.mType) {
         visitType(mType, [&](auto *type) {
             using T = std::remove_pointer_t<decltype(type)>;
             equal = get<T>() == other.get<T>();
@@ -149,6 +184,10 @@ QJsonValue ConfValue::toJsonValue() const
     if (mType == TyNone || isNull(*this))
         return QJsonValue();
     QJsonValue json;
+    if (const MtConf::JsonOperations *operations = MtConf::jsonOperations(mType)) {
+        const void *variable = mIsPtr ? variableOf(*this) : nullptr;
+        return variable ? operations->toJson(variable) : mValue.value<QJsonValue>();
+    }
     visitType(mType, [&](auto *type) {
         using T = std::remove_pointer_t<decltype(type)>;
         json = toJson(get<T>());
@@ -161,6 +200,12 @@ void ConfValue::loadFromJsonValue(const QJsonValue &value)
     if (value.isNull() || value.isUndefined()) {
         // Unbinds deliberately: from now on the store treats the key as a key without a value.
         *this = ConfValue();
+        return;
+    }
+    if (isJsonType(*this)) {
+        if (!setJson(value) && EntryLog::permits())
+            qWarning() << "ConfValue::loadFromJsonValue() value refused: "
+                       << static_cast<quint32>(mType);
         return;
     }
     visitType(mType, [&](auto *type) {

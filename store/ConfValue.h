@@ -3,6 +3,7 @@
 /// @file
 
 #include <MaltoConfiguration/malto_export.h>
+#include <MaltoConfiguration/store/JsonTypes.h>
 
 #include <QColor>
 #include <QFont>
@@ -41,9 +42,10 @@ Q_DECLARE_METATYPE(TyQJsonArrayPtr)
 /// A typed value of the store. It is either bound to a variable of the host, which it reads and
 /// writes in place, or it owns its content.
 ///
-/// There are nine types: `int`, `double`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence`,
-/// `QJsonObject` and `QJsonArray`. The templates below exist for these types only. A bound value
-/// does not own the variable: the host keeps the variable alive as long as the value is in use.
+/// Nine types are built in: `int`, `double`, `bool`, `QString`, `QColor`, `QFont`, `QKeySequence`,
+/// `QJsonObject` and `QJsonArray`. Any other type needs a `MtConf::JsonForm`, which JsonForm.h
+/// supplies for many. A bound value does not own the variable: the host keeps the variable alive as
+/// long as the value is in use.
 ///
 /// No function throws or returns an error. Each failure is one message on Qt's log.
 ///
@@ -52,7 +54,8 @@ Q_DECLARE_METATYPE(TyQJsonArrayPtr)
 class MALTO_EXPORT ConfValue
 {
 public:
-    /// The type of a value. The numbers are fixed, because log messages print them.
+    /// The type of a value. The numbers are fixed, because log messages print them. Those of other
+    /// types are 10 and more; see `MtConf::registerJsonType`.
     enum ConfType : quint32 {
         TyNone = 0,
         TyQColor = 1,
@@ -76,8 +79,14 @@ public:
     /// Returns a value that owns a copy of `value`.
     template<class T> static ConfValue owned(const T &value);
 
-    /// Returns the type code of `T`. Does not compile for other types than the nine.
+    /// Returns the type code of `T`, a constant for the nine types. Does not compile for a type
+    /// without a `MtConf::JsonForm`.
     template<class T> static constexpr ConfType typeOf();
+
+    /// Whether `T` is one of the nine types.
+    template<class T>
+    static constexpr bool isBuiltIn = MtConf::isAnyOf<T, QColor, int, qreal, bool, QString, QFont,
+                                                      QKeySequence, QJsonObject, QJsonArray>;
 
     /// Returns the current value. Logs the warning "ConfValue::get() type mismatch" and returns a
     /// default-constructed `T` if the value is not of type `T`.
@@ -102,8 +111,9 @@ public:
 
     /// Returns the value as JSON: a colour as the hexadecimal digits of its ARGB value, or "None"
     /// if it is invalid; a font as the `QFont::toString` of Qt 5 and a key sequence as the portable
-    /// text of Qt 5, also with Qt 6; an empty value as null; other values as they are. Logs the
-    /// critical message "restoreDefault: unknow type: " with the type if the type is unknown.
+    /// text of Qt 5, also with Qt 6; an empty value as null; the value of a type with a
+    /// `MtConf::JsonForm` in this form; other values as they are. Logs the critical message
+    /// "restoreDefault: unknow type: " with the type if the type is unknown.
     QJsonValue toJsonValue() const;
 
     /// Sets the value from JSON as `toJsonValue` returns it. JSON of another type is converted by
@@ -115,9 +125,14 @@ public:
     /// than 4096 points or pixels does so too, and logs the warning
     /// "ConfValue::loadFromJsonValue() font size out of range: " with the text. A font without a
     /// size gets the size of the default font, or none if no `QGuiApplication` exists.
+    ///
+    /// JSON that the `MtConf::JsonForm` of the type refuses changes nothing. Logs the warning
+    /// "ConfValue::loadFromJsonValue() value refused: " with the type.
     void loadFromJsonValue(const QJsonValue &value);
 
-    QVariant mValue;         ///< the content, or a pointer `T *` to the host's variable
+    /// The content, or a pointer `T *` to the host's variable. For a type with a
+    /// `MtConf::JsonForm` the JSON, or a `void *`.
+    QVariant mValue;
     bool mIsPtr = false;     ///< whether `mValue` contains a pointer
     ConfType mType = TyNone; ///< the type of the value
 
@@ -127,6 +142,11 @@ private:
     {
     }
 
+    /// Returns what `mValue` contains if it owns `value`.
+    template<class T> static decltype(auto) contentOf(const T &value);
+    /// Returns the variable of a bound value of type `T`.
+    template<class T> T *variable() const;
+    bool setJson(const QJsonValue &json);
     static void logGetMismatch();
 };
 
@@ -148,21 +168,48 @@ template<class T> constexpr ConfValue::ConfType ConfValue::typeOf()
         return TyQKeySequence;
     else if constexpr (std::is_same_v<T, QJsonObject>)
         return TyQJsonObject;
-    else {
-        static_assert(std::is_same_v<T, QJsonArray>, "not one of the types of ConfValue");
+    else if constexpr (std::is_same_v<T, QJsonArray>)
         return TyQJsonArray;
+    else {
+        static_assert(MtConf::hasJsonForm<T>,
+                      "a setting of this type needs a MtConf::JsonForm with toJson and fromJson");
+        if constexpr (MtConf::hasJsonForm<T>)
+            return static_cast<ConfType>(MtConf::jsonTypeId<T>());
+        else
+            return TyNone;
     }
 }
 
 template<class T> ConfValue ConfValue::bound(T *variable)
 {
-    qMetaTypeId<T *>(); // registers the name of the pointer type, which Qt 6 does not do by itself
-    return ConfValue(QVariant::fromValue(variable), true, typeOf<T>());
+    if constexpr (isBuiltIn<T>) {
+        // Registers the name of the pointer type, which Qt 6 does not do by itself.
+        qMetaTypeId<T *>();
+        return ConfValue(QVariant::fromValue(variable), true, typeOf<T>());
+    } else {
+        return ConfValue(QVariant::fromValue<void *>(variable), true, typeOf<T>());
+    }
 }
 
 template<class T> ConfValue ConfValue::owned(const T &value)
 {
-    return ConfValue(QVariant::fromValue(value), false, typeOf<T>());
+    return ConfValue(QVariant::fromValue(contentOf(value)), false, typeOf<T>());
+}
+
+template<class T> decltype(auto) ConfValue::contentOf(const T &value)
+{
+    if constexpr (isBuiltIn<T>)
+        return (value);
+    else
+        return MtConf::toJsonForm(value);
+}
+
+template<class T> T *ConfValue::variable() const
+{
+    if constexpr (isBuiltIn<T>)
+        return mValue.value<T *>();
+    else
+        return static_cast<T *>(mValue.value<void *>());
 }
 
 template<class T> T ConfValue::get() const
@@ -171,10 +218,14 @@ template<class T> T ConfValue::get() const
         logGetMismatch();
         return T();
     }
-    if (!mIsPtr)
+    if (mIsPtr) {
+        const T *bound = variable<T>();
+        return bound ? *bound : T();
+    }
+    if constexpr (isBuiltIn<T>)
         return mValue.value<T>();
-    const T *variable = mValue.value<T *>();
-    return variable ? *variable : T();
+    else
+        return MtConf::fromJsonForm<T>(mValue.value<QJsonValue>()).value_or(T());
 }
 
 template<class T> void ConfValue::set(T value)
@@ -185,7 +236,7 @@ template<class T> void ConfValue::set(T value)
         return;
     }
     if (!mIsPtr)
-        mValue.setValue(value);
-    else if (T *variable = mValue.value<T *>())
-        *variable = std::move(value);
+        mValue.setValue(contentOf(value));
+    else if (T *bound = variable<T>())
+        *bound = std::move(value);
 }

@@ -71,7 +71,11 @@ bool fits(const QJsonValue &json, ConfValue::ConfType type)
 
 std::optional<QJsonValue> strictJson(const QJsonValue &json, ConfValue::ConfType type)
 {
-    if (json.isNull() || json.isUndefined() || fits(json, type))
+    if (json.isNull() || json.isUndefined())
+        return json;
+    if (const MtConf::JsonOperations *operations = MtConf::jsonOperations(type))
+        return operations->accepts(json) ? std::optional<QJsonValue>(json) : std::nullopt;
+    if (fits(json, type))
         return json;
     return type == ConfValue::TyQreal ? numberOf(json.toString()) : std::nullopt;
 }

@@ -14,5 +14,12 @@
 /// value.
 std::optional<QJsonValue> strictJson(const QJsonValue &json, ConfValue::ConfType type);
 
+/// Returns whether a load calls `strictJson`: with `StrictTypes`, and always for types with a
+/// `MtConf::JsonForm`, which refuses what it cannot read.
+constexpr bool isStrictType(bool strictTypes, ConfValue::ConfType type)
+{
+    return strictTypes || type > ConfValue::TyQJsonArray;
+}
+
 /// Logs the warning "ConfStorage::loadConf() value of another type refused: " with the key.
 void logOtherType(const QString &key);

@@ -1,0 +1,304 @@
+#include <MaltoConfiguration/store/JsonForm.h>
+
+#include "StrictTypes_p.h"
+
+#include <QColor>
+#include <QDateTime>
+#include <QFont>
+#include <QKeySequence>
+#include <QRect>
+#include <QUrl>
+#include <QUuid>
+#include <QVariant>
+
+#include <cmath>
+
+namespace MtConf {
+
+namespace {
+
+constexpr qint64 sLargestExact = 9007199254740992; // 2^53; a double has every smaller number
+
+// The types of ConfValue
+
+template<class T> QJsonValue jsonOf(const T &value)
+{
+    return ConfValue::owned(value).toJsonValue();
+}
+template<class T> bool read(const QJsonValue &json, T *value)
+{
+    ConfValue read = ConfValue::owned(T());
+    const std::optional<QJsonValue> accepted = strictJson(json, read.mType);
+    if (!accepted || accepted->isNull() || accepted->isUndefined())
+        return false;
+    read.loadFromJsonValue(*accepted);
+    *value = read.get<T>();
+    return true;
+}
+
+QJsonValue jsonOf(const QString &text)
+{
+    return text.isNull() ? QLatin1String("") : text; // null is no form
+}
+
+// Numbers
+
+QJsonValue jsonOf(double number)
+{
+    if (std::isfinite(number))
+        return number;
+    return QLatin1String(std::isnan(number) ? "nan" : number > 0 ? "inf" : "-inf");
+}
+bool read(const QJsonValue &json, double *number)
+{
+    const std::optional<QJsonValue> accepted = strictJson(json, ConfValue::TyQreal);
+    if (accepted && accepted->isDouble())
+        *number = accepted->toDouble();
+    return accepted && accepted->isDouble();
+}
+
+QJsonValue jsonOf(float number)
+{
+    constexpr int sDigits = std::numeric_limits<float>::max_digits10;
+    if (!std::isfinite(number))
+        return jsonOf(double(number));
+    // The nearest double of the shortest text, or 0.1 would have seventeen digits.
+    for (int digits = sDigits - 3; digits < sDigits; ++digits) {
+        const double rounded = QByteArray::number(double(number), 'g', digits).toDouble();
+        if (float(rounded) == number)
+            return rounded;
+    }
+    return double(number);
+}
+bool read(const QJsonValue &json, float *number)
+{
+    double value = 0;
+    if (!read(json, &value) || (std::isfinite(value) && !std::isfinite(float(value))))
+        return false;
+    *number = float(value);
+    return true;
+}
+
+// Texts
+
+QJsonValue jsonOf(const std::string &text)
+{
+    return jsonOf(QString::fromStdString(text));
+}
+bool read(const QJsonValue &json, std::string *text)
+{
+    *text = json.toString().toStdString();
+    return json.isString();
+}
+
+QJsonValue jsonOf(const QByteArray &bytes)
+{
+    return QString::fromLatin1(bytes.toBase64());
+}
+bool read(const QJsonValue &json, QByteArray *bytes)
+{
+    const auto decoded = QByteArray::fromBase64Encoding(json.toString().toLatin1(),
+                                                        QByteArray::AbortOnBase64DecodingErrors);
+    *bytes = decoded.decoded;
+    return json.isString() && decoded.decodingStatus == QByteArray::Base64DecodingStatus::Ok;
+}
+
+/// Whether `json` is a text, and a value that is described by it is valid.
+template<class T> bool isText(const QJsonValue &json, bool isValid)
+{
+    return json.isString() && (isValid || json.toString().isEmpty());
+}
+
+QJsonValue jsonOf(const QUrl &url)
+{
+    return jsonOf(QString::fromLatin1(url.toEncoded()));
+}
+bool read(const QJsonValue &json, QUrl *url)
+{
+    *url = QUrl(json.toString(), QUrl::StrictMode);
+    return isText<QUrl>(json, url->isValid());
+}
+
+QJsonValue jsonOf(const QUuid &id)
+{
+    return id.isNull() ? QLatin1String("") : id.toString(QUuid::WithoutBraces);
+}
+bool read(const QJsonValue &json, QUuid *id)
+{
+    *id = QUuid(json.toString());
+    return isText<QUuid>(json, !id->isNull());
+}
+
+// Dates
+
+QJsonValue jsonOf(const QDate &date)
+{
+    return jsonOf(date.toString(Qt::ISODate));
+}
+bool read(const QJsonValue &json, QDate *date)
+{
+    *date = QDate::fromString(json.toString(), Qt::ISODate);
+    return isText<QDate>(json, date->isValid());
+}
+
+QJsonValue jsonOf(const QTime &time)
+{
+    return jsonOf(time.toString(Qt::ISODateWithMs));
+}
+bool read(const QJsonValue &json, QTime *time)
+{
+    *time = QTime::fromString(json.toString(), Qt::ISODateWithMs);
+    return isText<QTime>(json, time->isValid());
+}
+
+QJsonValue jsonOf(const QDateTime &time)
+{
+    if (time.timeSpec() == Qt::UTC)
+        return jsonOf(time.toString(Qt::ISODateWithMs));
+    return jsonOf(time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODateWithMs));
+}
+bool read(const QJsonValue &json, QDateTime *time)
+{
+    *time = QDateTime::fromString(json.toString(), Qt::ISODateWithMs);
+    // The same text is written again wherever the file is read.
+    const QDateTime local = time->toLocalTime();
+    if (time->timeSpec() == Qt::OffsetFromUTC && local.offsetFromUtc() == time->offsetFromUtc())
+        *time = local;
+    return isText<QDateTime>(json, time->isValid());
+}
+
+// Geometry
+
+template<class... Numbers> QJsonArray arrayOf(Numbers... numbers)
+{
+    return QJsonArray{numbers...};
+}
+
+/// Reads an array of as many whole numbers.
+template<class... Numbers> bool readArray(const QJsonValue &json, Numbers *...numbers)
+{
+    const QJsonArray array = json.toArray();
+    int index = 0;
+    return array.size() == int(sizeof...(numbers)) && (read(array.at(index++), numbers) && ...);
+}
+
+QJsonValue jsonOf(const QSize &size)
+{
+    return arrayOf(size.width(), size.height());
+}
+bool read(const QJsonValue &json, QSize *size)
+{
+    return readArray(json, &size->rwidth(), &size->rheight());
+}
+
+QJsonValue jsonOf(const QPoint &point)
+{
+    return arrayOf(point.x(), point.y());
+}
+bool read(const QJsonValue &json, QPoint *point)
+{
+    return readArray(json, &point->rx(), &point->ry());
+}
+
+QJsonValue jsonOf(const QRect &rect)
+{
+    return arrayOf(rect.x(), rect.y(), rect.width(), rect.height());
+}
+bool read(const QJsonValue &json, QRect *rect)
+{
+    QPoint corner;
+    QSize size;
+    const bool isRead = readArray(json, &corner.rx(), &corner.ry(), &size.rwidth(),
+                                  &size.rheight());
+    *rect = QRect(corner, size);
+    return isRead;
+}
+
+// Anything
+
+QJsonValue jsonOf(const QVariantMap &values)
+{
+    return QJsonObject::fromVariantMap(values);
+}
+bool read(const QJsonValue &json, QVariantMap *values)
+{
+    *values = json.toObject().toVariantMap();
+    return json.isObject();
+}
+
+} // namespace
+
+template<class T> QJsonValue SuppliedForm<T>::toJson(const T &value)
+{
+    return jsonOf(value);
+}
+
+template<class T> std::optional<T> SuppliedForm<T>::fromJson(const QJsonValue &json)
+{
+    T value{};
+    return read(json, &value) ? std::optional<T>(std::move(value)) : std::nullopt;
+}
+
+template struct SuppliedForm<bool>;
+template struct SuppliedForm<double>;
+template struct SuppliedForm<float>;
+template struct SuppliedForm<std::string>;
+template struct SuppliedForm<QByteArray>;
+template struct SuppliedForm<QColor>;
+template struct SuppliedForm<QDate>;
+template struct SuppliedForm<QDateTime>;
+template struct SuppliedForm<QFont>;
+template struct SuppliedForm<QJsonArray>;
+template struct SuppliedForm<QJsonObject>;
+template struct SuppliedForm<QKeySequence>;
+template struct SuppliedForm<QPoint>;
+template struct SuppliedForm<QRect>;
+template struct SuppliedForm<QSize>;
+template struct SuppliedForm<QString>;
+template struct SuppliedForm<QTime>;
+template struct SuppliedForm<QUrl>;
+template struct SuppliedForm<QUuid>;
+template struct SuppliedForm<QVariantMap>;
+
+QJsonValue jsonOfInteger(qint64 number)
+{
+    const bool isExact = number > -sLargestExact && number < sLargestExact;
+    return isExact ? QJsonValue(static_cast<double>(number)) : QJsonValue(QString::number(number));
+}
+
+QJsonValue jsonOfInteger(quint64 number)
+{
+    const bool isExact = number < quint64(sLargestExact);
+    return isExact ? QJsonValue(static_cast<double>(number)) : QJsonValue(QString::number(number));
+}
+
+std::optional<qint64> integerOf(const QJsonValue &json, qint64 lowest, qint64 highest)
+{
+    bool isNumber = false;
+    qint64 number = 0;
+    if (json.isString()) {
+        number = json.toString().toLongLong(&isNumber);
+    } else {
+        const double value = json.toDouble(0.5);
+        isNumber = std::trunc(value) == value && std::abs(value) < double(sLargestExact);
+        number = isNumber ? static_cast<qint64>(value) : 0;
+    }
+    const bool isAccepted = isNumber && number >= lowest && number <= highest;
+    return isAccepted ? std::optional<qint64>(number) : std::nullopt;
+}
+
+std::optional<quint64> integerOf(const QJsonValue &json, quint64 lowest, quint64 highest)
+{
+    bool isNumber = json.isString();
+    quint64 number = 0;
+    if (isNumber) {
+        number = json.toString().toULongLong(&isNumber);
+    } else if (const auto exact = integerOf(json, 0, sLargestExact)) {
+        isNumber = true;
+        number = static_cast<quint64>(*exact);
+    }
+    const bool isAccepted = isNumber && number >= lowest && number <= highest;
+    return isAccepted ? std::optional<quint64>(number) : std::nullopt;
+}
+
+} // namespace MtConf

@@ -1,0 +1,110 @@
+#pragma once
+
+/// @file
+
+#include <MaltoConfiguration/malto_export.h>
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+#include <memory>
+#include <optional>
+#include <type_traits>
+#include <typeindex>
+#include <utility>
+
+namespace MtConf {
+
+/// Whether `T` is one of `Types`.
+/// @since 0.1
+template<class T, class... Types> inline constexpr bool isAnyOf = (std::is_same_v<T, Types> || ...);
+
+/// How values of a type become JSON and how they are read from it.
+///
+/// A host specializes it for a type of its own, in the header that declares the type, with two
+/// functions:
+///
+/// @code
+/// template<> struct MtConf::JsonForm<Margins> {
+///     static QJsonValue toJson(const Margins &m) { return QJsonArray{m.left, m.right}; }
+///     static std::optional<Margins> fromJson(const QJsonValue &json);
+/// };
+/// @endcode
+///
+/// `toJson` returns the same JSON for equal values. It should not return null, with which a file
+/// sets no value: an empty array is used instead. `fromJson` returns what `toJson` was called with,
+/// or nothing if the JSON does not describe a value; it is then refused. Neither may change the
+/// store. The type must have a default constructor and be copyable. JsonForm.h contains the forms
+/// that the library supplies.
+///
+/// @see ConfStorage::reserveConf
+/// @since 0.1
+template<class T, class Enable = void> struct JsonForm;
+
+/// Whether `JsonForm` is specialized for `T`.
+/// @since 0.1
+template<class T, class = void> inline constexpr bool hasJsonForm = false;
+
+template<class T> inline constexpr bool
+    hasJsonForm<T, std::void_t<decltype(JsonForm<T>::toJson(std::declval<const T &>()))>> = true;
+
+/// Returns the JSON of `value` in its form; an empty array instead of null.
+/// @since 0.1
+template<class T> QJsonValue toJsonForm(const T &value)
+{
+    QJsonValue json;
+    if constexpr (hasJsonForm<T>)
+        json = JsonForm<T>::toJson(value);
+    return json.isNull() || json.isUndefined() ? QJsonValue(QJsonArray()) : json;
+}
+
+/// Returns the value of `json` in the form of `T`, or nothing if it is refused.
+/// @since 0.1
+template<class T> std::optional<T> fromJsonForm(const QJsonValue &json)
+{
+    if constexpr (hasJsonForm<T>)
+        return JsonForm<T>::fromJson(json);
+    else
+        return std::nullopt;
+}
+
+/// The operations of a type that has a `JsonForm`. They get pointers to variables of the type.
+struct JsonOperations
+{
+    QJsonValue (*toJson)(const void *variable);
+    /// Returns false and leaves the variable unchanged if the JSON is refused.
+    bool (*fromJson)(const QJsonValue &json, void *variable);
+    /// Returns whether the JSON describes a value.
+    bool (*accepts)(const QJsonValue &json);
+    /// Returns a copy of the variable.
+    std::shared_ptr<void> (*copy)(const void *variable);
+};
+
+/// Returns the number of a type, 10 or more, which is the same in all libraries of the process. The
+/// operations of the first call for the type are used.
+MALTO_EXPORT quint32 registerJsonType(const std::type_index &type,
+                                      const JsonOperations &operations);
+
+/// Returns the operations of the type with the number `type`; null if no type has it.
+MALTO_EXPORT const JsonOperations *jsonOperations(quint32 type);
+
+/// Returns the number of the type `T`, which has a `JsonForm`.
+template<class T> quint32 jsonTypeId()
+{
+    static const quint32 sId = registerJsonType(
+        typeid(T),
+        {[](const void *variable) { return toJsonForm(*static_cast<const T *>(variable)); },
+         [](const QJsonValue &json, void *variable) {
+             std::optional<T> value = fromJsonForm<T>(json);
+             if (value)
+                 *static_cast<T *>(variable) = std::move(*value);
+             return value.has_value();
+         },
+         [](const QJsonValue &json) { return fromJsonForm<T>(json).has_value(); },
+         [](const void *variable) -> std::shared_ptr<void> {
+             return std::make_shared<T>(*static_cast<const T *>(variable));
+         }});
+    return sId;
+}
+
+} // namespace MtConf
