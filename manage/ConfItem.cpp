@@ -35,6 +35,9 @@ ConfItem &ConfItem::operator=(const ConfItem &other)
     displayText = other.displayText;
     widgetCreator = other.widgetCreator;
     properties = other.properties;
+    choices = other.choices;
+    dependencies = other.dependencies;
+    validator = other.validator;
     editor = other.editor;
     auxCallback = other.auxCallback;
     ++sRevision;

@@ -11,7 +11,9 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <chrono>
 #include <functional>
+#include <type_traits>
 
 class QWidget;
 
@@ -25,7 +27,42 @@ class ConfigItemWidget;
 ///
 /// @since 0.1
 enum ConfItemFlag : quint32 {
-    ItemIsFiltered = 0x1 ///< shown only if `MtConfManage::itemFilter` accepts the item
+    ItemIsFiltered = 0x1, ///< shown only if `MtConfManage::itemFilter` accepts the item
+    ItemIsExpert = 0x2    ///< shown only if `MtConfManage::showExpertItems` is true
+};
+
+/// What a range does with values outside of it.
+///
+/// @see ConfItem::setRange
+/// @since 0.1
+enum RangeRule {
+    EditorRange, ///< only the editor refuses them
+    Enforced,    ///< the store refuses them, too, when they are loaded or set
+    Clamped      ///< the store changes them to the nearest value in the range
+};
+
+/// What a path names.
+///
+/// @see MtConfManage::addConfPath
+/// @since 0.1
+enum class PathKind {
+    ExistingFile, ///< a file to read
+    NewFile,      ///< a file to write, which need not exist
+    Folder        ///< a folder
+};
+
+/// One of the values that an editor offers.
+///
+/// @see ConfItem::choices
+/// @since 0.1
+struct ConfChoice
+{
+    QString label;            ///< what the user sees; untranslated if it is a literal
+    QJsonValue value;         ///< in JSON as `ConfValue::toJsonValue` returns it
+    bool isTranslated = true; ///< whether the label is translated in the context "QObject"
+
+    /// Returns the label in the current language.
+    MALTO_EXPORT QString text() const;
 };
 
 /// A function that creates the editor of an item as a child of `parent`.
@@ -46,8 +83,8 @@ class MALTO_EXPORT ConfItem
 {
 public:
     /// Reserves `getFullName()` in the store for `*value`, whose content becomes the default value.
-    /// `T` is `int`, `bool`, `QString`, `QColor`, `QFont` or `QKeySequence`. If `value` is null,
-    /// the store logs that and the key stays unknown.
+    /// `T` is any type of a setting; see `ConfStorage::reserveConf`. If `value` is null, the store
+    /// logs that and the key stays unknown.
     template<class T> ConfItem(T *value, const QString &majorItemName, const QString &itemName,
                                const QString &itemSubName);
     /// Copies every field, including the pointers `displayText` and `editor`. Reserves no key.
@@ -87,6 +124,63 @@ public:
     /// @see ConfStorage::setConfConverter
     void setConverter(std::function<QJsonValue(const QJsonValue &value)> converter);
 
+    // Options, to be chained when the item is declared. Each returns the item. Texts are literals
+    // of the host, translated in the context "QObject" when they are shown.
+
+    /// Sets the range of a number or a duration, a count of its unit. The editor refuses values
+    /// outside of the range in words, and sets the tool tip to the range. With `Enforced` or
+    /// `Clamped` the store does so, too: see `ConfStorage::setConfConstraint`. A stored value
+    /// outside of the range is shown, and not changed until the user edits it.
+    ConfItem *setRange(double lowest, double highest, RangeRule rule = EditorRange);
+    /// Sets the range of a point in time.
+    ConfItem *setRange(const QDateTime &earliest, const QDateTime &latest,
+                       RangeRule rule = EditorRange);
+    /// Sets the range of a duration.
+    template<class Count, class Unit, class OtherCount, class OtherUnit>
+    ConfItem *setRange(std::chrono::duration<Count, Unit> lowest,
+                       std::chrono::duration<OtherCount, OtherUnit> highest,
+                       RangeRule rule = EditorRange);
+    /// Sets how much one step of the editor's arrows changes a number.
+    ConfItem *setStep(double step);
+    /// Sets how many decimals the editor shows and stores.
+    ConfItem *setDecimals(int decimals);
+    /// Sets the text behind a number in its editor, such as " px".
+    ConfItem *setSuffix(const char *suffix);
+    /// Sets the text that an empty field shows.
+    ConfItem *setPlaceholder(const char *text);
+    /// Sets a sentence that explains the setting: the tool tip and the accessible description.
+    ConfItem *setHelp(const char *text);
+    /// Marks the setting as one for experts: the flag `ItemIsExpert`.
+    ConfItem *setExpert();
+    /// Lets the user choose several of the item's choices, which are flags.
+    ConfItem *setMultiSelect();
+    /// Disables the row of the item while `other` does not have the value `value`, in JSON as
+    /// `ConfValue::toJsonValue` returns it. With several calls all of them must hold. `other` must
+    /// not be null; it may be on another page.
+    ConfItem *dependsOn(const ConfItem *other, const QJsonValue &value);
+    /// The same for a value of another type, such as an enum.
+    template<class T, std::enable_if_t<!std::is_convertible_v<T, QJsonValue>, bool> = true>
+    ConfItem *dependsOn(const ConfItem *other, const T &value);
+    /// Sets a function that checks what the user enters, in JSON as `ConfValue::toJsonValue`
+    /// returns it. It returns why the value is not accepted, in the current language, or an empty
+    /// text. The editor shows the reason under the row and stores nothing. The function must not
+    /// change the store. Values that are set or loaded are not checked.
+    ConfItem *setValidator(std::function<QString(const QJsonValue &value)> validator);
+    /// Marks the value as secret: only the local file contains it, `ConfStorage::debugTable` and
+    /// `ConfStorage::previewLoad` show "***" instead of it, and no message contains it. It is not
+    /// encrypted: whoever can read the local file can read it. Sets `ConfStorage::FlagSecret` and
+    /// `ConfStorage::FlagLocalOnly`.
+    ConfItem *setSecret();
+
+    /// Returns the unit of a duration in seconds; 1 for any other setting.
+    double secondsPerUnit() const;
+    /// Returns the help text in the current language; empty if there is none.
+    QString helpText() const;
+    /// Returns the suffix in the current language; empty if there is none.
+    QString suffixText() const;
+    /// Returns the placeholder in the current language; empty if there is none.
+    QString placeholderText() const;
+
     /// Returns whether the item and all its sub-items have their default values.
     bool isDefaultValue() const;
 
@@ -105,16 +199,22 @@ public:
     /// @see ConfStorage::loadValueFromJson
     bool loadFromJsonValue(QJsonValue value) const;
 
-    QMap<QString, ConfItem> subConfs;   ///< sub-items by name; filled by the host
-    int valueType = ConfValue::TyNone;  ///< the type of the value, a `ConfValue::ConfType`
-    QString majorName;                  ///< name of the class, the first part of the key
-    QString name;                       ///< the second part of the key
-    QString subName;                    ///< the third part of the key, usually empty
-    QStringList formerNames;            ///< full names in older versions; see `addFormerName`
-    quint32 flags = 0;                  ///< `ConfItemFlag` bits and bits of the host
-    const char *displayText = nullptr;  ///< untranslated label; a literal of the host
-    WidgetCreator widgetCreator;        ///< creates the editor; empty: the item has no editor
-    QMap<QString, QVariant> properties; ///< options of the editor, such as "MinValue"
+    QMap<QString, ConfItem> subConfs;  ///< sub-items by name; filled by the host
+    int valueType = ConfValue::TyNone; ///< the type of the value, a `ConfValue::ConfType`
+    QString majorName;                 ///< name of the class, the first part of the key
+    QString name;                      ///< the second part of the key
+    QString subName;                   ///< the third part of the key, usually empty
+    QStringList formerNames;           ///< full names in older versions; see `addFormerName`
+    quint32 flags = 0;                 ///< `ConfItemFlag` bits and bits of the host
+    const char *displayText = nullptr; ///< untranslated label; a literal of the host
+    WidgetCreator widgetCreator;       ///< creates the editor; empty: the item has no editor
+    /// Options of the editor: "MinValue", "MaxValue", "RangeRule", "Step", "Decimals", "Suffix",
+    /// "Placeholder", "Help", "MultiSelect", "Shortcut", "SecondsPerUnit".
+    QMap<QString, QVariant> properties;
+    QList<ConfChoice> choices;              ///< what the editor offers; may be empty
+    QMap<QString, QJsonValue> dependencies; ///< values that other keys must have
+    /// Checks what the user enters; see `setValidator`.
+    std::function<QString(const QJsonValue &value)> validator;
     ConfigItemWidget *editor = nullptr; ///< the current editor; null if there is none
     /// Called when the editor is destroyed, if the value has changed since the editor was created;
     /// `oldValue` is the value from then. The editor compares `toJsonValue()`, which is always
@@ -128,6 +228,21 @@ template<class T> ConfItem::ConfItem(T *value, const QString &majorItemName,
       subName(itemSubName)
 {
     ConfStorage::instance()->reserveConf(getFullName(), value);
+}
+
+template<class Count, class Unit, class OtherCount, class OtherUnit>
+ConfItem *ConfItem::setRange(std::chrono::duration<Count, Unit> lowest,
+                             std::chrono::duration<OtherCount, OtherUnit> highest, RangeRule rule)
+{
+    using Seconds = std::chrono::duration<double>;
+    const double unit = secondsPerUnit();
+    return setRange(Seconds(lowest).count() / unit, Seconds(highest).count() / unit, rule);
+}
+
+template<class T, std::enable_if_t<!std::is_convertible_v<T, QJsonValue>, bool>>
+ConfItem *ConfItem::dependsOn(const ConfItem *other, const T &value)
+{
+    return dependsOn(other, ConfValue::owned(value).toJsonValue());
 }
 
 } // namespace MtConf

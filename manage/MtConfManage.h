@@ -8,6 +8,13 @@
 #include <QList>
 #include <QObject>
 
+#include <chrono>
+#include <type_traits>
+#include <utility>
+
+class QAction;
+class QShortcut;
+
 namespace MtConf {
 
 class ConfigurationWindow;
@@ -103,6 +110,69 @@ public:
     void addConfAutoRun(const char *text, bool *value, const QString &majorName,
                         const QString &name, const QString &subName = QString());
 
+    /// Declares a number with decimals, edited in a spin box: two decimals and steps of 1 unless
+    /// the item's options say otherwise.
+    ///
+    /// @see ConfItem::setRange, ConfItem::setDecimals, ConfItem::setStep, ConfItem::setSuffix
+    ConfItem *addConfDouble(const char *text, double *value, const QString &majorName,
+                            const QString &name, const QString &subName = QString(),
+                            WidgetCreator creator = WidgetCreator());
+    /// Declares a text of one line.
+    ///
+    /// @see ConfItem::setPlaceholder, ConfItem::setValidator
+    ConfItem *addConfText(const char *text, QString *value, const QString &majorName,
+                          const QString &name, const QString &subName = QString(),
+                          WidgetCreator creator = WidgetCreator());
+    /// Declares a text of several lines.
+    ConfItem *addConfMultilineText(const char *text, QString *value, const QString &majorName,
+                                   const QString &name, const QString &subName = QString(),
+                                   WidgetCreator creator = WidgetCreator());
+    /// Declares a password or a token: a text that the editor shows only on request. Calls
+    /// `ConfItem::setSecret`. The value is not encrypted.
+    ConfItem *addConfPassword(const char *text, QString *value, const QString &majorName,
+                              const QString &name, const QString &subName = QString(),
+                              WidgetCreator creator = WidgetCreator());
+    /// Declares the path of a file or a folder, typed or chosen in a dialog. `filters` are the name
+    /// filters of the dialog as `QFileDialog` takes them, a literal that is translated in the
+    /// context "QObject"; null for all files. A path that does not exist is said under the row, and
+    /// stored.
+    ConfItem *addConfPath(const char *text, QString *value, PathKind kind, const QString &majorName,
+                          const QString &name, const QString &subName = QString(),
+                          const char *filters = nullptr);
+    /// Declares a list of texts, which the user can add, remove, edit and move.
+    ConfItem *addConfStringList(const char *text, QStringList *value, const QString &majorName,
+                                const QString &name, const QString &subName = QString(),
+                                WidgetCreator creator = WidgetCreator());
+    /// Declares an enum or flags, chosen from `choices`: values with their labels, literals of the
+    /// host that are translated in the context "QObject". Flags need `ConfItem::setMultiSelect`.
+    template<class T> ConfItem *addConfEnum(const char *text,
+                                            const QList<std::pair<T, const char *>> &choices,
+                                            T *value, const QString &majorName, const QString &name,
+                                            const QString &subName = QString());
+    /// Declares a point in time, edited in local time with minutes, or seconds if it has some.
+    ConfItem *addConfDateTime(const char *text, QDateTime *value, const QString &majorName,
+                              const QString &name, const QString &subName = QString(),
+                              WidgetCreator creator = WidgetCreator());
+    /// Declares a duration, a number of the unit of its type: milliseconds, seconds, minutes, hours
+    /// or days. The editor shows the unit.
+    template<class Count, class Unit>
+    ConfItem *addConfDuration(const char *text, std::chrono::duration<Count, Unit> *value,
+                              const QString &majorName, const QString &name,
+                              const QString &subName = QString());
+    /// Declares the shortcut of `action`, which gets it now and after each change, as long as the
+    /// action exists. For global hotkeys use `addConfQKeySequence`.
+    ConfItem *addConfShortcut(const char *text, QKeySequence *value, QAction *action,
+                              const QString &majorName, const QString &name,
+                              const QString &subName = QString());
+    /// The same for a QShortcut.
+    ConfItem *addConfShortcut(const char *text, QKeySequence *value, QShortcut *shortcut,
+                              const QString &majorName, const QString &name,
+                              const QString &subName = QString());
+    /// Declares a value of any type without an editor, which is only kept and merged.
+    template<class T> ConfItem *addConfValue(T *value, const QString &majorName,
+                                             const QString &name,
+                                             const QString &subName = QString());
+
     /// Adds a copy of an item that the host has constructed, and returns the copy.
     ConfItem *addConfItem(ConfItem &item);
 
@@ -124,6 +194,11 @@ public:
     /// exist.
     void setConfigClassFlag(const QString &name, int flag);
 
+    /// Returns what is wrong with the declarations, one sentence for each problem; an empty list if
+    /// all is well. Call it in a test of the host, or at the end of the declarations in a debug
+    /// build. Changes and logs nothing. docs/guide/checks.md lists the problems.
+    QStringList checkDeclarations() const;
+
     // Files and default values.
 
     /// Loads a configuration file, a JSON object with values by full name, and sets `confFilePath`.
@@ -134,7 +209,8 @@ public:
     void loadFromFile(QString path);
     /// Installs the translators for the language of `languageItem`, if there is one.
     void runAfterLoadFromFile();
-    /// Calls `ConfStorage::saveToLocalConfFile`.
+    /// Lets the editors store what the user has not confirmed yet, then calls
+    /// `ConfStorage::saveToLocalConfFile`.
     void saveToFile();
     /// Calls `restoreAllHook`, then restores the default value of every item.
     void restoreAllDefault();
@@ -162,6 +238,7 @@ public:
     /// Returns whether the window shows an item with the flag `ItemIsFiltered`. If it is empty, the
     /// window shows none of them.
     std::function<bool(ConfItem &)> itemFilter;
+    bool showExpertItems = false; ///< whether the window shows items with the flag `ItemIsExpert`
 
 Q_SIGNALS:
     /// Emitted after the language has changed and its translators are installed.
@@ -172,10 +249,44 @@ private:
                                         const QString &name, const QString &subName,
                                         WidgetCreator creator, WidgetCreator defaultCreator);
 
+    ConfItem *addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices);
+    ConfItem *addDurationItem(ConfItem &item, const char *text, double secondsPerUnit);
+    void commitEditors();
+
     // Lists that were shared when an element was appended. Kept so that pointers to their elements
     // stay valid.
     QList<ItemList<ConfItem>> mSharedItems;
     QList<ItemList<MajorConfItem>> mSharedMajorItems;
 };
+
+template<class T>
+ConfItem *MtConfManage::addConfEnum(const char *text,
+                                    const QList<std::pair<T, const char *>> &choices, T *value,
+                                    const QString &majorName, const QString &name,
+                                    const QString &subName)
+{
+    QList<ConfChoice> recorded;
+    for (const auto &[choice, label] : choices)
+        recorded.append({QString::fromUtf8(label), toJsonForm(choice)});
+    ConfItem item(value, majorName, name, subName);
+    return addChoiceItem(item, text, std::move(recorded));
+}
+
+template<class Count, class Unit>
+ConfItem *MtConfManage::addConfDuration(const char *text, std::chrono::duration<Count, Unit> *value,
+                                        const QString &majorName, const QString &name,
+                                        const QString &subName)
+{
+    ConfItem item(value, majorName, name, subName);
+    item.properties[QStringLiteral("IsWhole")] = std::is_integral_v<Count>;
+    return addDurationItem(item, text, double(Unit::num) / double(Unit::den));
+}
+
+template<class T> ConfItem *MtConfManage::addConfValue(T *value, const QString &majorName,
+                                                       const QString &name, const QString &subName)
+{
+    ConfItem item(value, majorName, name, subName);
+    return addConfItem(item);
+}
 
 } // namespace MtConf

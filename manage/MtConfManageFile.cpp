@@ -44,6 +44,7 @@ void MtConfManage::loadFromFile(QString path)
 
 void MtConfManage::saveToFile()
 {
+    commitEditors();
     ConfStorage::instance()->saveToLocalConfFile();
 }
 

@@ -1,5 +1,6 @@
 #include "ConfLoad_p.h"
 
+#include "ConfConstraints_p.h"
 #include "ConfKeptEntries_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
@@ -55,6 +56,8 @@ ConfLoad::ConfLoad(ConfStorage &store, ConfStorage::LoadConfType type, Merge mer
       mTimes(store.mFileOptions & ConfStorage::LongTimes ? TimeRange::Long : TimeRange::Until2038),
       mSystemMark(addSysMark(QString()))
 {
+    if (store.mMisuse)
+        store.checkUse("loadConf");
     if (store.mFileOptions & ConfStorage::RefuseFutureTimes)
         mLastTime = QDateTime::currentSecsSinceEpoch() + sSecondsOfADay;
 }
@@ -346,6 +349,10 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
             return;
         }
         value = *fitting;
+    }
+    if (mStore.mConstraints && mStore.mConstraints->contains(key)) {
+        loadConstrained(key, value, member.entry(), time);
+        return;
     }
     ++mReport.taken;
     meta->lastChangeTime = timeOfChange(time);

@@ -25,17 +25,46 @@ bool ConfLoad::isRefused(const QString &key, const QJsonValue &value, qint64 lim
     return true;
 }
 
-/// Refuses a value of another type and logs this. The entry of a local file is kept. That of a dump
-/// is not, as it would replace the entry of this program in the local file.
+/// Refuses a value of another type and logs this.
 void ConfLoad::refuseType(const QString &key, bool isMarked, const QJsonValue &entry)
 {
-    refuse(key, ConfLoadReport::Reason::WrongType);
+    refuseAndKeep(key, ConfLoadReport::Reason::WrongType, isMarked, entry);
+    if (!mIsRetry)
+        logOtherType(key);
+}
+
+/// Loads a value of a key with a constraint, which logs what it does not accept.
+void ConfLoad::loadConstrained(const QString &key, const QJsonValue &value, const QJsonValue &entry,
+                               std::optional<qint64> time)
+{
+    forgetPosition();
+    const std::optional<QJsonValue> accepted = mStore.constrained(key, value);
+    // Looked up now: the constraint is code of the host.
+    const auto stored = mStore.mConfValues.find(key);
+    const auto meta = mStore.mConfMetas.find(key);
+    if (stored == mStore.mConfValues.end() || meta == mStore.mConfMetas.end())
+        return;
+    if (accepted) {
+        ++mReport.taken;
+        meta->lastChangeTime = timeOfChange(time);
+        applyValue(key, *accepted, stored, meta);
+        return;
+    }
+    refuseAndKeep(key, ConfLoadReport::Reason::OutOfRange,
+                  meta->flags & ConfStorage::FlagSystemIndependent,
+                  mUnconverted ? *mUnconverted : entry);
+}
+
+/// Refuses an entry. That of a local file is kept. That of a dump is not, as it would replace the
+/// entry of this program in the local file.
+void ConfLoad::refuseAndKeep(const QString &key, ConfLoadReport::Reason reason, bool isMarked,
+                             const QJsonValue &entry)
+{
+    refuse(key, reason);
     if (mIsLocal && !mIsKept
         && (mStore.mFileOptions & (ConfStorage::KeepUnknownEntries | ConfStorage::SharedFile)))
         keep(isMarked ? addSysMark(key) : key, entry);
     forgetPosition();
-    if (!mIsRetry)
-        logOtherType(key);
 }
 
 /// Returns whether a file may not add the key to the store, and logs this.

@@ -102,6 +102,8 @@ private:
     template<class Member> bool isFromFuture(const QString &key, const Member &member);
     bool isRefused(const QString &key, const QJsonValue &value, qint64 limit);
     void refuseType(const QString &key, bool isMarked, const QJsonValue &entry);
+    void refuseAndKeep(const QString &key, ConfLoadReport::Reason reason, bool isMarked,
+                       const QJsonValue &entry);
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
@@ -112,6 +114,8 @@ private:
     template<class Member> bool mergeDynamic(const QString &key, const Member &member,
                                              const ConfStorage::DynamicConfClass *cls);
     template<class Member> void loadStatic(const QString &key, const Member &member);
+    void loadConstrained(const QString &key, const QJsonValue &value, const QJsonValue &entry,
+                         std::optional<qint64> time);
     void applyValue(const QString &key, const QJsonValue &value,
                     QMap<QString, ConfValue>::iterator stored,
                     QMap<QString, ConfStorage::ConfMeta>::iterator meta);

@@ -6,6 +6,7 @@
 #include "ConfFileWatch_p.h"
 #include "ConfKeptEntries_p.h"
 #include "ConfLoad_p.h"
+#include "ConfMisuse_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
@@ -49,6 +50,8 @@ void ConfStorage::clear()
 
 void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current)
 {
+    if (mMisuse)
+        checkUse("reserveConf");
     // A concatenated string has spare capacity, which the store would keep as long as the key.
     const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size())
                                                          : key;
@@ -92,6 +95,8 @@ void ConfStorage::releaseConf(const QString &key)
 
 void ConfStorage::setToDefault(const QString &key, bool updateTime)
 {
+    if (mMisuse)
+        checkUse("setToDefault");
     if (isLocked(key))
         return;
     const QDateTime time = ConfLoad::timeOfUserChange(*this, key);

@@ -16,8 +16,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class ConfAutosave;
+class ConfConstraints;
+class ConfMisuse;
 class ConfObservers;
 class ConfVersions;
 class ConfFileSharing;
@@ -40,6 +43,14 @@ struct ConfLoadReport;
 /// @see ConfStorage::setConfChangedCallback
 /// @since 0.1
 using ConfChangedCallback = std::function<void(const QString &key, const ConfValue *value)>;
+
+/// A function that decides which values a key accepts: returns `value`, or another value that is
+/// stored instead, or nothing if the value is refused. Values are in JSON as
+/// `ConfValue::toJsonValue` returns them. It must not change the store.
+///
+/// @see ConfStorage::setConfConstraint
+/// @since 0.1
+using ConfConstraint = std::function<std::optional<QJsonValue>(const QJsonValue &value)>;
 
 /// The store of all configuration values by key.
 ///
@@ -72,7 +83,8 @@ public:
     enum ConfFlag : quint32 {
         FlagIsDefault = 1,         ///< the value is known to be the default value
         FlagSystemIndependent = 2, ///< written with the system mark; see `addSysMark`
-        FlagLocalOnly = 4          ///< the key is written to the local file only
+        FlagLocalOnly = 4,         ///< the key is written to the local file only
+        FlagSecret = 8             ///< `debugTable` and `previewLoad` do not show the value
     };
 
     /// The record of a key: everything but its value.
@@ -395,6 +407,26 @@ public:
     void setConfConverter(const QString &key,
                           std::function<QJsonValue(const QJsonValue &value)> converter);
 
+    /// Sets the function that decides which values `key` accepts, and replaces an earlier one. It
+    /// is asked by `set`, `loadValueFromJson`, `lockConf` and all loads, but not for the default
+    /// value and when a dynamic key is created. A value that the key has already is checked now; if
+    /// it is refused, the default value is restored, and the timestamp stays. An empty function
+    /// accepts all values.
+    ///
+    /// A refused value changes nothing. With `KeepUnknownEntries` or `SharedFile` the local file
+    /// keeps an entry that it contains. Logs the warning "ConfStorage::setConfConstraint() value
+    /// refused: " or "ConfStorage::setConfConstraint() value changed: " with the key.
+    ///
+    /// @see MtConf::ConfItem::setRange
+    void setConfConstraint(const QString &key, const ConfConstraint &constraint);
+
+    /// Makes the store warn of wrong use, once of each kind, from now on: of calls on another
+    /// thread than this one, and of dynamic keys with "#", whose entries loads ignore. Logs the
+    /// warnings "ConfStorage used on another thread: " with the function and
+    /// "ConfStorage::createDynamicConf() key with # will not be loaded: " with the key. For
+    /// developers: see docs/guide/checks.md.
+    void warnOfMisuse();
+
     /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed
     /// since the file was last written or loaded. The file is rewritten in place. Logs the debug
     /// message "ConfStorage::saveToLocalConfFile() save to file: " with the path. Whether all of
@@ -420,8 +452,9 @@ public:
 
     /// Returns the content of the store as a table for debugging: for each key its value, its
     /// default value, whether they differ, the timestamp (UTC) and the flags ("default", "system",
-    /// "local", "locked"); then the tombstones. Long keys and values are truncated, and control
-    /// characters are escaped. After 10,000 rows, a line counts the rest.
+    /// "local", "secret", "locked"); then the tombstones. Long keys and values are truncated,
+    /// control characters are escaped, and secret values are "***". After 10,000 rows, a line
+    /// counts the rest.
     QString debugTable() const;
 
     bool mChanged = false;     ///< something has changed since the local file was written or loaded
@@ -450,12 +483,17 @@ private:
     friend class ConfObservers;
     friend class ConfOperation;
     friend class ConfFileSharing;
+    friend class ShadowStore;
     using ChangePtr = std::shared_ptr<ConfChange>;
     void reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current);
     bool loadValue(const QString &key, const QJsonValue &json);
     void markUserChange(const QString &key, ConfValue *value, const ChangePtr &change);
     ChangePtr beginSet(const QString &key) const;
     void finishChange(const ChangePtr &change);
+    std::optional<QJsonValue> constrained(const QString &key, const QJsonValue &json) const;
+    void applyConstrained(const QString &key, const QJsonValue &json);
+    bool setConstrained(const QString &key, const ConfValue &value);
+    void checkUse(const char *function) const;
     void restore(const QString &key, const QDateTime &time);
     void restorePreset(const QString &key, const QDateTime &time);
     bool createDynamic(const QString &key, const QJsonValue &value, const DynamicConfClass *cls);
@@ -483,6 +521,8 @@ private:
     std::unique_ptr<ConfLoadReport> mLastLoad;
     std::unique_ptr<ConfKeptEntries> mKeptEntries;
     std::unique_ptr<ConfVersions> mVersions;
+    std::shared_ptr<ConfConstraints> mConstraints;
+    std::unique_ptr<ConfMisuse> mMisuse;
     std::unique_ptr<LockedConfs> mLockedConfs;
     std::shared_ptr<ConfFileSharing> mFileSharing;
     std::unique_ptr<ConfFileWatch> mFileWatch;
@@ -499,6 +539,8 @@ template<class T> void ConfStorage::reserveConf(const QString &key, T *ptr)
 
 template<class T> T ConfStorage::get(const QString &key) const
 {
+    if (mMisuse)
+        checkUse("get");
     const auto value = mConfValues.constFind(key);
     if (value != mConfValues.constEnd())
         return value->template get<T>();
@@ -508,7 +550,11 @@ template<class T> T ConfStorage::get(const QString &key) const
 
 template<class T> void ConfStorage::set(const QString &key, const T &value)
 {
+    if (mMisuse)
+        checkUse("set");
     if (mLockedConfs && isLocked(key))
+        return;
+    if (mConstraints && setConstrained(key, ConfValue::owned(value)))
         return;
     const ChangePtr change = mObservers ? beginSet(key) : nullptr;
     const auto stored = mConfValues.find(key);

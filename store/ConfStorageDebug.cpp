@@ -5,6 +5,7 @@
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
 #include "Limits_p.h"
+#include "SecretText_p.h"
 
 #include <QJsonValue>
 
@@ -35,8 +36,10 @@ QString jsonText(const QJsonValue &value)
     return EntryLog::printable(QString::fromUtf8(json), sMostCharacters);
 }
 
-QString valueText(const ConfValue &value)
+QString valueText(const ConfValue &value, quint32 flags)
 {
+    if (flags & ConfStorage::FlagSecret)
+        return sSecretText;
     return value.mType == ConfValue::TyNone ? nothing() : jsonText(value.toJsonValue());
 }
 
@@ -64,6 +67,8 @@ QString flagsText(quint32 flags, bool isLocked)
         names.append(QStringLiteral("system"));
     if (flags & ConfStorage::FlagLocalOnly)
         names.append(QStringLiteral("local"));
+    if (flags & ConfStorage::FlagSecret)
+        names.append(QStringLiteral("secret"));
     if (isLocked)
         names.append(QStringLiteral("locked"));
     return names.isEmpty() ? nothing() : names.join(QLatin1Char(','));
@@ -103,7 +108,8 @@ QString ConfStorage::debugTable() const
         if (rows.size() > Limits::sMaxTableRows)
             break;
         const ConfMeta meta = mConfMetas.value(key);
-        rows.append({keyText(key), valueText(mConfValues.value(key)), valueText(meta.defaultValue),
+        rows.append({keyText(key), valueText(mConfValues.value(key), meta.flags),
+                     valueText(meta.defaultValue, meta.flags),
                      isEqualToDefault(key) ? nothing() : QStringLiteral("changed"),
                      timeText(meta.lastChangeTime), flagsText(meta.flags, isLocked(key))});
     }

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "ConfLoad_p.h"
+#include "ConfMisuse_p.h"
 #include "ConfObservers_p.h"
 #include "EntryLog_p.h"
 
@@ -43,6 +44,10 @@ void ConfStorage::createDynamicConf(const QString &key, const QJsonValue &value,
 bool ConfStorage::createDynamic(const QString &key, const QJsonValue &value,
                                 const DynamicConfClass *cls)
 {
+    if (mMisuse) {
+        checkUse("createDynamicConf");
+        mMisuse->checkDynamicKey(key);
+    }
     if (!cls)
         cls = findDynamicConfClass(key);
     if (!cls) {

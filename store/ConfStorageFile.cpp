@@ -25,6 +25,8 @@ void ConfStorage::useRobustFiles()
 void ConfStorage::saveToLocalConfFile()
 {
     const EntryLog log;
+    if (mMisuse)
+        checkUse("saveToLocalConfFile");
     if (mLocalSaveFile.isEmpty()) {
         qCritical() << "ConfStorage::saveToLocalConfFile() mLocalSaveFile.isEmpty()";
         return;

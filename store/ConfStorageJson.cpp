@@ -2,6 +2,7 @@
 
 #include "ConfDump_p.h"
 #include "ConfLoad_p.h"
+#include "ConfMisuse_p.h"
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
@@ -50,6 +51,8 @@ bool ConfStorage::loadLoadDynamicConf(QString key, QJsonValue value, const Dynam
 
 void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
 {
+    if (mMisuse)
+        checkUse("loadValueFromJson");
     if (isLocked(key))
         return;
     if (mVersions)
@@ -69,6 +72,10 @@ void ConfStorage::loadValueFromJson(QString key, QJsonValue value)
         }
         value = *fitting;
     }
+    const std::optional<QJsonValue> accepted = constrained(key, value);
+    if (!accepted)
+        return;
+    value = *accepted;
     const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Set);
     if (loadValue(key, value))
         markUserChange(key, nullptr, change);

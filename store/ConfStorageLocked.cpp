@@ -31,8 +31,12 @@ void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
         }
         fixed = *fitting;
     }
+    const std::optional<QJsonValue> accepted = constrained(name, fixed);
+    if (!accepted || !mConfValues.contains(name))
+        return;
+    fixed = *accepted;
     const ChangePtr change = ConfObservers::beginChange(*this, name, ConfChange::Cause::Loaded);
-    const QJsonValue before = stored->toJsonValue();
+    const QJsonValue before = mConfValues.value(name).toJsonValue();
     if (!mLockedConfs)
         mLockedConfs = std::make_unique<LockedConfs>();
     mLockedConfs->add(*this, name, fixed);

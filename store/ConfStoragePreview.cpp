@@ -5,6 +5,7 @@
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
 #include "LockedConfs_p.h"
+#include "SecretText_p.h"
 #include "ShadowStore_p.h"
 
 #include <MaltoConfiguration/store/ConfChange.h>
@@ -16,6 +17,16 @@ namespace {
 template<class T> std::unique_ptr<T> copyOf(const std::unique_ptr<T> &object)
 {
     return object ? std::make_unique<T>(*object) : nullptr;
+}
+
+/// Returns `change` without its values if the key is secret.
+ConfChange masked(ConfChange change, quint32 flags)
+{
+    for (ConfChange::State *state : {&change.before, &change.after}) {
+        if ((flags & ConfStorage::FlagSecret) && !state->value.isUndefined())
+            state->value = sSecretText;
+    }
+    return change;
 }
 
 } // namespace
@@ -34,7 +45,9 @@ QVector<ConfChange> ConfStorage::previewLoad(const QJsonObject &conf, LoadConfTy
     store.mLockedConfs = copyOf(mLockedConfs);
 
     QVector<ConfChange> changes;
-    store.addObserver([&changes](const ConfChange &change) { changes.append(change); });
+    store.addObserver([&](const ConfChange &change) {
+        changes.append(masked(change, mConfMetas.value(change.key).flags));
+    });
     ConfLoad(store, type).loadObject(conf);
     std::stable_sort(changes.begin(), changes.end(),
                      [](const ConfChange &a, const ConfChange &b) { return a.key < b.key; });

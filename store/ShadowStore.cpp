@@ -9,6 +9,7 @@ void ShadowStore::copyRules(const ConfStorage &other)
 {
     mStore.mFileOptions = other.mFileOptions;
     mStore.mMaxFileSize = other.mMaxFileSize;
+    mStore.mConstraints = other.mConstraints;
     mStore.mPresetDynamicConfs = other.mPresetDynamicConfs;
     mStore.mDynamicConfClasses.clear();
     mClasses.clear();

@@ -1,10 +1,15 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include "HostCode_p.h"
+#include "RowDependency_p.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDebug>
 #include <QLabel>
+#include <QLocale>
 #include <QStyle>
 
 #include <utility>
@@ -78,6 +83,8 @@ ConfigItemWidget::ConfigItemWidget(ConfItem *item, QWidget *parent)
     mItem->editor = this;
     if (mItem->auxCallback)
         mInitialValue = mItem->toJsonValue();
+    if (!mItem->dependencies.isEmpty())
+        new RowDependency(mItem->dependencies, this);
     setProperty("ConfigItemQFrame", QStringLiteral("1"));
 }
 
@@ -116,6 +123,9 @@ QWidget *ConfigItemWidget::label()
     mLabel = new QLabel(translatedText(), parentWidget());
     mLabel->setProperty("ConfigItemWidgetLabel", QStringLiteral("1"));
     refreshLabelState();
+    updateToolTips();
+    if (!mIsRowEnabled)
+        mLabel->setEnabled(false);
     return mLabel;
 }
 
@@ -125,10 +135,80 @@ void ConfigItemWidget::retranslateUi()
         text->setText(translatedText());
     else if (auto *button = qobject_cast<QAbstractButton *>(mLabel))
         button->setText(translatedText());
+    updateToolTips();
+}
+
+void ConfigItemWidget::commit() {}
+
+QLabel *ConfigItemWidget::messageLabel()
+{
+    const bool hasMessage = mHasMessage || mItem->validator
+                            || mItem->properties.contains(QStringLiteral("RangeRule"));
+    if (!mMessage && hasMessage) {
+        mMessage = new QLabel(parentWidget());
+        mMessage->setProperty("ConfigItemMessage", QStringLiteral("1"));
+        mMessage->setTextFormat(Qt::PlainText);
+        mMessage->setWordWrap(true);
+        mMessage->hide();
+    }
+    return mMessage;
+}
+
+void ConfigItemWidget::showMessage(const QString &text)
+{
+    if (!mMessage || mMessage->text() == text)
+        return;
+    mMessage->setText(text);
+    mMessage->setVisible(!text.isEmpty());
+    if (!text.isEmpty()) {
+        QAccessibleEvent event(mMessage, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+bool ConfigItemWidget::isAccepted(const QJsonValue &value)
+{
+    const auto validator = mItem->validator; // a copy: the host may replace it in the call
+    const Writing writing(this);
+    const QString reason = validator(value);
+    if (writing.hasEditor())
+        showMessage(reason);
+    return writing.hasEditor() && reason.isEmpty();
+}
+
+QJsonValue ConfigItemWidget::readJson() const
+{
+    return ConfStorage::instance()->mConfValues.value(mItem->getFullName()).toJsonValue();
+}
+
+bool ConfigItemWidget::writeJson(const QJsonValue &value)
+{
+    if (readJson() == value) {
+        showMessage(QString());
+        return false;
+    }
+    if (mItem->validator && !isAccepted(value))
+        return false;
+    const Writing writing(this);
+    const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
+    ConfStorage::instance()->loadValueFromJson(mItem->getFullName(), value);
+    return writing.hasEditor();
+}
+
+/// Enables or disables the editor and its caption, which may not exist yet.
+void ConfigItemWidget::setRowEnabled(bool isEnabled)
+{
+    mIsRowEnabled = isEnabled;
+    setEnabled(isEnabled);
+    if (mLabel)
+        mLabel->setEnabled(isEnabled);
 }
 
 void ConfigItemWidget::describeControls(const QString &group)
 {
+    if (!mIsRowEnabled)
+        setRowEnabled(false); // the caption of a derived class, too
+    const QString help = mItem->helpText();
     QList<QWidget *> controls = controlsIn(this);
     // A control that is the caption has its name as its text.
     if (mLabel && !isAncestorOf(mLabel) && mLabel->focusPolicy() != Qt::NoFocus)
@@ -138,7 +218,7 @@ void ConfigItemWidget::describeControls(const QString &group)
     for (QWidget *control : std::as_const(controls)) {
         if (control != mLabel)
             setNameUnlessOwn(control, translatedText());
-        setDescriptionUnlessOwn(control, group);
+        setDescriptionUnlessOwn(control, help.isEmpty() ? group : help);
     }
     if (auto *caption = qobject_cast<QLabel *>(mLabel)) {
         // A caption with a buddy would interpret an ampersand as the mark of a shortcut key.
@@ -162,6 +242,40 @@ void ConfigItemWidget::refreshLabelState()
 void ConfigItemWidget::restoreDefault()
 {
     mItem->restoreDefault();
+}
+
+/// Sets the tool tips of the row, if the item has a text for them.
+void ConfigItemWidget::updateToolTips()
+{
+    QStringList lines{mItem->helpText(), rangeText()};
+    lines.removeAll(QString());
+    if (lines.isEmpty())
+        return;
+    // Rich text, so that long lines are wrapped.
+    const QString text = QStringLiteral("<p>%1</p>")
+                             .arg(lines.join(QLatin1Char('\n'))
+                                      .toHtmlEscaped()
+                                      .replace(QLatin1Char('\n'), QStringLiteral("<br>")));
+    setToolTip(text);
+    if (mLabel)
+        mLabel->setToolTip(text);
+}
+
+QString ConfigItemWidget::rangeText() const
+{
+    const QVariant lowest = mItem->properties.value(QStringLiteral("MinValue"));
+    const QVariant highest = mItem->properties.value(QStringLiteral("MaxValue"));
+    if (!mItem->properties.contains(QStringLiteral("RangeRule")))
+        return QString();
+    const QLocale locale = this->locale();
+    const auto text = [&](const QVariant &limit) {
+        return limit.userType() == QMetaType::QDateTime
+                   ? locale.toString(limit.toDateTime().toLocalTime(), QLocale::ShortFormat)
+                   : locale.toString(limit.toDouble(), 'g', QLocale::FloatingPointShortest)
+                         + mItem->suffixText();
+    };
+    return QCoreApplication::translate("MtConf::ConfigItemWidget", "From %1 to %2")
+        .arg(text(lowest), text(highest));
 }
 
 QString ConfigItemWidget::translatedText() const

@@ -11,10 +11,13 @@
 
 #include <memory>
 
+class QLabel;
+
 namespace MtConf {
 
 class HostCode;
 class HostCodeScope;
+class RowDependency;
 
 /// The base class of all editors of the settings window. An editor edits one item.
 ///
@@ -51,10 +54,22 @@ public:
     /// Copies the stored value into the control.
     virtual void loadConf() = 0;
 
+    /// Stores what the user has entered and not confirmed yet, such as a text that is being typed.
+    /// Called before the window saves, shows another page, restores defaults or closes. Does
+    /// nothing in editors that store each change at once.
+    virtual void commit();
+
+    /// Returns the label that says why a value is not accepted. The window shows it under the row.
+    /// The first call creates it, hidden, as a child of the parent of this widget. Null if the
+    /// editor accepts every value: its item has neither a range nor a validator, and the editor has
+    /// not called `setHasMessage`.
+    QLabel *messageLabel();
+
     /// Sets the accessible texts of the controls for screen readers: the caption as the accessible
-    /// name and `group`, the caption of the group, as the accessible description, unless the editor
-    /// has set its own. The caption becomes the buddy of the first control. The window calls this
-    /// when it builds the page and after a language change.
+    /// name, and the help text of the item, or else `group`, the caption of the group, as the
+    /// accessible description, unless the editor has set its own. The caption becomes the buddy of
+    /// the first control. The window calls this when it builds the page and after a language
+    /// change.
     void describeControls(const QString &group);
 
     /// Returns whether this editor is storing a value, and callbacks may be running. If a callback
@@ -83,25 +98,45 @@ protected:
         return ConfStorage::instance()->get<T>(mItem->getFullName());
     }
 
-    /// Stores `value` if it differs from the stored value. Returns false if it does not differ or
-    /// if a callback has deleted this editor; the caller must then return without using it.
+    /// Stores `value` if it differs from the stored value. Returns false if it does not differ, if
+    /// the validator of the item does not accept it, or if a callback has deleted this editor; the
+    /// caller must then return without using it.
     template<class T> bool writeValue(const T &value)
     {
-        return readValue<T>() != value && storeValue(value);
+        if (readValue<T>() != value)
+            return storeValue(value);
+        showMessage(QString());
+        return false;
     }
 
-    /// Stores `value`, even if it equals the stored value. Returns false if a callback has deleted
-    /// this editor; the caller must then return without using it.
+    /// Stores `value`, even if it equals the stored value. Returns false if the validator of the
+    /// item does not accept it, or if a callback has deleted this editor; the caller must then
+    /// return without using it.
     template<class T> bool storeValue(const T &value)
     {
+        if (mItem->validator && !isAccepted(ConfValue::owned(value).toJsonValue()))
+            return false;
         const Writing writing(this);
         const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
         ConfStorage::instance()->set<T>(mItem->getFullName(), value);
         return writing.hasEditor();
     }
 
+    /// Returns the stored value in JSON, for editors of several types. Null if the key is unknown.
+    QJsonValue readJson() const;
+    /// The same as `writeValue` for a value in JSON.
+    bool writeJson(const QJsonValue &value);
+
     /// Returns the label of the item in the current language.
     QString translatedText() const;
+    /// Returns the range of the item in words, such as "From 1 to 99 px"; empty if it has none.
+    QString rangeText() const;
+
+    /// Lets the editor show messages of its own; see `messageLabel`. To be called by constructors.
+    void setHasMessage() { mHasMessage = true; }
+    /// Shows `text` under the row, or hides the message if it is empty. Does nothing if the editor
+    /// has no `messageLabel`.
+    void showMessage(const QString &text);
 
     ConfItem *mItem;          ///< the edited item
     QPointer<QWidget> mLabel; ///< the caption; null before the first `label()`
@@ -123,11 +158,19 @@ private:
         const std::unique_ptr<HostCodeScope> mScope;
     };
 
+    friend class RowDependency;
+
     static void logNoItem();
+    bool isAccepted(const QJsonValue &value);
+    void updateToolTips();
+    void setRowEnabled(bool isEnabled);
     void leaveControls();
 
     const std::shared_ptr<HostCode> mHostCode;
     QJsonValue mInitialValue;
+    QPointer<QLabel> mMessage;
+    bool mHasMessage = false;
+    bool mIsRowEnabled = true;
     int mWrites = 0;
 };
 

@@ -92,6 +92,8 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     connect(mUi->configList->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ConfigurationWindow::onClassItemChange);
 
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &ConfigurationWindow::commitBeforeQuit);
+
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
     retranslateUi();
 
@@ -197,6 +199,16 @@ void ConfigurationWindow::closeEvent(QCloseEvent *event)
         mManager->saveToFile();
 }
 
+/// Saves what the user has entered and not confirmed when the program quits with an open window.
+void ConfigurationWindow::commitBeforeQuit()
+{
+    const bool wasChanged = ConfStorage::instance()->mChanged;
+    const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (self && mManager && !wasChanged && ConfStorage::instance()->mChanged)
+        mManager->saveToFile();
+}
+
 void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QModelIndex &previous)
 {
     Q_UNUSED(previous)
@@ -206,6 +218,7 @@ void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QM
 
 void ConfigurationWindow::restorePageDefault()
 {
+    commitEditors(); // or the rebuilt page would store it after the default values
     if (!confirm(tr("Are you sure to restore current page default?")))
         return;
     // A callback may rebuild the page, which deletes its editors, or close the window.
@@ -224,6 +237,7 @@ void ConfigurationWindow::restorePageDefault()
 
 void ConfigurationWindow::restoreAllDefault()
 {
+    commitEditors();
     if (!confirm(tr("Are you sure to restore all default?")) || !mManager)
         return;
     const QPointer<ConfigurationWindow> self(this);

@@ -166,6 +166,8 @@ private:
     void orderTabs();
     bool isShown(ConfItem *item) const;
     void addClassLabel(const QString &caption);
+    void commitEditors();
+    void commitBeforeQuit();
     void clearConfigItem();
 
     bool confirm(const QString &question);

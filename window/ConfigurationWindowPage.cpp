@@ -36,8 +36,11 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
         mIsNextPageWanted = true;
         return;
     }
-    // Host code that builds part of the page may delete the window.
+    // Host code that builds part of the page may delete the window, and so may callbacks.
     const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (!self || !mManager)
+        return;
     const QString className = index.data(sClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
@@ -145,6 +148,8 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
 
 bool ConfigurationWindow::isShown(ConfItem *item) const
 {
+    if ((item->flags & ItemIsExpert) && !mManager->showExpertItems)
+        return false;
     if (!(item->flags & ItemIsFiltered))
         return true;
     const auto filter = mManager->itemFilter; // a copy: the host may replace it in the call
@@ -168,8 +173,21 @@ bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLay
     } else {
         grid->addWidget(editor, row, 0, 1, 2);
     }
+    if (QWidget *message = editor->messageLabel())
+        grid->addWidget(message, grid->rowCount(), caption ? 1 : 0);
     mEditors.append(editor);
     return true;
+}
+
+/// Lets the editors store what the user has not confirmed yet.
+void ConfigurationWindow::commitEditors()
+{
+    const HostCodeScope scope(mHostCode);
+    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
+    for (const QPointer<ConfigItemWidget> &editor : editors) {
+        if (editor)
+            editor->commit();
+    }
 }
 
 void ConfigurationWindow::addClassLabel(const QString &caption)

@@ -1,0 +1,25 @@
+#include <MaltoConfiguration/manage/MtConfManage.h>
+
+#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
+
+#include <QPointer>
+
+// Declares settings of the types that the first hosts did not have.
+
+namespace MtConf {
+
+void MtConfManage::commitEditors()
+{
+    QList<QPointer<ConfigItemWidget>> editors;
+    for (const ConfItem &item : std::as_const(items)) {
+        if (item.editor)
+            editors.append(item.editor);
+    }
+    // A callback may delete editors, and this object.
+    for (const QPointer<ConfigItemWidget> &editor : std::as_const(editors)) {
+        if (editor)
+            editor->commit();
+    }
+}
+
+} // namespace MtConf
