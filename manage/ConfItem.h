@@ -27,8 +27,7 @@ class ConfigItemWidget;
 ///
 /// @since 0.1
 enum ConfItemFlag : quint32 {
-    ItemIsFiltered = 0x1, ///< shown only if `MtConfManage::itemFilter` accepts the item
-    ItemIsExpert = 0x2    ///< shown only if `MtConfManage::showExpertItems` is true
+    ItemIsFiltered = 0x1 ///< shown only if `MtConfManage::itemFilter` accepts the item
 };
 
 /// What a range does with values outside of it.
@@ -150,7 +149,8 @@ public:
     ConfItem *setPlaceholder(const char *text);
     /// Sets a sentence that explains the setting: the tool tip and the accessible description.
     ConfItem *setHelp(const char *text);
-    /// Marks the setting as one for experts: the flag `ItemIsExpert`.
+    /// Marks the setting as one for experts, which the window shows only if
+    /// `MtConfManage::showExpertItems` is true.
     ConfItem *setExpert();
     /// Lets the user choose several of the item's choices, which are flags.
     ConfItem *setMultiSelect();
@@ -209,7 +209,7 @@ public:
     const char *displayText = nullptr; ///< untranslated label; a literal of the host
     WidgetCreator widgetCreator;       ///< creates the editor; empty: the item has no editor
     /// Options of the editor: "MinValue", "MaxValue", "RangeRule", "Step", "Decimals", "Suffix",
-    /// "Placeholder", "Help", "MultiSelect", "Shortcut", "SecondsPerUnit".
+    /// "Placeholder", "Help", "Expert", "MultiSelect", "Shortcut", "Kind", "SecondsPerUnit".
     QMap<QString, QVariant> properties;
     QList<ConfChoice> choices;              ///< what the editor offers; may be empty
     QMap<QString, QJsonValue> dependencies; ///< values that other keys must have

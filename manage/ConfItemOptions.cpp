@@ -106,7 +106,7 @@ ConfItem *ConfItem::setHelp(const char *text)
 
 ConfItem *ConfItem::setExpert()
 {
-    flags |= ItemIsExpert;
+    properties[QStringLiteral("Expert")] = true;
     return this;
 }
 

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
+#include "DeclarationCheck_p.h"
+
 #include <QDebug>
 
 #include <algorithm>
@@ -33,7 +35,10 @@ T *appendKeepingAddresses(ItemList<T> &list, const T &element, QList<ItemList<T>
 
 } // namespace
 
-MtConfManage::MtConfManage(QObject *parent) : QObject(parent) {}
+MtConfManage::MtConfManage(QObject *parent) : QObject(parent)
+{
+    liveManagers().append(this);
+}
 
 ConfItem *MtConfManage::addConfItem(ConfItem &item)
 {

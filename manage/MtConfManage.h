@@ -238,7 +238,8 @@ public:
     /// Returns whether the window shows an item with the flag `ItemIsFiltered`. If it is empty, the
     /// window shows none of them.
     std::function<bool(ConfItem &)> itemFilter;
-    bool showExpertItems = false; ///< whether the window shows items with the flag `ItemIsExpert`
+    /// Whether pages that are built from now on show the items with `ConfItem::setExpert`.
+    bool showExpertItems = false;
 
 Q_SIGNALS:
     /// Emitted after the language has changed and its translators are installed.

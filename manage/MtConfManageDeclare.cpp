@@ -76,10 +76,11 @@ void MtConfManage::addConfMouseAction(const char *text, int *value, int mode,
                                       const QString &majorName, const QString &name,
                                       const QString &subName)
 {
-    const ConfItem *item = addConfInt32(text, value, majorName, name, subName,
-                                        [mode](ConfItem *edited, QWidget *parent) {
-                                            return new ConfWidgetMouseAction(edited, parent, mode);
-                                        });
+    ConfItem *item = addConfInt32(text, value, majorName, name, subName,
+                                  [mode](ConfItem *edited, QWidget *parent) {
+                                      return new ConfWidgetMouseAction(edited, parent, mode);
+                                  });
+    item->properties[QStringLiteral("Kind")] = mode;
     item->setFlagSystemIndependent();
 }
 

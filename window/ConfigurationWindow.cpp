@@ -269,7 +269,7 @@ bool ConfigurationWindow::confirm(const QString &question)
 
 void ConfigurationWindow::rebuildPage()
 {
-    onClassItemClick(mUi->configList->currentIndex());
+    showPage(mUi->configList->currentIndex());
 }
 
 void ConfigurationWindow::initConfigClassList()

@@ -158,6 +158,7 @@ private:
     void openPage(const QPersistentModelIndex &index);
     void onClassItemChange(const QModelIndex &current, const QModelIndex &previous);
     void onClassItemClick(const QModelIndex &index);
+    void showPage(const QPersistentModelIndex &index);
     void buildPage(const QString &className);
     void addItemPage(const QString &className, int classFlag);
     void addClassItemWidgets(const QString &caption, const QList<ConfItem *> &items, int flags);

@@ -28,6 +28,15 @@ constexpr char sGroupName[] = "GroupName";
 
 void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
 {
+    const QPersistentModelIndex page = index;
+    const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (self)
+        showPage(page);
+}
+
+void ConfigurationWindow::showPage(const QPersistentModelIndex &index)
+{
     if (!mManager)
         return;
     if (mBuildingPage) {
@@ -36,11 +45,8 @@ void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
         mIsNextPageWanted = true;
         return;
     }
-    // Host code that builds part of the page may delete the window, and so may callbacks.
+    // Host code that builds part of the page may delete the window.
     const QPointer<ConfigurationWindow> self(this);
-    commitEditors();
-    if (!self || !mManager)
-        return;
     const QString className = index.data(sClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
@@ -148,7 +154,7 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
 
 bool ConfigurationWindow::isShown(ConfItem *item) const
 {
-    if ((item->flags & ItemIsExpert) && !mManager->showExpertItems)
+    if (item->properties.contains(QStringLiteral("Expert")) && !mManager->showExpertItems)
         return false;
     if (!(item->flags & ItemIsFiltered))
         return true;
@@ -182,6 +188,8 @@ bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLay
 /// Lets the editors store what the user has not confirmed yet.
 void ConfigurationWindow::commitEditors()
 {
+    if (mBuildingPage)
+        return;
     const HostCodeScope scope(mHostCode);
     const QList<QPointer<ConfigItemWidget>> editors = mEditors;
     for (const QPointer<ConfigItemWidget> &editor : editors) {

@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
+#include "MaltoConfiguration/manage/DeclarationCheck_p.h"
+
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include <QApplication>
@@ -10,6 +12,7 @@ namespace MtConf {
 
 MtConfManage::~MtConfManage()
 {
+    liveManagers().removeOne(this);
     // A window and its editors use this object. Without an application there are no windows.
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
