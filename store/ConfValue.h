@@ -55,7 +55,7 @@ class MALTO_EXPORT ConfValue
 {
 public:
     /// The type of a value. The numbers are fixed, because log messages print them. Those of other
-    /// types are 10 and more; see `MtConf::registerJsonType`.
+    /// types are 10 and more; see `MtConf::JsonTypeUse`.
     enum ConfType : quint32 {
         TyNone = 0,
         TyQColor = 1,

@@ -10,7 +10,7 @@
 #include <memory>
 #include <optional>
 #include <type_traits>
-#include <typeindex>
+#include <typeinfo>
 #include <utility>
 
 namespace MtConf {
@@ -80,10 +80,24 @@ struct JsonOperations
     std::shared_ptr<void> (*copy)(const void *variable);
 };
 
-/// Returns the number of a type, 10 or more, which is the same in all libraries of the process. The
-/// operations of the first call for the type are used.
-MALTO_EXPORT quint32 registerJsonType(const std::type_index &type,
-                                      const JsonOperations &operations);
+/// The use of a type with a `JsonForm` by one library of the process. It ends when the library is
+/// unloaded; the store then calls the operations of another library that uses the type.
+class MALTO_EXPORT JsonTypeUse
+{
+public:
+    /// Begins the use. Types are equal if `type` is, in whatever library.
+    JsonTypeUse(const std::type_info &type, const JsonOperations &operations);
+    /// Ends the use. The operations of the last one are kept: a program may save its settings when
+    /// its global variables are destroyed.
+    ~JsonTypeUse();
+    Q_DISABLE_COPY(JsonTypeUse)
+
+    /// Returns the number of the type, 10 or more, the same in all libraries.
+    quint32 id() const { return mId; }
+
+private:
+    const quint32 mId;
+};
 
 /// Returns the operations of the type with the number `type`; null if no type has it.
 MALTO_EXPORT const JsonOperations *jsonOperations(quint32 type);
@@ -91,7 +105,7 @@ MALTO_EXPORT const JsonOperations *jsonOperations(quint32 type);
 /// Returns the number of the type `T`, which has a `JsonForm`.
 template<class T> quint32 jsonTypeId()
 {
-    static const quint32 sId = registerJsonType(
+    static const JsonTypeUse sUse(
         typeid(T),
         {[](const void *variable) { return toJsonForm(*static_cast<const T *>(variable)); },
          [](const QJsonValue &json, void *variable) {
@@ -104,7 +118,7 @@ template<class T> quint32 jsonTypeId()
          [](const void *variable) -> std::shared_ptr<void> {
              return std::make_shared<T>(*static_cast<const T *>(variable));
          }});
-    return sId;
+    return sUse.id();
 }
 
 } // namespace MtConf

@@ -261,7 +261,7 @@ void tst_JsonForm::typeHasTheSameNumberEverywhere()
     QVERIFY(type >= 10);
     QCOMPARE(ConfValue::typeOf<QStringList>(), type);
     QVERIFY(ConfValue::typeOf<QUrl>() != type);
-    QCOMPARE(MtConf::registerJsonType(typeid(QStringList), {}), quint32(type));
+    QCOMPARE(MtConf::JsonTypeUse(typeid(QStringList), {}).id(), quint32(type));
     QVERIFY(MtConf::jsonOperations(type));
     QVERIFY(!MtConf::jsonOperations(ConfValue::TyQJsonArray));
     QVERIFY(!MtConf::jsonOperations(100000));
