@@ -118,6 +118,13 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Von %1 bis %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

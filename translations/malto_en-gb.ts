@@ -118,6 +118,13 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>From %1 to %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

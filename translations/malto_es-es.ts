@@ -118,6 +118,13 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>De %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

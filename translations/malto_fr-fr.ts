@@ -118,6 +118,13 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>De %1 à %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

@@ -118,6 +118,13 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Da %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

@@ -118,6 +118,13 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Van %1 tot %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

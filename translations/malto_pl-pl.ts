@@ -118,6 +118,13 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>Od %1 do %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>

@@ -118,6 +118,13 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfigItemWidget</name>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>%1 ile %2 arası</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigurationWindow</name>
     <message>
         <source>Confirm</source>
