@@ -95,10 +95,10 @@ void *variableOf(const ConfValue &value)
     return value.mValue.value<void *>();
 }
 
-/// Whether the values are of a type with a `JsonForm`. Equal values have equal JSON.
+/// Whether the value is of a type with a `JsonForm`. Equal values have equal JSON.
 bool isJsonType(const ConfValue &value)
 {
-    return MtConf::jsonOperations(value.mType) != nullptr;
+    return value.mType > ConfValue::TyQJsonArray && MtConf::jsonOperations(value.mType);
 }
 
 /// What QVariant::isNull() says with Qt 5: with Qt 6 it no longer asks the text that it holds, and
@@ -184,9 +184,10 @@ QJsonValue ConfValue::toJsonValue() const
     if (mType == TyNone || isNull(*this))
         return QJsonValue();
     QJsonValue json;
-    if (const MtConf::JsonOperations *operations = MtConf::jsonOperations(mType)) {
+    if (isJsonType(*this)) {
         const void *variable = mIsPtr ? variableOf(*this) : nullptr;
-        return variable ? operations->toJson(variable) : mValue.value<QJsonValue>();
+        return variable ? MtConf::jsonOperations(mType)->toJson(variable)
+                        : mValue.value<QJsonValue>();
     }
     visitType(mType, [&](auto *type) {
         using T = std::remove_pointer_t<decltype(type)>;
