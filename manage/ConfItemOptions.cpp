@@ -54,6 +54,11 @@ QString ConfChoice::text() const
 
 ConfItem *ConfItem::setRange(double lowest, double highest, RangeRule rule)
 {
+    // The nearest value in the range is a whole number, too.
+    if (valueType == ConfValue::TyInt32 || properties.value(QStringLiteral("IsWhole")).toBool()) {
+        lowest = std::ceil(lowest);
+        highest = std::floor(highest);
+    }
     properties[QStringLiteral("MinValue")] = lowest;
     properties[QStringLiteral("MaxValue")] = highest;
     properties[QStringLiteral("RangeRule")] = rule;

@@ -161,7 +161,7 @@ void tst_ConfItemOptions::rangeOfADurationIsInItsUnit()
     std::chrono::seconds value = 30s;
     ConfItem *item = mManager->addConfDuration("Label", &value, "Page", "A");
     item->setRange(500ms, 2min, MtConf::Enforced);
-    QCOMPARE(item->properties.value("MinValue").toDouble(), 0.5);
+    QCOMPARE(item->properties.value("MinValue").toDouble(), 1.0); // in whole seconds
     QCOMPARE(item->properties.value("MaxValue").toDouble(), 120.0);
     const LogCapture log;
     mStore->set("Page.A", 121s);
