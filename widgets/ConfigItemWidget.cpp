@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include "HostCode_p.h"
+#include "RangeCheck_p.h"
 #include "RowDependency_p.h"
 
 #include <QAbstractButton>
@@ -271,11 +272,10 @@ QString ConfigItemWidget::rangeText() const
     const auto text = [&](const QVariant &limit) {
         return limit.userType() == QMetaType::QDateTime
                    ? locale.toString(limit.toDateTime().toLocalTime(), QLocale::ShortFormat)
-                   : locale.toString(limit.toDouble(), 'g', QLocale::FloatingPointShortest)
-                         + mItem->suffixText();
+                   : numberText(locale, limit.toDouble());
     };
     return QCoreApplication::translate("MtConf::ConfigItemWidget", "From %1 to %2")
-        .arg(text(lowest), text(highest));
+        .arg(text(lowest), text(highest) + mItem->suffixText());
 }
 
 QString ConfigItemWidget::translatedText() const
