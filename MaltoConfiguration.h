@@ -16,6 +16,7 @@
 #include <MaltoConfiguration/store/JsonTypes.h>
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetInt32.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>

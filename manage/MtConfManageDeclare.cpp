@@ -1,4 +1,4 @@
-#include <MaltoConfiguration/manage/MtConfManage.h>
+#include "MtConfManageDeclare_p.h"
 
 #include <MaltoConfiguration/manage/helpers.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
@@ -13,17 +13,6 @@
 #include <QPointer>
 
 namespace MtConf {
-
-template<class T> ConfItem *MtConfManage::addConf(const char *text, T *value,
-                                                  const QString &majorName, const QString &name,
-                                                  const QString &subName, WidgetCreator creator,
-                                                  WidgetCreator defaultCreator)
-{
-    ConfItem item(value, majorName, name, subName);
-    item.displayText = text;
-    item.widgetCreator = creator ? std::move(creator) : std::move(defaultCreator);
-    return addConfItem(item);
-}
 
 ConfItem *MtConfManage::addConfInt32(const char *text, int *value, const QString &majorName,
                                      const QString &name, const QString &subName,

@@ -1,5 +1,6 @@
-#include <MaltoConfiguration/manage/MtConfManage.h>
+#include "MtConfManageDeclare_p.h"
 
+#include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QPointer>
@@ -7,6 +8,14 @@
 // Declares settings of the types that the first hosts did not have.
 
 namespace MtConf {
+
+ConfItem *MtConfManage::addConfDouble(const char *text, double *value, const QString &majorName,
+                                      const QString &name, const QString &subName,
+                                      WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfDefWidgetDouble::CreatConfWidget);
+}
 
 void MtConfManage::commitEditors()
 {
