@@ -22,6 +22,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+#include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>

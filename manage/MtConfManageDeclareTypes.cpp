@@ -1,6 +1,7 @@
 #include "MtConfManageDeclare_p.h"
 
 #include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
+#include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QPointer>
@@ -15,6 +16,14 @@ ConfItem *MtConfManage::addConfDouble(const char *text, double *value, const QSt
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfDefWidgetDouble::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addDurationItem(ConfItem &item, const char *text, double secondsPerUnit)
+{
+    item.displayText = text;
+    item.properties[QStringLiteral("SecondsPerUnit")] = secondsPerUnit;
+    item.widgetCreator = ConfWidgetDuration::CreatConfWidget;
+    return addConfItem(item);
 }
 
 void MtConfManage::commitEditors()
