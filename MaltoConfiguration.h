@@ -21,6 +21,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQColor.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQFont.h>
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
+#include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>

@@ -91,12 +91,15 @@ ConfItem *MtConfManage::addConfStrWithCombobox(const char *text, QStringList cho
                                                QString *value, const QString &majorName,
                                                const QString &name, const QString &subName)
 {
-    return addConfQString(text, value, majorName, name, subName,
-                          [choices](ConfItem *item, QWidget *parent) {
-                              auto *editor = new ConfWidgetCombobox(item, parent);
-                              editor->setSelectItem(choices);
-                              return editor;
-                          });
+    ConfItem *added = addConfQString(text, value, majorName, name, subName,
+                                     [choices](ConfItem *item, QWidget *parent) {
+                                         auto *editor = new ConfWidgetCombobox(item, parent);
+                                         editor->setSelectItem(choices);
+                                         return editor;
+                                     });
+    for (const QString &choice : std::as_const(choices))
+        added->choices.append({choice, choice, false});
+    return added;
 }
 
 ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const char *> labels,
@@ -111,12 +114,15 @@ ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const c
                                                  const QString &majorName, const QString &name,
                                                  const QString &subName)
 {
-    return addConfInt32(text, value, majorName, name, subName,
-                        [labels, values](ConfItem *item, QWidget *parent) {
-                            auto *editor = new ConfWidgetCombobox(item, parent);
-                            editor->setSelectItem(labels, values);
-                            return editor;
-                        });
+    ConfItem *added = addConfInt32(text, value, majorName, name, subName,
+                                   [labels, values](ConfItem *item, QWidget *parent) {
+                                       auto *editor = new ConfWidgetCombobox(item, parent);
+                                       editor->setSelectItem(labels, values);
+                                       return editor;
+                                   });
+    for (int i = 0; i < labels.size(); ++i)
+        added->choices.append({QString::fromUtf8(labels.at(i)), values.value(i, i)});
+    return added;
 }
 
 void MtConfManage::addConfAutoRun(const char *text, bool *value, const QString &majorName,

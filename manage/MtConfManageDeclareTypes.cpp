@@ -1,6 +1,7 @@
 #include "MtConfManageDeclare_p.h"
 
 #include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
+#include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
@@ -16,6 +17,14 @@ ConfItem *MtConfManage::addConfDouble(const char *text, double *value, const QSt
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfDefWidgetDouble::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices)
+{
+    item.displayText = text;
+    item.choices = std::move(choices);
+    item.widgetCreator = ConfWidgetChoice::CreatConfWidget;
+    return addConfItem(item);
 }
 
 ConfItem *MtConfManage::addDurationItem(ConfItem &item, const char *text, double secondsPerUnit)
