@@ -23,6 +23,7 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
 #include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
+#include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>

@@ -2,6 +2,7 @@
 
 #include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
 #include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
+#include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
@@ -17,6 +18,14 @@ ConfItem *MtConfManage::addConfDouble(const char *text, double *value, const QSt
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfDefWidgetDouble::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,
+                                        const QString &majorName, const QString &name,
+                                        const QString &subName, WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfWidgetDateTime::CreatConfWidget);
 }
 
 ConfItem *MtConfManage::addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices)

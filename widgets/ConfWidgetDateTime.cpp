@@ -1,0 +1,134 @@
+#include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
+
+#include "DateTimeBox_p.h"
+#include "Glyphs_p.h"
+
+#include <QIconfont/QIconfont.h>
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTimeZone>
+
+namespace MtConf {
+
+namespace {
+
+constexpr int sPause = 600; // milliseconds after which typed text is stored
+
+/// Returns `time`, which is in local time, with the time zone of `stored`.
+QDateTime inZoneOf(const QDateTime &stored, const QDateTime &time)
+{
+    switch (stored.isValid() ? stored.timeSpec() : Qt::LocalTime) {
+    case Qt::UTC: return time.toUTC();
+    case Qt::OffsetFromUTC: return time.toOffsetFromUtc(stored.offsetFromUtc());
+    case Qt::TimeZone: return time.toTimeZone(stored.timeZone());
+    case Qt::LocalTime: break;
+    }
+    return time;
+}
+
+} // namespace
+
+ConfWidgetDateTime::ConfWidgetDateTime(ConfItem *item, QWidget *parent)
+    : ConfigItemWidget(item, parent), mEdit(new DateTimeBox(*item, this)),
+      mClearButton(new QPushButton(this))
+{
+    mClearButton->setIcon(QIconfont::Icon(sErrorGlyph, QColor(255, 85, 85), 24, QMargins()));
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mEdit);
+    layout->addWidget(mClearButton);
+    layout->setAlignment(Qt::AlignLeft);
+    mPause.setSingleShot(true);
+    mPause.setInterval(sPause);
+    connect(&mPause, &QTimer::timeout, this, &ConfWidgetDateTime::commit);
+    connect(mEdit, &QDateTimeEdit::dateTimeChanged, this, &ConfWidgetDateTime::onEdited);
+    connect(mEdit->findChild<QLineEdit *>(), &QLineEdit::textEdited, this,
+            &ConfWidgetDateTime::onEdited);
+    connect(mEdit, &QDateTimeEdit::editingFinished, this, &ConfWidgetDateTime::onEditingFinished);
+    connect(mClearButton, &QPushButton::clicked, this, &ConfWidgetDateTime::clear);
+    showTexts();
+    loadConf();
+}
+
+ConfigItemWidget *ConfWidgetDateTime::CreatConfWidget(ConfItem *item, QWidget *parent)
+{
+    return create<ConfWidgetDateTime>(item, parent);
+}
+
+void ConfWidgetDateTime::showTexts()
+{
+    mEdit->setSpecialValueText(tr("Not set"));
+    mClearButton->setToolTip(tr("Clear"));
+    mClearButton->setAccessibleName(tr("Clear"));
+}
+
+void ConfWidgetDateTime::retranslateUi()
+{
+    ConfigItemWidget::retranslateUi();
+    showTexts();
+    loadConf(); // removes a message in the former language
+}
+
+void ConfWidgetDateTime::loadConf()
+{
+    const QSignalBlocker blocker(mEdit);
+    mPause.stop();
+    mIsEdited = false;
+    const auto stored = readValue<QDateTime>();
+    mEdit->showTime(stored);
+    mClearButton->setVisible(stored.isValid());
+    showMessage(QString());
+    refreshLabelState();
+}
+
+void ConfWidgetDateTime::onEdited()
+{
+    mIsEdited = true;
+    mPause.start();
+}
+
+void ConfWidgetDateTime::commit()
+{
+    mPause.stop();
+    if (!mIsEdited || !mEdit->hasAcceptableInput() || !mEdit->time().isValid())
+        return;
+    mIsEdited = false;
+    if (mEdit->isInRange(mEdit->time()))
+        write(inZoneOf(readValue<QDateTime>(), mEdit->time()));
+    else
+        showMessage(mEdit->message());
+}
+
+void ConfWidgetDateTime::write(const QDateTime &value)
+{
+    if (!writeValue(value))
+        return;
+    showMessage(QString());
+    mClearButton->setVisible(value.isValid());
+    refreshLabelState();
+}
+
+void ConfWidgetDateTime::onEditingFinished()
+{
+    const QPointer<ConfWidgetDateTime> self(this);
+    commit();
+    // Return leaves a time that is not accepted in the field, with the message.
+    if (self && !mEdit->hasFocus())
+        loadConf();
+}
+
+void ConfWidgetDateTime::clear()
+{
+    mPause.stop();
+    mEdit->setFocus(); // the button is about to be hidden
+    const QPointer<ConfWidgetDateTime> self(this);
+    write(QDateTime());
+    if (self)
+        loadConf();
+}
+
+} // namespace MtConf
