@@ -1,12 +1,16 @@
 #include "MtConfManageDeclare_p.h"
+#include "ShortcutBinding_p.h"
 
 #include <MaltoConfiguration/widgets/ConfDefWidgetDouble.h>
 #include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
+#include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
+#include <QAction>
 #include <QPointer>
+#include <QShortcut>
 
 // Declares settings of the types that the first hosts did not have.
 
@@ -26,6 +30,30 @@ ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfWidgetDateTime::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfShortcut(const char *text, QKeySequence *value, QAction *action,
+                                        const QString &majorName, const QString &name,
+                                        const QString &subName)
+{
+    ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
+                             ConfWidgetShortcut::CreatConfWidget);
+    if (action)
+        ShortcutBinding::bind(item->getFullName(), action,
+                              [action](const QKeySequence &keys) { action->setShortcut(keys); });
+    return item;
+}
+
+ConfItem *MtConfManage::addConfShortcut(const char *text, QKeySequence *value, QShortcut *shortcut,
+                                        const QString &majorName, const QString &name,
+                                        const QString &subName)
+{
+    ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
+                             ConfWidgetShortcut::CreatConfWidget);
+    if (shortcut)
+        ShortcutBinding::bind(item->getFullName(), shortcut,
+                              [shortcut](const QKeySequence &keys) { shortcut->setKey(keys); });
+    return item;
 }
 
 ConfItem *MtConfManage::addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices)

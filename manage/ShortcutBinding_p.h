@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+namespace MtConf {
+
+/// Gives an action or a QShortcut the shortcut that is stored under a key, now and after each
+/// change.
+class ShortcutBinding : public QObject
+{
+    Q_OBJECT
+public:
+    using Setter = std::function<void(const QKeySequence &shortcut)>;
+
+    /// Calls `setter` with the shortcut that is stored under `key`, now and after each change,
+    /// until `target` is destroyed. Replaces an earlier binding of `target`.
+    static void bind(const QString &key, QObject *target, const Setter &setter);
+
+    ~ShortcutBinding() override;
+
+private:
+    ShortcutBinding(const QString &key, QObject *target, const Setter &setter);
+
+    int mObserver = 0;
+};
+
+} // namespace MtConf
