@@ -64,6 +64,21 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>غير معيّن</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>أدخل تاريخًا ووقتًا من %1 إلى %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>From %1 to %2</source>
         <translation>من %1 إلى %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>أدخل رقمًا من %1 إلى %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Conflict with %1</source>
         <translation>تعارض مع «%1»</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> مللي ثانية</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> ثانية</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> دقيقة</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> ساعة</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> يوم</translation>
     </message>
 </context>
 </TS>

@@ -64,6 +64,21 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Nicht festgelegt</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Geben Sie Datum und Uhrzeit von %1 bis %2 ein</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
         <source>From %1 to %2</source>
         <translation>Von %1 bis %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Geben Sie eine Zahl von %1 bis %2 ein</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     <message>
         <source>Conflict with %1</source>
         <translation>Konflikt mit „%1“</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> d</translation>
     </message>
 </context>
 </TS>

@@ -64,6 +64,21 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Not set</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Enter a date and time from %1 to %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
         <source>From %1 to %2</source>
         <translation>From %1 to %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Enter a number from %1 to %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     <message>
         <source>Conflict with %1</source>
         <translation>Conflict with ‘%1’</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> d</translation>
     </message>
 </context>
 </TS>

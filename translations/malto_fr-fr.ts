@@ -64,6 +64,21 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Non définie</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Saisissez une date et une heure de %1 à %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>From %1 to %2</source>
         <translation>De %1 à %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Saisissez un nombre de %1 à %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     <message>
         <source>Conflict with %1</source>
         <translation>Conflit avec «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> j</translation>
     </message>
 </context>
 </TS>

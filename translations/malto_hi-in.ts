@@ -64,6 +64,21 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>सेट नहीं है</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>साफ़ करें</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>%1 से %2 तक का दिनांक और समय दर्ज करें</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>From %1 to %2</source>
         <translation>%1 से %2 तक</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>%1 से %2 तक की संख्या दर्ज करें</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Conflict with %1</source>
         <translation>“%1” से टकराव</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> से.</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> मि.</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> घं.</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> दिन</translation>
     </message>
 </context>
 </TS>

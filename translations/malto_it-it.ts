@@ -64,6 +64,21 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Non impostata</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Inserisci data e ora da %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
         <source>From %1 to %2</source>
         <translation>Da %1 a %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Inserisci un numero da %1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     <message>
         <source>Conflict with %1</source>
         <translation>Conflitto con “%1”</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> g</translation>
     </message>
 </context>
 </TS>

@@ -64,6 +64,21 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>%1 ～ %2 の日付と時刻を入力してください</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>From %1 to %2</source>
         <translation>%1 ～ %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>%1 ～ %2 の数値を入力してください</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Conflict with %1</source>
         <translation>「%1」と競合しています</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> 分</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> 時間</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> 日</translation>
     </message>
 </context>
 </TS>

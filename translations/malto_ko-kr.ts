@@ -64,6 +64,21 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>설정되지 않음</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>%1~%2 범위의 날짜와 시간을 입력하세요</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>From %1 to %2</source>
         <translation>%1~%2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>%1~%2 범위의 숫자를 입력하세요</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Conflict with %1</source>
         <translation>‘%1’과(와) 충돌</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation>분</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation>일</translation>
     </message>
 </context>
 </TS>

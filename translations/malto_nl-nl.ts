@@ -64,6 +64,21 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Niet ingesteld</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wissen</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Voer een datum en tijd in van %1 tot %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>From %1 to %2</source>
         <translation>Van %1 tot %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Voer een getal in van %1 tot %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     <message>
         <source>Conflict with %1</source>
         <translation>Conflict met ‘%1’</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> u</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> d</translation>
     </message>
 </context>
 </TS>

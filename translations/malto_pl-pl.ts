@@ -64,6 +64,21 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Nie ustawiono</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>Podaj datę i godzinę od %1 do %2</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
         <source>From %1 to %2</source>
         <translation>Od %1 do %2</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>Podaj liczbę od %1 do %2</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     <message>
         <source>Conflict with %1</source>
         <translation>Konflikt z ustawieniem „%1”</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> min</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> d</translation>
     </message>
 </context>
 </TS>

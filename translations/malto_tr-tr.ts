@@ -64,6 +64,21 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetDateTime</name>
+    <message>
+        <source>Not set</source>
+        <translation>Ayarlanmadı</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>Enter a date and time from %1 to %2</source>
+        <translation>%1 ile %2 arasında bir tarih ve saat girin</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
@@ -123,6 +138,10 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
         <source>From %1 to %2</source>
         <translation>%1 ile %2 arası</translation>
     </message>
+    <message>
+        <source>Enter a number from %1 to %2</source>
+        <translation>%1 ile %2 arasında bir sayı girin</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -152,6 +171,26 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     <message>
         <source>Conflict with %1</source>
         <translation>“%1” ile çakışıyor</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> sn</translation>
+    </message>
+    <message>
+        <source> min</source>
+        <translation> dk</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> sa</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> gün</translation>
     </message>
 </context>
 </TS>
