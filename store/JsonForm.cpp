@@ -12,6 +12,7 @@
 #include <QVariant>
 
 #include <cmath>
+#include <limits>
 
 namespace MtConf {
 
@@ -83,7 +84,7 @@ bool read(const QJsonValue &json, float *number)
 
 QJsonValue jsonOf(const std::string &text)
 {
-    return jsonOf(QString::fromStdString(text));
+    return jsonOf(QString::fromStdString("\xef\xbb\xbf" + text)); // Qt drops one byte order mark
 }
 bool read(const QJsonValue &json, std::string *text)
 {
@@ -153,8 +154,9 @@ bool read(const QJsonValue &json, QTime *time)
 
 QJsonValue jsonOf(const QDateTime &time)
 {
-    if (time.timeSpec() == Qt::UTC)
-        return jsonOf(time.toString(Qt::ISODateWithMs));
+    // The text of an offset has whole minutes.
+    if (time.timeSpec() == Qt::UTC || time.offsetFromUtc() % 60 != 0)
+        return jsonOf(time.toUTC().toString(Qt::ISODateWithMs));
     return jsonOf(time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODateWithMs));
 }
 bool read(const QJsonValue &json, QDateTime *time)
@@ -164,53 +166,67 @@ bool read(const QJsonValue &json, QDateTime *time)
     const QDateTime local = time->toLocalTime();
     if (time->timeSpec() == Qt::OffsetFromUTC && local.offsetFromUtc() == time->offsetFromUtc())
         *time = local;
-    return isText<QDateTime>(json, time->isValid());
+    // The end of the year 9999 may be read as the year 10000, which has no text.
+    const bool isWritable = !time->toString(Qt::ISODateWithMs).isEmpty();
+    return isText<QDateTime>(json, time->isValid() && isWritable);
 }
 
 // Geometry
 
-template<class... Numbers> QJsonArray arrayOf(Numbers... numbers)
-{
-    return QJsonArray{numbers...};
-}
-
-/// Reads an array of as many whole numbers.
-template<class... Numbers> bool readArray(const QJsonValue &json, Numbers *...numbers)
+/// Reads an array of two whole numbers.
+bool readPair(const QJsonValue &json, int *first, int *second)
 {
     const QJsonArray array = json.toArray();
-    int index = 0;
-    return array.size() == int(sizeof...(numbers)) && (read(array.at(index++), numbers) && ...);
+    return array.size() == 2 && read(array.at(0), first) && read(array.at(1), second);
 }
 
 QJsonValue jsonOf(const QSize &size)
 {
-    return arrayOf(size.width(), size.height());
+    return QJsonArray{size.width(), size.height()};
 }
 bool read(const QJsonValue &json, QSize *size)
 {
-    return readArray(json, &size->rwidth(), &size->rheight());
+    return readPair(json, &size->rwidth(), &size->rheight());
 }
 
 QJsonValue jsonOf(const QPoint &point)
 {
-    return arrayOf(point.x(), point.y());
+    return QJsonArray{point.x(), point.y()};
 }
 bool read(const QJsonValue &json, QPoint *point)
 {
-    return readArray(json, &point->rx(), &point->ry());
+    return readPair(json, &point->rx(), &point->ry());
+}
+
+/// Reads the first and the last coordinate of a rectangle's side, which `QRect` itself would add
+/// in 32 bits.
+bool readSide(const QJsonValue &start, const QJsonValue &length, int *first, int *last)
+{
+    constexpr qint64 sLowest = std::numeric_limits<int>::min();
+    constexpr qint64 sHighest = std::numeric_limits<int>::max();
+    const auto from = integerOf(start, sLowest, sHighest);
+    const auto count = integerOf(length, 2 * sLowest, 2 * sHighest);
+    if (!from || !count || !start.isDouble() || !length.isDouble())
+        return false;
+    const qint64 to = *from + *count - 1;
+    *first = static_cast<int>(*from);
+    *last = static_cast<int>(to);
+    return to >= sLowest && to <= sHighest;
 }
 
 QJsonValue jsonOf(const QRect &rect)
 {
-    return arrayOf(rect.x(), rect.y(), rect.width(), rect.height());
+    const qint64 width = qint64(rect.right()) - rect.left() + 1;
+    const qint64 height = qint64(rect.bottom()) - rect.top() + 1;
+    return QJsonArray{rect.left(), rect.top(), width, height};
 }
 bool read(const QJsonValue &json, QRect *rect)
 {
-    QPoint corner;
-    QSize size;
-    const bool isRead = readArray(json, &corner.rx(), &corner.ry(), &size.rwidth(),
-                                  &size.rheight());
-    *rect = QRect(corner, size);
+    const QJsonArray array = json.toArray();
+    int left = 0, top = 0, right = 0, bottom = 0;
+    const bool isRead = array.size() == 4 && readSide(array.at(0), array.at(2), &left, &right)
+                        && readSide(array.at(1), array.at(3), &top, &bottom);
+    rect->setCoords(left, top, right, bottom);
     return isRead;
 }
 

@@ -183,21 +183,35 @@ template<class T> struct JsonByName
     static QJsonValue toJson(const T &value)
     {
         const QMetaEnum names = QMetaEnum::fromType<T>();
-        const QByteArray name = names.valueToKeys(static_cast<int>(value));
-        if (!name.isEmpty() && names.keysToValue(name) == static_cast<int>(value))
+        const int number = static_cast<int>(value);
+        if (!names.isFlag()) {
+            const char *const name = names.valueToKey(number);
+            return name ? QJsonValue(QString::fromLatin1(name)) : QJsonValue(number);
+        }
+        const QByteArray name = names.valueToKeys(number);
+        if (!name.isEmpty() && names.keysToValue(name) == number)
             return QString::fromLatin1(name);
-        return static_cast<int>(value);
+        return number;
     }
     /// Returns the value of `json`, a text or a number.
     static std::optional<T> fromJson(const QJsonValue &json)
     {
-        bool isName = false;
-        const QByteArray text = json.toString().toLatin1();
-        const int named = QMetaEnum::fromType<T>().keysToValue(text.constData(), &isName);
-        if (json.isString())
-            return isName ? std::optional<T>(static_cast<T>(named)) : std::nullopt;
-        const std::optional<int> number = JsonForm<int>::fromJson(json);
-        return number ? std::optional<T>(static_cast<T>(*number)) : std::nullopt;
+        const QMetaEnum names = QMetaEnum::fromType<T>();
+        std::optional<int> number;
+        if (json.isString()) {
+            const QByteArray text = json.toString().toLatin1();
+            bool isName = false;
+            const int named = names.isFlag() ? names.keysToValue(text.constData(), &isName)
+                                             : names.keyToValue(text.constData(), &isName);
+            if (isName)
+                number = named;
+        } else {
+            number = JsonForm<int>::fromJson(json);
+        }
+        // The type may have fewer bits.
+        if (!number || static_cast<int>(static_cast<T>(*number)) != *number)
+            return std::nullopt;
+        return static_cast<T>(*number);
     }
 };
 

@@ -132,6 +132,9 @@ void tst_JsonForm::enumsAndFlagsAreNumbersOrNames()
     checkRoundTrip(Qt::AlignTop | Qt::AlignLeft, "33");
     checkRoundTrip(WrapMode::Anywhere, "\"Anywhere\"");
     checkRoundTrip(static_cast<WrapMode>(3), "3");
+    checkRoundTrip(Scale::Both, "\"Both\"");
+    checkRoundTrip(Scale::Breadth, "\"Width\""); // the first name
+    checkRoundTrip(static_cast<Scale>(0), "0");
     checkRoundTrip(Edges(Left | Right), "\"Left|Right\"");
     checkRoundTrip(Edges(QFlag(9)), "9");
 
@@ -150,6 +153,11 @@ void tst_JsonForm::textsAreRead()
                    "\"https://example.org/a%20b?q=%C3%A4\"");
     const QUuid id("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}");
     checkRoundTrip(id, "\"67c8770b-44f1-410a-ab9a-f9b5446f13ee\"");
+
+    Host<std::string> host;
+    host.store.set("key", std::string("\xef\xbb\xbf!"));
+    const QString text = QChar(QChar::ByteOrderMark) + QString('!');
+    QCOMPARE(host.store.mConfValues["key"].toJsonValue(), QJsonValue(text));
 }
 
 void tst_JsonForm::datesKeepTheirInstant()
@@ -161,6 +169,8 @@ void tst_JsonForm::datesKeepTheirInstant()
     checkRoundTrip(QDateTime(date, time, Qt::UTC), "\"2026-11-22T07:05:03.250Z\"");
     checkRoundTrip(QDateTime(date, time, Qt::OffsetFromUTC, -3600),
                    "\"2026-11-22T07:05:03.250-01:00\"");
+    checkRoundTrip(QDateTime(date, time, Qt::OffsetFromUTC, 3601),
+                   "\"2026-11-22T06:05:02.250Z\""); // the text has whole minutes only
     checkRoundTrip(QDateTime(), "\"\"");
 
     Host<QDateTime> host;
@@ -182,6 +192,9 @@ void tst_JsonForm::geometryIsAnArray()
     checkRoundTrip(QPoint(-3, 4), "[-3,4]");
     checkRoundTrip(QRect(1, 2, 3, 4), "[1,2,3,4]");
     checkRoundTrip(QRect(), "[0,0,0,0]");
+    constexpr int sLargest = std::numeric_limits<int>::max();
+    checkRoundTrip(QRect(QPoint(1, -sLargest), QPoint(sLargest, -1)),
+                   "[1,-2147483647,2147483647,2147483647]");
 }
 
 void tst_JsonForm::containersHoldAnyForm()
@@ -219,7 +232,11 @@ void tst_JsonForm::otherJsonIsRefused()
     checkRefused<qint8>("128");
     checkRefused<Small>("256");
     checkRefused<WrapMode>("\"None of them\"");
+    checkRefused<WrapMode>("\"\"");
+    checkRefused<Scale>("\"Width|Height\"");
+    checkRefused<Scale>("257");
     checkRefused<Edges>("\"Left|Top\"");
+    checkRefused<Edges>("\"\"");
     checkRefused<QByteArray>("\"a!\"");
     checkRefused<QByteArray>("1");
     checkRefused<QUrl>("\"http://[\"");
@@ -227,9 +244,15 @@ void tst_JsonForm::otherJsonIsRefused()
     checkRefused<QDate>("\"2026-02-30\"");
     checkRefused<QTime>("\"25:00\"");
     checkRefused<QDateTime>("1795335977");
+    checkRefused<QDateTime>("\"9999-12-31T24:00:00Z\""); // the year 10000 has no text
     checkRefused<QSize>("[1]");
     checkRefused<QSize>("[1,2.5]");
     checkRefused<QRect>("{\"x\":1}");
+    checkRefused<QRect>("[1,2,3]");
+    checkRefused<QRect>("[1,2,3,\"4\"]");
+    checkRefused<QRect>("[1,2,3,1e300]");
+    checkRefused<QRect>("[2147483647,0,2,1]");
+    checkRefused<QRect>("[0,-2147483648,0,0]");
     checkRefused<QStringList>("[\"a\",1]");
     checkRefused<QStringList>("\"a\"");
     checkRefused<std::optional<int>>("[1,2]");

@@ -15,6 +15,9 @@ Q_NAMESPACE
 enum class WrapMode : int { None, Word, Anywhere = 7 };
 Q_ENUM_NS(WrapMode)
 
+enum class Scale : quint8 { Both = 3, Width = 1, Height = 2, Breadth = Width };
+Q_ENUM_NS(Scale)
+
 enum Edge { Left = 1, Right = 2 };
 Q_DECLARE_FLAGS(Edges, Edge)
 Q_FLAG_NS(Edges)
@@ -34,6 +37,9 @@ struct Margins
 } // namespace Settings
 
 template<> struct MtConf::JsonForm<Settings::WrapMode> : MtConf::JsonByName<Settings::WrapMode>
+{
+};
+template<> struct MtConf::JsonForm<Settings::Scale> : MtConf::JsonByName<Settings::Scale>
 {
 };
 template<> struct MtConf::JsonForm<Settings::Edges> : MtConf::JsonByName<Settings::Edges>
