@@ -1,5 +1,5 @@
-// A host's type as a setting, without a form. checkTypeWithoutForm.cmake compiles each use alone, and
-// all of them with a form.
+// A host's type as a setting, without a form. checkTypeWithoutForm.cmake compiles each use alone,
+// and all of them with a form.
 #include <MaltoConfiguration/manage/ConfItem.h>
 
 struct Theme
