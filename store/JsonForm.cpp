@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QKeySequence>
 #include <QRect>
+#include <QRegularExpression>
 #include <QUrl>
 #include <QUuid>
 #include <QVariant>
@@ -132,13 +133,27 @@ bool read(const QJsonValue &json, QUuid *id)
 
 // Dates
 
+// Qt 5 ignores what follows the seconds, and reads signs as digits.
+constexpr char sDate[] = "\\d{4}-\\d\\d-\\d\\d";
+constexpr char sTime[] = "\\d\\d:\\d\\d(:\\d\\d([.,]\\d{1,9})?)?";
+constexpr char sZone[] = "(Z|[+-]\\d\\d(:?\\d\\d)?)?";
+
+/// Returns the text of `json`, or an empty one if it does not have the form of a date or time.
+QString isoText(const QJsonValue &json, const QByteArray &pattern)
+{
+    const QString text = json.toString();
+    const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)));
+    return form.match(text).hasMatch() ? text : QString();
+}
+
 QJsonValue jsonOf(const QDate &date)
 {
     return jsonOf(date.toString(Qt::ISODate));
 }
 bool read(const QJsonValue &json, QDate *date)
 {
-    *date = QDate::fromString(json.toString(), Qt::ISODate);
+    *date = QDate::fromString(isoText(json, sDate), Qt::ISODate);
     return isText<QDate>(json, date->isValid());
 }
 
@@ -148,7 +163,7 @@ QJsonValue jsonOf(const QTime &time)
 }
 bool read(const QJsonValue &json, QTime *time)
 {
-    *time = QTime::fromString(json.toString(), Qt::ISODateWithMs);
+    *time = QTime::fromString(isoText(json, sTime), Qt::ISODateWithMs);
     return isText<QTime>(json, time->isValid());
 }
 
@@ -161,7 +176,8 @@ QJsonValue jsonOf(const QDateTime &time)
 }
 bool read(const QJsonValue &json, QDateTime *time)
 {
-    *time = QDateTime::fromString(json.toString(), Qt::ISODateWithMs);
+    const QByteArray pattern = QByteArray(sDate) + "([T ]" + sTime + sZone + ")?";
+    *time = QDateTime::fromString(isoText(json, pattern), Qt::ISODateWithMs);
     // The same text is written again wherever the file is read.
     const QDateTime local = time->toLocalTime();
     if (time->timeSpec() == Qt::OffsetFromUTC && local.offsetFromUtc() == time->offsetFromUtc())

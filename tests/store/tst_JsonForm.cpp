@@ -88,6 +88,8 @@ private Q_SLOTS:
     void enumsAndFlagsAreNumbersOrNames();
     void textsAreRead();
     void datesKeepTheirInstant();
+    void textsOfDatesAreReadByBothQts_data();
+    void textsOfDatesAreReadByBothQts();
     void geometryIsAnArray();
     void containersHoldAnyForm();
     void hostCanAddAForm();
@@ -184,6 +186,74 @@ void tst_JsonForm::datesKeepTheirInstant()
     host.store.loadValueFromJson("key", host.store.mConfValues["key"].toJsonValue());
     QCOMPARE(host.variable.timeSpec(), Qt::LocalTime);
     QCOMPARE(host.variable, here);
+}
+
+void tst_JsonForm::textsOfDatesAreReadByBothQts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("date"); // as it is written; null if the text is refused
+    QTest::addColumn<QString>("time");
+    QTest::addColumn<QString>("dateTime");
+    const QString no;
+    const auto row = [](const QString &text, const QString &date, const QString &time,
+                        const QString &dateTime) {
+        QTest::newRow(qPrintable(text)) << text << date << time << dateTime;
+    };
+    row("2026-11-22", "2026-11-22", no, "2026-11-22T00:00:00.000-05:00");
+    row("2026-1-2", no, no, no);
+    row("2026-+1-02", no, no, no);
+    row("20261122", no, no, no);
+    row("2026-11-22x", no, no, no);
+    row("2026-02-29", no, no, no);
+    row("07:05", no, "07:05:00.000", no);
+    row("07:05:03", no, "07:05:03.000", no);
+    row("07:05:03.2", no, "07:05:03.200", no);
+    row("07:05:03,25", no, "07:05:03.250", no);
+    row("07:05:03.2506", no, "07:05:03.251", no);
+    row("23:59:59.9999", no, "23:59:59.999", no);
+    row("24:00:00", no, "00:00:00.000", no);
+    row("24:00:01", no, no, no);
+    row("7:05", no, no, no);
+    row("07:05.5", no, no, no);
+    row("07:05:031", no, no, no);
+    row("07:05:03 ", no, no, no);
+    row("07:05:03Z", no, no, no);
+    row("2026-11-22T07:05", no, no, "2026-11-22T07:05:00.000-05:00");
+    row("2026-11-22 07:05Z", no, no, "2026-11-22T07:05:00.000Z");
+    row("2026-11-22T07:05:03.5+0530", no, no, "2026-11-22T07:05:03.500+05:30");
+    row("2026-11-22T07:05:03.123456+02", no, no, "2026-11-22T07:05:03.123+02:00");
+    row("2026-11-22T07:05:03-00:00", no, no, "2026-11-22T07:05:03.000Z");
+    row("2026-11-22T24:00:00Z", no, no, "2026-11-23T00:00:00.000Z");
+    row("2026-11-22T07:05:03z", no, no, no);
+    row("2026-11-22T07:05:03+05:60", no, no, no);
+    row("2026-11-22T07:05:03+15:00", no, no, "2026-11-22T07:05:03.000+15:00");
+    row("2026-11-22T07:05:03x+01:00", no, no, no);
+    row("2026-11-22T", no, no, no);
+    row(QString::fromUtf8("２０２６-11-22"), no, no, no);
+}
+
+template<class T> void checkText(const QString &text, const QString &written)
+{
+    Host<T> host;
+    const LogCapture log;
+    host.store.loadValueFromJson("key", text);
+    if (written.isNull()) {
+        QCOMPARE(host.variable, T());
+        QCOMPARE(LogCapture::texts(QtWarningMsg).size(), 1);
+    } else {
+        QCOMPARE(host.store.mConfValues["key"].toJsonValue().toString(), written);
+    }
+}
+
+void tst_JsonForm::textsOfDatesAreReadByBothQts()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, date);
+    QFETCH(QString, time);
+    QFETCH(QString, dateTime);
+    checkText<QDate>(text, date);
+    checkText<QTime>(text, time);
+    checkText<QDateTime>(text, dateTime);
 }
 
 void tst_JsonForm::geometryIsAnArray()
