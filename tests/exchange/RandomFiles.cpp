@@ -1,5 +1,6 @@
 #include "RandomFiles.h"
 
+#include "RandomForms.h"
 #include "RandomValues.h"
 
 #include "MaltoConfiguration/store/JsonText_p.h"
@@ -311,7 +312,9 @@ std::vector<Files> exchangedFiles(quint64 seed)
     const Files written = writtenFiles(seed);
     const Files first = mergedFiles({}, {}, seed, 1);
     const Files second = mergedFiles({}, first, seed, 2);
-    return {written, rewrittenFiles(written), first, second, mergedFiles(first, second, seed, 3)};
+    const Files forms = writtenForms(seed);
+    return {written, rewrittenFiles(written), first, second, mergedFiles(first, second, seed, 3),
+            forms,   rewrittenForms(forms)};
 }
 
 QByteArray digestLine(quint64 seed)

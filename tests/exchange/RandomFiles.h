@@ -26,7 +26,8 @@ Files rewrittenFiles(const Files &files);
 /// merged those of another host, if any, and has then changed some settings.
 Files mergedFiles(const Files &own, const Files &other, quint64 seed, int round);
 
-/// Returns all of these for the seed: written, rewritten, and three rounds of merging.
+/// Returns all of these for the seed: written, rewritten, and three rounds of merging; then those
+/// of RandomForms.h.
 std::vector<Files> exchangedFiles(quint64 seed);
 
 /// Returns a line with the seed and a short hash of each element of `exchangedFiles(seed)`.

@@ -83,22 +83,6 @@ QJsonArray randomArray(Random &random, int levels)
     return array;
 }
 
-/// Returns text without the characters that Qt 5 and Qt 6 may sort differently in names: single
-/// surrogates and U+E000 to U+FFFF.
-QString randomName(Random &random)
-{
-    QString name;
-    const QVector<uint> characters = randomValue<QString>(random).toUcs4();
-    for (const uint character : characters) {
-        if (QChar::requiresSurrogates(character))
-            name.append(QChar(QChar::highSurrogate(character)))
-                .append(QChar(QChar::lowSurrogate(character)));
-        else if (character < 0xd800)
-            name.append(QChar(static_cast<ushort>(character)));
-    }
-    return name;
-}
-
 QJsonObject randomObject(Random &random, int levels)
 {
     QJsonObject object;
@@ -242,6 +226,20 @@ template<> QJsonArray randomValue(Random &random)
 template<> QJsonObject randomValue(Random &random)
 {
     return randomObject(random, 3);
+}
+
+QString randomName(Random &random)
+{
+    QString name;
+    const QVector<uint> characters = randomValue<QString>(random).toUcs4();
+    for (const uint character : characters) {
+        if (QChar::requiresSurrogates(character))
+            name.append(QChar(QChar::highSurrogate(character)))
+                .append(QChar(QChar::lowSurrogate(character)));
+        else if (character < 0xd800)
+            name.append(QChar(static_cast<ushort>(character)));
+    }
+    return name;
 }
 
 QJsonValue randomJson(Random &random, int levels)

@@ -19,6 +19,10 @@ template<> QKeySequence randomValue(Random &random);
 template<> QJsonArray randomValue(Random &random);
 template<> QJsonObject randomValue(Random &random);
 
+/// Returns text without the characters that Qt 5 and Qt 6 may sort differently in names: single
+/// surrogates and U+E000 to U+FFFF.
+QString randomName(Random &random);
+
 /// Returns a JSON value of any type, of at most `levels` levels.
 QJsonValue randomJson(Random &random, int levels);
 

@@ -5,6 +5,7 @@
 //                                                                changes settings, writes
 //   malto-exchange digests <seeds>                               prints the lines of digests.txt
 #include "RandomFiles.h"
+#include "RandomForms.h"
 
 #include <QApplication>
 #include <QDir>
@@ -38,6 +39,12 @@ void write(const QString &folder, const Files &files)
     }
 }
 
+void writeAll(const QString &folder, const Files &files, const Files &forms)
+{
+    write(folder, files);
+    write(folder, forms);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -57,11 +64,13 @@ int main(int argc, char **argv)
             std::puts(digestLine(static_cast<quint64>(seed)).constData());
     } else if (command == "write") {
         for (int seed = 0; seed < arguments[2].toInt(); ++seed)
-            write(first + QString::number(seed), writtenFiles(static_cast<quint64>(seed)));
+            writeAll(first + QString::number(seed), writtenFiles(static_cast<quint64>(seed)),
+                     writtenForms(static_cast<quint64>(seed)));
     } else if (command == "rewrite") {
         for (int seed = 0; seed < arguments[3].toInt(); ++seed) {
             const QString folder = QString::number(seed);
-            write(second + folder, rewrittenFiles(filesIn(first + folder)));
+            const Files files = filesIn(first + folder);
+            writeAll(second + folder, rewrittenFiles(files), rewrittenForms(files));
         }
     } else if (command == "merge") {
         for (int seed = 0; seed < arguments[3].toInt(); ++seed) {

@@ -1,4 +1,5 @@
 #include "GoldenValues.h"
+#include "support/FormSetting.h"
 #include "support/IgnoreLeaks.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
@@ -139,6 +140,22 @@ QByteArray rewritten(ConfValue::ConfType type, const QByteArray &text)
     return result.startsWith(start) ? result.mid(start.size()).chopped(2) : result;
 }
 
+/// A host with a setting for each value of a type that is not built in.
+struct FormHost
+{
+    FormHost()
+    {
+        for (const auto &form : formCases()) {
+            variables.push_back(form->variable());
+            variables.back()->reserve(store, form->name);
+        }
+    }
+    Q_DISABLE_COPY(FormHost)
+
+    std::vector<std::unique_ptr<FormCase::Variable>> variables;
+    ConfStorage store;
+};
+
 } // namespace
 
 /// The files of the library. Every expected text was written by a build with Qt 5.15; the build
@@ -161,6 +178,8 @@ private Q_SLOTS:
     void nestingIsLimited();
     void localFile();
     void localFileIsReadAndWrittenAgain();
+    void formsAreWritten();
+    void formsAreReadAndWrittenAgain();
     void dumps();
     void debugTable();
     void configurationFile();
@@ -302,6 +321,28 @@ void tst_GoldenFiles::localFileIsReadAndWrittenAgain()
         QVERIFY2(isThatOf(row, store.mConfValues.value(row.name)), row.name.constData());
     QCOMPARE(localText(store), golden("local.json"));
     QCOMPARE(store.mRemovedDynamicConfs.value("Entry.2").toSecsSinceEpoch(), sTime + 3);
+}
+
+void tst_GoldenFiles::formsAreWritten()
+{
+    FormHost host;
+    for (size_t i = 0; i < formCases().size(); ++i) {
+        const QString key = formCases()[i]->name;
+        host.variables[i]->setInStore(host.store, key);
+        host.store.mConfMetas[key].lastChangeTime = QDateTime::fromSecsSinceEpoch(sTime, Qt::UTC);
+    }
+    QCOMPARE(localText(host.store), golden("forms.json"));
+}
+
+void tst_GoldenFiles::formsAreReadAndWrittenAgain()
+{
+    writeFile(sLocalFile, golden("forms.json"));
+    FormHost host;
+    host.store.mLocalSaveFile = sLocalFile;
+    host.store.loadLocalConfFile();
+    for (size_t i = 0; i < formCases().size(); ++i)
+        QVERIFY2(host.variables[i]->hasValue(), formCases()[i]->name.constData());
+    QCOMPARE(localText(host.store), golden("forms.json"));
 }
 
 void tst_GoldenFiles::dumps()
