@@ -122,6 +122,8 @@ ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const c
                                    });
     for (int i = 0; i < labels.size(); ++i)
         added->choices.append({QString::fromUtf8(labels.at(i)), values.value(i, i)});
+    if (!values.isEmpty() && values.size() != labels.size())
+        added->properties[QStringLiteral("ValueCount")] = static_cast<int>(values.size());
     return added;
 }
 

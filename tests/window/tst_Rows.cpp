@@ -190,7 +190,7 @@ void tst_Rows::helpIsToolTipAndDescription()
     addText("A")->setHelp("Less < more.");
     mItem->setRange(1, 2.5)->setSuffix(" px");
     QVERIFY(mFixture->open());
-    QCOMPARE(editor()->toolTip(), QStringLiteral("<p>Less &lt; more.<br>From 1 px to 2.5 px</p>"));
+    QCOMPARE(editor()->toolTip(), QStringLiteral("<p>Less &lt; more.<br>From 1 to 2.5 px</p>"));
     QCOMPARE(editor()->label()->toolTip(), editor()->toolTip());
     QCOMPARE(editor()->line->accessibleDescription(), QStringLiteral("Less < more."));
 }
