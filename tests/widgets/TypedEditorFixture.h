@@ -3,8 +3,7 @@
 #include "support/EditorFixture.h"
 
 #include <QLabel>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QLineEdit>
 #include <QTranslator>
 #include <QWheelEvent>
 
@@ -31,6 +30,13 @@ public:
         if (message)
             layout->addWidget(message);
         return editor;
+    }
+    /// Moves the focus to another control.
+    void leaveEditor()
+    {
+        auto *other = new QLineEdit(&parent);
+        other->show();
+        other->setFocus();
     }
     /// Returns the message that is shown under the row; empty if there is none.
     QString shownMessage() const

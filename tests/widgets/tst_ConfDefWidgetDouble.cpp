@@ -59,13 +59,6 @@ private:
         box->selectAll();
         return box;
     }
-    /// Moves the focus to another control.
-    void leave()
-    {
-        auto *other = new QLineEdit(&mFixture->parent);
-        other->show();
-        other->setFocus();
-    }
 
     std::unique_ptr<TypedEditorFixture> mFixture;
     ConfItem *mItem = nullptr;
@@ -104,7 +97,7 @@ void tst_ConfDefWidgetDouble::storedValueIsShownUnrounded()
     QVERIFY(mFixture->show());
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Return);
-    leave();
+    mFixture->leaveEditor();
     QVERIFY(mFixture->isUntouched());
     QCOMPARE(memcmp(&mValue, &value, sizeof value), 0);
     QTEST(box->text(), "text");
@@ -201,7 +194,7 @@ void tst_ConfDefWidgetDouble::numberOutsideTheRangeIsNotStored()
     QTest::keyClicks(box, typed);
     QCOMPARE(mFixture->shownMessage(), QString("Enter a number from 1.5 to 99 mm"));
     QVERIFY(mValue != typed.toDouble());
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(mFixture->shownMessage(), QString());
     QCOMPARE(box->value(), mValue);
 }
@@ -228,7 +221,7 @@ void tst_ConfDefWidgetDouble::refusedNumberIsNotStored()
     QTest::keyClicks(box, "4");
     QCOMPARE(mFixture->shownMessage(), QString("Too much"));
     QVERIFY(mFixture->isUntouched());
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(mFixture->shownMessage(), QString());
     QCOMPARE(box->value(), 0.5);
 }
@@ -274,7 +267,7 @@ void tst_ConfDefWidgetDouble::wheelNeedsTheFocus()
 {
     QDoubleSpinBox *box = editShown();
     QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
-    leave();
+    mFixture->leaveEditor();
     QVERIFY(leavesWheelToPage(box));
     QCOMPARE(mValue, 0.5);
     box->setFocus();

@@ -42,12 +42,6 @@ private:
         box->selectAll();
         return box;
     }
-    void leave()
-    {
-        auto *other = new QLineEdit(&mFixture->parent);
-        other->show();
-        other->setFocus();
-    }
 
     std::unique_ptr<TypedEditorFixture> mFixture;
     ConfItem *mItem = nullptr;
@@ -70,7 +64,7 @@ void tst_ConfDefWidgetInt32Range::storedValueOutsideTheRangeIsKept()
     const QSpinBox *box = edit();
     mEditor->loadConf();
     mEditor->retranslateUi();
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(box->value(), value);
     QCOMPARE(mValue, value);
     QVERIFY(mFixture->isUntouched());
@@ -89,7 +83,7 @@ void tst_ConfDefWidgetInt32Range::numberOutsideTheRangeIsNotStored()
     QTest::keyClick(box, Qt::Key_Backspace);
     QCOMPARE(mFixture->shownMessage(), QString());
     QTest::keyClicks(box, "0");
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(box->value(), 10);
     QCOMPARE(mFixture->shownMessage(), QString());
     QCOMPARE(mValue, 10);
@@ -132,7 +126,7 @@ void tst_ConfDefWidgetInt32Range::refusedNumberIsReplacedWhenTheFieldIsLeft()
     QTest::keyClicks(box, "13");
     QCOMPARE(mFixture->shownMessage(), QString("Not that one"));
     QCOMPARE(mValue, 1);
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(box->value(), 1);
     QCOMPARE(mFixture->shownMessage(), QString());
 }

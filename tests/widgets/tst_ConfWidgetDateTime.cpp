@@ -42,15 +42,16 @@ private Q_SLOTS:
     void textsAreTranslated();
     void wheelNeedsTheFocus();
     void callbackMayDeleteTheEditor();
+    void callbackMayDeleteTheEditorAfterThePause();
     void tabReachesTheButton();
 
 private:
     QDateTimeEdit *edit()
     {
-        if (!mItem())
-            mFixture->manager.addConfDateTime("Next run", &mValue, "Run", "Next");
+        if (!item())
+            add();
         mFixture->store()->mChanged = false;
-        mEditor = mFixture->open<ConfWidgetDateTime>(mItem());
+        mEditor = mFixture->open<ConfWidgetDateTime>(item());
         mButton = mEditor->findChild<QPushButton *>();
         auto *field = mEditor->findChild<QDateTimeEdit *>();
         if (!mFixture->show())
@@ -58,16 +59,10 @@ private:
         field->setFocus();
         return field;
     }
-    ConfItem *mItem() { return mFixture->manager.getItemByName("Run", "Next", QString()); }
+    ConfItem *item() { return mFixture->manager.getItemByName("Run", "Next", QString()); }
     ConfItem *add()
     {
         return mFixture->manager.addConfDateTime("Next run", &mValue, "Run", "Next");
-    }
-    void leave()
-    {
-        auto *other = new QLineEdit(&mFixture->parent);
-        other->show();
-        other->setFocus();
     }
     static QDateTime local(int day, int hour, int minute = 0, int second = 0)
     {
@@ -121,7 +116,7 @@ void tst_ConfWidgetDateTime::openingAndRefreshingStoresNothing()
     mEditor->loadConf();
     mEditor->retranslateUi();
     QTest::keyClick(field, Qt::Key_Return);
-    leave();
+    mFixture->leaveEditor();
     mEditor->commit();
     QCOMPARE(mValue, value);
     QCOMPARE(mValue.timeSpec(), value.timeSpec());
@@ -171,7 +166,7 @@ void tst_ConfWidgetDateTime::typedTimeIsStored()
     if (how == "return")
         QTest::keyClick(field, Qt::Key_Return);
     else if (how == "leave")
-        leave();
+        mFixture->leaveEditor();
     else if (how == "commit")
         mEditor->commit();
     QTRY_COMPARE(mValue, local(6, 7, 45));
@@ -224,7 +219,7 @@ void tst_ConfWidgetDateTime::timeOutsideTheRangeIsNotStored()
                                                "20 May 2024 12:00:00"));
     QVERIFY(mFixture->isUntouched());
     QCOMPARE(field->date().day(), 25);
-    leave();
+    mFixture->leaveEditor();
     QCOMPARE(mFixture->shownMessage(), QString());
     QCOMPARE(field->date().day(), 6);
     QVERIFY(mFixture->isUntouched());
@@ -287,7 +282,7 @@ void tst_ConfWidgetDateTime::wheelNeedsTheFocus()
 {
     QDateTimeEdit *field = edit();
     QCOMPARE(field->focusPolicy(), Qt::StrongFocus);
-    leave();
+    mFixture->leaveEditor();
     QVERIFY(leavesWheelToPage(field));
     mEditor->commit();
     QVERIFY(mFixture->isUntouched());
@@ -298,11 +293,20 @@ void tst_ConfWidgetDateTime::wheelNeedsTheFocus()
 void tst_ConfWidgetDateTime::callbackMayDeleteTheEditor()
 {
     QDateTimeEdit *field = edit();
-    mItem()->setConfChangedCallback([this](const QString &, const ConfValue *) { delete mEditor; });
+    item()->setConfChangedCallback([this](const QString &, const ConfValue *) { delete mEditor; });
     QTest::keyClick(field, Qt::Key_Up);
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(mValue, local(7, 7, 8));
-    QVERIFY(!mItem()->editor);
+    QVERIFY(!item()->editor);
+}
+
+void tst_ConfWidgetDateTime::callbackMayDeleteTheEditorAfterThePause()
+{
+    QDateTimeEdit *field = edit();
+    item()->setConfChangedCallback([this](const QString &, const ConfValue *) { delete mEditor; });
+    QTest::keyClick(field, Qt::Key_Up);
+    QTRY_VERIFY(!item()->editor);
+    QCOMPARE(mValue, local(7, 7, 8));
 }
 
 void tst_ConfWidgetDateTime::tabReachesTheButton()

@@ -195,8 +195,7 @@ void tst_ConfWidgetShortcut::buttonClears()
 void tst_ConfWidgetShortcut::tabLeavesTheField()
 {
     KeySequenceEdit *field = edit();
-    auto *other = new QLineEdit(&mFixture->parent);
-    other->show();
+    (new QLineEdit(&mFixture->parent))->show();
     QTest::keyClick(field, Qt::Key_Tab);
     QVERIFY(!field->hasFocus());
     QVERIFY(mFixture->isUntouched());
