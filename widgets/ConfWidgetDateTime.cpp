@@ -5,7 +5,6 @@
 
 #include <QIconfont/QIconfont.h>
 
-#include <QDateTime>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -45,7 +44,7 @@ ConfWidgetDateTime::ConfWidgetDateTime(ConfItem *item, QWidget *parent)
     mPause.setSingleShot(true);
     mPause.setInterval(sPause);
     connect(&mPause, &QTimer::timeout, this, &ConfWidgetDateTime::commit);
-    connect(mEdit, &QDateTimeEdit::dateTimeChanged, this, &ConfWidgetDateTime::onEdited);
+    connect(mEdit, &QDateTimeEdit::dateTimeChanged, this, &ConfWidgetDateTime::onTimeChanged);
     connect(mEdit->findChild<QLineEdit *>(), &QLineEdit::textEdited, this,
             &ConfWidgetDateTime::onEdited);
     connect(mEdit, &QDateTimeEdit::editingFinished, this, &ConfWidgetDateTime::onEditingFinished);
@@ -80,9 +79,19 @@ void ConfWidgetDateTime::loadConf()
     mIsEdited = false;
     const auto stored = readValue<QDateTime>();
     mEdit->showTime(stored);
+    mShownTime = mEdit->dateTime();
     mClearButton->setVisible(stored.isValid());
     showMessage(QString());
     refreshLabelState();
+}
+
+void ConfWidgetDateTime::onTimeChanged(const QDateTime &time)
+{
+    // Return emits the time that the field has shown once more.
+    if (time == mShownTime)
+        return;
+    mShownTime = time;
+    onEdited();
 }
 
 void ConfWidgetDateTime::onEdited()

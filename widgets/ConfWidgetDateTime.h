@@ -2,9 +2,9 @@
 
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
+#include <QDateTime>
 #include <QTimer>
 
-class QDateTime;
 class QPushButton;
 
 namespace MtConf {
@@ -41,6 +41,7 @@ public:
     void commit() override;
 
 private:
+    void onTimeChanged(const QDateTime &time);
     void onEdited();
     void onEditingFinished();
     void clear();
@@ -50,6 +51,7 @@ private:
     DateTimeBox *mEdit = nullptr;
     QPushButton *mClearButton = nullptr;
     QTimer mPause;
+    QDateTime mShownTime;
     bool mIsEdited = false;
 };
 

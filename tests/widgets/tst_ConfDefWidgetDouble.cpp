@@ -151,6 +151,7 @@ void tst_ConfDefWidgetDouble::typedNumberReplacesATextWhenKeyed()
     mEditor->loadConf();
     QTest::keyClick(box, Qt::Key_End);
     QTest::keyClick(box, Qt::Key_Backspace);
+    QCOMPARE(box->text(), QString());
     QTest::keyClicks(box, "4");
     QCOMPARE(mValue, 4.0);
 }

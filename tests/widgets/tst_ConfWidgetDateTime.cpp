@@ -113,11 +113,13 @@ void tst_ConfWidgetDateTime::openingAndRefreshingStoresNothing()
     mValue = value;
     add()->setRange(local(2, 0), local(20, 0));
     QDateTimeEdit *field = edit();
+    mEditor->commit();
+    QCOMPARE(mFixture->shownMessage(), QString());
     mEditor->loadConf();
     mEditor->retranslateUi();
     QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(mFixture->shownMessage(), QString());
     mFixture->leaveEditor();
-    mEditor->commit();
     QCOMPARE(mValue, value);
     QCOMPARE(mValue.timeSpec(), value.timeSpec());
     QVERIFY(mFixture->isUntouched());
