@@ -224,7 +224,7 @@ public:
 
 template<class T> ConfItem::ConfItem(T *value, const QString &majorItemName,
                                      const QString &itemName, const QString &itemSubName)
-    : valueType(ConfValue::typeOf<T>()), majorName(majorItemName), name(itemName),
+    : valueType(static_cast<int>(ConfValue::typeOf<T>())), majorName(majorItemName), name(itemName),
       subName(itemSubName)
 {
     ConfStorage::instance()->reserveConf(getFullName(), value);
