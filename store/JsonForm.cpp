@@ -117,7 +117,8 @@ QJsonValue jsonOf(const QUrl &url)
 }
 bool read(const QJsonValue &json, QUrl *url)
 {
-    *url = QUrl(json.toString(), QUrl::StrictMode);
+    const QUrl read(json.toString(), QUrl::StrictMode);
+    *url = QUrl::fromEncoded(read.toEncoded()); // a second "#" is encoded when it is written
     return isText<QUrl>(json, url->isValid());
 }
 

@@ -153,13 +153,16 @@ void tst_JsonForm::textsAreRead()
     checkRoundTrip(std::string("a\xc3\xa4"), "\"a\xc3\xa4\"");
     checkRoundTrip(QUrl("https://example.org/a%20b?q=\xc3\xa4"),
                    "\"https://example.org/a%20b?q=%C3%A4\"");
+    Host<QUrl> host;
+    host.store.loadValueFromJson("key", "a#b#c");
+    QCOMPARE(host.variable, QUrl("a#b%23c"));
     const QUuid id("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}");
     checkRoundTrip(id, "\"67c8770b-44f1-410a-ab9a-f9b5446f13ee\"");
 
-    Host<std::string> host;
-    host.store.set("key", std::string("\xef\xbb\xbf!"));
+    Host<std::string> bytes;
+    bytes.store.set("key", std::string("\xef\xbb\xbf!"));
     const QString text = QChar(QChar::ByteOrderMark) + QString('!');
-    QCOMPARE(host.store.mConfValues["key"].toJsonValue(), QJsonValue(text));
+    QCOMPARE(bytes.store.mConfValues["key"].toJsonValue(), QJsonValue(text));
 }
 
 void tst_JsonForm::datesKeepTheirInstant()
