@@ -27,7 +27,10 @@
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
+#include <MaltoConfiguration/widgets/ConfWidgetText.h>
+#include <MaltoConfiguration/widgets/ConfWidgetTextBase.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>

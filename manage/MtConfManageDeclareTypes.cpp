@@ -5,7 +5,9 @@
 #include <MaltoConfiguration/widgets/ConfWidgetChoice.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
+#include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QAction>
@@ -22,6 +24,22 @@ ConfItem *MtConfManage::addConfDouble(const char *text, double *value, const QSt
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfDefWidgetDouble::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfText(const char *text, QString *value, const QString &majorName,
+                                    const QString &name, const QString &subName,
+                                    WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfWidgetText::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfMultilineText(const char *text, QString *value,
+                                             const QString &majorName, const QString &name,
+                                             const QString &subName, WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfWidgetMultilineText::CreatConfWidget);
 }
 
 ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,

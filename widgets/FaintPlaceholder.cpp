@@ -1,9 +1,9 @@
 #include "FaintPlaceholder_p.h"
 
 #include <QEvent>
-#include <QLineEdit>
+#include <QWidget>
 
-FaintPlaceholder::FaintPlaceholder(QLineEdit *edit) : QObject(edit), mEdit(edit)
+FaintPlaceholder::FaintPlaceholder(QWidget *edit) : QObject(edit), mEdit(edit)
 {
     edit->installEventFilter(this);
     fade();

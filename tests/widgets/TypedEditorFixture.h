@@ -11,7 +11,11 @@
 class TypedEditorFixture : public EditorFixture
 {
 public:
-    TypedEditorFixture() : observer(store()->addObserver([this](const ConfChange &) { ++changes; }))
+    TypedEditorFixture()
+        : observer(store()->addObserver([this](const ConfChange &change) {
+              ++changes;
+              lastChange = change;
+          }))
     {
         store()->mChanged = false;
     }
@@ -48,6 +52,7 @@ public:
 
     QPointer<QLabel> message;
     int changes = 0;
+    ConfChange lastChange;
     int observer = 0;
 };
 

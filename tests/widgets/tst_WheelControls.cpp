@@ -1,4 +1,5 @@
 #include "support/TestMain.h"
+#include "support/WheelTurn.h"
 
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
@@ -44,15 +45,6 @@ private Q_SLOTS:
     void wheelEventSentDirectlyIsIgnored();
 
 private:
-    static void turnWheelOver(QWidget *widget)
-    {
-        const QPointF position(widget->rect().center());
-        QWheelEvent event(position, widget->mapToGlobal(position.toPoint()), QPoint(),
-                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        // Only spontaneous events are propagated to the parents of a widget.
-        QSpontaneKeyEvent::setSpontaneous(&event);
-        qApp->notify(widget, &event);
-    }
     int scrolled() const { return mArea->verticalScrollBar()->value(); }
 
     std::unique_ptr<QScrollArea> mArea;
