@@ -28,6 +28,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
+#include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetTextBase.h>

@@ -6,6 +6,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetDateTime.h>
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
+#include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
@@ -40,6 +41,15 @@ ConfItem *MtConfManage::addConfMultilineText(const char *text, QString *value,
 {
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfWidgetMultilineText::CreatConfWidget);
+}
+
+ConfItem *MtConfManage::addConfPassword(const char *text, QString *value, const QString &majorName,
+                                        const QString &name, const QString &subName,
+                                        WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfWidgetPassword::CreatConfWidget)
+        ->setSecret();
 }
 
 ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,
