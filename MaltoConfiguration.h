@@ -29,6 +29,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
+#include <MaltoConfiguration/widgets/ConfWidgetPath.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetTextBase.h>

@@ -7,6 +7,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 #include <MaltoConfiguration/widgets/ConfWidgetMultilineText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
+#include <MaltoConfiguration/widgets/ConfWidgetPath.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
@@ -50,6 +51,18 @@ ConfItem *MtConfManage::addConfPassword(const char *text, QString *value, const 
     return addConf(text, value, majorName, name, subName, std::move(creator),
                    ConfWidgetPassword::CreatConfWidget)
         ->setSecret();
+}
+
+ConfItem *MtConfManage::addConfPath(const char *text, QString *value, PathKind kind,
+                                    const QString &majorName, const QString &name,
+                                    const QString &subName, const char *filters)
+{
+    ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
+                             ConfWidgetPath::CreatConfWidget);
+    item->properties[QStringLiteral("PathKind")] = static_cast<int>(kind);
+    if (filters)
+        item->properties[QStringLiteral("Filters")] = QString::fromUtf8(filters);
+    return item;
 }
 
 ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,
