@@ -31,6 +31,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
 #include <MaltoConfiguration/widgets/ConfWidgetPath.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
+#include <MaltoConfiguration/widgets/ConfWidgetStringList.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfWidgetTextBase.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>

@@ -9,6 +9,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetPassword.h>
 #include <MaltoConfiguration/widgets/ConfWidgetPath.h>
 #include <MaltoConfiguration/widgets/ConfWidgetShortcut.h>
+#include <MaltoConfiguration/widgets/ConfWidgetStringList.h>
 #include <MaltoConfiguration/widgets/ConfWidgetText.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
@@ -63,6 +64,14 @@ ConfItem *MtConfManage::addConfPath(const char *text, QString *value, PathKind k
     if (filters)
         item->properties[QStringLiteral("Filters")] = QString::fromUtf8(filters);
     return item;
+}
+
+ConfItem *MtConfManage::addConfStringList(const char *text, QStringList *value,
+                                          const QString &majorName, const QString &name,
+                                          const QString &subName, WidgetCreator creator)
+{
+    return addConf(text, value, majorName, name, subName, std::move(creator),
+                   ConfWidgetStringList::CreatConfWidget);
 }
 
 ConfItem *MtConfManage::addConfDateTime(const char *text, QDateTime *value,
