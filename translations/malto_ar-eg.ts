@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>استعراض…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>هذا المجلّد غير موجود.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>هذا ملف وليس مجلّدًا.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>هذا مجلّد وليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>مجلّد هذا الملف غير موجود.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>هذا الملف غير موجود.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>إضافة</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>نقل لأعلى</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>نقل لأسفل</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

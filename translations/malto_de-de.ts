@@ -133,6 +133,59 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Dieser Ordner existiert nicht.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Dies ist eine Datei, kein Ordner.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Dies ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Der Ordner dieser Datei existiert nicht.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Diese Datei existiert nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>This folder does not exist.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>This is a file, not a folder.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>This is a folder, not a file.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>The folder of this file does not exist.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>This file does not exist.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Move down</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Esta carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Esto es un archivo, no una carpeta.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Esto es una carpeta, no un archivo.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>La carpeta de este archivo no existe.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Este archivo no existe.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

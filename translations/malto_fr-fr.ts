@@ -133,6 +133,59 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Ce dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Ceci est un fichier, pas un dossier.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Ceci est un dossier, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Le dossier de ce fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Ce fichier n’existe pas.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

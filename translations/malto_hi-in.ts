@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>दिखाएँ</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>ब्राउज़ करें…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>यह फ़ोल्डर मौजूद नहीं है।</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>यह फ़ाइल है, फ़ोल्डर नहीं।</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>यह फ़ोल्डर है, फ़ाइल नहीं।</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>इस फ़ाइल का फ़ोल्डर मौजूद नहीं है।</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>यह फ़ाइल मौजूद नहीं है।</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>जोड़ें</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>हटाएँ</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>ऊपर ले जाएँ</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>नीचे ले जाएँ</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

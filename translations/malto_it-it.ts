@@ -133,6 +133,59 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Questa cartella non esiste.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Questo è un file, non una cartella.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Questa è una cartella, non un file.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>La cartella di questo file non esiste.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Questo file non esiste.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Sposta giù</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

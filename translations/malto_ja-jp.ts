@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>参照…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>このフォルダは存在しません。</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>これはフォルダではなくファイルです。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>これはファイルではなくフォルダです。</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>このファイルのフォルダは存在しません。</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>このファイルは存在しません。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

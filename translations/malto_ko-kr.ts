@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>표시</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>찾아보기…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>이 폴더는 존재하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>폴더가 아니라 파일입니다.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>파일이 아니라 폴더입니다.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>이 파일의 폴더가 존재하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>이 파일은 존재하지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>위로 이동</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>아래로 이동</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Tonen</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Bladeren…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Deze map bestaat niet.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Dit is een bestand, geen map.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Dit is een map, geen bestand.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>De map van dit bestand bestaat niet.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Dit bestand bestaat niet.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Toevoegen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Pokaż</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Przeglądaj…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Ten katalog nie istnieje.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>To jest plik, a nie katalog.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>To jest katalog, a nie plik.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Katalog tego pliku nie istnieje.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Ten plik nie istnieje.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>W górę</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>W dół</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

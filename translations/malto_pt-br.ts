@@ -133,6 +133,59 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Procurar…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Esta pasta não existe.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Isto é um arquivo, não uma pasta.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Isto é uma pasta, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>A pasta deste arquivo não existe.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Este arquivo não existe.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Para cima</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Para baixo</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Показать</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Обзор…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Эта папка не существует.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Это файл, а не папка.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Это папка, а не файл.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Папка этого файла не существует.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Этот файл не существует.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Вниз</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

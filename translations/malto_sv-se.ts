@@ -133,6 +133,59 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Visa</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Bläddra…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Den här mappen finns inte.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Det här är en fil, inte en mapp.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Det här är en mapp, inte en fil.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Mappen för den här filen finns inte.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Den här filen finns inte.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Lägg till</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Flytta upp</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Flytta ned</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

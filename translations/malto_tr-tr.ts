@@ -133,6 +133,59 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>Göster</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>Göz at…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>Bu klasör yok.</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>Bu bir klasör değil, dosya.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Bu bir dosya değil, klasör.</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>Bu dosyanın klasörü yok.</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>Bu dosya yok.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Aşağı taşı</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>顯示</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>此資料夾不存在。</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>這是檔案，不是資料夾。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>這是資料夾，不是檔案。</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>此檔案的資料夾不存在。</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>此檔案不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>

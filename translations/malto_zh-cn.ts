@@ -133,6 +133,59 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::ConfWidgetPassword</name>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetPath</name>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览…</translation>
+    </message>
+    <message>
+        <source>This folder does not exist.</source>
+        <translation>此文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>This is a file, not a folder.</source>
+        <translation>这是文件，不是文件夹。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>这是文件夹，不是文件。</translation>
+    </message>
+    <message>
+        <source>The folder of this file does not exist.</source>
+        <translation>此文件的文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>This file does not exist.</source>
+        <translation>此文件不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ConfWidgetStringList</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::ConfigItemWidget</name>
     <message>
         <source>From %1 to %2</source>
