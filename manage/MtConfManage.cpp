@@ -43,6 +43,12 @@ MtConfManage::MtConfManage(QObject *parent) : QObject(parent)
 ConfItem *MtConfManage::addConfItem(ConfItem &item)
 {
     addMajorConfItemIfNotExist(item.majorName);
+    return addItem(item);
+}
+
+/// Adds a copy of an item whose class need not exist.
+ConfItem *MtConfManage::addItem(const ConfItem &item)
+{
     return appendKeepingAddresses(items, item, mSharedItems);
 }
 

@@ -168,7 +168,8 @@ public:
     ConfItem *addConfShortcut(const char *text, QKeySequence *value, QShortcut *shortcut,
                               const QString &majorName, const QString &name,
                               const QString &subName = QString());
-    /// Declares a value of any type without an editor, which is only kept and merged.
+    /// Declares a value of any type without an editor, which is only kept and merged. Adds no page
+    /// for `majorName`.
     template<class T> ConfItem *addConfValue(T *value, const QString &majorName,
                                              const QString &name,
                                              const QString &subName = QString());
@@ -250,6 +251,7 @@ private:
                                         const QString &name, const QString &subName,
                                         WidgetCreator creator, WidgetCreator defaultCreator);
 
+    ConfItem *addItem(const ConfItem &item);
     ConfItem *addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices);
     ConfItem *addDurationItem(ConfItem &item, const char *text, double secondsPerUnit);
     void commitEditors();
@@ -286,8 +288,8 @@ ConfItem *MtConfManage::addConfDuration(const char *text, std::chrono::duration<
 template<class T> ConfItem *MtConfManage::addConfValue(T *value, const QString &majorName,
                                                        const QString &name, const QString &subName)
 {
-    ConfItem item(value, majorName, name, subName);
-    return addConfItem(item);
+    const ConfItem item(value, majorName, name, subName);
+    return addItem(item);
 }
 
 } // namespace MtConf
