@@ -5,6 +5,7 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include <QFont>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -100,7 +101,10 @@ QStringList BoundValueModel::currentKeys() const
 
 QString BoundValueModel::valueText(const QString &key)
 {
-    const ConfValue value = ConfStorage::instance()->mConfValues.value(key);
+    const ConfStorage *store = ConfStorage::instance();
+    if (store->mConfMetas.value(key).flags & ConfStorage::FlagSecret)
+        return QStringLiteral("***");
+    const ConfValue value = store->mConfValues.value(key);
     switch (value.mType) {
     case ConfValue::TyQColor: {
         const QColor color = value.get<QColor>();
@@ -118,6 +122,10 @@ QString BoundValueModel::valueText(const QString &key)
     case ConfValue::TyQString: return value.get<QString>();
     case ConfValue::TyBool:
         return value.get<bool>() ? QStringLiteral("true") : QStringLiteral("false");
-    default: return value.toJsonValue().toVariant().toString();
+    default: break;
     }
+    const QJsonValue json = value.toJsonValue();
+    return json.isArray()
+               ? QString::fromUtf8(QJsonDocument(json.toArray()).toJson(QJsonDocument::Compact))
+               : json.toVariant().toString();
 }

@@ -35,7 +35,7 @@ DemoSession::DemoSession(const QString &localFile)
 {
     ConfStorage::instance()->useRobustFiles();
     ConfStorage::instance()->mLocalSaveFile = localFile;
-    declareSettings(*mManager, mSettings);
+    declareSettings(*mManager, mSettings, mActions);
     addPages();
     addCallbacks();
     addHotkeyCallbacks();
@@ -72,6 +72,9 @@ void DemoSession::addPages()
         {QStringLiteral("Hotkeys"), QuorviGlyphs::Hotkeys},
         {QStringLiteral("Mouse"), QuorviGlyphs::Mouse},
         {QStringLiteral("Output"), QuorviGlyphs::Output},
+        {QStringLiteral("Texts"), QuorviGlyphs::Profiles},
+        {QStringLiteral("Numbers"), QuorviGlyphs::General},
+        {QStringLiteral("Choices"), QuorviGlyphs::Correct},
         {QStringLiteral("Profiles"), QuorviGlyphs::Profiles},
         {QStringLiteral("System"), QuorviGlyphs::Advanced},
         {QStringLiteral("Stored data"), QuorviGlyphs::Correct},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProfileStore.h"
+#include "ProgramActions.h"
 #include "Settings.h"
 #include "SettingsWatcher.h"
 
@@ -41,6 +42,7 @@ public:
     const Settings &settings() const { return mSettings; }
     ProfileStore &profiles() { return mProfiles; }
     SettingsWatcher &watcher() { return mWatcher; }
+    const ProgramActions &actions() const { return mActions; }
 
     /// Shows a theme without storing it: in the sheets of the windows and in the palette.
     static void showTheme(int theme);
@@ -61,6 +63,7 @@ private:
     void reloadEditors();
 
     Settings mSettings;
+    const ProgramActions mActions{this};
     ProfileStore mProfiles;
     SettingsWatcher mWatcher;
     std::unique_ptr<MtConf::MtConfManage> mManager;

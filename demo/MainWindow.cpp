@@ -111,14 +111,16 @@ QPushButton *MainWindow::addButton(const char *name)
 void MainWindow::buildMenu()
 {
     mFileMenu = menuBar()->addMenu(QString());
-    mSettingsAction = mFileMenu->addAction(QString(), this, [this] { showSettings(QString()); });
-    mSettingsAction->setShortcut(Qt::CTRL | Qt::Key_Comma);
-    mSaveAction = mFileMenu->addAction(QString(), this, &MainWindow::save);
-    mSaveAction->setShortcut(QKeySequence::Save);
+    mSettingsAction = mSession.actions().showSettings;
+    connect(mSettingsAction, &QAction::triggered, this, [this] { showSettings(QString()); });
+    mSaveAction = mSession.actions().save;
+    connect(mSaveAction, &QAction::triggered, this, &MainWindow::save);
+    mFileMenu->addActions({mSettingsAction, mSaveAction});
     mRestoreAction = mFileMenu->addAction(QString(), this, &MainWindow::restoreAll);
     mFileMenu->addSeparator();
-    mQuitAction = mFileMenu->addAction(QString(), this, &QWidget::close);
-    mQuitAction->setShortcut(QKeySequence::Quit);
+    mQuitAction = mSession.actions().quit;
+    connect(mQuitAction, &QAction::triggered, this, &QWidget::close);
+    mFileMenu->addAction(mQuitAction);
 
     mThemeMenu = menuBar()->addMenu(QString());
     mThemes = new QActionGroup(this);

@@ -1,10 +1,41 @@
 #pragma once
 
+#include <MaltoConfiguration/store/JsonForm.h>
+
 #include <QColor>
+#include <QDateTime>
+#include <QDir>
 #include <QFont>
 #include <QKeySequence>
+#include <QObject>
 #include <QString>
+#include <QStringList>
 #include <Qt>
+
+#include <chrono>
+
+/// The types of settings that are chosen by name.
+namespace Choice {
+Q_NAMESPACE
+
+/// How a saved picture is named.
+enum class FileName { Time, Number, Window };
+Q_ENUM_NS(FileName)
+
+/// What a picture contains beside its pixels.
+enum Detail { Author = 0x1, Time = 0x2, Position = 0x4 };
+Q_DECLARE_FLAGS(Details, Detail)
+Q_FLAG_NS(Details)
+Q_DECLARE_OPERATORS_FOR_FLAGS(Details)
+
+} // namespace Choice
+
+template<> struct MtConf::JsonForm<Choice::FileName> : MtConf::JsonByName<Choice::FileName>
+{
+};
+template<> struct MtConf::JsonForm<Choice::Details> : MtConf::JsonByName<Choice::Details>
+{
+};
 
 /// The settings of the program: one plain variable for each, initialised with its default.
 ///
@@ -54,6 +85,10 @@ struct Settings
     bool hotkeysInFullScreen = false;
     int repeatDelay = 400; ///< milliseconds
 
+    QKeySequence showSettings{Qt::CTRL | Qt::Key_Comma};
+    QKeySequence saveNow{QKeySequence::Save};
+    QKeySequence quit{QKeySequence::Quit};
+
     // Mouse: an action bit and `Qt::KeyboardModifier` bits
     int zoomAction = 0x04000000 | 64;    ///< the wheel with Ctrl (Command on macOS)
     int opacityAction = 0x02000000 | 64; ///< the wheel with Shift
@@ -76,6 +111,28 @@ struct Settings
     bool copyAfterCapture = true;
     bool saveAfterCapture = false;
     bool openAfterCapture = false;
+
+    // Texts
+    QString author;
+    QString note;
+    QString uploadToken;
+    QStringList tags{QStringLiteral("screen")};
+    QString folder = QDir::homePath();
+    QString logo;
+    QString logFile;
+
+    // Numbers
+    double brightness = 1; ///< times
+    int margin = 8;        ///< pixels
+    std::chrono::seconds autosave{30};
+    QDateTime reminder;
+
+    // Choices
+    Choice::FileName fileName = Choice::FileName::Time;
+    Choice::Details details = Choice::Author | Choice::Time;
+    bool useProxy = false;
+    QString proxyHost;
+    int proxyPort = 8080;
 
     // System
     bool simpleHotkeys = false; ///< whether a letter alone may be a hotkey

@@ -1,5 +1,6 @@
 #include "declareSettings.h"
 
+#include "ProgramActions.h"
 #include "Settings.h"
 #include "WatermarkEditor.h"
 
@@ -27,6 +28,9 @@ const char *const sPageNames[] = {
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Hotkeys"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Mouse"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Output"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Texts"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Numbers"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Choices"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Profiles"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "System"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Stored data"),
@@ -39,9 +43,12 @@ const char *const sPageNames[] = {
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Snapping"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Capture"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Tools"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "In this program"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Pinned pictures"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Image"),
     QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "After a capture"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Files"),
+    QT_TRANSLATE_NOOP("MtConf::ConfigurationWindow", "Network"),
 };
 
 /// Declares the settings, one function per page.
@@ -55,9 +62,12 @@ public:
     static void general(MtConfManage &m, Settings &s);
     static void appearance(MtConfManage &m, Settings &s);
     static void capture(MtConfManage &m, Settings &s);
-    static void hotkeys(MtConfManage &m, Settings &s);
+    static void hotkeys(MtConfManage &m, Settings &s, const ProgramActions &actions);
     static void mouse(MtConfManage &m, Settings &s);
     static void output(MtConfManage &m, Settings &s);
+    static void texts(MtConfManage &m, Settings &s);
+    static void numbers(MtConfManage &m, Settings &s);
+    static void choices(MtConfManage &m, Settings &s);
     static void system(MtConfManage &m, Settings &s);
 };
 
@@ -161,7 +171,7 @@ void Declare::capture(MtConfManage &m, Settings &s)
               "Distance"_s);
 }
 
-void Declare::hotkeys(MtConfManage &m, Settings &s)
+void Declare::hotkeys(MtConfManage &m, Settings &s, const ProgramActions &actions)
 {
     const QString page = "Hotkeys"_s;
     m.addConfBool(QT_TR_NOOP("Hotkeys in full-screen applications"), &s.hotkeysInFullScreen, page,
@@ -187,6 +197,12 @@ void Declare::hotkeys(MtConfManage &m, Settings &s)
     const QString tools = "Tools"_s;
     add(QT_TR_NOOP("Pin the clipboard"), &s.pinClipboard, tools, "Pin"_s);
     add(QT_TR_NOOP("Pick a colour"), &s.pickColor, tools, "PickColor"_s);
+
+    const QString program = "In this program"_s;
+    m.addConfShortcut(QT_TR_NOOP("Open the settings"), &s.showSettings, actions.showSettings, page,
+                      program, "Settings"_s);
+    m.addConfShortcut(QT_TR_NOOP("Save now"), &s.saveNow, actions.save, page, program, "Save"_s);
+    m.addConfShortcut(QT_TR_NOOP("Quit"), &s.quit, actions.quit, page, program, "Quit"_s);
 }
 
 void Declare::mouse(MtConfManage &m, Settings &s)
@@ -235,6 +251,69 @@ void Declare::output(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TR_NOOP("Open it in the editor"), &s.openAfterCapture, page, after, "Open"_s);
 }
 
+void Declare::texts(MtConfManage &m, Settings &s)
+{
+    const QString page = "Texts"_s;
+    m.addConfText(QT_TR_NOOP("Author"), &s.author, page, "Author"_s)
+        ->setPlaceholder(QT_TR_NOOP("Your name"))
+        ->setHelp(QT_TR_NOOP("Pictures contain it if the details include the author."));
+    m.addConfMultilineText(QT_TR_NOOP("Note"), &s.note, page, "Note"_s);
+    m.addConfPassword(QT_TR_NOOP("Token for uploads"), &s.uploadToken, page, "Token"_s);
+    m.addConfStringList(QT_TR_NOOP("Tags"), &s.tags, page, "Tags"_s);
+
+    using MtConf::PathKind;
+    const QString files = "Files"_s;
+    m.addConfPath(QT_TR_NOOP("Folder"), &s.folder, PathKind::Folder, page, files, "Folder"_s);
+    m.addConfPath(QT_TR_NOOP("Logo"), &s.logo, PathKind::ExistingFile, page, files, "Logo"_s,
+                  QT_TR_NOOP("Pictures (*.png *.svg)"));
+    m.addConfPath(QT_TR_NOOP("Log file"), &s.logFile, PathKind::NewFile, page, files, "LogFile"_s);
+}
+
+void Declare::numbers(MtConfManage &m, Settings &s)
+{
+    const QString page = "Numbers"_s;
+    m.addConfDouble(QT_TR_NOOP("Brightness"), &s.brightness, page, "Brightness"_s)
+        ->setRange(0.25, 4)
+        ->setStep(0.25)
+        ->setSuffix(" ×");
+    m.addConfInt32(QT_TR_NOOP("Margin"), &s.margin, page, "Margin"_s)
+        ->setRange(0, 64, MtConf::Enforced)
+        ->setSuffix(" px");
+    m.addConfDuration(QT_TR_NOOP("Save every"), &s.autosave, page, "Autosave"_s)
+        ->setRange(std::chrono::seconds(5), std::chrono::minutes(10));
+    m.addConfDateTime(QT_TR_NOOP("Remind me"), &s.reminder, page, "Reminder"_s);
+}
+
+void Declare::choices(MtConfManage &m, Settings &s)
+{
+    using Choice::FileName;
+    const QString page = "Choices"_s;
+    m.addConfEnum(QT_TR_NOOP("Name of the file"),
+                  {{FileName::Time, QT_TR_NOOP("Date and time")},
+                   {FileName::Number, QT_TR_NOOP("Number")},
+                   {FileName::Window, QT_TR_NOOP("Title of the window")}},
+                  &s.fileName, page, "FileName"_s);
+    m.addConfEnum(QT_TR_NOOP("Details in the file"),
+                  {{Choice::Author, QT_TR_NOOP("Author")},
+                   {Choice::Time, QT_TR_NOOP("Date and time")},
+                   {Choice::Position, QT_TR_NOOP("Position")}},
+                  &s.details, page, "Details"_s)
+        ->setMultiSelect();
+
+    const QString network = "Network"_s;
+    ConfItem *proxy = m.addConfBool(QT_TR_NOOP("Use a proxy"), &s.useProxy, page, network,
+                                    "Proxy"_s);
+    m.addConfText(QT_TR_NOOP("Host"), &s.proxyHost, page, network, "Host"_s)
+        ->dependsOn(proxy, true)
+        ->setValidator([](const QJsonValue &host) {
+            return host.toString().contains(QLatin1Char(' ')) ? tr("A host has no blanks.")
+                                                              : QString();
+        });
+    m.addConfInt32(QT_TR_NOOP("Port"), &s.proxyPort, page, network, "Port"_s)
+        ->setRange(1, 65535)
+        ->dependsOn(proxy, true);
+}
+
 void Declare::system(MtConfManage &m, Settings &s)
 {
     const QString page = "System"_s;
@@ -271,15 +350,18 @@ QStringList pageNames()
     return names;
 }
 
-void declareSettings(MtConfManage &manager, Settings &settings)
+void declareSettings(MtConfManage &manager, Settings &settings, const ProgramActions &actions)
 {
     MtConf::ConfigItemWidget::sFullKeyboardAccess = true;
     Declare::general(manager, settings);
     Declare::appearance(manager, settings);
     Declare::capture(manager, settings);
-    Declare::hotkeys(manager, settings);
+    Declare::hotkeys(manager, settings, actions);
     Declare::mouse(manager, settings);
     Declare::output(manager, settings);
+    Declare::texts(manager, settings);
+    Declare::numbers(manager, settings);
+    Declare::choices(manager, settings);
     // The session sets the widgets of the pages "Profiles" and "Stored data".
     manager.setConfigClassFlag("Profiles"_s, MtConf::ClassWithoutRestoreButton);
     Declare::system(manager, settings);

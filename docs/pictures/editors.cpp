@@ -5,7 +5,9 @@
 
 #include <QxtGlobalShortcut>
 
+#include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QScrollArea>
 #include <QTemporaryDir>
 
@@ -49,7 +51,14 @@ int main(int argc, char **argv)
     QColor color(42, 103, 216, 200);
     QFont font("Helvetica");
     font.setPixelSize(14);
-    QString text = "PNG", language = "auto";
+    QString text = "PNG", language = "auto", author = "Ada Lovelace", token = "0123456789";
+    QString note = "First line\nSecond line", path = QDir::rootPath();
+    QStringList folders{"~/Pictures", "~/Videos"};
+    double factor = 1.5;
+    std::chrono::seconds interval(30);
+    QDateTime reminder(QDate(2026, 12, 24), QTime(18, 30));
+    QAction reload;
+    QKeySequence reloadKey(Qt::CTRL | Qt::Key_R);
     QKeySequence hotkey(Qt::CTRL | Qt::ALT | Qt::Key_A);
     QxtGlobalShortcut shortcut(hotkey);
 
@@ -73,9 +82,18 @@ int main(int argc, char **argv)
     manager.addConfMouseAction("Show the menu", &click, 1, page, "mouse-click");
     manager.addConfMouseAction("Move", &drag, 2, page, "mouse-drag");
     manager.addConfLanguage("Language", &language, page, "language");
+    manager.addConfDouble("Magnification", &factor, page, "double")->setSuffix(" ×");
+    manager.addConfDuration("Save every", &interval, page, "duration");
+    manager.addConfDateTime("Remind me", &reminder, page, "date-time");
+    manager.addConfText("Author", &author, page, "text");
+    manager.addConfMultilineText("Note", &note, page, "multiline");
+    manager.addConfPassword("Token", &token, page, "password");
+    manager.addConfPath("Folder", &path, MtConf::PathKind::Folder, page, "path");
+    manager.addConfStringList("Folders to watch", &folders, page, "string-list");
+    manager.addConfShortcut("Reload", &reloadKey, &reload, page, "shortcut");
 
     QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Light);
-    manager.ShowWindow()->resize(920, 1000);
+    manager.ShowWindow()->resize(920, 1900);
     settle();
     for (const ConfItem &item : std::as_const(manager.items)) {
         if (!pictureOf(item).save(folder + '/' + item.name + ".png"))

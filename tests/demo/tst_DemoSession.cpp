@@ -61,6 +61,8 @@ private Q_SLOTS:
     void profilesAreRestoredFromTheLocalFile();
     void endedSessionLeavesNothingInTheStore();
     void everyPageOpensByAClick();
+    void declarationsAreSound();
+    void shortcutsOfTheProgramAreSettings();
 };
 
 void tst_DemoSession::editedValuesAreRestoredFromTheLocalFile()
@@ -358,16 +360,34 @@ void tst_DemoSession::endedSessionLeavesNothingInTheStore()
     QVERIFY(ConfStorage::instance()->mPresetDynamicConfs.isEmpty());
 }
 
+void tst_DemoSession::declarationsAreSound()
+{
+    DemoFixture demo;
+    demo.start();
+    QCOMPARE(demo.session->manager().checkDeclarations(), QStringList());
+}
+
+void tst_DemoSession::shortcutsOfTheProgramAreSettings()
+{
+    DemoFixture demo;
+    demo.start();
+    const QAction *quit = demo.session->actions().quit;
+    QCOMPARE(quit->shortcut(), QKeySequence(QKeySequence::Quit));
+    ConfStorage::instance()->set("Hotkeys.In this program.Quit", QKeySequence("Ctrl+E"));
+    QCOMPARE(quit->shortcut(), QKeySequence("Ctrl+E"));
+}
+
 void tst_DemoSession::everyPageOpensByAClick()
 {
     DemoFixture demo;
     demo.start();
     QVERIFY(demo.open(QString()));
     const LogCapture log;
-    const QStringList pages{"General", "Appearance", "Capture", "Hotkeys",    "Mouse",
-                            "Output",  "Profiles",   "System",  "Stored data"};
+    const QStringList pages{"General", "Appearance", "Capture", "Hotkeys",
+                            "Mouse",   "Output",     "Texts",   "Numbers",
+                            "Choices", "Profiles",   "System",  "Stored data"};
     auto *list = demo.child<QListView>("configList");
-    QCOMPARE(list->model()->rowCount(), 9);
+    QCOMPARE(list->model()->rowCount(), pages.size());
     for (const QString &page : pages) {
         demo.clickClass(page);
         QCOMPARE(list->currentIndex().data().toString(), page);
