@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>بعد الالتقاط</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>النصوص</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>الأرقام</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>الخيارات</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>في هذا التطبيق</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>الملفات</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>كتابة ملف سجل</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>فتح الإعدادات</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>الحفظ الآن</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>المؤلّف</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>اسمك</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>تتضمّنه الصور إذا شملت التفاصيل المؤلّف.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>الملاحظة</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>الرمز المميّز للرفع</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>الوسوم</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>المجلّد</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>الشعار</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>الصور (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>ملف السجل</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>السطوع</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>الهامش</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>الحفظ كل</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>التذكير في</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>اسم الملف</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>التاريخ والوقت</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>الرقم</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>عنوان النافذة</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>التفاصيل في الملف</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>استخدام خادم وكيل</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>المضيف</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>لا يمكن أن يحتوي اسم المضيف على مسافات.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>المنفذ</translation>
     </message>
 </context>
 <context>

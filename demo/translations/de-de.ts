@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Nach einer Aufnahme</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>In diesem Programm</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Protokolldatei schreiben</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Jetzt speichern</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Ihr Name</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Steht in den Bildern, wenn die Angaben den Autor enthalten.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token für Uploads</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Bilder (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Protokolldatei</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Speichern alle</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Erinnern am</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Fenstertitel</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Angaben in der Datei</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Proxy verwenden</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Ein Hostname enthält keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
     </message>
 </context>
 <context>

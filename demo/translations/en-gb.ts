@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>After a capture</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Numbers</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choices</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>In this application</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Network</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Write a log file</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Open the settings</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Save now</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Author</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Your name</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Included in pictures if the details contain the author.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Upload token</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Pictures (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Log file</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Save every</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Remind me</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Date and time</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Window title</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Details in the file</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Use a proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>A host name cannot contain spaces.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
     </message>
 </context>
 <context>

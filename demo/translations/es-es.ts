@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Después de una captura</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textos</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>En esta aplicación</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Añada uno o restaure los predefinidos.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Escribir un archivo de registro</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Abrir los ajustes</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Guardar ahora</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Su nombre</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Las imágenes lo incluyen si los detalles contienen el autor.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token para subidas</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logotipo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Imágenes (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Archivo de registro</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margen</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Guardar cada</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Recordármelo el</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nombre del archivo</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Título de la ventana</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Detalles en el archivo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usar un proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>El nombre del servidor no puede contener espacios.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
     </message>
 </context>
 <context>

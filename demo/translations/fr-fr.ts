@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Après une capture</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textes</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>Dans cette app</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Écrire un fichier journal</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Ouvrir les réglages</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Enregistrer maintenant</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Votre nom</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Figure dans les images si les détails incluent l’auteur.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Jeton pour les envois</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Images (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Fichier journal</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Enregistrer toutes les</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Rappel</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Titre de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Détails dans le fichier</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Utiliser un proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Hôte</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Un nom d’hôte ne contient pas d’espaces.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
     </message>
 </context>
 <context>

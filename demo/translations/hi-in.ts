@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>कैप्चर के बाद</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>टेक्स्ट</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>संख्याएँ</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>विकल्प</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>इस ऐप में</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>फ़ाइलें</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>नेटवर्क</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>लॉग फ़ाइल लिखें</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>सेटिंग खोलें</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>अभी सहेजें</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>बाहर निकलें</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>लेखक</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>आपका नाम</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>विवरण में लेखक चुना हो तो यह चित्रों में शामिल होता है।</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>टिप्पणी</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>अपलोड टोकन</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>टैग</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>फ़ोल्डर</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>लोगो</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>चित्र (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>लॉग फ़ाइल</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>चमक</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>हाशिया</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>सहेजने का अंतराल</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>मुझे याद दिलाएँ</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>फ़ाइल का नाम</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>दिनांक और समय</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>क्रमांक</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>विंडो का शीर्षक</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>फ़ाइल में विवरण</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>स्थान</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>प्रॉक्सी का उपयोग करें</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>होस्ट</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>होस्ट के नाम में रिक्त स्थान नहीं हो सकते।</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>पोर्ट</translation>
     </message>
 </context>
 <context>

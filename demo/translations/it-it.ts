@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Dopo una cattura</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Testi</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Numeri</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>In questa app</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rete</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Scrivi un file di registro</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Apri le impostazioni</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Salva ora</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autore</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Il tuo nome</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Le immagini lo contengono se i dettagli includono l’autore.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token per i caricamenti</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Parole chiave</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Immagini (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>File di registro</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margine</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Salva ogni</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Ricordamelo il</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nome del file</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Titolo della finestra</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Dettagli nel file</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usa un proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Il nome di un host non può contenere spazi.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
     </message>
 </context>
 <context>

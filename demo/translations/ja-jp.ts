@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>キャプチャ後</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択肢</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>このアプリ内</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>ログファイルに記録</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>設定を開く</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>今すぐ保存</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作成者</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>あなたの名前</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>ファイルに含める情報で作成者を選ぶと、画像に記録されます。</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>メモ</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>アップロード用トークン</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>ロゴ</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>画像 (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>ログファイル</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>保存の間隔</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>リマインダーの日時</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日付と時刻</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>連番</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>ウインドウのタイトル</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>ファイルに含める情報</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>プロキシを使用</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>ホスト</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>ホスト名に空白は使えません。</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>ポート</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>캡처 후</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>선택 항목</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>이 앱에서</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>네트워크</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>로그 파일 기록</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>설정 열기</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>지금 저장</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>작성자</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>내 이름</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>파일에 포함할 정보로 작성자를 선택하면 이미지에 포함됩니다.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>메모</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>업로드 토큰</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>태그</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>로고</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>이미지(*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>로그 파일</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>밝기</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>여백</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>저장 간격</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>미리 알림</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>파일 이름</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>날짜 및 시간</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>윈도우 제목</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>파일에 포함할 정보</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>프록시 사용</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>호스트</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>호스트 이름에는 공백을 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>포트</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Na een opname</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Teksten</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Getallen</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Keuzes</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>In deze app</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netwerk</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Logbestand schrijven</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Instellingen openen</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Nu opslaan</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Uw naam</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Staat in de afbeeldingen als de details de auteur bevatten.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notitie</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token voor uploads</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Afbeeldingen (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Logbestand</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helderheid</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Opslaan om de</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Herinneren op</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Bestandsnaam</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum en tijd</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Venstertitel</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Details in het bestand</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Proxy gebruiken</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Een hostnaam bevat geen spaties.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Poort</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Po wykonaniu zrzutu</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Teksty</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Liczby</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>W tej aplikacji</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Pliki</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Sieć</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Dodaj profil lub przywróć wbudowane.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Zapisuj plik dziennika</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Otwórz ustawienia</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Zapisz teraz</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Zakończ</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Imię i nazwisko</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Obrazy go zawierają, jeśli szczegóły obejmują autora.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notatka</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token do wysyłania</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tagi</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Obrazy (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Plik dziennika</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Jasność</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margines</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Zapisuj co</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Przypomnij</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nazwa pliku</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data i godzina</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numer</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Tytuł okna</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Szczegóły w pliku</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Położenie</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Używaj serwera proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Nazwa hosta nie może zawierać spacji.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
     </message>
 </context>
 <context>

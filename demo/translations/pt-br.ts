@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Após uma captura</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Textos</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>Neste aplicativo</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rede</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Adicione um ou restaure os predefinidos.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Gravar um arquivo de registro</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Abrir as configurações</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Salvar agora</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Seu nome</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>As imagens o contêm se os detalhes incluírem o autor.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token para envios</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logotipo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Imagens (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Arquivo de registro</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brilho</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Margem</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Salvar a cada</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Lembrar em</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Nome do arquivo</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Data e hora</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Título da janela</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Detalhes no arquivo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usar um proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>O nome do servidor não pode conter espaços.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>После захвата</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Тексты</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Числа</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Варианты</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>В этой программе</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файлы</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>Вести файл журнала</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Открыть настройки</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Сохранить сейчас</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Автор</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Ваше имя</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Записывается в изображения, если сведения включают автора.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Заметка</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Токен для отправки</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Теги</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Логотип</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Изображения (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Файл журнала</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Отступ</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Сохранять каждые</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Напомнить</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Имя файла</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Дата и время</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Заголовок окна</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Сведения в файле</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Положение</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Использовать прокси</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Хост</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>В имени хоста не может быть пробелов.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Порт</translation>
     </message>
 </context>
 <context>

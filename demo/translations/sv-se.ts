@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Efter en skärmbild</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texter</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Tal</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Val</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>I den här appen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Filer</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Nätverk</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Lägg till en eller återställ de förinställda.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Skriv en loggfil</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Öppna inställningarna</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Spara nu</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Avsluta</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Upphovsman</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Ditt namn</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Ingår i bilderna om detaljerna omfattar upphovsmannen.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Anteckning</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Token för uppladdning</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Taggar</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Mapp</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logotyp</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Bilder (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Loggfil</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Ljusstyrka</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Marginal</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Sparintervall</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Påminn mig</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Filnamn</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum och tid</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Fönstertitel</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Detaljer i filen</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Använd en proxy</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Värd</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Ett värdnamn kan inte innehålla blanksteg.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
     </message>
 </context>
 <context>

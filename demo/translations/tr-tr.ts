@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>Yakalamadan sonra</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>Metinler</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Sayılar</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Seçenekler</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>Bu uygulamada</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Ağ</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     <message>
         <source>Write a log file</source>
         <translation>Günlük dosyası yaz</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>Ayarları aç</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>Şimdi kaydet</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Çık</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Yazar</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>Adınız</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>Ayrıntılar yazarı içeriyorsa resimlere eklenir.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Not</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>Karşıya yükleme jetonu</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiketler</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>Resimler (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Günlük dosyası</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Parlaklık</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>Kenar boşluğu</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>Kaydetme aralığı</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Anımsatma zamanı</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>Dosya adı</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Tarih ve saat</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numara</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>Pencere başlığı</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>Dosyadaki ayrıntılar</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Konum</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Vekil sunucu kullan</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Ana makine</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>Ana makine adında boşluk olamaz.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Bağlantı noktası</translation>
     </message>
 </context>
 <context>

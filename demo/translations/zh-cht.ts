@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>擷取後</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>數字</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選項</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>在此應用程式中</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>網路</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>寫入記錄檔</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>開啟設定</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>立即儲存</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>您的姓名</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>若檔案內的資訊包含作者，圖片便會記錄此姓名。</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備註</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>上傳權杖</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>標誌</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>圖片 (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>記錄檔</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>邊距</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>儲存間隔</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>提醒我</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>檔案名稱</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日期和時間</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>編號</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>視窗標題</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>檔案內的資訊</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>使用代理伺服器</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>主機</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>主機名稱不能包含空格。</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>連接埠</translation>
     </message>
 </context>
 <context>

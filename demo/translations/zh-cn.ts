@@ -184,6 +184,30 @@
         <source>After a capture</source>
         <translation>截图后</translation>
     </message>
+    <message>
+        <source>Texts</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>In this program</source>
+        <translation>在此应用中</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
 </context>
 <context>
     <name>ProfileStore</name>
@@ -546,6 +570,114 @@ Add one, or restore the presets.</source>
     <message>
         <source>Write a log file</source>
         <translation>写入日志文件</translation>
+    </message>
+    <message>
+        <source>Open the settings</source>
+        <translation>打开设置</translation>
+    </message>
+    <message>
+        <source>Save now</source>
+        <translation>立即保存</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Your name</source>
+        <translation>您的姓名</translation>
+    </message>
+    <message>
+        <source>Pictures contain it if the details include the author.</source>
+        <translation>如果文件中的信息包含作者，图片就会记录此姓名。</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Token for uploads</source>
+        <translation>上传令牌</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>徽标</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg)</source>
+        <translation>图片 (*.png *.svg)</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>日志文件</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>Save every</source>
+        <translation>保存间隔</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>提醒我</translation>
+    </message>
+    <message>
+        <source>Name of the file</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>日期和时间</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Title of the window</source>
+        <translation>窗口标题</translation>
+    </message>
+    <message>
+        <source>Details in the file</source>
+        <translation>文件中的信息</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>使用代理</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>主机</translation>
+    </message>
+    <message>
+        <source>A host has no blanks.</source>
+        <translation>主机名不能包含空格。</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>端口</translation>
     </message>
 </context>
 <context>
