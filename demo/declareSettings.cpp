@@ -239,7 +239,7 @@ void Declare::output(MtConfManage &m, Settings &s)
     addNumber(m, QT_TR_NOOP("Quality (%)"), &s.quality, {1, 100}, page, image, "Quality"_s);
     addNumber(m, QT_TR_NOOP("Size (%)"), &s.scale, {10, 400}, page, image, "Scale"_s);
 
-    // The library has no editor for texts. This one also edits the sub-item.
+    // An editor of the program: it also edits the sub-item.
     ConfItem *watermark = m.addConfQString(QT_TR_NOOP("Watermark"), &s.watermark, page, image,
                                            "Watermark"_s, &WatermarkEditor::create);
     watermark->subConfs.insert(WatermarkEditor::opacityName(),

@@ -208,8 +208,7 @@ public:
     quint32 flags = 0;                 ///< `ConfItemFlag` bits and bits of the host
     const char *displayText = nullptr; ///< untranslated label; a literal of the host
     WidgetCreator widgetCreator;       ///< creates the editor; empty: the item has no editor
-    /// Options of the editor: "MinValue", "MaxValue", "RangeRule", "Step", "Decimals", "Suffix",
-    /// "Placeholder", "Help", "Expert", "MultiSelect", "Shortcut", "Kind", "SecondsPerUnit".
+    /// Options of the editor by name; docs/guide/own-editors.md lists the names of the library.
     QMap<QString, QVariant> properties;
     QList<ConfChoice> choices;              ///< what the editor offers; may be empty
     QMap<QString, QJsonValue> dependencies; ///< values that other keys must have
