@@ -22,6 +22,7 @@ public:
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
 
     void retranslateUi() override;
+    /// Hides the password when the focus leaves the field and the button.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

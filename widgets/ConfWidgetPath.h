@@ -36,6 +36,7 @@ protected:
     QString toField(const QString &stored) const override;
     QString toStored(const QString &typed) const override;
     void describeText(const QString &text) override;
+    /// Checks the stored path again.
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -33,6 +33,7 @@ public:
     void loadConf() override;
     /// Ends editing in place and stores the entry.
     void commit() override;
+    /// Handles the keys of the list.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
