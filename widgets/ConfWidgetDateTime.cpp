@@ -2,6 +2,7 @@
 
 #include "DateTimeBox_p.h"
 #include "Glyphs_p.h"
+#include "PendingEdit_p.h"
 
 #include <QIconfont/QIconfont.h>
 
@@ -14,8 +15,6 @@
 namespace MtConf {
 
 namespace {
-
-constexpr int sPause = 600; // milliseconds after which typed text is stored
 
 /// Returns `time`, which is in local time, with the time zone of `stored`.
 QDateTime inZoneOf(const QDateTime &stored, const QDateTime &time)
@@ -33,7 +32,7 @@ QDateTime inZoneOf(const QDateTime &stored, const QDateTime &time)
 
 ConfWidgetDateTime::ConfWidgetDateTime(ConfItem *item, QWidget *parent)
     : ConfigItemWidget(item, parent), mEdit(new DateTimeBox(*item, this)),
-      mClearButton(new QPushButton(this))
+      mClearButton(new QPushButton(this)), mPending(new PendingEdit(mEdit))
 {
     mClearButton->setIcon(QIconfont::Icon(sErrorGlyph, QColor(255, 85, 85), 24, QMargins()));
     auto *layout = new QHBoxLayout(this);
@@ -41,12 +40,9 @@ ConfWidgetDateTime::ConfWidgetDateTime(ConfItem *item, QWidget *parent)
     layout->addWidget(mEdit);
     layout->addWidget(mClearButton);
     layout->setAlignment(Qt::AlignLeft);
-    mPause.setSingleShot(true);
-    mPause.setInterval(sPause);
-    connect(&mPause, &QTimer::timeout, this, &ConfWidgetDateTime::commit);
+    connect(mPending, &PendingEdit::paused, this, &ConfWidgetDateTime::commit);
     connect(mEdit, &QDateTimeEdit::dateTimeChanged, this, &ConfWidgetDateTime::onTimeChanged);
-    connect(mEdit->findChild<QLineEdit *>(), &QLineEdit::textEdited, this,
-            &ConfWidgetDateTime::onEdited);
+    connect(mEdit->findChild<QLineEdit *>(), &QLineEdit::textEdited, mPending, &PendingEdit::begin);
     connect(mEdit, &QDateTimeEdit::editingFinished, this, &ConfWidgetDateTime::onEditingFinished);
     connect(mClearButton, &QPushButton::clicked, this, &ConfWidgetDateTime::clear);
     showTexts();
@@ -75,8 +71,7 @@ void ConfWidgetDateTime::retranslateUi()
 void ConfWidgetDateTime::loadConf()
 {
     const QSignalBlocker blocker(mEdit);
-    mPause.stop();
-    mIsEdited = false;
+    mPending->take();
     const auto stored = readValue<QDateTime>();
     mEdit->showTime(stored);
     mShownTime = mEdit->dateTime();
@@ -91,22 +86,16 @@ void ConfWidgetDateTime::onTimeChanged(const QDateTime &time)
     if (time == mShownTime)
         return;
     mShownTime = time;
-    onEdited();
-}
-
-void ConfWidgetDateTime::onEdited()
-{
-    mIsEdited = true;
-    mPause.start();
+    mPending->begin();
 }
 
 void ConfWidgetDateTime::commit()
 {
-    mPause.stop();
-    if (!mIsEdited || !mEdit->hasAcceptableInput() || !mEdit->time().isValid())
+    if (!mPending->take())
         return;
-    mIsEdited = false;
-    if (mEdit->isInRange(mEdit->time()))
+    if (!mEdit->hasAcceptableInput() || !mEdit->time().isValid())
+        mPending->keep();
+    else if (mEdit->isInRange(mEdit->time()))
         write(inZoneOf(readValue<QDateTime>(), mEdit->time()));
     else
         showMessage(mEdit->message());
@@ -132,7 +121,7 @@ void ConfWidgetDateTime::onEditingFinished()
 
 void ConfWidgetDateTime::clear()
 {
-    mPause.stop();
+    mPending->take();
     mEdit->setFocus(); // the button is about to be hidden
     const QPointer<ConfWidgetDateTime> self(this);
     write(QDateTime());

@@ -3,13 +3,13 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QDateTime>
-#include <QTimer>
 
 class QPushButton;
 
 namespace MtConf {
 
 class DateTimeBox;
+class PendingEdit;
 
 /// Edits a QDateTime in local time, with a calendar. Seconds are shown if the stored value has
 /// some. The offset from UTC of the stored value, or that it is in UTC, is kept. A button clears
@@ -42,7 +42,6 @@ public:
 
 private:
     void onTimeChanged(const QDateTime &time);
-    void onEdited();
     void onEditingFinished();
     void clear();
     void write(const QDateTime &value);
@@ -50,9 +49,8 @@ private:
 
     DateTimeBox *mEdit = nullptr;
     QPushButton *mClearButton = nullptr;
-    QTimer mPause;
+    PendingEdit *mPending = nullptr;
     QDateTime mShownTime;
-    bool mIsEdited = false;
 };
 
 } // namespace MtConf

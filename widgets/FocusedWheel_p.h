@@ -4,12 +4,13 @@
 
 namespace MtConf {
 
-/// A scroll area `Area` that the mouse wheel scrolls only while it has the keyboard focus. Without
-/// the focus, and at the end of the area, the wheel scrolls the page.
-template<class Area> class FocusedWheel : public Area
+/// A `Control`, such as a scroll area or a spin box, that the mouse wheel scrolls or changes only
+/// while it has the keyboard focus. Without the focus, and at the end of a scroll area, the wheel
+/// scrolls the page.
+template<class Control> class FocusedWheel : public Control
 {
 public:
-    explicit FocusedWheel(QWidget *parent) : Area(parent)
+    explicit FocusedWheel(QWidget *parent) : Control(parent)
     {
         // With Qt's default policy the wheel would give the focus to a text area.
         this->setFocusPolicy(Qt::StrongFocus);
@@ -19,7 +20,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override
     {
         if (this->hasFocus())
-            Area::wheelEvent(event);
+            Control::wheelEvent(event);
         else
             event->ignore();
     }

@@ -1,20 +1,17 @@
 #pragma once
 
+#include "FocusedWheel_p.h"
+
 #include <QEvent>
-#include <QWheelEvent>
 
 namespace MtConf {
 
-/// A spin box `Box` on a page. The mouse wheel changes its value only while it has the keyboard
-/// focus; otherwise it scrolls the page. The text is aligned with the layout direction.
-template<class Box> class PageSpinBox : public Box
+/// A spin box `Box` that ignores the mouse wheel without the keyboard focus, and whose text is
+/// aligned with the layout direction.
+template<class Box> class PageSpinBox : public FocusedWheel<Box>
 {
 public:
-    explicit PageSpinBox(QWidget *parent) : Box(parent)
-    {
-        this->setFocusPolicy(Qt::StrongFocus);
-        alignText();
-    }
+    explicit PageSpinBox(QWidget *parent) : FocusedWheel<Box>(parent) { alignText(); }
 
 protected:
     void changeEvent(QEvent *event) override
@@ -22,13 +19,6 @@ protected:
         Box::changeEvent(event);
         if (event->type() == QEvent::LayoutDirectionChange)
             alignText();
-    }
-    void wheelEvent(QWheelEvent *event) override
-    {
-        if (this->hasFocus())
-            Box::wheelEvent(event);
-        else
-            event->ignore();
     }
 
 private:
