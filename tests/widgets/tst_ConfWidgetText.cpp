@@ -40,6 +40,8 @@ private Q_SLOTS:
     void callbackMayCommit();
     void callbackMayDeleteTheEditor_data();
     void callbackMayDeleteTheEditor();
+    void callbackMayRebuildThePageOrCloseTheWindow_data();
+    void callbackMayRebuildThePageOrCloseTheWindow();
     void validatorMayDeleteTheEditor();
     void deletedEditorStoresNothing();
     void closingTheWindowStores();
@@ -303,6 +305,39 @@ void tst_ConfWidgetText::callbackMayDeleteTheEditor()
         mFixture->editor->commit();
     QTRY_VERIFY(!mItem->editor);
     QCOMPARE(mValue, QString("Adam"));
+}
+
+void tst_ConfWidgetText::callbackMayRebuildThePageOrCloseTheWindow_data()
+{
+    QTest::addColumn<bool>("closes");
+    QTest::newRow("rebuild") << false;
+    QTest::newRow("close") << true;
+}
+
+void tst_ConfWidgetText::callbackMayRebuildThePageOrCloseTheWindow()
+{
+    QFETCH(bool, closes);
+    mFixture.reset();
+    WindowFixture fixture;
+    mValue = "Ada";
+    mItem = fixture.manager->addConfText("Name", &mValue, "User", "Name");
+    QVERIFY(fixture.open());
+    int calls = 0;
+    mItem->setConfChangedCallback([&](const QString &, const ConfValue *) {
+        ++calls;
+        if (closes)
+            fixture.manager->closeConfigWindow();
+        else
+            fixture.window()->switchToView("User");
+    });
+    const QPointer<QLineEdit> field = mItem->editor->findChild<QLineEdit *>();
+    field->setText(QString());
+    QTest::keyClicks(field, "x");
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_VERIFY(!field);
+    QCOMPARE(calls, 1);
+    QCOMPARE(mValue, QString("x"));
+    QCOMPARE(mItem->editor == nullptr, closes);
 }
 
 void tst_ConfWidgetText::validatorMayDeleteTheEditor()
