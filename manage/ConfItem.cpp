@@ -27,6 +27,7 @@ ConfItem &ConfItem::operator=(const ConfItem &other)
 {
     subConfs = other.subConfs;
     valueType = other.valueType;
+    isWholeNumber = other.isWholeNumber;
     majorName = other.majorName;
     name = other.name;
     subName = other.subName;

@@ -126,12 +126,15 @@ public:
     // Options, to be chained when the item is declared. Each returns the item. Texts are literals
     // of the host, translated in the context "QObject" when they are shown.
 
-    /// Sets the range of a number or a duration, a count of its unit. The editor refuses values
-    /// outside of the range in words, and sets the tool tip to the range. With `Enforced` or
-    /// `Clamped` the store does so, too: see `ConfStorage::setConfConstraint`. A stored value
-    /// outside of the range is shown, and not changed until the user edits it.
+    /// Sets the range of a number, or of a duration as a count of its unit. The editor shows the
+    /// range in the tool tip. For a value outside of it, it shows a message and stores nothing.
+    /// With `Enforced` or `Clamped` the store checks every value; see
+    /// `ConfStorage::setConfConstraint`. With `EditorRange` a stored value outside of the range is
+    /// shown, and not changed until the user edits it. Limits of whole numbers are rounded into the
+    /// range. A range whose lowest value is greater than its highest is not enforced.
     ConfItem *setRange(double lowest, double highest, RangeRule rule = EditorRange);
-    /// Sets the range of a point in time.
+    /// Sets the range of a point in time. An invalid limit is none, and an invalid value, "not
+    /// set", is always accepted.
     ConfItem *setRange(const QDateTime &earliest, const QDateTime &latest,
                        RangeRule rule = EditorRange);
     /// Sets the range of a duration.
@@ -154,13 +157,11 @@ public:
     ConfItem *setExpert();
     /// Lets the user choose several of the item's choices, which are flags.
     ConfItem *setMultiSelect();
-    /// Disables the row of the item while `other` does not have the value `value`, in JSON as
-    /// `ConfValue::toJsonValue` returns it. With several calls all of them must hold. `other` must
-    /// not be null; it may be on another page.
-    ConfItem *dependsOn(const ConfItem *other, const QJsonValue &value);
-    /// The same for a value of another type, such as an enum.
-    template<class T, std::enable_if_t<!std::is_convertible_v<T, QJsonValue>, bool> = true>
-    ConfItem *dependsOn(const ConfItem *other, const T &value);
+    /// Disables the row of the item while `other` does not have the value `value`, which is of the
+    /// type of `other`, a literal for a text, or in JSON as `ConfValue::toJsonValue` returns it.
+    /// With several calls all of them must hold. `other` must not be null; it may be on another
+    /// page.
+    template<class T> ConfItem *dependsOn(const ConfItem *other, const T &value);
     /// Sets a function that checks what the user enters, in JSON as `ConfValue::toJsonValue`
     /// returns it. It returns why the value is not accepted, in the current language, or an empty
     /// text. The editor shows the reason under the row and stores nothing. The function must not
@@ -201,6 +202,7 @@ public:
 
     QMap<QString, ConfItem> subConfs;  ///< sub-items by name; filled by the host
     int valueType = ConfValue::TyNone; ///< the type of the value, a `ConfValue::ConfType`
+    bool isWholeNumber = false;        ///< whether it is a whole number; see `MtConf::isWhole`
     QString majorName;                 ///< name of the class, the first part of the key
     QString name;                      ///< the second part of the key
     QString subName;                   ///< the third part of the key, usually empty
@@ -219,12 +221,15 @@ public:
     /// `oldValue` is the value from then. The editor compares `toJsonValue()`, which is always
     /// null, so it never calls this function.
     std::function<void(QJsonValue oldValue, ConfItem *item)> auxCallback;
+
+private:
+    void setLimits(const QVariant &lowest, const QVariant &highest, RangeRule rule);
 };
 
 template<class T> ConfItem::ConfItem(T *value, const QString &majorItemName,
                                      const QString &itemName, const QString &itemSubName)
-    : valueType(static_cast<int>(ConfValue::typeOf<T>())), majorName(majorItemName), name(itemName),
-      subName(itemSubName)
+    : valueType(static_cast<int>(ConfValue::typeOf<T>())), isWholeNumber(isWhole<T>),
+      majorName(majorItemName), name(itemName), subName(itemSubName)
 {
     ConfStorage::instance()->reserveConf(getFullName(), value);
 }
@@ -238,10 +243,15 @@ ConfItem *ConfItem::setRange(std::chrono::duration<Count, Unit> lowest,
     return setRange(Seconds(lowest).count() / unit, Seconds(highest).count() / unit, rule);
 }
 
-template<class T, std::enable_if_t<!std::is_convertible_v<T, QJsonValue>, bool>>
-ConfItem *ConfItem::dependsOn(const ConfItem *other, const T &value)
+template<class T> ConfItem *ConfItem::dependsOn(const ConfItem *other, const T &value)
 {
-    return dependsOn(other, ConfValue::owned(value).toJsonValue());
+    if constexpr (std::is_same_v<T, QJsonValue>)
+        dependencies[other->getFullName()] = value;
+    else if constexpr (std::is_convertible_v<T, const char *>)
+        dependencies[other->getFullName()] = QString::fromUtf8(value);
+    else
+        dependencies[other->getFullName()] = ConfValue::owned(value).toJsonValue();
+    return this;
 }
 
 } // namespace MtConf

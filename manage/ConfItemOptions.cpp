@@ -18,7 +18,16 @@ QString translated(const QString &text)
     return text.isEmpty() ? QString() : QObject::tr(text.toUtf8().constData());
 }
 
-ConfConstraint numbersBetween(double lowest, double highest, bool clamps)
+/// Returns the JSON of a limit of whole numbers.
+QJsonValue wholeJson(double number)
+{
+    constexpr double sPastLast = 18446744073709551616.0; // 2^64
+    if (number < 0)
+        return jsonOfInteger(static_cast<qint64>(std::max(number, -sPastLast / 2)));
+    return number < sPastLast ? jsonOfInteger(static_cast<quint64>(number)) : QJsonValue(number);
+}
+
+ConfConstraint numbersBetween(double lowest, double highest, bool clamps, bool isWhole)
 {
     return [=](const QJsonValue &value) -> std::optional<QJsonValue> {
         bool isNumber = value.isDouble();
@@ -27,8 +36,10 @@ ConfConstraint numbersBetween(double lowest, double highest, bool clamps)
             return std::nullopt;
         if (number >= lowest && number <= highest)
             return value;
-        return clamps ? std::optional<QJsonValue>(std::clamp(number, lowest, highest))
-                      : std::nullopt;
+        if (!clamps)
+            return std::nullopt;
+        const double nearest = std::clamp(number, lowest, highest);
+        return isWhole ? wholeJson(nearest) : QJsonValue(nearest);
     };
 }
 
@@ -36,11 +47,13 @@ ConfConstraint timesBetween(const QDateTime &earliest, const QDateTime &latest, 
 {
     return [=](const QJsonValue &value) -> std::optional<QJsonValue> {
         const auto time = fromJsonForm<QDateTime>(value);
-        if (!time || !time->isValid())
+        if (!time)
             return std::nullopt;
-        if (*time >= earliest && *time <= latest)
+        const bool isEarly = earliest.isValid() && *time < earliest;
+        const bool isLate = latest.isValid() && *time > latest;
+        if (!time->isValid() || (!isEarly && !isLate))
             return value;
-        return clamps ? std::optional<QJsonValue>(toJsonForm(std::clamp(*time, earliest, latest)))
+        return clamps ? std::optional<QJsonValue>(toJsonForm(isEarly ? earliest : latest))
                       : std::nullopt;
     };
 }
@@ -54,76 +67,75 @@ QString ConfChoice::text() const
 
 ConfItem *ConfItem::setRange(double lowest, double highest, RangeRule rule)
 {
-    // The nearest value in the range is a whole number, too.
-    if (valueType == ConfValue::TyInt32 || properties.value(QStringLiteral("IsWhole")).toBool()) {
+    if (isWholeNumber) {
         lowest = std::ceil(lowest);
         highest = std::floor(highest);
     }
-    properties[QStringLiteral("MinValue")] = lowest;
-    properties[QStringLiteral("MaxValue")] = highest;
-    properties[QStringLiteral("RangeRule")] = rule;
+    setLimits(lowest, highest, rule);
+    const bool isEnforced = rule != EditorRange && lowest <= highest;
     ConfStorage::instance()->setConfConstraint(
-        getFullName(),
-        rule == EditorRange ? ConfConstraint() : numbersBetween(lowest, highest, rule == Clamped));
+        getFullName(), isEnforced ? numbersBetween(lowest, highest, rule == Clamped, isWholeNumber)
+                                  : ConfConstraint());
     return this;
 }
 
 ConfItem *ConfItem::setRange(const QDateTime &earliest, const QDateTime &latest, RangeRule rule)
 {
-    properties[QStringLiteral("MinValue")] = earliest;
-    properties[QStringLiteral("MaxValue")] = latest;
-    properties[QStringLiteral("RangeRule")] = rule;
-    ConfStorage::instance()->setConfConstraint(
-        getFullName(),
-        rule == EditorRange ? ConfConstraint() : timesBetween(earliest, latest, rule == Clamped));
+    setLimits(earliest, latest, rule);
+    const bool isEmpty = earliest.isValid() && latest.isValid() && latest < earliest;
+    ConfStorage::instance()->setConfConstraint(getFullName(),
+                                               rule != EditorRange && !isEmpty
+                                                   ? timesBetween(earliest, latest, rule == Clamped)
+                                                   : ConfConstraint());
     return this;
+}
+
+void ConfItem::setLimits(const QVariant &lowest, const QVariant &highest, RangeRule rule)
+{
+    properties[QStringLiteral("MinValue")] = lowest;
+    properties[QStringLiteral("MaxValue")] = highest;
+    properties[QStringLiteral("Malto.RangeRule")] = rule;
 }
 
 ConfItem *ConfItem::setStep(double step)
 {
-    properties[QStringLiteral("Step")] = step;
+    properties[QStringLiteral("Malto.Step")] = step;
     return this;
 }
 
 ConfItem *ConfItem::setDecimals(int decimals)
 {
-    properties[QStringLiteral("Decimals")] = decimals;
+    properties[QStringLiteral("Malto.Decimals")] = decimals;
     return this;
 }
 
 ConfItem *ConfItem::setSuffix(const char *suffix)
 {
-    properties[QStringLiteral("Suffix")] = QString::fromUtf8(suffix);
+    properties[QStringLiteral("Malto.Suffix")] = QString::fromUtf8(suffix);
     return this;
 }
 
 ConfItem *ConfItem::setPlaceholder(const char *text)
 {
-    properties[QStringLiteral("Placeholder")] = QString::fromUtf8(text);
+    properties[QStringLiteral("Malto.Placeholder")] = QString::fromUtf8(text);
     return this;
 }
 
 ConfItem *ConfItem::setHelp(const char *text)
 {
-    properties[QStringLiteral("Help")] = QString::fromUtf8(text);
+    properties[QStringLiteral("Malto.Help")] = QString::fromUtf8(text);
     return this;
 }
 
 ConfItem *ConfItem::setExpert()
 {
-    properties[QStringLiteral("Expert")] = true;
+    properties[QStringLiteral("Malto.Expert")] = true;
     return this;
 }
 
 ConfItem *ConfItem::setMultiSelect()
 {
     properties[QStringLiteral("MultiSelect")] = true;
-    return this;
-}
-
-ConfItem *ConfItem::dependsOn(const ConfItem *other, const QJsonValue &value)
-{
-    dependencies[other->getFullName()] = value;
     return this;
 }
 
@@ -135,29 +147,30 @@ ConfItem *ConfItem::setValidator(std::function<QString(const QJsonValue &)> chec
 
 ConfItem *ConfItem::setSecret()
 {
-    ConfStorage::instance()->mConfMetas[getFullName()].flags |= ConfStorage::FlagSecret
-                                                                | ConfStorage::FlagLocalOnly;
+    const auto meta = ConfStorage::instance()->mConfMetas.find(getFullName());
+    if (meta != ConfStorage::instance()->mConfMetas.end())
+        meta->flags |= ConfStorage::FlagSecret | ConfStorage::FlagLocalOnly;
     return this;
 }
 
 double ConfItem::secondsPerUnit() const
 {
-    return properties.value(QStringLiteral("SecondsPerUnit"), 1.0).toDouble();
+    return properties.value(QStringLiteral("Malto.SecondsPerUnit"), 1.0).toDouble();
 }
 
 QString ConfItem::helpText() const
 {
-    return translated(properties.value(QStringLiteral("Help")).toString());
+    return translated(properties.value(QStringLiteral("Malto.Help")).toString());
 }
 
 QString ConfItem::suffixText() const
 {
-    return translated(properties.value(QStringLiteral("Suffix")).toString());
+    return translated(properties.value(QStringLiteral("Malto.Suffix")).toString());
 }
 
 QString ConfItem::placeholderText() const
 {
-    return translated(properties.value(QStringLiteral("Placeholder")).toString());
+    return translated(properties.value(QStringLiteral("Malto.Placeholder")).toString());
 }
 
 } // namespace MtConf

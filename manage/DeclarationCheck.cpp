@@ -1,4 +1,5 @@
 #include "DeclarationCheck_p.h"
+#include "MtConfManageDeclare_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
@@ -6,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace MtConf {
 
@@ -27,11 +29,22 @@ bool isOutside(const QJsonValue &value, const QVariant &lowest, const QVariant &
     if (lowest.userType() == QMetaType::QDateTime) {
         const auto time = fromJsonForm<QDateTime>(value);
         return time && time->isValid()
-               && (*time < lowest.toDateTime() || *time > highest.toDateTime());
+               && ((lowest.toDateTime().isValid() && *time < lowest.toDateTime())
+                   || (highest.toDateTime().isValid() && *time > highest.toDateTime()));
     }
     const double number = value.isString() ? value.toString().toDouble() : value.toDouble();
     return (lowest.isValid() && number < lowest.toDouble())
            || (highest.isValid() && number > highest.toDouble());
+}
+
+/// Returns whether `key` can have `value`, the JSON of a value.
+bool canHave(const QString &key, const QJsonValue &value)
+{
+    ConfValue copy = ConfStorage::instance()->mConfMetas.value(key).defaultValue;
+    if (const JsonOperations *operations = jsonOperations(copy.mType))
+        return operations->accepts(value);
+    copy.loadFromJsonValue(value);
+    return copy.toJsonValue() == value;
 }
 
 /// Returns whether the item lets the user choose flags.
@@ -54,10 +67,6 @@ QStringList DeclarationCheck::problems()
 {
     for (const ConfItem &item : mManager.items)
         collect(item, false);
-    // A host may bind a variable to a key without an item, too.
-    const QMap<QString, ConfValue> &values = ConfStorage::instance()->mConfValues;
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
-        checkVariable(value.key());
     for (const ConfItem *item : std::as_const(mItems))
         checkItem(*item);
     checkOtherManagers();
@@ -78,7 +87,10 @@ void DeclarationCheck::checkItem(const ConfItem &item)
 {
     const QString key = item.getFullName();
     checkNames(item);
-    if (mKeys.take(key) > 1)
+    const int count = std::exchange(mKeys[key], 0);
+    if (count == 0)
+        return; // an item before has the same key
+    if (count > 1)
         report(key, QStringLiteral("is declared more than once"));
     if (!ConfStorage::instance()->mConfValues.contains(key)) {
         report(key, QStringLiteral("has no variable: it was declared with a null pointer, or "
@@ -88,11 +100,13 @@ void DeclarationCheck::checkItem(const ConfItem &item)
     if (const auto *cls = ConfStorage::instance()->findDynamicConfClass(key))
         report(key, QStringLiteral("belongs to the dynamic class with the prefix %1")
                         .arg(quoted(cls->prefix)));
+    checkVariable(key);
     checkDefault(item);
     checkChoices(item);
     checkIsShown(item);
     checkInput(item);
     checkDependencies(item);
+    checkFormerNames(item);
 }
 
 void DeclarationCheck::checkNames(const ConfItem &item)
@@ -113,24 +127,31 @@ void DeclarationCheck::checkVariable(const QString &key)
     const ConfValue value = ConfStorage::instance()->mConfValues.value(key);
     if (!value.mIsPtr || !value.mValue.isValid())
         return;
-    // Every bound value contains a pointer, whatever its type.
-    const void *variable = *static_cast<void *const *>(value.mValue.constData());
+    // Every bound value contains a pointer, whatever its type. A struct and its first member have
+    // the same address.
+    const Variable variable(*static_cast<void *const *>(value.mValue.constData()), value.mType);
     const auto owner = mOwners.constFind(variable);
     if (owner == mOwners.constEnd())
         mOwners.insert(variable, key);
-    else if (mKeys.contains(key) || mKeys.contains(*owner))
+    else
         report(key, QStringLiteral("has the same variable as %1").arg(quoted(*owner)));
 }
 
 void DeclarationCheck::checkDefault(const ConfItem &item)
 {
     const QString key = item.getFullName();
-    const QVariant lowest = item.properties.value(QStringLiteral("MinValue"));
-    const QVariant highest = item.properties.value(QStringLiteral("MaxValue"));
+    QVariant lowest = item.properties.value(QStringLiteral("MinValue"));
+    QVariant highest = item.properties.value(QStringLiteral("MaxValue"));
+    if (hasSpinBox(item)) {
+        // The range of a QSpinBox.
+        lowest = lowest.isValid() ? lowest : 0;
+        highest = highest.isValid() ? highest : std::max(99, lowest.toInt());
+    }
     if (isOutside(defaultOf(key), lowest, highest))
         report(key, QStringLiteral("has a default value outside of its range"));
     const bool isEmpty = lowest.userType() == QMetaType::QDateTime
-                             ? lowest.toDateTime() > highest.toDateTime()
+                             ? highest.toDateTime().isValid()
+                                   && lowest.toDateTime() > highest.toDateTime()
                              : lowest.isValid() && highest.isValid()
                                    && lowest.toDouble() > highest.toDouble();
     if (isEmpty)
@@ -140,7 +161,7 @@ void DeclarationCheck::checkDefault(const ConfItem &item)
 void DeclarationCheck::checkChoices(const ConfItem &item)
 {
     const QString key = item.getFullName();
-    const QVariant values = item.properties.value(QStringLiteral("ValueCount"));
+    const QVariant values = item.properties.value(QStringLiteral("Malto.ValueCount"));
     if (values.isValid() && values.toInt() != item.choices.size())
         report(key, QStringLiteral("has %1 labels for %2 values")
                         .arg(item.choices.size())
@@ -158,8 +179,12 @@ void DeclarationCheck::checkChoices(const ConfItem &item)
 void DeclarationCheck::checkIsShown(const ConfItem &item)
 {
     const QString key = item.getFullName();
+    const auto major = std::find_if(
+        mManager.majorItems.cbegin(), mManager.majorItems.cend(),
+        [&](const MajorConfItem &candidate) { return candidate.name == item.majorName; });
+    const bool hasOwnPage = major != mManager.majorItems.cend() && major->majorWidget;
     if (!item.widgetCreator) {
-        if (item.displayText)
+        if (item.displayText && !hasOwnPage)
             report(key, QStringLiteral("has a label but no editor, so no page shows it"));
         return;
     }
@@ -170,9 +195,9 @@ void DeclarationCheck::checkIsShown(const ConfItem &item)
     if ((item.flags & ItemIsFiltered) && !mManager.itemFilter)
         report(key, QStringLiteral("is filtered, but the manager has no filter, so no page shows "
                                    "it"));
-    const auto major = std::find_if(
-        mManager.majorItems.cbegin(), mManager.majorItems.cend(),
-        [&](const MajorConfItem &candidate) { return candidate.name == item.majorName; });
+    if (hasOwnPage)
+        report(key, QStringLiteral("has an editor, but its class has a page of its own, which does "
+                                   "not show it"));
     if (major == mManager.majorItems.cend())
         report(key, QStringLiteral("belongs to a class that the manager does not have"));
 }
@@ -185,7 +210,7 @@ void DeclarationCheck::checkInput(const ConfItem &item)
     const QJsonValue value = defaultOf(key);
     QString input;
     if (item.valueType == ConfValue::TyQKeySequence)
-        input = value.toString();
+        input = value.toString().isEmpty() ? QString() : QLatin1String("keys ") + value.toString();
     else if (item.properties.contains(QStringLiteral("Kind")) && (value.toInt() & sActionBits))
         input = QString::number(value.toInt());
     if (input.isEmpty())
@@ -200,10 +225,26 @@ void DeclarationCheck::checkInput(const ConfItem &item)
 
 void DeclarationCheck::checkDependencies(const ConfItem &item)
 {
+    const QString key = item.getFullName();
     for (auto other = item.dependencies.cbegin(); other != item.dependencies.cend(); ++other) {
-        if (!ConfStorage::instance()->mConfValues.contains(other.key()))
-            report(item.getFullName(),
+        if (other.key() == key)
+            report(key, QStringLiteral("depends on itself"));
+        else if (!ConfStorage::instance()->mConfValues.contains(other.key()))
+            report(key,
                    QStringLiteral("depends on %1, which is not declared").arg(quoted(other.key())));
+        else if (!canHave(other.key(), *other))
+            report(
+                key,
+                QStringLiteral("depends on a value that %1 cannot have").arg(quoted(other.key())));
+    }
+}
+
+void DeclarationCheck::checkFormerNames(const ConfItem &item)
+{
+    for (const QString &formerName : item.formerNames) {
+        if (ConfStorage::instance()->mConfValues.contains(formerName))
+            report(item.getFullName(), QStringLiteral("has the former name %1, which is declared")
+                                           .arg(quoted(formerName)));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 
@@ -24,6 +25,8 @@ public:
     QStringList problems();
 
 private:
+    using Variable = QPair<const void *, quint32>; // the address and the type
+
     void collect(const ConfItem &item, bool isSubItem);
     void checkItem(const ConfItem &item);
     void checkNames(const ConfItem &item);
@@ -33,15 +36,16 @@ private:
     void checkIsShown(const ConfItem &item);
     void checkInput(const ConfItem &item);
     void checkDependencies(const ConfItem &item);
+    void checkFormerNames(const ConfItem &item);
     void checkOtherManagers();
     void report(const QString &key, const QString &problem);
 
     const MtConfManage &mManager;
     QList<const ConfItem *> mItems; // and their sub-items
     QList<const ConfItem *> mSubItems;
-    QHash<QString, int> mKeys;            // how often each is declared
-    QHash<const void *, QString> mOwners; // keys by variable
-    QHash<QString, QString> mInputs;      // keys by hotkey or gesture
+    QHash<QString, int> mKeys;        // how often each is declared; 0 if it was checked
+    QHash<Variable, QString> mOwners; // keys by variable
+    QHash<QString, QString> mInputs;  // keys by hotkey or gesture
     QStringList mProblems;
 };
 

@@ -281,7 +281,6 @@ ConfItem *MtConfManage::addConfDuration(const char *text, std::chrono::duration<
                                         const QString &subName)
 {
     ConfItem item(value, majorName, name, subName);
-    item.properties[QStringLiteral("IsWhole")] = std::is_integral_v<Count>;
     return addDurationItem(item, text, double(Unit::num) / double(Unit::den));
 }
 

@@ -22,6 +22,13 @@ ConfItem *MtConfManage::addConfInt32(const char *text, int *value, const QString
                    ConfDefWidgetInt32::CreatConfWidget);
 }
 
+bool hasSpinBox(const ConfItem &item)
+{
+    using Factory = ConfigItemWidget *(*)(ConfItem *, QWidget *);
+    const Factory *const factory = item.widgetCreator.target<Factory>();
+    return factory && *factory == ConfDefWidgetInt32::CreatConfWidget;
+}
+
 ConfItem *MtConfManage::addConfBool(const char *text, bool *value, const QString &majorName,
                                     const QString &name, const QString &subName,
                                     WidgetCreator creator)
@@ -123,7 +130,7 @@ ConfItem *MtConfManage::addConfInt32WithCombobox(const char *text, QList<const c
     for (int i = 0; i < labels.size(); ++i)
         added->choices.append({QString::fromUtf8(labels.at(i)), values.value(i, i)});
     if (!values.isEmpty() && values.size() != labels.size())
-        added->properties[QStringLiteral("ValueCount")] = static_cast<int>(values.size());
+        added->properties[QStringLiteral("Malto.ValueCount")] = static_cast<int>(values.size());
     return added;
 }
 

@@ -17,7 +17,7 @@
 #include <QPointer>
 #include <QShortcut>
 
-// Declares settings of the types that the first hosts did not have.
+// The rest of the addConf family: types without a file of their own would make one file too long.
 
 namespace MtConf {
 
@@ -60,9 +60,9 @@ ConfItem *MtConfManage::addConfPath(const char *text, QString *value, PathKind k
 {
     ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
                              ConfWidgetPath::CreatConfWidget);
-    item->properties[QStringLiteral("PathKind")] = static_cast<int>(kind);
+    item->properties[QStringLiteral("Malto.PathKind")] = static_cast<int>(kind);
     if (filters)
-        item->properties[QStringLiteral("Filters")] = QString::fromUtf8(filters);
+        item->properties[QStringLiteral("Malto.Filters")] = QString::fromUtf8(filters);
     return item;
 }
 
@@ -117,7 +117,7 @@ ConfItem *MtConfManage::addChoiceItem(ConfItem &item, const char *text, QList<Co
 ConfItem *MtConfManage::addDurationItem(ConfItem &item, const char *text, double secondsPerUnit)
 {
     item.displayText = text;
-    item.properties[QStringLiteral("SecondsPerUnit")] = secondsPerUnit;
+    item.properties[QStringLiteral("Malto.SecondsPerUnit")] = secondsPerUnit;
     item.widgetCreator = ConfWidgetDuration::CreatConfWidget;
     return addConfItem(item);
 }

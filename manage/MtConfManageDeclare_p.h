@@ -4,7 +4,7 @@
 
 #include <utility>
 
-// The function that the addConf family has in common.
+// What the addConf family has in common.
 
 namespace MtConf {
 
@@ -18,5 +18,8 @@ template<class T> ConfItem *MtConfManage::addConf(const char *text, T *value,
     item.widgetCreator = creator ? std::move(creator) : std::move(defaultCreator);
     return addConfItem(item);
 }
+
+/// Returns whether the editor of `item` is the spin box of `MtConfManage::addConfInt32`.
+bool hasSpinBox(const ConfItem &item);
 
 } // namespace MtConf

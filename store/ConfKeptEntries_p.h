@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonValue>
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -39,6 +40,11 @@ public:
         return mApplied.value(key, QJsonValue(QJsonValue::Undefined));
     }
 
+    /// Notes that the entry of the released key `key` is secret.
+    void setSecret(const QString &key) { mSecrets.insert(key); }
+    /// Returns whether `setSecret` was called for `key`.
+    bool isSecret(const QString &key) const { return mSecrets.contains(key); }
+
     /// The entries by name.
     const QMap<QString, QJsonValue> &entries() const { return mEntries; }
     /// Bytes of the entries in the local file.
@@ -52,5 +58,6 @@ public:
 private:
     QMap<QString, QJsonValue> mEntries;
     QMap<QString, QJsonValue> mApplied; // by key
+    QSet<QString> mSecrets;             // keys
     qint64 mSize = 0;
 };

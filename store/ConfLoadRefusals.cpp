@@ -45,6 +45,15 @@ void ConfLoad::loadConstrained(const QString &key, const QJsonValue &value, cons
     if (stored == mStore.mConfValues.end() || meta == mStore.mConfMetas.end())
         return;
     if (accepted) {
+        // Another copy may have the value that this one has changed, with the same timestamp.
+        const bool isKnown = time && meta->lastChangeTime.isValid()
+                             && meta->lastChangeTime.toSecsSinceEpoch() == *time
+                             && !(meta->flags & ConfStorage::FlagIsDefault)
+                             && stored->toJsonValue() == *accepted;
+        if (isKnown && !replaces()) {
+            ++mReport.newerHere;
+            return;
+        }
         ++mReport.taken;
         meta->lastChangeTime = timeOfChange(time);
         applyValue(key, *accepted, stored, meta);

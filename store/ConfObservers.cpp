@@ -177,6 +177,8 @@ ConfOperation::~ConfOperation()
 
 int ConfStorage::addObserver(ConfObserver observer)
 {
+    if (mMisuse)
+        checkUse("addObserver");
     if (!mObservers)
         mObservers = std::make_shared<ConfObservers>();
     return mObservers->add(std::move(observer));

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "ConfAutosave_p.h"
+#include "ConfConstraints_p.h"
 #include "ConfDump_p.h"
 #include "ConfFileSharing_p.h"
 #include "ConfFileWatch_p.h"
@@ -55,6 +56,8 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
     // A concatenated string has spare capacity, which the store would keep as long as the key.
     const QString exactKey = key.capacity() > key.size() ? QString(key.constData(), key.size())
                                                          : key;
+    if (mConstraints && mConfValues.contains(exactKey))
+        mConstraints->set(exactKey, nullptr);
     mConfValues[exactKey] = bound;
 
     ConfMeta meta;
@@ -63,6 +66,11 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
     const auto preset = mPresetDynamicConfs.constFind(key);
     if (preset == mPresetDynamicConfs.constEnd()) {
         meta.defaultValue = current;
+    } else if (MtConf::jsonOperations(bound.mType)) {
+        meta.defaultValue = current;
+        meta.defaultValue.loadFromJsonValue(*preset);
+        if (meta.defaultValue != bound)
+            meta.flags &= ~FlagIsDefault;
     } else {
         meta.defaultValue = ConfValue::owned(preset->toObject());
         if (meta.defaultValue != bound)
@@ -81,16 +89,27 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
 
 void ConfStorage::releaseConf(const QString &key)
 {
+    if (mMisuse)
+        checkUse("releaseConf");
     const QString name = key; // which may refer to one of the maps
-    if (mFileOptions & (KeepUnknownEntries | SharedFile)) {
-        const QJsonObject entry = ConfDump(*this, name).toObject();
-        if (!mKeptEntries && !entry.isEmpty())
-            mKeptEntries = std::make_unique<ConfKeptEntries>();
-        for (auto it = entry.constBegin(); it != entry.constEnd(); ++it)
-            mKeptEntries->keepReleased(it.key(), it.value());
-    }
+    if (mFileOptions & (KeepUnknownEntries | SharedFile))
+        keepEntryOf(name);
+    if (mConstraints)
+        mConstraints->set(name, nullptr);
     mConfValues.remove(name);
     mConfMetas.remove(name);
+}
+
+/// Keeps the entry of a key whose value will not be saved any more.
+void ConfStorage::keepEntryOf(const QString &key)
+{
+    const QJsonObject entry = ConfDump(*this, key).toObject();
+    if (!mKeptEntries && !entry.isEmpty())
+        mKeptEntries = std::make_unique<ConfKeptEntries>();
+    for (auto it = entry.constBegin(); it != entry.constEnd(); ++it)
+        mKeptEntries->keepReleased(it.key(), it.value());
+    if (mKeptEntries && (mConfMetas.value(key).flags & FlagSecret))
+        mKeptEntries->setSecret(key);
 }
 
 void ConfStorage::setToDefault(const QString &key, bool updateTime)
@@ -159,6 +178,8 @@ void ConfStorage::restorePreset(const QString &key, const QDateTime &time)
 
 bool ConfStorage::isEqualToDefault(const QString &key) const
 {
+    if (mMisuse)
+        checkUse("isEqualToDefault");
     const auto meta = mConfMetas.constFind(key);
     if (meta == mConfMetas.constEnd() || (meta->flags & FlagIsDefault))
         return true;

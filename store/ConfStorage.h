@@ -409,22 +409,27 @@ public:
 
     /// Sets the function that decides which values `key` accepts, and replaces an earlier one. It
     /// is asked by `set`, `loadValueFromJson`, `lockConf` and all loads, but not for the default
-    /// value and when a dynamic key is created. A value that the key has already is checked now; if
-    /// it is refused, the default value is restored, and the timestamp stays. An empty function
-    /// accepts all values.
+    /// value and when a dynamic key is created. A value that was loaded before is checked now,
+    /// unless the key is locked. An empty function accepts all values. `releaseConf` and another
+    /// `reserveConf` of the key remove the constraint.
     ///
-    /// A refused value changes nothing. With `KeepUnknownEntries` or `SharedFile` the local file
-    /// keeps an entry that it contains. Logs the warning "ConfStorage::setConfConstraint() value
-    /// refused: " or "ConfStorage::setConfConstraint() value changed: " with the key.
+    /// A refused value changes nothing; one that was loaded before is replaced with the default
+    /// value. With `KeepUnknownEntries` or `SharedFile` the local file keeps a refused entry. A
+    /// value that the type does not have is refused. Logs the warning
+    /// "ConfStorage::setConfConstraint() value refused: " or "ConfStorage::setConfConstraint()
+    /// value changed: " with the key.
     ///
     /// @see MtConf::ConfItem::setRange
     void setConfConstraint(const QString &key, const ConfConstraint &constraint);
 
+    /// Returns whether `key` has a constraint.
+    bool hasConfConstraint(const QString &key) const;
+
     /// Makes the store warn of wrong use, once of each kind, from now on: of calls on another
-    /// thread than this one, and of dynamic keys with "#", whose entries loads ignore. Logs the
-    /// warnings "ConfStorage used on another thread: " with the function and
-    /// "ConfStorage::createDynamicConf() key with # will not be loaded: " with the key. For
-    /// developers: see docs/guide/checks.md.
+    /// thread than this one, and of dynamic keys
+    /// with "#", whose entries loads ignore. Logs the warnings "ConfStorage used on another thread:
+    /// " with the function and "ConfStorage::createDynamicConf() key with # will not be loaded: "
+    /// with the key. For developers: see docs/guide/checks.md.
     void warnOfMisuse();
 
     /// Writes `dumpConf(DumpLocal)` to `mLocalSaveFile` as compact JSON if something has changed
@@ -491,9 +496,12 @@ private:
     ChangePtr beginSet(const QString &key) const;
     void finishChange(const ChangePtr &change);
     std::optional<QJsonValue> constrained(const QString &key, const QJsonValue &json) const;
+    void refuseLoaded(const QString &key);
+    void keepEntryOf(const QString &key);
     void applyConstrained(const QString &key, const QJsonValue &json);
     bool setConstrained(const QString &key, const ConfValue &value);
     void checkUse(const char *function) const;
+    bool isSecretEntry(const QString &name) const;
     void restore(const QString &key, const QDateTime &time);
     void restorePreset(const QString &key, const QDateTime &time);
     bool createDynamic(const QString &key, const QJsonValue &value, const DynamicConfClass *cls);

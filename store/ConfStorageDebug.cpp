@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/store/ConfStorage.h>
 
 #include "ConfKeptEntries_p.h"
+#include "ConfVersions_p.h"
 #include "DumpMember_p.h"
 #include "EntryLog_p.h"
 #include "JsonText_p.h"
@@ -49,13 +50,14 @@ QString timeText(const QDateTime &time)
 }
 
 /// Returns the row of a kept entry. It has the timestamp of a removal, too.
-QStringList keptRow(const QString &name, const QJsonValue &entry)
+QStringList keptRow(const QString &name, const QJsonValue &entry, bool isSecret)
 {
     const std::optional<qint64> seconds = ConfKeptEntries::timeOf(entry);
     const QDateTime time = seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC) : QDateTime();
     const QJsonValue value = entry.isObject() ? entry.toObject().value(sValueKey.name()) : entry;
-    return {keyText(name),          jsonText(value), nothing(),
-            QStringLiteral("kept"), timeText(time),  nothing()};
+    return {keyText(name),  isSecret ? QString(sSecretText) : jsonText(value),
+            nothing(),      QStringLiteral("kept"),
+            timeText(time), nothing()};
 }
 
 QString flagsText(quint32 flags, bool isLocked)
@@ -93,8 +95,26 @@ QString aligned(const QVector<QStringList> &rows)
 
 } // namespace
 
+/// Returns whether the kept entry `name` is that of a secret key, or of a former name of one.
+bool ConfStorage::isSecretEntry(const QString &name) const
+{
+    QString key = name;
+    if (key.endsWith(addSysMark(QString())))
+        key.chop(addSysMark(QString()).size());
+    QSet<QString> seen; // former names may form a circle
+    while (!key.isEmpty() && !seen.contains(key)) {
+        if (mKeptEntries->isSecret(key) || (mConfMetas.value(key).flags & FlagSecret))
+            return true;
+        seen.insert(key);
+        key = mVersions ? mVersions->mFormerNames.value(key).key : QString();
+    }
+    return false;
+}
+
 QString ConfStorage::debugTable() const
 {
+    if (mMisuse)
+        checkUse("debugTable");
     QVector<QStringList> rows{{QStringLiteral("KEY"), QStringLiteral("VALUE"),
                                QStringLiteral("DEFAULT"), QStringLiteral("STATE"),
                                QStringLiteral("CHANGED AT"), QStringLiteral("FLAGS")}};
@@ -124,7 +144,7 @@ QString ConfStorage::debugTable() const
     for (auto entry = kept.cbegin(); entry != kept.cend(); ++entry) {
         if (rows.size() > Limits::sMaxTableRows)
             break;
-        rows.append(keptRow(entry.key(), *entry));
+        rows.append(keptRow(entry.key(), *entry, isSecretEntry(entry.key())));
     }
     const auto more = keys.size() + mRemovedDynamicConfs.size() + kept.size() - (rows.size() - 1);
     return aligned(rows) + (more > 0 ? QStringLiteral("%1 more\n").arg(more) : QString());

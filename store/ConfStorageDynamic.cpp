@@ -87,6 +87,8 @@ bool ConfStorage::createDynamic(const QString &key, const QJsonValue &value,
 
 void ConfStorage::removeDynamicConf(const QString &key)
 {
+    if (mMisuse)
+        checkUse("removeDynamicConf");
     if (isLocked(key))
         return;
     const ChangePtr change = ConfObservers::beginChange(*this, key, ConfChange::Cause::Removed);

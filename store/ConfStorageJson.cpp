@@ -18,6 +18,8 @@ QString addSysMark(const QString &key)
 
 QJsonObject ConfStorage::dumpConf(DumpConfType type) const
 {
+    if (mMisuse)
+        checkUse("dumpConf");
     const EntryLog log;
     return ConfDump(*this, type).toObject();
 }

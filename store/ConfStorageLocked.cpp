@@ -16,6 +16,8 @@ bool ConfStorage::isLocked(const QString &key) const
 
 void ConfStorage::lockConf(const QString &key, const QJsonValue &value)
 {
+    if (mMisuse)
+        checkUse("lockConf");
     const QString name = key; // which may refer to one of the maps
     QJsonValue fixed = mVersions ? mVersions->convert(name, value) : value;
     if (fixed.isUndefined())

@@ -33,6 +33,8 @@ ConfChange masked(ConfChange change, quint32 flags)
 
 QVector<ConfChange> ConfStorage::previewLoad(const QJsonObject &conf, LoadConfType type) const
 {
+    if (mMisuse)
+        checkUse("previewLoad");
     const EntryLog log;
     // Loaded by the code that loads, so that no rule can differ.
     ShadowStore shadow;
@@ -46,7 +48,9 @@ QVector<ConfChange> ConfStorage::previewLoad(const QJsonObject &conf, LoadConfTy
 
     QVector<ConfChange> changes;
     store.addObserver([&](const ConfChange &change) {
-        changes.append(masked(change, mConfMetas.value(change.key).flags));
+        const DynamicConfClass *cls = findDynamicConfClass(change.key);
+        const quint32 flags = mConfMetas.value(change.key).flags | (cls ? cls->flags : 0);
+        changes.append(masked(change, flags));
     });
     ConfLoad(store, type).loadObject(conf);
     std::stable_sort(changes.begin(), changes.end(),

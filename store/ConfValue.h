@@ -3,7 +3,7 @@
 /// @file
 
 #include <MaltoConfiguration/malto_export.h>
-#include <MaltoConfiguration/store/JsonTypes.h>
+#include <MaltoConfiguration/store/JsonForm.h>
 
 #include <QColor>
 #include <QFont>

@@ -89,12 +89,12 @@ extern template struct MALTO_EXPORT SuppliedForm<QUrl>;
 extern template struct MALTO_EXPORT SuppliedForm<QUuid>;
 extern template struct MALTO_EXPORT SuppliedForm<QMap<QString, QVariant>>;
 
-template<class T> struct JsonForm<T, std::enable_if_t<isSupplied<T>>> : SuppliedForm<T>
+template<class T> struct DefaultForm<T, std::enable_if_t<isSupplied<T>>> : SuppliedForm<T>
 {
 };
 /// @endcond
 
-/// Returns the JSON of a whole number: a number, or a text if it has more than 53 bits. Qt 5 and
+/// Returns the JSON of a whole number: a number below 2^53, or a text beyond. Qt 5 and
 /// many other programs read numbers as `double`, which has no more.
 /// @since 0.1
 MALTO_EXPORT QJsonValue jsonOfInteger(qint64 number);
@@ -113,7 +113,7 @@ MALTO_EXPORT std::optional<quint64> integerOf(const QJsonValue &json, quint64 lo
 
 /// Whole numbers of all sizes; a text if they have more than 53 bits.
 /// @since 0.1
-template<class T> struct JsonForm<T, std::enable_if_t<std::is_integral_v<T> && !isSupplied<T>>>
+template<class T> struct DefaultForm<T, std::enable_if_t<std::is_integral_v<T> && !isSupplied<T>>>
 {
     /// The largest type with the same sign.
     using Largest = std::conditional_t<std::is_signed_v<T>, qint64, quint64>;
@@ -129,10 +129,10 @@ template<class T> struct JsonForm<T, std::enable_if_t<std::is_integral_v<T> && !
     }
 };
 
-/// An enum as its number. It is not checked whether the enum has a name for it.
+/// An enum as its number. Does not check that the enum has a name for it.
 /// @see JsonByName
 /// @since 0.1
-template<class T> struct JsonForm<T, std::enable_if_t<std::is_enum_v<T>>>
+template<class T> struct DefaultForm<T, std::enable_if_t<std::is_enum_v<T>>>
 {
     /// The type of the numbers.
     using Number = std::underlying_type_t<T>;
@@ -153,18 +153,26 @@ template<class T> struct JsonForm<T, std::enable_if_t<std::is_enum_v<T>>>
 /// Flags as their number.
 /// @see JsonByName
 /// @since 0.1
-template<class E> struct JsonForm<QFlags<E>>
+template<class E> struct DefaultForm<QFlags<E>>
 {
+    /// The type of the numbers.
+    using Int = typename QFlags<E>::Int;
+
     /// Returns the JSON of `flags`.
     static QJsonValue toJson(const QFlags<E> &flags)
     {
-        return static_cast<double>(typename QFlags<E>::Int(flags));
+        return JsonForm<Int>::toJson(static_cast<Int>(flags));
     }
     /// Returns the flags of `json`, a number.
     static std::optional<QFlags<E>> fromJson(const QJsonValue &json)
     {
-        const auto number = JsonForm<typename QFlags<E>::Int>::fromJson(json);
-        return number ? std::optional<QFlags<E>>(QFlags<E>(QFlag(*number))) : std::nullopt;
+        const std::optional<Int> number = JsonForm<Int>::fromJson(json);
+        if (!number)
+            return std::nullopt;
+        if constexpr (sizeof(Int) > sizeof(int))
+            return QFlags<E>::fromInt(*number);
+        else
+            return QFlags<E>(QFlag(*number));
     }
 };
 
@@ -217,7 +225,8 @@ template<class T> struct JsonByName
 
 /// A duration as the number of its units.
 /// @since 0.1
-template<class Count, class Unit> struct JsonForm<std::chrono::duration<Count, Unit>>
+template<class Count, class Unit>
+struct DefaultForm<std::chrono::duration<Count, Unit>, std::enable_if_t<hasJsonForm<Count>>>
 {
     /// Returns the JSON of `value`.
     static QJsonValue toJson(const std::chrono::duration<Count, Unit> &value)
@@ -235,7 +244,7 @@ template<class Count, class Unit> struct JsonForm<std::chrono::duration<Count, U
 
 /// An array with the value, or an empty array.
 /// @since 0.1
-template<class T> struct JsonForm<std::optional<T>, std::enable_if_t<hasJsonForm<T>>>
+template<class T> struct DefaultForm<std::optional<T>, std::enable_if_t<hasJsonForm<T>>>
 {
     /// Returns the JSON of `value`.
     static QJsonValue toJson(const std::optional<T> &value)
@@ -256,7 +265,7 @@ template<class T> struct JsonForm<std::optional<T>, std::enable_if_t<hasJsonForm
 };
 
 /// Whether `T` is a list of values with a `JsonForm`: a `QList`, `QVector`, `std::vector` or
-/// another container with `push_back`.
+/// another container with `push_back`. A `std::wstring` is not one.
 /// @since 0.1
 template<class T, class = void> inline constexpr bool isJsonList = false;
 
@@ -264,12 +273,14 @@ template<class T, class = void> inline constexpr bool isJsonList = false;
 template<class T>
 inline constexpr bool isJsonList<T, std::void_t<decltype(std::declval<T &>().push_back(
                                         std::declval<typename T::value_type>()))>> =
-    hasJsonForm<typename T::value_type> && !isSupplied<T>;
+    hasJsonForm<
+        typename T::
+            value_type> && !isSupplied<T> && !std::is_same_v<T, std::basic_string<typename T::value_type>>;
 /// @endcond
 
 /// An array.
 /// @since 0.1
-template<class T> struct JsonForm<T, std::enable_if_t<isJsonList<T>>>
+template<class T> struct DefaultForm<T, std::enable_if_t<isJsonList<T>>>
 {
     /// Returns the JSON of `values`.
     static QJsonValue toJson(const T &values)
@@ -298,7 +309,7 @@ template<class T> struct JsonForm<T, std::enable_if_t<isJsonList<T>>>
 
 /// An object.
 /// @since 0.1
-template<class T> struct JsonForm<QMap<QString, T>, std::enable_if_t<hasJsonForm<T>>>
+template<class T> struct DefaultForm<QMap<QString, T>, std::enable_if_t<hasJsonForm<T>>>
 {
     /// Returns the JSON of `values`.
     static QJsonValue toJson(const QMap<QString, T> &values)

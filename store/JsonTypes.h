@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonValue>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -18,6 +19,22 @@ namespace MtConf {
 /// Whether `T` is one of `Types`.
 /// @since 0.1
 template<class T, class... Types> inline constexpr bool isAnyOf = (std::is_same_v<T, Types> || ...);
+
+/// Whether the values of `T` are whole numbers, or durations in whole units.
+/// @since 0.1
+template<class T> inline constexpr bool isWhole = std::is_integral_v<T> && !std::is_same_v<T, bool>;
+
+/// @cond
+template<class Count, class Unit>
+inline constexpr bool isWhole<std::chrono::duration<Count, Unit>> = isWhole<Count>;
+/// @endcond
+
+/// The forms that the library supplies, in JsonForm.h. They are apart from `JsonForm`, so that a
+/// form of the host is never ambiguous with them.
+/// @since 0.1
+template<class T, class Enable = void> struct DefaultForm
+{
+};
 
 /// How values of a type become JSON and how they are read from it.
 ///
@@ -31,17 +48,18 @@ template<class T, class... Types> inline constexpr bool isAnyOf = (std::is_same_
 /// };
 /// @endcode
 ///
-/// `toJson` returns the same JSON for equal values. It should not return null, with which a file
-/// sets no value: an empty array is used instead. `fromJson` returns what `toJson` was called with,
-/// or nothing if the JSON does not describe a value; it is then refused. Neither may change the
-/// store. The type must have a default constructor and be copyable. JsonForm.h contains the forms
-/// that the library supplies.
+/// `toJson` returns the same JSON for equal values. It must not return null, which sets no value in
+/// a file. If it does, the store writes an empty array. `fromJson` returns what `toJson` was called
+/// with, or nothing if the JSON does not describe a value; it is then refused. Neither may change
+/// the store. The type must have a default constructor and be copyable.
 ///
 /// @see ConfStorage::reserveConf
 /// @since 0.1
-template<class T, class Enable = void> struct JsonForm;
+template<class T, class Enable = void> struct JsonForm : DefaultForm<T>
+{
+};
 
-/// Whether `JsonForm` is specialized for `T`.
+/// Whether `T` has a `JsonForm`.
 /// @since 0.1
 template<class T, class = void> inline constexpr bool hasJsonForm = false;
 

@@ -24,7 +24,7 @@ ConfDefWidgetDouble::ConfDefWidgetDouble(ConfItem *item, QWidget *parent)
     : ConfigItemWidget(item, parent), mSpinBox(new NumberSpinBox(rangeOf(*item), this))
 {
     setHasMessage();
-    const double step = mItem->properties.value(QStringLiteral("Step"), 1.0).toDouble();
+    const double step = mItem->properties.value(QStringLiteral("Malto.Step"), 1.0).toDouble();
     mSpinBox->setSingleStep(step > 0 ? step : 1.0);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -46,9 +46,9 @@ ConfigItemWidget *ConfDefWidgetDouble::CreatConfWidget(ConfItem *item, QWidget *
 
 int ConfDefWidgetDouble::decimals() const
 {
-    if (mItem->properties.value(QStringLiteral("IsWhole")).toBool())
+    if (mItem->isWholeNumber)
         return 0;
-    const auto own = mItem->properties.constFind(QStringLiteral("Decimals"));
+    const auto own = mItem->properties.constFind(QStringLiteral("Malto.Decimals"));
     if (own != mItem->properties.constEnd())
         return qMax(own->toInt(), 0);
     int needed = qMax(sDefaultDecimals, decimalsOf(mSpinBox->singleStep()));
@@ -67,7 +67,7 @@ void ConfDefWidgetDouble::applySuffix()
         return QString::number(number, 'f', mSpinBox->decimals());
     };
     QStringList numbers{QString(sDefaultDigits, QLatin1Char('0')), mSpinBox->cleanText()};
-    if (mItem->properties.contains(QStringLiteral("RangeRule")))
+    if (mItem->properties.contains(QStringLiteral("Malto.RangeRule")))
         numbers = QStringList{text(mSpinBox->range().lowest()), text(mSpinBox->range().highest()),
                               mSpinBox->cleanText()};
     for (QString &number : numbers)

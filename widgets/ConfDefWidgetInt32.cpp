@@ -49,12 +49,12 @@ ConfigItemWidget *ConfDefWidgetInt32::CreatConfWidget(ConfItem *item, QWidget *p
 
 bool ConfDefWidgetInt32::checksRange() const
 {
-    return mItem->properties.contains(QStringLiteral("RangeRule"));
+    return mItem->properties.contains(QStringLiteral("Malto.RangeRule"));
 }
 
 void ConfDefWidgetInt32::applyRange()
 {
-    const int step = mItem->properties.value(QStringLiteral("Step"), 1).toInt();
+    const int step = mItem->properties.value(QStringLiteral("Malto.Step"), 1).toInt();
     mSpinBox->setSingleStep(qMax(step, 1));
     if (checksRange()) {
         mSpinBox->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());

@@ -21,7 +21,7 @@ constexpr Unit sUnits[] = {{0.001, QT_TRANSLATE_NOOP("QObject", " ms")},
 /// Sets the suffix of an item without one, so that all texts with numbers of the item contain it.
 ConfItem *withUnit(ConfItem *item)
 {
-    if (item->properties.contains(QStringLiteral("Suffix")))
+    if (item->properties.contains(QStringLiteral("Malto.Suffix")))
         return item;
     for (const Unit &unit : sUnits) {
         if (std::abs(item->secondsPerUnit() / unit.seconds - 1) < 1e-9)

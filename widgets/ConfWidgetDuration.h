@@ -6,7 +6,7 @@ namespace MtConf {
 
 /// Edits a duration with a spin box: the number of units with the unit, which follows from
 /// `ConfItem::secondsPerUnit`. Milliseconds, seconds, minutes, hours and days have one; a suffix of
-/// the item replaces it. If the item's property "IsWhole" is true, only whole numbers can be
+/// the item replaces it. If the item's `isWholeNumber` is true, only whole numbers can be
 /// entered. Larger numbers than those that a `double` has exactly are shown as a text.
 ///
 /// @see MtConfManage::addConfDuration

@@ -74,7 +74,7 @@ void ConfWidgetPath::showEvent(QShowEvent *event)
 
 PathKind ConfWidgetPath::kind() const
 {
-    return static_cast<PathKind>(mItem->properties.value(QStringLiteral("PathKind")).toInt());
+    return static_cast<PathKind>(mItem->properties.value(QStringLiteral("Malto.PathKind")).toInt());
 }
 
 /// Returns why the path cannot be used as it is; empty if it can be used, or if there is none.
@@ -116,7 +116,7 @@ void ConfWidgetPath::browse()
         // The file is only named here.
         dialog->setOption(QFileDialog::DontConfirmOverwrite);
     }
-    const QString filters = mItem->properties.value(QStringLiteral("Filters")).toString();
+    const QString filters = mItem->properties.value(QStringLiteral("Malto.Filters")).toString();
     if (!filters.isEmpty() && !isFolder)
         dialog->setNameFilter(QObject::tr(filters.toUtf8().constData()));
     const QString path = readValue<QString>();

@@ -9,8 +9,8 @@ namespace MtConf {
 /// Edits a QString that is the path of a file or a folder. The user types the path or chooses it in
 /// a dialog.
 ///
-/// The property "PathKind" of the item is the `PathKind` as an int, a file to read without it. The
-/// property "Filters" contains the name filters of the dialog as `QFileDialog` takes them,
+/// The property "Malto.PathKind" of the item is the `PathKind` as an int, a file to read without it. The
+/// property "Malto.Filters" contains the name filters of the dialog as `QFileDialog` takes them,
 /// untranslated.
 ///
 /// Paths are stored with "/" and shown with the separators of the system. "~" at the beginning is

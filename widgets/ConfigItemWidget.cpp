@@ -144,7 +144,7 @@ void ConfigItemWidget::commit() {}
 QLabel *ConfigItemWidget::messageLabel()
 {
     const bool hasMessage = mHasMessage || mItem->validator
-                            || mItem->properties.contains(QStringLiteral("RangeRule"));
+                            || mItem->properties.contains(QStringLiteral("Malto.RangeRule"));
     if (!mMessage && hasMessage) {
         mMessage = new QLabel(parentWidget());
         mMessage->setProperty("ConfigItemMessage", QStringLiteral("1"));
@@ -193,22 +193,44 @@ bool ConfigItemWidget::writeJson(const QJsonValue &value)
     const Writing writing(this);
     const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
     ConfStorage::instance()->loadValueFromJson(mItem->getFullName(), value);
-    return writing.hasEditor();
+    return writing.hasEditor() && isStored(value);
+}
+
+/// Returns whether the store has taken the value. If the constraint of the key has refused or
+/// changed it, shows the stored value.
+bool ConfigItemWidget::isStored(const QJsonValue &value)
+{
+    if (!hasConstraint() || readJson() == value)
+        return true;
+    loadConf();
+    refreshLabelState();
+    return false;
+}
+
+bool ConfigItemWidget::hasConstraint() const
+{
+    return ConfStorage::instance()->hasConfConstraint(mItem->getFullName());
 }
 
 /// Enables or disables the editor and its caption, which may not exist yet.
 void ConfigItemWidget::setRowEnabled(bool isEnabled)
 {
+    // A control that loses the focus may store its text, and a callback may delete the editor.
+    const Writing writing(this);
     mIsRowEnabled = isEnabled;
     setEnabled(isEnabled);
-    if (mLabel)
+    if (writing.hasEditor() && mLabel)
         mLabel->setEnabled(isEnabled);
 }
 
 void ConfigItemWidget::describeControls(const QString &group)
 {
+    const QPointer<ConfigItemWidget> self(this);
     if (!mIsRowEnabled)
         setRowEnabled(false); // the caption of a derived class, too
+    if (!self)
+        return;
+    updateToolTips();
     const QString help = mItem->helpText();
     QList<QWidget *> controls = controlsIn(this);
     // A control that is the caption has its name as its text.
@@ -266,13 +288,15 @@ QString ConfigItemWidget::rangeText() const
 {
     const QVariant lowest = mItem->properties.value(QStringLiteral("MinValue"));
     const QVariant highest = mItem->properties.value(QStringLiteral("MaxValue"));
-    if (!mItem->properties.contains(QStringLiteral("RangeRule")))
+    if (!mItem->properties.contains(QStringLiteral("Malto.RangeRule")))
         return QString();
+    const bool isTime = lowest.userType() == QMetaType::QDateTime;
+    if (isTime && !(lowest.toDateTime().isValid() && highest.toDateTime().isValid()))
+        return QString(); // an open range
     const QLocale locale = this->locale();
     const auto text = [&](const QVariant &limit) {
-        return limit.userType() == QMetaType::QDateTime
-                   ? locale.toString(limit.toDateTime().toLocalTime(), QLocale::ShortFormat)
-                   : numberText(locale, limit.toDouble());
+        return isTime ? locale.toString(limit.toDateTime().toLocalTime(), QLocale::ShortFormat)
+                      : numberText(locale, limit.toDouble());
     };
     return QCoreApplication::translate("MtConf::ConfigItemWidget", "From %1 to %2")
         .arg(text(lowest), text(highest) + mItem->suffixText());

@@ -99,8 +99,8 @@ protected:
     }
 
     /// Stores `value` if it differs from the stored value. Returns false if it does not differ, if
-    /// the validator of the item does not accept it, or if a callback has deleted this editor; the
-    /// caller must then return without using it.
+    /// the validator of the item or the store does not accept it, or if a callback has deleted this
+    /// editor; the caller must then return without using it.
     template<class T> bool writeValue(const T &value)
     {
         if (readValue<T>() != value)
@@ -110,8 +110,8 @@ protected:
     }
 
     /// Stores `value`, even if it equals the stored value. Returns false if the validator of the
-    /// item does not accept it, or if a callback has deleted this editor; the caller must then
-    /// return without using it.
+    /// item or the store does not accept it, or if a callback has deleted this editor; the caller
+    /// must then return without using it.
     template<class T> bool storeValue(const T &value)
     {
         if (mItem->validator && !isAccepted(ConfValue::owned(value).toJsonValue()))
@@ -119,7 +119,9 @@ protected:
         const Writing writing(this);
         const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
         ConfStorage::instance()->set<T>(mItem->getFullName(), value);
-        return writing.hasEditor();
+        if (!writing.hasEditor())
+            return false;
+        return !hasConstraint() || isStored(ConfValue::owned(value).toJsonValue());
     }
 
     /// Returns the stored value in JSON, for editors of several types. Null if the key is unknown.
@@ -162,6 +164,8 @@ private:
 
     static void logNoItem();
     bool isAccepted(const QJsonValue &value);
+    bool hasConstraint() const;
+    bool isStored(const QJsonValue &value);
     void updateToolTips();
     void setRowEnabled(bool isEnabled);
     void leaveControls();

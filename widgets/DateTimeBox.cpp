@@ -12,7 +12,7 @@ namespace MtConf {
 
 DateTimeBox::DateTimeBox(const ConfItem &item, QWidget *parent) : PageSpinBox(parent)
 {
-    if (item.properties.contains(QStringLiteral("RangeRule"))) {
+    if (item.properties.contains(QStringLiteral("Malto.RangeRule"))) {
         mEarliest = item.properties.value(QStringLiteral("MinValue")).toDateTime().toLocalTime();
         mLatest = item.properties.value(QStringLiteral("MaxValue")).toDateTime().toLocalTime();
     }

@@ -19,7 +19,7 @@ QString numberText(const QLocale &locale, double number)
 RangeCheck::RangeCheck(const ConfItem &item, double lowest, double highest)
     : mLowest(lowest), mHighest(highest)
 {
-    if (!item.properties.contains(QStringLiteral("RangeRule")))
+    if (!item.properties.contains(QStringLiteral("Malto.RangeRule")))
         return;
     mLowest = qMax(lowest, item.properties.value(QStringLiteral("MinValue"), lowest).toDouble());
     mHighest = qMin(highest, item.properties.value(QStringLiteral("MaxValue"), highest).toDouble());

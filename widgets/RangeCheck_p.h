@@ -18,7 +18,7 @@ QString numberText(const QLocale &locale, double number);
 class RangeCheck
 {
 public:
-    /// The range of `item` if it has the property "RangeRule", within the limits `lowest` and
+    /// The range of `item` if it has the property "Malto.RangeRule", within the limits `lowest` and
     /// `highest`; otherwise these limits.
     RangeCheck(const ConfItem &item, double lowest, double highest);
 

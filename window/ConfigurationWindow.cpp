@@ -200,12 +200,16 @@ void ConfigurationWindow::closeEvent(QCloseEvent *event)
 }
 
 /// Saves what the user has entered and not confirmed when the program quits with an open window.
+/// Other changes are left to the host, as without a window.
 void ConfigurationWindow::commitBeforeQuit()
 {
-    const bool wasChanged = ConfStorage::instance()->mChanged;
+    ConfStorage *const store = ConfStorage::instance();
     const QPointer<ConfigurationWindow> self(this);
+    const bool wasChanged = std::exchange(store->mChanged, false);
     commitEditors();
-    if (self && mManager && !wasChanged && ConfStorage::instance()->mChanged)
+    const bool hasCommitted = store->mChanged;
+    store->mChanged = hasCommitted || wasChanged;
+    if (self && mManager && hasCommitted)
         mManager->saveToFile();
 }
 
@@ -218,11 +222,11 @@ void ConfigurationWindow::onClassItemChange(const QModelIndex &current, const QM
 
 void ConfigurationWindow::restorePageDefault()
 {
-    commitEditors(); // or the rebuilt page would store it after the default values
-    if (!confirm(tr("Are you sure to restore current page default?")))
-        return;
     // A callback may rebuild the page, which deletes its editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (!self || !mManager || !confirm(tr("Are you sure to restore current page default?")))
+        return;
     {
         const HostCodeScope scope(mHostCode);
         const QList<QPointer<ConfigItemWidget>> editors = mEditors;
@@ -237,10 +241,10 @@ void ConfigurationWindow::restorePageDefault()
 
 void ConfigurationWindow::restoreAllDefault()
 {
-    commitEditors();
-    if (!confirm(tr("Are you sure to restore all default?")) || !mManager)
-        return;
     const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (!self || !mManager || !confirm(tr("Are you sure to restore all default?")) || !mManager)
+        return;
     {
         const HostCodeScope scope(mHostCode);
         mManager->restoreAllDefault();

@@ -154,7 +154,8 @@ void ConfigurationWindow::addClassItemWidgets(const QString &caption,
 
 bool ConfigurationWindow::isShown(ConfItem *item) const
 {
-    if (item->properties.contains(QStringLiteral("Expert")) && !mManager->showExpertItems)
+    if (item->properties.value(QStringLiteral("Malto.Expert")).toBool()
+        && !mManager->showExpertItems)
         return false;
     if (!(item->flags & ItemIsFiltered))
         return true;

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void enforcedRangeRefusesWhatIsOutside();
     void clampedRangeTakesTheNearestValue();
     void rangeOfATime();
+    void clampedWholeNumbersStayWhole();
     void rangeOfADurationIsInItsUnit();
     void dependencyTakesAnyType();
     void secretIsLocalOnlyAndMasked();
@@ -150,10 +151,32 @@ void tst_ConfItemOptions::rangeOfATime()
         mStore->set(key, last.addSecs(1));
     QCOMPARE(refusing, first);
     QCOMPARE(clamping, last);
-    mStore->set("Page.A", QDateTime());
-    QCOMPARE(refusing, first);
     mStore->set("Page.A", last.toOffsetFromUtc(3600)); // the same instant
     QCOMPARE(refusing, last);
+    mStore->set("Page.A", QDateTime()); // not set
+    QVERIFY(!refusing.isValid());
+    QDateTime open = first;
+    mManager->addConfValue(&open, "Page", "C")->setRange(QDateTime(), last, MtConf::Enforced);
+    mStore->set("Page.C", first.addYears(-9));
+    QCOMPARE(open, first.addYears(-9));
+    mStore->set("Page.C", last.addSecs(1));
+    QCOMPARE(open, first.addYears(-9));
+}
+
+void tst_ConfItemOptions::clampedWholeNumbersStayWhole()
+{
+    qint64 large = 1, small = 1;
+    int none = 1;
+    mManager->addConfValue(&large, "Page", "A")->setRange(0, 1e17, MtConf::Clamped);
+    mManager->addConfValue(&small, "Page", "B")->setRange(2.5, 7.5, MtConf::Clamped);
+    mManager->addConfValue(&none, "Page", "C")->setRange(2.5, 2.7, MtConf::Clamped); // empty
+    const LogCapture log;
+    mStore->set("Page.A", qint64(2e17));
+    mStore->set("Page.B", qint64(100));
+    mStore->set("Page.C", 100);
+    QCOMPARE(large, qint64(1e17));
+    QCOMPARE(small, qint64(7));
+    QCOMPARE(none, 100);
 }
 
 void tst_ConfItemOptions::rangeOfADurationIsInItsUnit()
@@ -177,16 +200,25 @@ void tst_ConfItemOptions::dependencyTakesAnyType()
     int value = 0;
     ConfItem *a = mManager->addConfValue(&mode, "Page", "A");
     ConfItem *b = mManager->addConfValue(&text, "Page", "B");
+    float number = 0;
+    qint64 large = 0;
+    ConfItem *d = mManager->addConfValue(&number, "Page", "D");
+    ConfItem *e = mManager->addConfValue(&large, "Page", "E");
     const ConfItem *c = mManager->addConfValue(&value, "Page", "C")
                             ->dependsOn(a, Mode::On)
-                            ->dependsOn(b, QStringLiteral("on"));
-    const QMap<QString, QJsonValue> expected{{"Page.A", 1}, {"Page.B", "on"}};
+                            ->dependsOn(b, "on")
+                            ->dependsOn(d, 0.1f)
+                            ->dependsOn(e, qint64(9007199254740993));
+    const QMap<QString, QJsonValue> expected{
+        {"Page.A", 1}, {"Page.B", "on"}, {"Page.D", 0.1}, {"Page.E", "9007199254740993"}};
     QCOMPARE(c->dependencies, expected);
 }
 
 void tst_ConfItemOptions::secretIsLocalOnlyAndMasked()
 {
     QString token;
+    mManager->addConfValue(static_cast<QString *>(nullptr), "Page", "None")->setSecret();
+    QVERIFY(!mStore->mConfMetas.contains("Page.None"));
     mManager->addConfValue(&token, "Page", "A")->setSecret();
     mStore->set("Page.A", QStringLiteral("hunter2"));
     QVERIFY(mStore->dumpConf(ConfStorage::DumpShared).isEmpty());

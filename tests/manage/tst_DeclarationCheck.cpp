@@ -32,6 +32,9 @@ private Q_SLOTS:
     void labelsAndValuesDiffer();
     void anotherManagerHasTheKey();
     void otherSettingIsNotDeclared();
+    void dependencyIsImpossible();
+    void formerNameIsDeclared();
+    void classHasAPageOfItsOwn();
 
 private:
     ConfItem *add(const char *name, int *value)
@@ -108,12 +111,15 @@ void tst_DeclarationCheck::defaultIsOutsideOfItsRange()
 {
     add("A", &mA)->setRange(2, 9);
     add("B", &mB)->properties["MaxValue"] = 1;
+    int large = 500; // the spin box ends at 99
+    add("E", &large);
     QDateTime time = QDateTime::currentDateTime();
     mManager->addConfValue(&time, "Page", "C")->setRange(time.addDays(1), time.addDays(2));
     double number = 5;
     mManager->addConfValue(&number, "Page", "D")->setRange(9, 2);
     check({"\"Page.A\" has a default value outside of its range.",
            "\"Page.B\" has a default value outside of its range.",
+           "\"Page.E\" has a default value outside of its range.",
            "\"Page.C\" has a default value outside of its range.",
            "\"Page.D\" has a default value outside of its range.",
            "\"Page.D\" has a range whose lowest value is greater than its highest."});
@@ -175,6 +181,8 @@ void tst_DeclarationCheck::twoDefaultsAreTheSameInput()
     int d = 2, e = 2;
     mManager->addConfMouseAction("Label", &d, 1, "Page", "D");
     mManager->addConfMouseAction("Label", &e, 1, "Page", "E");
+    QKeySequence f("2"); // a key, not the gesture 2
+    mManager->addConfQKeySequence("Label", &f, "Page", "F");
     check({"\"Page.B\" has the same default hotkey or gesture as \"Page.A\".",
            "\"Page.E\" has the same default hotkey or gesture as \"Page.D\"."});
 }
@@ -185,6 +193,14 @@ void tst_DeclarationCheck::variableHasTwoKeys()
     ConfStorage::instance()->reserveConf("Other", &mB);
     add("B", &mA);
     ConfStorage::instance()->reserveConf("Another", &mB); // neither has an item
+    struct Both
+    {
+        QString first;
+    } both;
+    mManager->addConfValue(&both.first, "Page", "E");
+    ConfItem whole(reinterpret_cast<int *>(&both), "Page", "F", ""); // at the same address
+    whole.valueType = ConfValue::TyInt32;
+    mManager->addConfItem(whole);
     QStringList list;
     mManager->addConfValue(&list, "Page", "C");
     mManager->addConfValue(&list, "Page", "D");
@@ -217,6 +233,37 @@ void tst_DeclarationCheck::otherSettingIsNotDeclared()
     ConfStorage::instance()->releaseConf("Page.A");
     check({"\"Page.A\" has no variable: it was declared with a null pointer, or released.",
            "\"Page.B\" depends on \"Page.A\", which is not declared."});
+}
+
+void tst_DeclarationCheck::dependencyIsImpossible()
+{
+    bool flag = true;
+    QStringList list;
+    ConfItem *a = mManager->addConfBool("Label", &flag, "Page", "A");
+    ConfItem *b = mManager->addConfValue(&list, "Page", "B");
+    add("C", &mA)->dependsOn(a, 1)->dependsOn(b, "text");
+    ConfItem *d = add("D", &mB);
+    d->dependsOn(d, 2);
+    check({"\"Page.C\" depends on a value that \"Page.A\" cannot have.",
+           "\"Page.C\" depends on a value that \"Page.B\" cannot have.",
+           "\"Page.D\" depends on itself."});
+}
+
+void tst_DeclarationCheck::formerNameIsDeclared()
+{
+    add("A", &mA);
+    add("B", &mB)->addFormerName("Page.A");
+    check({"\"Page.B\" has the former name \"Page.A\", which is declared."});
+}
+
+void tst_DeclarationCheck::classHasAPageOfItsOwn()
+{
+    QString text;
+    mManager->addConfQString("Label", &text, "Page", "A"); // that page may show it
+    add("B", &mA);
+    mManager->setMajorWidget("Page", [](QWidget *parent) { return new QWidget(parent); });
+    check(
+        {"\"Page.B\" has an editor, but its class has a page of its own, which does not show it."});
 }
 
 int main(int argc, char **argv)

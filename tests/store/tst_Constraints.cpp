@@ -41,12 +41,21 @@ private Q_SLOTS:
     void refusedSetChangesNothing();
     void defaultValueIsNotChecked();
     void valueThatWasLoadedBeforeIsChecked();
+    void entryThatWasLoadedBeforeStaysInTheFile();
+    void constraintEndsWithItsKey();
+    void valueOfAnotherTypeIsRefused();
+    void sameChangedValueIsLoadedOnce();
+    void lockedValueStays();
+    void logHandlerMayRemoveTheKeyThatIsSet();
     void refusedEntryStaysInTheFile();
     void emptyConstraintAcceptsEverything();
     void previewAndLockedValuesAreChecked();
     void constraintMayRemoveItsKey();
 
     void secretIsMasked();
+    void secretThatIsKeptIsMasked();
+    void secretOfADynamicClassIsMasked();
+    void presetOfATypeWithAFormIsRestored();
     void misuseIsWarnedOfOnce();
 
 private:
@@ -154,7 +163,77 @@ void tst_Constraints::valueThatWasLoadedBeforeIsChecked()
     mStore->setConfConstraint("key", [](const QJsonValue &) { return std::nullopt; });
     QCOMPARE(mValue, 5);
     QVERIFY(mStore->mConfMetas["key"].flags & ConfStorage::FlagIsDefault);
-    QCOMPARE(mStore->mConfMetas["key"].lastChangeTime, time);
+    QVERIFY(mStore->mConfMetas["key"].lastChangeTime.isNull());
+}
+
+void tst_Constraints::entryThatWasLoadedBeforeStaysInTheFile()
+{
+    const LogCapture log;
+    mStore->mFileOptions = ConfStorage::KeepUnknownEntries;
+    mStore->setConfConstraint("key", nullptr);
+    mStore->loadConf(dump(500, 1700000000), ConfStorage::LoadLocal);
+    mStore->mChanged = false;
+    mStore->setConfConstraint("key", [](const QJsonValue &) { return std::nullopt; });
+    QCOMPARE(mValue, 5);
+    QVERIFY(!mStore->mChanged);
+    QCOMPARE(mStore->dumpConf(ConfStorage::DumpLocal), dump(500, 1700000000));
+}
+
+void tst_Constraints::constraintEndsWithItsKey()
+{
+    mStore->releaseConf("key");
+    QString text;
+    mStore->reserveConf("key", &text);
+    mStore->set("key", QStringLiteral("text"));
+    QCOMPARE(text, QStringLiteral("text"));
+    init();
+    mStore->reserveConf("key", &mValue);
+    QVERIFY(!mStore->hasConfConstraint("key"));
+    mStore->set("key", 0);
+    QCOMPARE(mValue, 0);
+}
+
+void tst_Constraints::valueOfAnotherTypeIsRefused()
+{
+    const LogCapture log;
+    for (const QJsonValue &other : {QJsonValue("text"), QJsonValue(), QJsonValue(1.5)}) {
+        mStore->setConfConstraint("key", [other](const QJsonValue &) { return other; });
+        mStore->set("key", 7);
+        QCOMPARE(mValue, 5);
+        QVERIFY(!mStore->mChanged);
+    }
+}
+
+void tst_Constraints::sameChangedValueIsLoadedOnce()
+{
+    const LogCapture log;
+    for (int i = 0; i < 3; ++i)
+        mStore->loadConf(dump(990), ConfStorage::LoadLocal);
+    QCOMPARE(mValue, 10);
+    QCOMPARE(mCalls, 1);
+    mStore->mFileOptions = ConfStorage::ResolveTies;
+    mStore->loadConf(dump(990), ConfStorage::LoadLocal);
+    QCOMPARE(mCalls, 1);
+}
+
+void tst_Constraints::lockedValueStays()
+{
+    const LogCapture log;
+    mStore->setConfConstraint("key", nullptr);
+    mStore->lockConf("key", 500);
+    mStore->setConfConstraint("key", oneToTen);
+    QCOMPARE(mValue, 500);
+}
+
+void tst_Constraints::logHandlerMayRemoveTheKeyThatIsSet()
+{
+    static ConfStorage *sStore = nullptr;
+    sStore = mStore.get();
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &) { sStore->releaseConf("key"); });
+    mStore->set(mStore->mConfValues.firstKey(), 500);
+    qInstallMessageHandler(previous);
+    QCOMPARE(mValue, 5);
 }
 
 void tst_Constraints::refusedEntryStaysInTheFile()
@@ -234,6 +313,58 @@ void tst_Constraints::secretIsMasked()
     QCOMPARE(changes.first().before.value, QJsonValue("***"));
     QCOMPARE(changes.first().after.value, QJsonValue("***"));
     QCOMPARE(token, QStringLiteral("hunter2"));
+}
+
+void tst_Constraints::secretThatIsKeptIsMasked()
+{
+    QString token;
+    mStore->mFileOptions = ConfStorage::KeepUnknownEntries;
+    mStore->reserveConf("token", &token);
+    mStore->mConfMetas["token"].flags |= ConfStorage::FlagSecret;
+    mStore->addFormerName("token", "older", true);
+    mStore->addFormerName("older", "oldest", true);
+    mStore->loadConf(QJsonObject{{"oldest", QJsonObject{{"t", 2000000000}, {"v", "hunter2"}}}},
+                     ConfStorage::LoadLocal);
+    QCOMPARE(token, QStringLiteral("hunter2"));
+    QVERIFY(mStore->debugTable().contains("oldest"));
+    QVERIFY(!mStore->debugTable().contains("hunter2"));
+    mStore->releaseConf("token");
+    QVERIFY(mStore->debugTable().contains("token"));
+    QVERIFY(!mStore->debugTable().contains("hunter2"));
+    QVERIFY(mStore->dumpConf(ConfStorage::DumpLocal).contains("token"));
+}
+
+void tst_Constraints::secretOfADynamicClassIsMasked()
+{
+    ConfStorage::DynamicConfClass cls{"D.", nullptr, nullptr, ConfStorage::FlagSecret};
+    cls.creator = [](const QString &, const QJsonValue *) {};
+    mStore->mDynamicConfClasses.append(&cls);
+    const auto changes = mStore->previewLoad(
+        QJsonObject{{"D.x", QJsonObject{{"t", 2000000000}, {"v", "hunter2"}}}},
+        ConfStorage::LoadLocal);
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().after.value, QJsonValue("***"));
+}
+
+void tst_Constraints::presetOfATypeWithAFormIsRestored()
+{
+    ConfStorage::DynamicConfClass cls{"D.", nullptr, nullptr, 0};
+    QMap<QString, int> numbers;
+    cls.creator = [&](const QString &key, const QJsonValue *value) {
+        numbers = MtConf::fromJsonForm<QMap<QString, int>>(*value).value();
+        mStore->reserveConf(key, &numbers);
+    };
+    mStore->mDynamicConfClasses.append(&cls);
+    mStore->mPresetDynamicConfs["D.x"] = QJsonObject{{"one", 1}};
+    mStore->loadPresetDynamicConf();
+    const QMap<QString, int> preset{{"one", 1}};
+    QCOMPARE(numbers, preset);
+    QVERIFY(mStore->isEqualToDefault("D.x"));
+    mStore->set("D.x", QMap<QString, int>{{"two", 2}});
+    const LogCapture log;
+    mStore->setToDefault("D.x", true);
+    QCOMPARE(numbers, preset);
+    QVERIFY(LogCapture::messages().isEmpty());
 }
 
 void tst_Constraints::misuseIsWarnedOfOnce()

@@ -44,6 +44,11 @@ private Q_SLOTS:
     void rowFollowsASettingOnAnotherPage();
     void rowWithTwoDependenciesNeedsBoth();
     void callbackMayCloseTheWindowOfADependentRow();
+    void callbackMayDeleteARowThatIsDisabled();
+    void callbackMayCloseTheWindowBeforeRestoring_data();
+    void callbackMayCloseTheWindowBeforeRestoring();
+    void constraintIsShownAfterAnEdit();
+    void typedTextIsSavedBesideOtherChanges();
     void messageIsShownUnderTheRow();
     void validatorMayCloseTheWindow();
     void rowsWithoutOptionsHaveNeitherMessageNorToolTip();
@@ -132,6 +137,68 @@ void tst_Rows::callbackMayCloseTheWindowOfADependentRow()
     mFixture->store()->set("General.A", true);
 }
 
+void tst_Rows::callbackMayDeleteARowThatIsDisabled()
+{
+    ConfItem *other = mFixture->addBool("A");
+    addText("B")->dependsOn(other, true);
+    QVERIFY(mFixture->open());
+    editor()->line->setFocus();
+    QTRY_VERIFY(editor()->line->hasFocus());
+    connect(editor()->line, &QLineEdit::editingFinished, editor(), [this] { delete editor(); });
+    mFixture->store()->set("General.A", false);
+    QVERIFY(!mItem->editor);
+}
+
+void tst_Rows::callbackMayCloseTheWindowBeforeRestoring_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("page") << false;
+    QTest::newRow("all") << true;
+}
+
+void tst_Rows::callbackMayCloseTheWindowBeforeRestoring()
+{
+    QFETCH(const bool, all);
+    addText("A")->setConfChangedCallback(
+        [this](const QString &, const ConfValue *) { delete mFixture->window(); });
+    QVERIFY(mFixture->open());
+    editor()->line->setText("typed");
+    const QPointer<QWidget> window(mFixture->window());
+    if (all)
+        mFixture->window()->restoreAllDefault();
+    else
+        mFixture->window()->restorePageDefault();
+    QVERIFY(!window);
+    QCOMPARE(mText, QStringLiteral("typed"));
+}
+
+void tst_Rows::constraintIsShownAfterAnEdit()
+{
+    addText("A");
+    mFixture->store()->setConfConstraint("General.A", [](const QJsonValue &value) {
+        return std::optional<QJsonValue>(value.toString().left(3));
+    });
+    QVERIFY(mFixture->open());
+    editor()->line->setText("too long");
+    editor()->commit();
+    QCOMPARE(mText, QStringLiteral("too"));
+    QCOMPARE(editor()->line->text(), QStringLiteral("too"));
+}
+
+void tst_Rows::typedTextIsSavedBesideOtherChanges()
+{
+    addText("A");
+    QVERIFY(mFixture->open());
+    mFixture->store()->mChanged = true;
+    editor()->line->setText("typed");
+    QMetaObject::invokeMethod(qApp, "aboutToQuit");
+    QVERIFY(QFile::exists(WindowFixture::localFile()));
+    QVERIFY(!mFixture->store()->mChanged);
+    mFixture->store()->mChanged = true; // of the host, which may not want to save it
+    QMetaObject::invokeMethod(qApp, "aboutToQuit");
+    QVERIFY(mFixture->store()->mChanged);
+}
+
 void tst_Rows::messageIsShownUnderTheRow()
 {
     addText("A")->setValidator([](const QJsonValue &value) {
@@ -193,6 +260,9 @@ void tst_Rows::helpIsToolTipAndDescription()
     QCOMPARE(editor()->toolTip(), QStringLiteral("<p>Less &lt; more.<br>From 1 to 2.5 px</p>"));
     QCOMPARE(editor()->label()->toolTip(), editor()->toolTip());
     QCOMPARE(editor()->line->accessibleDescription(), QStringLiteral("Less < more."));
+    const ConfItem *flag = mFixture->addBool("B")->setHelp("A switch.");
+    mFixture->window()->switchToView("General");
+    QCOMPARE(flag->editor->label()->toolTip(), QStringLiteral("<p>A switch.</p>"));
 }
 
 void tst_Rows::expertRowsAreShownOnRequest()
