@@ -278,7 +278,7 @@ void Declare::numbers(MtConfManage &m, Settings &s)
         ->setSuffix(" ×");
     m.addConfInt32(QT_TR_NOOP("Margin"), &s.margin, page, "Margin"_s)
         ->setRange(0, 64, MtConf::Enforced)
-        ->setSuffix(" px");
+        ->setSuffix(QT_TR_NOOP(" px"));
     m.addConfDuration(QT_TR_NOOP("Save every"), &s.autosave, page, "Autosave"_s)
         ->setRange(std::chrono::seconds(5), std::chrono::minutes(10));
     m.addConfDateTime(QT_TR_NOOP("Remind me"), &s.reminder, page, "Reminder"_s);

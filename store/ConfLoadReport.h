@@ -14,9 +14,9 @@ struct ConfLoadReport
 {
     /// Why an entry was refused.
     enum class Reason {
-        WrongType,    ///< the value has another JSON type than the setting; see `StrictTypes`
-        NotSavable,   ///< no local file could hold the value
-        FutureTime,   ///< the timestamp is too far ahead; see `RefuseFutureTimes`
+        WrongType,     ///< the value has another JSON type than the setting; see `StrictTypes`
+        NotSavable,    ///< no local file could hold the value
+        FutureTime,    ///< the timestamp is too far ahead; see `RefuseFutureTimes`
         LimitExceeded, ///< a key that is too long, or one key too many
         OutOfRange     ///< a constraint refuses the value; see `ConfStorage::setConfConstraint`
     };

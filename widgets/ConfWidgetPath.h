@@ -9,9 +9,9 @@ namespace MtConf {
 /// Edits a QString that is the path of a file or a folder. The user types the path or chooses it in
 /// a dialog.
 ///
-/// The property "Malto.PathKind" of the item is the `PathKind` as an int, a file to read without it. The
-/// property "Malto.Filters" contains the name filters of the dialog as `QFileDialog` takes them,
-/// untranslated.
+/// The property "Malto.PathKind" of the item is the `PathKind` as an int, a file to read without
+/// it. The property "Malto.Filters" contains the name filters of the dialog as `QFileDialog` takes
+/// them, untranslated.
 ///
 /// Paths are stored with "/" and shown with the separators of the system. "~" at the beginning is
 /// stored as the home folder of the user. A path that does not exist, or is of the other kind, is

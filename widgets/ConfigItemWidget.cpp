@@ -215,11 +215,15 @@ bool ConfigItemWidget::hasConstraint() const
 /// Enables or disables the editor and its caption, which may not exist yet.
 void ConfigItemWidget::setRowEnabled(bool isEnabled)
 {
-    // A control that loses the focus may store its text, and a callback may delete the editor.
+    // A control that is disabled loses the focus, and would store its text while Qt disables it.
     const Writing writing(this);
     mIsRowEnabled = isEnabled;
+    if (!isEnabled)
+        commit();
+    if (!writing.hasEditor()) // a callback has deleted it
+        return;
     setEnabled(isEnabled);
-    if (writing.hasEditor() && mLabel)
+    if (mLabel)
         mLabel->setEnabled(isEnabled);
 }
 

@@ -679,6 +679,10 @@ Add one, or restore the presets.</source>
         <source>Port</source>
         <translation>المنفذ</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> بكسل</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

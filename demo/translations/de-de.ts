@@ -679,6 +679,10 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <source>Port</source>
         <translation>Port</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -679,6 +679,10 @@ Add one, or restore the presets.</translation>
         <source>Port</source>
         <translation>Port</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

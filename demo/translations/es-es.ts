@@ -679,6 +679,10 @@ Añada uno o restaure los predefinidos.</translation>
         <source>Port</source>
         <translation>Puerto</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

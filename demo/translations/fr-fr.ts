@@ -679,6 +679,10 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <source>Port</source>
         <translation>Port</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -679,6 +679,10 @@ Add one, or restore the presets.</source>
         <source>Port</source>
         <translation>पोर्ट</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -679,6 +679,10 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <source>Port</source>
         <translation>Porta</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -679,6 +679,10 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <source>Port</source>
         <translation>Poort</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

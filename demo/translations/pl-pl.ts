@@ -679,6 +679,10 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <source>Port</source>
         <translation>Port</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

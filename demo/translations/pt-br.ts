@@ -679,6 +679,10 @@ Adicione um ou restaure os predefinidos.</translation>
         <source>Port</source>
         <translation>Porta</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

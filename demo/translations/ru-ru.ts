@@ -679,6 +679,10 @@ Add one, or restore the presets.</source>
         <source>Port</source>
         <translation>Порт</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> пикс.</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

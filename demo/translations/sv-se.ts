@@ -679,6 +679,10 @@ Lägg till en eller återställ de förinställda.</translation>
         <source>Port</source>
         <translation>Port</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -679,6 +679,10 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <source>Port</source>
         <translation>Bağlantı noktası</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

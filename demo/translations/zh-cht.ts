@@ -679,6 +679,10 @@ Add one, or restore the presets.</source>
         <source>Port</source>
         <translation>連接埠</translation>
     </message>
+    <message>
+        <source> px</source>
+        <translation> 像素</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>

@@ -55,10 +55,12 @@ QStringList fixedParts(const QString &text)
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
-        "%1, %2 px",     "&File",   "&HTML:", "Cache (MB)", "Capture",
-        "Distance (px)", "Font",    "Format", "General",    "Image",
-        "Mouse",         "Name",    "OK",     "Output",     "Quorvi Capture",
-        "System",        "Updates", "Zoom",   "page",
+        " d",         " h",        " min",   " ms",           " px",
+        " s",         "%1, %2 px", "&File",  "&HTML:",        "Capture",
+        "Cache (MB)", "Font",      "Format", "Distance (px)", "General",
+        "Host",       "Image",     "Logo",   "Mouse",         "Name",
+        "OK",         "Output",    "Port",   "Position",      "Quorvi Capture",
+        "System",     "Updates",   "Zoom",   "page",
     };
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
@@ -194,7 +196,9 @@ void tst_Translations::translationsKeepPlaceholdersLineBreaksAndMnemonics()
     for (const Message &message : messages) {
         const QByteArray where = message.source.toUtf8();
         QVERIFY2(fixedParts(message.translation) == fixedParts(message.source), where.constData());
-        QVERIFY2(message.translation == message.translation.trimmed(), where.constData());
+        // A unit follows its number, in most languages after a blank.
+        const bool isUnit = message.source.startsWith(' ');
+        QVERIFY2(isUnit || message.translation == message.translation.trimmed(), where.constData());
         QVERIFY2(mnemonic(message.translation).isEmpty() == mnemonic(message.source).isEmpty(),
                  where.constData());
     }

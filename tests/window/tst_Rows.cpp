@@ -140,13 +140,19 @@ void tst_Rows::callbackMayCloseTheWindowOfADependentRow()
 void tst_Rows::callbackMayDeleteARowThatIsDisabled()
 {
     ConfItem *other = mFixture->addBool("A");
-    addText("B")->dependsOn(other, true);
+    const ConfItem *text = mFixture->manager->addConfText("B", &mText, "General", "B")
+                               ->dependsOn(other, true);
+    text->setConfChangedCallback(
+        [text](const QString &, const ConfValue *) { delete text->editor; });
     QVERIFY(mFixture->open());
-    editor()->line->setFocus();
-    QTRY_VERIFY(editor()->line->hasFocus());
-    connect(editor()->line, &QLineEdit::editingFinished, editor(), [this] { delete editor(); });
+    auto *line = text->editor->findChild<QLineEdit *>();
+    mFixture->window()->activateWindow();
+    line->setFocus();
+    QTRY_VERIFY(line->hasFocus());
+    QTest::keyClicks(line, "typed");
     mFixture->store()->set("General.A", false);
-    QVERIFY(!mItem->editor);
+    QVERIFY(!text->editor);
+    QCOMPARE(mText, QStringLiteral("typed"));
 }
 
 void tst_Rows::callbackMayCloseTheWindowBeforeRestoring_data()
