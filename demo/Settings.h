@@ -86,8 +86,8 @@ struct Settings
     int repeatDelay = 400; ///< milliseconds
 
     QKeySequence showSettings{Qt::CTRL | Qt::Key_Comma};
-    QKeySequence saveNow{QKeySequence::Save};
-    QKeySequence quit{QKeySequence::Quit};
+    QKeySequence saveNow{Qt::CTRL | Qt::Key_S};
+    QKeySequence quit{Qt::CTRL | Qt::Key_Q};
 
     // Mouse: an action bit and `Qt::KeyboardModifier` bits
     int zoomAction = 0x04000000 | 64;    ///< the wheel with Ctrl (Command on macOS)

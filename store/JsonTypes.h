@@ -89,6 +89,7 @@ template<class T> std::optional<T> fromJsonForm(const QJsonValue &json)
 /// The operations of a type that has a `JsonForm`. They get pointers to variables of the type.
 struct JsonOperations
 {
+    /// Returns the JSON of the variable.
     QJsonValue (*toJson)(const void *variable);
     /// Returns false and leaves the variable unchanged if the JSON is refused.
     bool (*fromJson)(const QJsonValue &json, void *variable);

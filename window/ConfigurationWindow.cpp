@@ -224,8 +224,7 @@ void ConfigurationWindow::restorePageDefault()
 {
     // A callback may rebuild the page, which deletes its editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
-    commitEditors();
-    if (!self || !mManager || !confirm(tr("Are you sure to restore current page default?")))
+    if (!commitForRestore() || !confirm(tr("Are you sure to restore current page default?")))
         return;
     {
         const HostCodeScope scope(mHostCode);
@@ -242,8 +241,7 @@ void ConfigurationWindow::restorePageDefault()
 void ConfigurationWindow::restoreAllDefault()
 {
     const QPointer<ConfigurationWindow> self(this);
-    commitEditors();
-    if (!self || !mManager || !confirm(tr("Are you sure to restore all default?")) || !mManager)
+    if (!commitForRestore() || !confirm(tr("Are you sure to restore all default?")) || !mManager)
         return;
     {
         const HostCodeScope scope(mHostCode);
@@ -251,6 +249,16 @@ void ConfigurationWindow::restoreAllDefault()
     }
     if (self)
         rebuildPage();
+}
+
+/// Lets the editors store what is typed, before the default values are restored. Returns false if a
+/// callback has deleted the window or destroyed its manager.
+bool ConfigurationWindow::commitForRestore()
+{
+    const QPointer<ConfigurationWindow> self(this);
+    const MtConfManage *const manager = mManager;
+    commitEditors();
+    return self && mManager == manager;
 }
 
 bool ConfigurationWindow::confirm(const QString &question)

@@ -169,6 +169,7 @@ private:
     void addClassLabel(const QString &caption);
     void commitEditors();
     void commitBeforeQuit();
+    bool commitForRestore();
     void clearConfigItem();
 
     bool confirm(const QString &question);

@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>Stored data</source>
-        <translation>Datos guardados</translation>
+        <translation>Datos locales</translation>
     </message>
     <message>
         <source>Updates</source>

@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation>Kortkommandon</translation>
+        <translation>Kortkommando</translation>
     </message>
     <message>
         <source>Mouse</source>

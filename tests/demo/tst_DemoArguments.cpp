@@ -76,7 +76,7 @@ void tst_DemoArguments::invalidArgumentsOnlyPrintAMessage_data()
     row("unexpected argument", {"more"}, "Unexpected argument \"more\"");
     row("unknown page", {"--page", "Sound"},
         "Unknown page \"Sound\"; there are: General, Appearance, Capture, Hotkeys, Mouse, Output, "
-        "Profiles, System, Stored data");
+        "Texts, Numbers, Choices, Profiles, System, Stored data");
     row("unknown theme", {"--theme", "pink"},
         "Unknown theme \"pink\"; there are: system, light, dark");
     row("scale that is a word", {"--scale", "big"}, "Not a scale from 0.5 to 4: \"big\"");
@@ -122,16 +122,18 @@ void tst_DemoArguments::picturesShowEveryPageInBothThemes()
     const Run result = run({"--pictures", "pictures/new"});
     QCOMPARE(result.exitCode, 0);
     const QStringList paths = result.output.split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(paths.size(), 20);
+    QCOMPARE(paths.size(), 26);
     const QStringList files = QDir("pictures/new").entryList(QDir::Files, QDir::Name);
     QCOMPARE(files,
-             QStringList({"appearance-dark.png", "appearance-light.png", "capture-dark.png",
-                          "capture-light.png",   "general-dark.png",     "general-light.png",
-                          "hotkeys-dark.png",    "hotkeys-light.png",    "main-dark.png",
-                          "main-light.png",      "mouse-dark.png",       "mouse-light.png",
-                          "output-dark.png",     "output-light.png",     "profiles-dark.png",
-                          "profiles-light.png",  "stored-data-dark.png", "stored-data-light.png",
-                          "system-dark.png",     "system-light.png"}));
+             QStringList({"appearance-dark.png",   "appearance-light.png", "capture-dark.png",
+                          "capture-light.png",     "choices-dark.png",     "choices-light.png",
+                          "general-dark.png",      "general-light.png",    "hotkeys-dark.png",
+                          "hotkeys-light.png",     "main-dark.png",        "main-light.png",
+                          "mouse-dark.png",        "mouse-light.png",      "numbers-dark.png",
+                          "numbers-light.png",     "output-dark.png",      "output-light.png",
+                          "profiles-dark.png",     "profiles-light.png",   "stored-data-dark.png",
+                          "stored-data-light.png", "system-dark.png",      "system-light.png",
+                          "texts-dark.png",        "texts-light.png"}));
     for (const QString &path : paths) {
         const QImage picture(path);
         QVERIFY2(picture.width() > 400 && picture.height() > 400, qPrintable(path));

@@ -4,7 +4,8 @@
     extractBlocks.py <page.md> <out.cpp>
 
 A block of statements becomes the body of a function. A block after the line <!-- file scope --> or
-after the name of a file becomes a namespace, which the later blocks of the page use. #include lines of a
+after the name of a file becomes a namespace, which the later blocks of the page use; after
+<!-- global scope --> it stays outside of any, for specializations. #include lines of a
 block are moved in front of it, so a block may use its own includes and those of earlier blocks. A block
 after <!-- needs KConfig --> is at file scope, too, and compiled only if MALTO_DOCS_HAVE_KCONFIG is
 defined. Blocks that must not be compiled are not tagged cpp. Compiler messages name the page and its
@@ -38,7 +39,9 @@ def compiled(page):
         place = f'#line {start} "{page}"'
         includes = [line for line in lines if line.startswith("#include")]
         rest = ["" if line in includes else line for line in lines]
-        if mark in ("file scope", "needs KConfig") or "/" in mark:
+        if mark == "global scope":
+            block = [*includes, place, *rest]
+        elif mark in ("file scope", "needs KConfig") or "/" in mark:
             block = [*includes, f"namespace block_{start} {{", place, *rest, "}",
                      f"using namespace block_{start};"]
         else:
