@@ -270,12 +270,14 @@ template<class T> struct DefaultForm<std::optional<T>, std::enable_if_t<hasJsonF
 template<class T, class = void> inline constexpr bool isJsonList = false;
 
 /// @cond
+template<class T> using ElementOf = typename T::value_type;
 template<class T>
-inline constexpr bool isJsonList<T, std::void_t<decltype(std::declval<T &>().push_back(
-                                        std::declval<typename T::value_type>()))>> =
-    hasJsonForm<
-        typename T::
-            value_type> && !isSupplied<T> && !std::is_same_v<T, std::basic_string<typename T::value_type>>;
+using PushBackOf = decltype(std::declval<T &>().push_back(std::declval<ElementOf<T>>()));
+template<class T>
+inline constexpr bool isWideText = std::is_same_v<T, std::basic_string<ElementOf<T>>>;
+
+template<class T> inline constexpr bool isJsonList<T, std::void_t<PushBackOf<T>>> =
+    hasJsonForm<ElementOf<T>> && !isSupplied<T> && !isWideText<T>;
 /// @endcond
 
 /// An array.
