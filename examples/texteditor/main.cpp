@@ -40,14 +40,13 @@ struct Settings
 class Editor : public QMainWindow
 {
 public:
-    Editor(const Settings &settings, MtConf::MtConfManage &manager)
-        : mSettings(settings), mManager(manager)
+    explicit Editor(const Settings &settings) : mSettings(settings)
     {
         setCentralWidget(mText);
         statusBar()->addPermanentWidget(mPosition);
         QMenu *menu = menuBar()->addMenu("File");
         menu->addAction("Open…", this, [this] { open(); });
-        showSettings = menu->addAction("Settings…", this, [this] { mManager.ShowWindow(); });
+        showSettings = menu->addAction("Settings…", this, [this] { manager.ShowWindow(); });
         connect(mText, &QPlainTextEdit::cursorPositionChanged, this, [this] { apply(); });
     }
 
@@ -70,7 +69,7 @@ protected:
     void closeEvent(QCloseEvent *event) override
     {
         ConfStorage::instance()->set("Window.Geometry", saveGeometry());
-        mManager.closeConfigWindow();
+        manager.closeConfigWindow();
         QMainWindow::closeEvent(event);
     }
 
@@ -89,9 +88,11 @@ private:
     }
 
     const Settings &mSettings;
-    MtConf::MtConfManage &mManager;
     QPlainTextEdit *mText = new QPlainTextEdit(this);
     QLabel *mPosition = new QLabel(this);
+
+public:
+    MtConf::MtConfManage manager; // destroyed first: its window uses the rest
 };
 
 void declare(MtConf::MtConfManage &m, Settings &s, QAction *showSettings)
@@ -135,9 +136,8 @@ int main(int argc, char **argv)
     app.setApplicationName("malto-texteditor");
 
     Settings settings;
-    MtConf::MtConfManage manager;
-    Editor editor(settings, manager);
-    declare(manager, settings, editor.showSettings);
+    Editor editor(settings);
+    declare(editor.manager, settings, editor.showSettings);
     load();
     ConfStorage::instance()->addObserver([&editor](const ConfChange &) { editor.apply(); });
     editor.apply();
