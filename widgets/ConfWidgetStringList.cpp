@@ -60,6 +60,13 @@ ConfWidgetStringList::ConfWidgetStringList(ConfItem *item, QWidget *parent)
     loadConf();
 }
 
+ConfWidgetStringList::~ConfWidgetStringList()
+{
+    // The field of an entry that is edited in place emits the signal when the list is destroyed,
+    // which is after this object has ended.
+    mList->itemDelegate()->disconnect(this);
+}
+
 ConfigItemWidget *ConfWidgetStringList::CreatConfWidget(ConfItem *item, QWidget *parent)
 {
     return create<ConfWidgetStringList>(item, parent);

@@ -23,6 +23,7 @@ public:
     /// Creates an editor of `item`, which must not be null, as a child of `parent` and shows the
     /// stored list.
     ConfWidgetStringList(ConfItem *item, QWidget *parent);
+    ~ConfWidgetStringList() override;
     /// Creates the editor; the `WidgetCreator` of this class. Returns null, with the critical
     /// message "ConfigItemWidget without an item", if `item` is null.
     static ConfigItemWidget *CreatConfWidget(ConfItem *item, QWidget *parent);
