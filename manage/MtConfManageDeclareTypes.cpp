@@ -17,7 +17,7 @@
 #include <QPointer>
 #include <QShortcut>
 
-// The rest of the addConf family: types without a file of their own would make one file too long.
+// The addConf functions of the types that ConfValue does not have built in, and of new editors.
 
 namespace MtConf {
 

@@ -62,8 +62,8 @@ ConfWidgetStringList::ConfWidgetStringList(ConfItem *item, QWidget *parent)
 
 ConfWidgetStringList::~ConfWidgetStringList()
 {
-    // The field of an entry that is edited in place emits the signal when the list is destroyed,
-    // which is after this object has ended.
+    // Destroying the list ends editing in place, which emits the signal. The base class destroys
+    // it, so the slot would run on an object that is partly destroyed.
     mList->itemDelegate()->disconnect(this);
 }
 
