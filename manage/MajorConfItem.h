@@ -3,6 +3,7 @@
 /// @file
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -29,6 +30,17 @@ struct MajorConfItem
     /// Creates a custom page as a child of the given parent; empty: the page shows the editors.
     std::function<QWidget *(QWidget *)> majorWidget;
     int classFlag = 0; ///< `MajorConfFlag` bits and bits of the host
+
+    // Custom pages take part in the features of the window with these functions. Each may be empty.
+
+    /// Returns the texts that Find offers of the page, in the current language. `FindFeature`.
+    std::function<QStringList()> searchTexts;
+    /// Shows what the text of `searchTexts` names on the page that is shown. `FindFeature`.
+    std::function<void(const QString &text)> showSearchText;
+    /// Returns whether something on the page differs from its default. `ResetFeature`.
+    std::function<bool()> isChanged;
+    /// Restores the defaults of the page, in the modern look when the user resets the page.
+    std::function<void()> restoreDefault;
 };
 
 } // namespace MtConf

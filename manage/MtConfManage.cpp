@@ -1,6 +1,8 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include "DeclarationCheck_p.h"
+#include "ValueOrigins_p.h"
+#include "WindowMemory_p.h"
 
 #include <QDebug>
 
@@ -49,7 +51,18 @@ ConfItem *MtConfManage::addConfItem(ConfItem &item)
 /// Adds a copy of an item whose class need not exist.
 ConfItem *MtConfManage::addItem(const ConfItem &item)
 {
+    if (windowFeatures)
+        prepareFeatures();
     return appendKeepingAddresses(items, item, mSharedItems);
+}
+
+/// Creates what the features of the window need before the files are loaded.
+void MtConfManage::prepareFeatures()
+{
+    if ((windowFeatures & DetailsFeature) && !mOrigins)
+        mOrigins = std::make_unique<ValueOrigins>();
+    if (windowFeatures & (HostNameFeature | NavigationFeature))
+        WindowMemory::instance();
 }
 
 ConfItem *MtConfManage::getItemByName(const QString &majorName, const QString &name,

@@ -9,6 +9,8 @@
 #include <QObject>
 
 #include <chrono>
+#include <functional>
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -18,6 +20,32 @@ class QShortcut;
 namespace MtConf {
 
 class ConfigurationWindow;
+class ValueOrigins;
+
+/// Bits of `MtConfManage::windowFeatures`: what the settings window offers besides the editors. See
+/// docs/guide/window.md.
+///
+/// @since 0.1
+enum WindowFeatureFlag : quint32 {
+    FindFeature = 0x1,          ///< a field that finds settings on all pages
+    ResetFeature = 0x2,         ///< a button that resets one row, and marks of what has changed
+    UndoFeature = 0x4,          ///< undo and redo of each edit
+    DetailsFeature = 0x8,       ///< help under the captions, and where a value comes from
+    ImportExportFeature = 0x10, ///< import from a file with a preview, and export
+    LivePagesFeature = 0x20,    ///< open pages follow the store
+    NavigationFeature = 0x40,   ///< keys for closing, for the next page and for help
+    HostNameFeature = 0x80,     ///< the host's title and icon, and the geometry in the store
+    AllWindowFeatures = 0xff    ///< all of them
+};
+
+/// How the settings window looks.
+///
+/// @see MtConfManage::windowLook
+/// @since 0.1
+enum WindowLook {
+    ClassicLook, ///< captions and editors in two columns, in panels as wide as the window
+    ModernLook   ///< rows with editors at the right, in panels of limited width
+};
 
 /// The settings and classes that a host declares, in order, and the access to the settings window.
 ///
@@ -242,6 +270,15 @@ public:
     /// Whether pages that are built from now on show the items with `ConfItem::setExpert`.
     bool showExpertItems = false;
 
+    /// `WindowFeatureFlag` bits; none by default. Set them before the first declaration, because
+    /// some features keep settings of their own or follow the store from then on.
+    quint32 windowFeatures = 0;
+    /// How a settings window looks that is created from now on.
+    WindowLook windowLook = ClassicLook;
+    /// Called with the key of the focused row, or the class name if no row has the focus, when the
+    /// user presses F1 in the settings window. Needs `NavigationFeature`; may be empty.
+    std::function<void(const QString &key)> helpHook;
+
 Q_SIGNALS:
     /// Emitted after the language has changed and its translators are installed.
     void sigLanguageChange();
@@ -255,6 +292,12 @@ private:
     ConfItem *addChoiceItem(ConfItem &item, const char *text, QList<ConfChoice> choices);
     ConfItem *addDurationItem(ConfItem &item, const char *text, double secondsPerUnit);
     void commitEditors();
+
+    friend class ConfigurationWindow;
+    friend class WindowFeature;
+    void prepareFeatures();
+
+    std::unique_ptr<ValueOrigins> mOrigins; // null unless DetailsFeature is set
 
     // Lists that were shared when an element was appended. Kept so that pointers to their elements
     // stay valid.

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include "ConfItemIndex_p.h"
+#include "ValueOrigins_p.h"
 #include <MaltoConfiguration/manage/helpers.h>
 
 #include <QJsonObject>
@@ -24,6 +25,7 @@ void MtConfManage::_loadFromFile(QString path)
     const QJsonObject members = readJsonFromFile(path).object();
     ConfItemIndex index(items);
     const QPointer<MtConfManage> self(this); // a callback may destroy the manager
+    const ValueOrigins::ConfigurationFile file(mOrigins.get());
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
         const QString key = member.key();
         const ConfItem *item = index.find(key);

@@ -5,13 +5,17 @@
 #include "RowDependency_p.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
+#include <QPlainTextEdit>
 #include <QStyle>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -141,6 +145,30 @@ void ConfigItemWidget::retranslateUi()
 
 void ConfigItemWidget::commit() {}
 
+void ConfigItemWidget::refresh()
+{
+    const QPointer<ConfigItemWidget> self(this);
+    const bool wasRefreshing = std::exchange(mIsRefreshing, true);
+    loadConf();
+    if (!self)
+        return;
+    mIsRefreshing = wasRefreshing;
+    refreshLabelState();
+}
+
+bool ConfigItemWidget::isBeingEdited() const
+{
+    const QWidget *focused = window()->focusWidget();
+    if (!focused || !isAncestorOf(focused))
+        return false;
+    if (const auto *box = qobject_cast<const QAbstractSpinBox *>(focused))
+        focused = box->findChild<QLineEdit *>();
+    if (const auto *field = qobject_cast<const QLineEdit *>(focused))
+        return field->isModified();
+    const auto *text = qobject_cast<const QPlainTextEdit *>(focused);
+    return text && text->document()->isModified();
+}
+
 QLabel *ConfigItemWidget::messageLabel()
 {
     const bool hasMessage = mHasMessage || mItem->validator
@@ -184,6 +212,8 @@ QJsonValue ConfigItemWidget::readJson() const
 
 bool ConfigItemWidget::writeJson(const QJsonValue &value)
 {
+    if (mIsRefreshing)
+        return false;
     if (readJson() == value) {
         showMessage(QString());
         return false;

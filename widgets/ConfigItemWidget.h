@@ -59,6 +59,14 @@ public:
     /// nothing in editors that store each change at once.
     virtual void commit();
 
+    /// Shows the stored value after it has changed in another way than by this editor. Calls
+    /// `loadConf`, and stores nothing meanwhile.
+    void refresh();
+
+    /// Returns whether the user has typed something into the focused field of this editor since
+    /// the value was shown. A refresh would overwrite it.
+    virtual bool isBeingEdited() const;
+
     /// Returns the label that says why a value is not accepted. The window shows it under the row.
     /// The first call creates it, hidden, as a child of the parent of this widget. Null if the
     /// editor accepts every value: its item has neither a range nor a validator, and the editor has
@@ -99,8 +107,8 @@ protected:
     }
 
     /// Stores `value` if it differs from the stored value. Returns false if it does not differ, if
-    /// the validator of the item or the store does not accept it, or if a callback has deleted this
-    /// editor; the caller must then return without using it.
+    /// the validator of the item or the store does not accept it, during `refresh`, or if a
+    /// callback has deleted this editor; the caller must then return without using it.
     template<class T> bool writeValue(const T &value)
     {
         if (readValue<T>() != value)
@@ -110,10 +118,12 @@ protected:
     }
 
     /// Stores `value`, even if it equals the stored value. Returns false if the validator of the
-    /// item or the store does not accept it, or if a callback has deleted this editor; the caller
-    /// must then return without using it.
+    /// item or the store does not accept it, during `refresh`, or if a callback has deleted this
+    /// editor; the caller must then return without using it.
     template<class T> bool storeValue(const T &value)
     {
+        if (mIsRefreshing)
+            return false;
         if (mItem->validator && !isAccepted(ConfValue::owned(value).toJsonValue()))
             return false;
         const Writing writing(this);
@@ -175,6 +185,7 @@ private:
     QPointer<QLabel> mMessage;
     bool mHasMessage = false;
     bool mIsRowEnabled = true;
+    bool mIsRefreshing = false;
     int mWrites = 0;
 };
 

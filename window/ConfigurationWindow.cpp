@@ -1,10 +1,11 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "ClassicPageBuilder_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
+#include "WindowFeature_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
-#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <OrvUtils/SetWindowTopmost.h>
 
@@ -95,6 +96,9 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     connect(qApp, &QCoreApplication::aboutToQuit, this, &ConfigurationWindow::commitBeforeQuit);
 
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
+    mBuilder = std::make_unique<ClassicPageBuilder>(mUi->gboxConfigBoard, mUi->layoutConfigItem,
+                                                    mScale, mManager && mManager->windowFeatures);
+    addFeatures();
     retranslateUi();
 
     openPage(mClassModel->index(0, 0));
@@ -194,6 +198,7 @@ bool ConfigurationWindow::event(QEvent *event)
 
 void ConfigurationWindow::closeEvent(QCloseEvent *event)
 {
+    tellFeatures(&WindowFeature::windowClosed);
     QMainWindow::closeEvent(event);
     if (mManager)
         mManager->saveToFile();
@@ -228,10 +233,10 @@ void ConfigurationWindow::restorePageDefault()
         return;
     {
         const HostCodeScope scope(mHostCode);
-        const QList<QPointer<ConfigItemWidget>> editors = mEditors;
-        for (const QPointer<ConfigItemWidget> &editor : editors) {
-            if (editor)
-                editor->restoreDefault();
+        const QList<PageRow> rows = mRows;
+        for (const PageRow &row : rows) {
+            if (row.editor)
+                row.editor->restoreDefault();
         }
     }
     if (self)

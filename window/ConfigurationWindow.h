@@ -12,11 +12,10 @@
 #include <QPointer>
 #include <QString>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
-class QGridLayout;
-class QGroupBox;
-class QLabel;
 class QModelIndex;
 class QStandardItem;
 class QStandardItemModel;
@@ -25,10 +24,12 @@ class Ui_ConfigurationWindow;
 namespace MtConf {
 
 class ConfItem;
-class ConfigItemWidget;
 class ConfigurationWindow;
 class HostCode;
 class MtConfManage;
+class PageBuilder;
+class WindowFeature;
+struct PageRow;
 
 /// Shows the settings window and returns it. An existing window is raised, and restored if it is
 /// minimised; `manager` is ignored then. Otherwise creates the window of `manager`. Returns null
@@ -136,6 +137,7 @@ private:
     friend MALTO_EXPORT ConfigurationWindow *ShowConfigurationWindow(MtConfManage *manager);
     friend MALTO_EXPORT void setStaysOnTopHint(bool on);
     friend class MtConfManage;
+    friend class WindowFeature;
 
     static constexpr int sClassNameRole = Qt::UserRole + 1;
 
@@ -159,14 +161,19 @@ private:
     void onClassItemChange(const QModelIndex &current, const QModelIndex &previous);
     void onClassItemClick(const QModelIndex &index);
     void showPage(const QPersistentModelIndex &index);
+    void showItems(const QList<std::pair<QString, QList<ConfItem *>>> &groups);
+    void replacePage(const std::function<void()> &build);
     void buildPage(const QString &className);
     void addItemPage(const QString &className, int classFlag);
-    void addClassItemWidgets(const QString &caption, const QList<ConfItem *> &items, int flags);
-    bool addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid);
+    void addGroup(const QString &caption, const QString &source, const QList<ConfItem *> &items,
+                  int flags);
+    bool addItemWidget(ConfItem *item, const QString &group, bool isLast);
+    void endPage();
     void describePage();
     void orderTabs();
     bool isShown(ConfItem *item) const;
-    void addClassLabel(const QString &caption);
+    void addFeatures();
+    void tellFeatures(void (WindowFeature::*happened)());
     void commitEditors();
     void commitBeforeQuit();
     bool commitForRestore();
@@ -180,8 +187,9 @@ private:
     MtConfManage *mManager;
     std::shared_ptr<const void> mDetachedItems;
     QStandardItemModel *mClassModel = nullptr;
-    QList<QPointer<ConfigItemWidget>> mEditors;
-    QList<QLabel *> mClassCaptions;
+    std::unique_ptr<PageBuilder> mBuilder;
+    QList<PageRow> mRows;
+    QList<QPointer<WindowFeature>> mFeatures;
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
     QPersistentModelIndex mNextPage;

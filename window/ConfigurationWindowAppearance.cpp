@@ -1,12 +1,11 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "MaltoConfiguration/widgets/HostCode_p.h"
+#include "WindowFeature_p.h"
 #include "WindowGeometryFile_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include "QtCompat_p.h"
-
-#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <OrvUtils/OrvScreenManager.h>
 #include <OrvUtils/QThemeCtrl.h>
@@ -138,6 +137,7 @@ void ConfigurationWindow::loadQss()
     mScale = screenScale();
     setQssForWidget(this, mScale);
     refreshItemIcon();
+    tellFeatures(&WindowFeature::sheetApplied);
     // The button applies the window's new sheet only after it is polished again.
     QTimer::singleShot(0, this, [this] {
         QStyle *style = mUi->btnRestoreDefault->style();
@@ -178,16 +178,24 @@ void ConfigurationWindow::retranslateUi()
     mUi->retranslateUi(this);
     // An editor of the host may open another page or close the window.
     const HostCodeScope scope(mHostCode);
-    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
-    for (const QPointer<ConfigItemWidget> &editor : editors) {
-        if (editor)
-            editor->retranslateUi();
+    const QPointer<ConfigurationWindow> self(this);
+    const QList<PageRow> rows = mRows;
+    for (const PageRow &row : rows) {
+        if (row.editor)
+            row.editor->retranslateUi();
     }
+    if (!self)
+        return;
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
         row.key()->setText(translatedName(row.value()));
-    for (QLabel *caption : std::as_const(mClassCaptions))
-        caption->setText(translatedName(caption->property("SourceText").toString()));
+    const QList<QLabel *> labels = mUi->gboxConfigBoard->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        const QString source = label->property("SourceText").toString();
+        if (!source.isEmpty())
+            label->setText(translatedName(source));
+    }
     describePage();
+    tellFeatures(&WindowFeature::retranslate);
 }
 
 } // namespace MtConf

@@ -1,14 +1,12 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "MaltoConfiguration/widgets/HostCode_p.h"
+#include "PageBuilder_p.h"
+#include "WindowFeature_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
-#include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QLabel>
 #include <QPersistentModelIndex>
 #include <QTimer>
 
@@ -16,15 +14,6 @@
 #include <utility>
 
 namespace MtConf {
-
-namespace {
-
-constexpr int sGridSpacing = 12; // points
-
-/// The property of a group box that holds the untranslated caption.
-constexpr char sGroupName[] = "GroupName";
-
-} // namespace
 
 void ConfigurationWindow::onClassItemClick(const QModelIndex &index)
 {
@@ -45,21 +34,46 @@ void ConfigurationWindow::showPage(const QPersistentModelIndex &index)
         mIsNextPageWanted = true;
         return;
     }
+    replacePage(
+        [this, className = index.data(sClassNameRole).toString()] { buildPage(className); });
+}
+
+/// Shows items of several classes. Does nothing while a page is being built.
+void ConfigurationWindow::showItems(const QList<std::pair<QString, QList<ConfItem *>>> &groups)
+{
+    const QPointer<ConfigurationWindow> self(this);
+    commitEditors();
+    if (!self || !mManager || mBuildingPage)
+        return;
+    replacePage([this, self, groups] {
+        mUi->btnRestoreDefault->hide();
+        for (const auto &[caption, items] : groups) {
+            if (self && mManager)
+                addGroup(caption, QString(), items, 0);
+        }
+        if (self)
+            endPage();
+    });
+}
+
+/// Deletes the widgets of the page and calls `build`, which creates others.
+void ConfigurationWindow::replacePage(const std::function<void()> &build)
+{
     // Host code that builds part of the page may delete the window.
     const QPointer<ConfigurationWindow> self(this);
-    const QString className = index.data(sClassNameRole).toString();
     mBuildingPage = true;
     clearConfigItem();
     if (self && mManager) {
         const HostCodeScope scope(mHostCode);
-        buildPage(className);
+        build();
     }
     if (!self)
         return;
     mBuildingPage = false;
     describePage();
     orderTabs();
-    if (mIsNextPageWanted) {
+    tellFeatures(&WindowFeature::pageShown);
+    if (self && mIsNextPageWanted) {
         mIsNextPageWanted = false;
         QTimer::singleShot(0, this, [this] { onClassItemClick(mNextPage); });
     }
@@ -98,58 +112,35 @@ void ConfigurationWindow::addItemPage(const QString &className, int classFlag)
     }
     const QPointer<ConfigurationWindow> self(this);
     if (!ungrouped.isEmpty())
-        addClassItemWidgets(className, ungrouped, classFlag);
+        addGroup(translatedName(className), className, ungrouped, classFlag);
     for (const QString &name : std::as_const(groupNames)) {
         if (self && mManager)
-            addClassItemWidgets(name, groups.value(name), classFlag);
+            addGroup(translatedName(name), name, groups.value(name), classFlag);
     }
-    if (!self)
-        return;
+    if (self)
+        endPage();
+}
+
+/// Keeps the rows at the top of the page, and shows the first one.
+void ConfigurationWindow::endPage()
+{
     mUi->layoutConfigItem->addItem(
         new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding));
     mUi->scrollArea->ensureVisible(0, 0, 50, 50);
 }
 
-void ConfigurationWindow::addClassItemWidgets(const QString &caption,
-                                              const QList<ConfItem *> &items, int flags)
+void ConfigurationWindow::addGroup(const QString &caption, const QString &source,
+                                   const QList<ConfItem *> &items, int flags)
 {
-    const bool bare = flags & ClassWithoutGroupBoxes;
-    if (!bare)
-        addClassLabel(caption);
-
-    // Created in its final parent, because a new parent would polish every widget inside again.
-    auto *box = new QGroupBox(mUi->gboxConfigBoard);
-    box->setProperty(sGroupName, caption);
-    box->setObjectName(QStringLiteral("ConfigGroupBox"));
-    auto *grid = new QGridLayout;
-    grid->setSpacing(0);
-    grid->setObjectName(QStringLiteral("layoutConfigItem"));
-    box->setLayout(grid);
-    if (bare) {
-        box->setProperty("NoGroupBox", QStringLiteral("1"));
-        box->setContentsMargins(0, 0, 0, 0);
-        grid->setContentsMargins(0, 0, 0, 0);
-    } else {
-        const int spacing = static_cast<int>(mScale * sGridSpacing);
-        grid->setContentsMargins(spacing, spacing, spacing, spacing);
-        grid->setSpacing(spacing);
-        grid->setProperty("SourceSpacing", sGridSpacing);
-    }
-
-    const QPointer<QGroupBox> guard(box); // null once the window is deleted
+    const QPointer<ConfigurationWindow> self(this);
+    mBuilder->beginGroup(caption, source, flags);
     for (int i = 0; mManager && i < items.size(); ++i) {
-        const bool added = isShown(items.at(i)) && guard && addItemWidget(items.at(i), box, grid);
-        if (!guard)
+        if (isShown(items.at(i)) && self)
+            addItemWidget(items.at(i), source.isEmpty() ? caption : source, i + 1 == items.size());
+        if (!self)
             return;
-        if (added && i + 1 < items.size()) {
-            auto *line = new QFrame(box);
-            line->setProperty("class", QStringLiteral("SplitLine"));
-            line->setFrameShape(QFrame::HLine);
-            line->setFrameShadow(QFrame::Sunken);
-            grid->addWidget(line, grid->rowCount(), 0, 1, 2);
-        }
     }
-    mUi->layoutConfigItem->addWidget(box);
+    mBuilder->endGroup();
 }
 
 bool ConfigurationWindow::isShown(ConfItem *item) const
@@ -163,26 +154,30 @@ bool ConfigurationWindow::isShown(ConfItem *item) const
     return filter && filter(*item);
 }
 
-bool ConfigurationWindow::addItemWidget(ConfItem *item, QGroupBox *box, QGridLayout *grid)
+bool ConfigurationWindow::addItemWidget(ConfItem *item, const QString &group, bool isLast)
 {
     // The window leaves out items without an editor.
     const WidgetCreator creator =
         item->widgetCreator; // a copy: the host may replace it in the call
-    const QPointer<QGroupBox> guard(box);
-    ConfigItemWidget *editor = creator ? creator(item, box) : nullptr;
-    if (!guard || !editor)
+    const QPointer<QWidget> parent(creator ? mBuilder->newRowParent() : nullptr);
+    ConfigItemWidget *const editor = parent ? creator(item, parent) : nullptr;
+    if (!parent || !editor) {
+        if (parent)
+            mBuilder->dropRow();
         return false;
-    QWidget *caption = editor->label();
-    const int row = grid->rowCount();
-    if (caption) {
-        grid->addWidget(editor, row, 1);
-        grid->addWidget(caption, row, 0);
-    } else {
-        grid->addWidget(editor, row, 0, 1, 2);
     }
-    if (QWidget *message = editor->messageLabel())
-        grid->addWidget(message, grid->rowCount(), caption ? 1 : 0);
-    mEditors.append(editor);
+    PageRow row;
+    row.item = item;
+    row.group = group;
+    row.editor = editor;
+    row.caption = editor->label();
+    row.message = editor->messageLabel();
+    mBuilder->addRow(&row, isLast);
+    for (const QPointer<WindowFeature> &feature : std::as_const(mFeatures)) {
+        if (feature)
+            feature->rowAdded(row);
+    }
+    mRows.append(row);
     return true;
 }
 
@@ -192,20 +187,11 @@ void ConfigurationWindow::commitEditors()
     if (mBuildingPage)
         return;
     const HostCodeScope scope(mHostCode);
-    const QList<QPointer<ConfigItemWidget>> editors = mEditors;
-    for (const QPointer<ConfigItemWidget> &editor : editors) {
-        if (editor)
-            editor->commit();
+    const QList<PageRow> rows = mRows;
+    for (const PageRow &row : rows) {
+        if (row.editor)
+            row.editor->commit();
     }
-}
-
-void ConfigurationWindow::addClassLabel(const QString &caption)
-{
-    auto *label = new QLabel(translatedName(caption), mUi->gboxConfigBoard);
-    label->setProperty("SourceText", caption);
-    label->setProperty("ClassLabel", QStringLiteral("normal"));
-    mClassCaptions.append(label);
-    mUi->layoutConfigItem->addWidget(label);
 }
 
 void ConfigurationWindow::describePage()
@@ -214,13 +200,12 @@ void ConfigurationWindow::describePage()
     const QString page = mUi->configList->currentIndex().data().toString();
     mUi->scrollArea->setAccessibleName(page);
     mUi->gboxConfigBoard->setAccessibleName(page);
-    for (const QPointer<ConfigItemWidget> &editor : std::as_const(mEditors)) {
-        QWidget *box = editor ? editor->parentWidget() : nullptr;
-        if (!box) // a host may have deleted the editor or moved it
+    for (const PageRow &row : std::as_const(mRows)) {
+        if (!row.editor || !row.frame) // a host may have deleted the editor
             continue;
-        const QString group = translatedName(box->property(sGroupName).toString());
-        box->setAccessibleName(group);
-        editor->describeControls(group);
+        const QString group = translatedName(row.group);
+        row.frame->setAccessibleName(group);
+        row.editor->describeControls(group);
     }
 }
 
@@ -240,8 +225,8 @@ void ConfigurationWindow::orderTabs()
 
 void ConfigurationWindow::clearConfigItem()
 {
-    mEditors.clear();
-    mClassCaptions.clear();
+    tellFeatures(&WindowFeature::pageCleared);
+    mRows.clear();
     while (const auto item = std::unique_ptr<QLayoutItem>(mUi->layoutConfigItem->takeAt(0)))
         mHostCode->deleteWidget(item->widget());
 }

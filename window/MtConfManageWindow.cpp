@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include "MaltoConfiguration/manage/DeclarationCheck_p.h"
+#include "MaltoConfiguration/manage/ValueOrigins_p.h"
 
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 

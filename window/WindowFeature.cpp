@@ -1,0 +1,88 @@
+#include "WindowFeature_p.h"
+
+#include "ui_ConfigurationWindow.h"
+
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+namespace MtConf {
+
+WindowFeature::WindowFeature(ConfigurationWindow *window) : QObject(window), mWindow(window) {}
+
+void WindowFeature::rowAdded(const PageRow &row)
+{
+    Q_UNUSED(row)
+}
+
+void WindowFeature::pageShown() {}
+
+void WindowFeature::pageCleared() {}
+
+void WindowFeature::sheetApplied() {}
+
+void WindowFeature::retranslate() {}
+
+void WindowFeature::windowClosed() {}
+
+MtConfManage *WindowFeature::manager() const
+{
+    return mWindow->mManager;
+}
+
+std::shared_ptr<HostCode> WindowFeature::hostCode() const
+{
+    return mWindow->mHostCode;
+}
+
+QListView *WindowFeature::classList() const
+{
+    return mWindow->mUi->configList;
+}
+
+QVBoxLayout *WindowFeature::classColumn() const
+{
+    return mWindow->mUi->verticalLayout_3;
+}
+
+QScrollArea *WindowFeature::scrollArea() const
+{
+    return mWindow->mUi->scrollArea;
+}
+
+const QList<PageRow> &WindowFeature::rows() const
+{
+    return mWindow->mRows;
+}
+
+PageBuilder *WindowFeature::builder() const
+{
+    return mWindow->mBuilder.get();
+}
+
+double WindowFeature::scale() const
+{
+    return mWindow->mScale;
+}
+
+int WindowFeature::scaled(double pixels) const
+{
+    constexpr double sPointsPerInch = 72;
+    constexpr double sDesignDotsPerInch = 96;
+    return qRound(pixels * mWindow->mScale * sPointsPerInch / sDesignDotsPerInch);
+}
+
+void WindowFeature::showItems(const QList<std::pair<QString, QList<ConfItem *>>> &groups)
+{
+    mWindow->showItems(groups);
+}
+
+void WindowFeature::rebuildPage()
+{
+    mWindow->rebuildPage();
+}
+
+QString WindowFeature::translatedName(const QString &name)
+{
+    return ConfigurationWindow::translatedName(name);
+}
+
+} // namespace MtConf
