@@ -1,5 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetDuration.h>
 
+#include "EditorTexts_p.h"
+
 #include <cmath>
 
 namespace MtConf {
@@ -23,14 +25,21 @@ ConfItem *withUnit(ConfItem *item)
 {
     if (item->properties.contains(QStringLiteral("Malto.Suffix")))
         return item;
-    for (const Unit &unit : sUnits) {
-        if (std::abs(item->secondsPerUnit() / unit.seconds - 1) < 1e-9)
-            item->setSuffix(unit.suffix);
-    }
+    if (const char *suffix = unitSuffix(*item))
+        item->setSuffix(suffix);
     return item;
 }
 
 } // namespace
+
+const char *unitSuffix(const ConfItem &item)
+{
+    for (const Unit &unit : sUnits) {
+        if (std::abs(item.secondsPerUnit() / unit.seconds - 1) < 1e-9)
+            return unit.suffix;
+    }
+    return nullptr;
+}
 
 ConfWidgetDuration::ConfWidgetDuration(ConfItem *item, QWidget *parent)
     : ConfDefWidgetDouble(withUnit(item), parent)

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
 #include "CheckedFlags_p.h"
+#include "EditorTexts_p.h"
 #include "Glyphs_p.h"
 
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
@@ -14,6 +15,8 @@
 #include <QListView>
 #include <QStyle>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace MtConf {
@@ -47,6 +50,17 @@ constexpr MouseAction sActions[] = {
     {2, 512, QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Middle Drag")},
 };
 
+struct Modifier
+{
+    const char *symbol;
+    Qt::KeyboardModifier flag;
+};
+
+constexpr Modifier sModifiers[] = {{"⇧", Qt::ShiftModifier},
+                                   {"⌘", Qt::ControlModifier},
+                                   {"⌥", Qt::AltModifier},
+                                   {"⌃", Qt::MetaModifier}};
+
 /// Returns `value` with both bits of a click and its double click if it has one of them: a double
 /// click starts with a click, so the two are in conflict.
 int conflictKey(int value)
@@ -60,16 +74,30 @@ int conflictKey(int value)
 
 } // namespace
 
+QString mouseActionText(int value)
+{
+    const auto action = std::find_if(
+        std::begin(sActions), std::end(sActions),
+        [value](const MouseAction &listed) { return listed.value == (value & sActionBits); });
+    if (action == std::end(sActions))
+        return QString();
+    QString symbols;
+    for (const Modifier &modifier : sModifiers) {
+        if (value & modifier.flag)
+            symbols += QString::fromUtf8(modifier.symbol);
+    }
+    const QString text = ConfWidgetMouseAction::tr(action->text);
+    return symbols.isEmpty() ? text : symbols + QLatin1String(" + ") + text;
+}
+
 QList<ConfWidgetMouseAction *> ConfWidgetMouseAction::sConflictList;
 
 ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, int kind)
     : ConfigItemWidget(item, parent), mModifierBox(new MultiSelectComboBox(this)),
       mActionBox(new ComboboxDisableWheel(this)), mStateLabel(new QLabel(this))
 {
-    mModifierBox->addItem(QStringLiteral("⇧"), static_cast<int>(Qt::ShiftModifier));
-    mModifierBox->addItem(QStringLiteral("⌘"), static_cast<int>(Qt::ControlModifier));
-    mModifierBox->addItem(QStringLiteral("⌥"), static_cast<int>(Qt::AltModifier));
-    mModifierBox->addItem(QStringLiteral("⌃"), static_cast<int>(Qt::MetaModifier));
+    for (const Modifier &modifier : sModifiers)
+        mModifierBox->addItem(QString::fromUtf8(modifier.symbol), static_cast<int>(modifier.flag));
     // Style sheets apply to the rows of this view, not to those of the default view.
     mActionBox->setView(new QListView(mActionBox));
     addActions(kind);

@@ -1,5 +1,7 @@
 #include "DateTimeBox_p.h"
 
+#include "EditorTexts_p.h"
+
 #include <MaltoConfiguration/manage/ConfItem.h>
 
 #include <QCalendarWidget>
@@ -9,6 +11,20 @@
 #include <QSignalBlocker>
 
 namespace MtConf {
+
+QString dateTimeFormat(const QLocale &locale, const QDateTime &time)
+{
+    QString date = locale.dateFormat(QLocale::ShortFormat);
+    if (!date.contains(QLatin1String("yyyy")))
+        date.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    QString clock = locale.timeFormat(QLocale::ShortFormat);
+    const bool hasSeconds = time.isValid() && time.time().second() != 0;
+    if (hasSeconds && !clock.contains(QLatin1String("ss")))
+        clock.replace(QLatin1String("mm"), QLatin1String("mm:ss"));
+    else if (!hasSeconds)
+        clock.remove(QLatin1String(":ss"));
+    return date + QLatin1Char(' ') + clock;
+}
 
 DateTimeBox::DateTimeBox(const ConfItem &item, QWidget *parent) : PageSpinBox(parent)
 {
@@ -30,16 +46,7 @@ QDateTime DateTimeBox::time() const
 void DateTimeBox::showTime(const QDateTime &time)
 {
     const QDateTime local = time.toLocalTime();
-    QString date = locale().dateFormat(QLocale::ShortFormat);
-    if (!date.contains(QLatin1String("yyyy")))
-        date.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    QString clock = locale().timeFormat(QLocale::ShortFormat);
-    const bool hasSeconds = local.isValid() && local.time().second() != 0;
-    if (hasSeconds && !clock.contains(QLatin1String("ss")))
-        clock.replace(QLatin1String("mm"), QLatin1String("mm:ss"));
-    else if (!hasSeconds)
-        clock.remove(QLatin1String(":ss"));
-    setDisplayFormat(date + QLatin1Char(' ') + clock);
+    setDisplayFormat(dateTimeFormat(locale(), local));
     setDateTime(local.isValid() ? local : minimumDateTime());
 }
 
