@@ -171,7 +171,6 @@ private:
     void endPage();
     void describePage();
     void orderTabs();
-    bool isShown(ConfItem *item) const;
     void addFeatures();
     void tellFeatures(void (WindowFeature::*happened)());
     void commitEditors();

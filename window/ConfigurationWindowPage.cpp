@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "MaltoConfiguration/manage/ItemVisibility_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "PageBuilder_p.h"
 #include "WindowFeature_p.h"
@@ -135,23 +136,12 @@ void ConfigurationWindow::addGroup(const QString &caption, const QString &source
     const QPointer<ConfigurationWindow> self(this);
     mBuilder->beginGroup(caption, source, flags);
     for (int i = 0; mManager && i < items.size(); ++i) {
-        if (isShown(items.at(i)) && self)
+        if (isItemShown(*mManager, items.at(i)) && self)
             addItemWidget(items.at(i), source.isEmpty() ? caption : source, i + 1 == items.size());
         if (!self)
             return;
     }
     mBuilder->endGroup();
-}
-
-bool ConfigurationWindow::isShown(ConfItem *item) const
-{
-    if (item->properties.value(QStringLiteral("Malto.Expert")).toBool()
-        && !mManager->showExpertItems)
-        return false;
-    if (!(item->flags & ItemIsFiltered))
-        return true;
-    const auto filter = mManager->itemFilter; // a copy: the host may replace it in the call
-    return filter && filter(*item);
 }
 
 bool ConfigurationWindow::addItemWidget(ConfItem *item, const QString &group, bool isLast)
