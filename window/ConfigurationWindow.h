@@ -56,6 +56,9 @@ MALTO_EXPORT void setStaysOnTopHint(bool on);
 ///
 /// The two files are skipped if `ConfigurationWindow::sSheetsOfWorkingDirectory` is false.
 ///
+/// From then on a ring in the accent colour surrounds whatever has the keyboard focus in `widget`
+/// and in its dialogs.
+///
 /// @see ConfigurationWindow::loadQss, QThemeCtrl::handleQssFile
 /// @since 0.1
 MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);

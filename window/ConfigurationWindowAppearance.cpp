@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "FocusRing_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "WindowFeature_p.h"
 #include "WindowGeometryFile_p.h"
@@ -85,6 +86,8 @@ void setQssForWidget(QWidget *widget, double scale)
         QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
         {QStringLiteral(":/qss/ConfigurationWindow")});
     QThemeCtrl::instance()->handleQssFile(widget, {common, own}, scale);
+    if (widget)
+        FocusRing::follow(widget);
 }
 
 double ConfigurationWindow::screenScale() const

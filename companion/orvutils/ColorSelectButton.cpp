@@ -146,7 +146,7 @@ void ColorSelectButton::drawSwatch(QPainter *painter, const QRectF &rect) const
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(border, 1));
     painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), sSwatchRadius, sSwatchRadius);
-    if (hasFocus()) {
+    if (hasFocus() && !testAttribute(Qt::WA_StyleSheetTarget)) {
         painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), sSwatchRadius, sSwatchRadius);
         painter->setPen(QPen(palette().color(QPalette::Base), 1));

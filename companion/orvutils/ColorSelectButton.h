@@ -16,7 +16,8 @@ class QColorDialog;
 /// The dialog is the system's native one where Qt has one, except in a window that stays on top: a
 /// native dialog may open behind such a window, so Qt's own dialog is used there.
 ///
-/// With a style sheet the swatch fills the content rectangle, inside the border and padding.
+/// With a style sheet the swatch fills the content rectangle, inside the border and padding, and
+/// the sheet shows the focus.
 ///
 /// @since 0.1
 class ORVUTILS_EXPORT ColorSelectButton : public QPushButton
