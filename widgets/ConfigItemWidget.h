@@ -73,6 +73,9 @@ public:
     /// not called `setHasMessage`.
     QLabel *messageLabel();
 
+    /// Returns the range of the item in words, such as "From 1 to 99 px"; empty if it has none.
+    QString rangeText() const;
+
     /// Sets the accessible texts of the controls for screen readers: the caption as the accessible
     /// name, and the help text of the item, or else `group`, the caption of the group, as the
     /// accessible description, unless the editor has set its own. The caption becomes the buddy of
@@ -141,9 +144,6 @@ protected:
 
     /// Returns the label of the item in the current language.
     QString translatedText() const;
-    /// Returns the range of the item in words, such as "From 1 to 99 px"; empty if it has none.
-    QString rangeText() const;
-
     /// Lets the editor show messages of its own; see `messageLabel`. To be called by constructors.
     void setHasMessage() { mHasMessage = true; }
     /// Shows `text` under the row, or hides the message if it is empty. Does nothing if the editor

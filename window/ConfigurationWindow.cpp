@@ -67,7 +67,8 @@ void setStaysOnTopHint(bool on)
 }
 
 ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
-    : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager)
+    : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager),
+      mUsesFiles(!manager || !(manager->windowFeatures & HostNameFeature))
 {
     mHostCode = HostCode::of(this);
     // Host code that builds the first page below may call instance().
@@ -101,7 +102,7 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     addFeatures();
     retranslateUi();
 
-    openPage(mClassModel->index(0, 0));
+    openPage(mClassModel->index(startRow(), 0));
 }
 
 ConfigurationWindow::~ConfigurationWindow()

@@ -67,8 +67,9 @@ MALTO_EXPORT void setQssForWidget(QWidget *widget, double scale);
 /// right.
 ///
 /// One window exists at a time. Closing it saves the store's local file and the geometry of the
-/// window, in "ConfigurationWindowConfig.ini" in the working directory, and deletes the window. The
-/// deletion waits while host code, such as a change callback, is on the stack.
+/// window, in "ConfigurationWindowConfig.ini" in the working directory or, with `HostNameFeature`,
+/// in the store. Then it deletes the window. The deletion waits while host code, such as a change
+/// callback, is on the stack.
 ///
 /// @see MtConfManage::ShowWindow, MtConfManage::closeConfigWindow
 /// @since 0.1
@@ -174,6 +175,7 @@ private:
     void endPage();
     void describePage();
     void orderTabs();
+    int startRow() const;
     void addFeatures();
     void tellFeatures(void (WindowFeature::*happened)());
     void commitEditors();
@@ -194,6 +196,7 @@ private:
     QList<QPointer<WindowFeature>> mFeatures;
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
+    const bool mUsesFiles; // of the working directory: for the geometry and style sheets
     QPersistentModelIndex mNextPage;
     bool mOpeningPage = false;
     bool mBuildingPage = false;

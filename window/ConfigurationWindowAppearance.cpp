@@ -33,12 +33,12 @@ WindowGeometryFile geometryFile()
     return WindowGeometryFile(QStringLiteral("ConfigurationWindowConfig.ini"));
 }
 
-/// Returns `file` if it exists and the host permits it, or else the first of `resources` that
+/// Returns `file` if it exists and is allowed, or else the first of `resources` that
 /// exists, or else the last.
-QString firstExisting(const QString &file, const QStringList &resources)
+QString firstExisting(const QString &file, const QStringList &resources, bool allowsFiles)
 {
     QStringList sources = resources;
-    if (ConfigurationWindow::sSheetsOfWorkingDirectory)
+    if (allowsFiles)
         sources.prepend(file);
     const auto found = std::find_if(sources.cbegin(), sources.cend() - 1,
                                     [](const QString &source) { return QFile::exists(source); });
@@ -74,20 +74,27 @@ QRect fromSaved(const QRect &saved)
     return QRect();
 }
 
-} // namespace
-
-void setQssForWidget(QWidget *widget, double scale)
+/// Applies the sheets as setQssForWidget() does, from the working directory if it is allowed.
+void applySheets(QWidget *widget, double scale, bool allowsFiles)
 {
     // The library's common sheet has a path of its own, so that a host can register its own.
     const QString common = firstExisting(
         QStringLiteral("./res/qss/CommonWindow.qss"),
-        {QStringLiteral(":/qss/CommonWindow"), QStringLiteral(":/malto/qss/CommonWindow")});
+        {QStringLiteral(":/qss/CommonWindow"), QStringLiteral(":/malto/qss/CommonWindow")},
+        allowsFiles);
     const QString own = firstExisting(
         QStringLiteral("ThirdParty/MaltoConfiguration/res/ConfigurationWindow.qss"),
-        {QStringLiteral(":/qss/ConfigurationWindow")});
+        {QStringLiteral(":/qss/ConfigurationWindow")}, allowsFiles);
     QThemeCtrl::instance()->handleQssFile(widget, {common, own}, scale);
     if (widget)
         FocusRing::follow(widget);
+}
+
+} // namespace
+
+void setQssForWidget(QWidget *widget, double scale)
+{
+    applySheets(widget, scale, ConfigurationWindow::sSheetsOfWorkingDirectory);
 }
 
 double ConfigurationWindow::screenScale() const
@@ -98,7 +105,8 @@ double ConfigurationWindow::screenScale() const
 void ConfigurationWindow::initAppearance()
 {
     mScale = screenScale();
-    const WindowGeometryFile::Saved saved = geometryFile().read();
+    const WindowGeometryFile::Saved saved = mUsesFiles ? geometryFile().read()
+                                                       : WindowGeometryFile::Saved();
     if (saved.found) {
         // With a geometry that no longer fits, the window keeps the size of its form. The default
         // geometry is for users who never moved the window.
@@ -129,6 +137,8 @@ void ConfigurationWindow::applyDefaultGeometry()
 
 void ConfigurationWindow::saveGeometryToFile() const
 {
+    if (!mUsesFiles)
+        return;
     // There is no screen any more if the window outlives the application.
     const QScreen *present = screen();
     geometryFile().write(present ? toSaved(geometry(), present) : geometry());
@@ -138,7 +148,7 @@ void ConfigurationWindow::loadQss()
 {
     const HostCodeScope scope(mHostCode);
     mScale = screenScale();
-    setQssForWidget(this, mScale);
+    applySheets(this, mScale, mUsesFiles && sSheetsOfWorkingDirectory);
     refreshItemIcon();
     tellFeatures(&WindowFeature::sheetApplied);
     // The button applies the window's new sheet only after it is polished again.

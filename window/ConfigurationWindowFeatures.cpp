@@ -1,8 +1,15 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
-#include "WindowFeature_p.h"
+#include "LivePages_p.h"
+#include "MaltoConfiguration/manage/WindowMemory_p.h"
+#include "RowDetails_p.h"
+#include "RowReset_p.h"
+#include "WindowIdentity_p.h"
+#include "WindowKeys_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
+
+#include <QStandardItemModel>
 
 namespace MtConf {
 
@@ -12,7 +19,28 @@ void ConfigurationWindow::addFeatures()
     if (!features)
         return;
     mManager->prepareFeatures();
+    if (features & HostNameFeature)
+        mFeatures.append(new WindowIdentity(this));
+    if (features & NavigationFeature)
+        mFeatures.append(new WindowKeys(this));
+    if (features & DetailsFeature)
+        mFeatures.append(new RowDetails(this));
+    if (features & ResetFeature)
+        mFeatures.append(new RowReset(this));
+    if (features & LivePagesFeature)
+        mFeatures.append(new LivePages(this));
     tellFeatures(&WindowFeature::sheetApplied);
+}
+
+/// Returns the row of the class whose page is shown first.
+int ConfigurationWindow::startRow() const
+{
+    if (!mManager || !(mManager->windowFeatures & NavigationFeature))
+        return 0;
+    const QModelIndexList found = mClassModel->match(mClassModel->index(0, 0), sClassNameRole,
+                                                     WindowMemory::instance()->page(), 1,
+                                                     Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return found.isEmpty() ? 0 : found.first().row();
 }
 
 void ConfigurationWindow::tellFeatures(void (WindowFeature::*happened)())

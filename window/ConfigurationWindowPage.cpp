@@ -158,6 +158,7 @@ bool ConfigurationWindow::addItemWidget(ConfItem *item, const QString &group, bo
     }
     PageRow row;
     row.item = item;
+    row.key = item->getFullName();
     row.group = group;
     row.editor = editor;
     row.caption = editor->label();

@@ -13,6 +13,7 @@ namespace MtConf {
 struct PageRow
 {
     ConfItem *item = nullptr;          ///< the item, which outlives the row
+    QString key;                       ///< its full name
     QString group;                     ///< the untranslated caption of its group
     QPointer<ConfigItemWidget> editor; ///< the editor
     QPointer<QWidget> caption;         ///< the caption, which may be the control itself

@@ -2,6 +2,7 @@
 
 #include "ui_ConfigurationWindow.h"
 
+#include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 namespace MtConf {
@@ -26,6 +27,11 @@ void WindowFeature::windowClosed() {}
 MtConfManage *WindowFeature::manager() const
 {
     return mWindow->mManager;
+}
+
+const ValueOrigins *WindowFeature::origins() const
+{
+    return mWindow->mManager ? mWindow->mManager->mOrigins.get() : nullptr;
 }
 
 std::shared_ptr<HostCode> WindowFeature::hostCode() const
@@ -70,7 +76,7 @@ int WindowFeature::scaled(double pixels) const
     return qRound(pixels * mWindow->mScale * sPointsPerInch / sDesignDotsPerInch);
 }
 
-void WindowFeature::showItems(const QList<std::pair<QString, QList<ConfItem *>>> &groups)
+void WindowFeature::showItems(const PageGroups &groups)
 {
     mWindow->showItems(groups);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PageGroups_p.h"
 #include "PageRow_p.h"
 
 #include <QList>
@@ -7,7 +8,6 @@
 #include <QString>
 
 #include <memory>
-#include <utility>
 
 class QListView;
 class QScrollArea;
@@ -19,6 +19,7 @@ class ConfigurationWindow;
 class HostCode;
 class MtConfManage;
 class PageBuilder;
+class ValueOrigins;
 
 /// The base class of the features of the settings window, each of which is one class. The window
 /// creates them, calls the virtual functions, and deletes them with its other children. Nothing
@@ -29,6 +30,9 @@ class WindowFeature : public QObject
 public:
     /// Creates a feature of `window`. The page does not exist yet.
     explicit WindowFeature(ConfigurationWindow *window);
+
+    /// Returns the text that the window shows for the name of a class or a group.
+    static QString translatedName(const QString &name);
 
     /// Called when the widgets of a row are laid out. The row is not in rows() yet.
     virtual void rowAdded(const PageRow &row);
@@ -48,6 +52,8 @@ protected:
     /// Null if the manager was destroyed while host code was running.
     MtConfManage *manager() const;
     std::shared_ptr<HostCode> hostCode() const;
+    /// Null unless `DetailsFeature` is set.
+    const ValueOrigins *origins() const;
 
     /// The list of classes. The data of a row in sClassNameRole is the name of the class.
     QListView *classList() const;
@@ -66,11 +72,9 @@ protected:
 
     /// Shows `groups` instead of the page of the selected class: captions, translated, with the
     /// items below each. The editors are live.
-    void showItems(const QList<std::pair<QString, QList<ConfItem *>>> &groups);
+    void showItems(const PageGroups &groups);
     /// Shows the page of the selected class again.
     void rebuildPage();
-    /// Returns the text that the window shows for the name of a class or a group.
-    static QString translatedName(const QString &name);
 
 private:
     ConfigurationWindow *const mWindow;

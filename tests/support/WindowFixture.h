@@ -52,6 +52,14 @@ public:
         MtConf::ConfigurationWindow *opened = manager->ShowWindow(page);
         return QTest::qWaitForWindowExposed(opened) ? opened : nullptr;
     }
+    /// Opens the window and waits until it is active, so that widgets get the keyboard focus.
+    bool openActive()
+    {
+        MtConf::ConfigurationWindow *opened = open();
+        if (opened)
+            opened->activateWindow();
+        return opened && QTest::qWaitForWindowActive(opened);
+    }
     /// Closes the window and waits until it is deleted.
     bool close()
     {

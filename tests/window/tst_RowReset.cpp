@@ -1,0 +1,203 @@
+#include "support/TestMain.h"
+#include "support/WindowFixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QSpinBox>
+#include <QToolButton>
+
+using namespace MtConf;
+
+/// Resetting one row, and the marks of what has changed.
+class tst_RowReset : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        mFixture = std::make_unique<WindowFixture>();
+        mFixture->manager->windowFeatures = ResetFeature;
+        mFlag = mFixture->addBool("Sound");
+        mDelay = 0;
+        mNumber = mFixture->manager->addConfInt32("Delay", &mDelay, "General", "Delay");
+        mOther = mFixture->addBool("Light", "", "Other");
+    }
+    void cleanup() { mFixture.reset(); }
+
+    void thereIsNoButtonWithoutTheFeature()
+    {
+        mFixture->manager->windowFeatures = 0;
+        QVERIFY(mFixture->openActive());
+        QVERIFY(mFixture->window()->findChildren<QToolButton *>().isEmpty());
+        QVERIFY(!showChanges());
+    }
+
+    void theButtonIsShownWhileTheRowDiffers()
+    {
+        QVERIFY(mFixture->openActive());
+        QVERIFY(!button(0)->isVisible());
+        const int end = mNumber->editor->geometry().right();
+        QTest::mouseClick(WindowFixture::checkBox(mFlag), Qt::LeftButton, {}, QPoint(10, 8));
+        QTRY_VERIFY(button(0)->isVisible());
+        QVERIFY(!button(1)->isVisible());
+        QCOMPARE(mNumber->editor->geometry().right(), end);
+        QTest::mouseClick(button(0), Qt::LeftButton);
+        QVERIFY(mFlag->isDefaultValue());
+        QVERIFY(WindowFixture::checkBox(mFlag)->isChecked());
+        QVERIFY(!button(0)->isVisible());
+    }
+
+    void theButtonIsUsedByKeyboardAndPassesTheFocusOn()
+    {
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(button(1)->isVisible());
+        button(1)->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(button(1), Qt::Key_Space);
+        QVERIFY(mNumber->isDefaultValue());
+        QVERIFY(mNumber->editor->isAncestorOf(QApplication::focusWidget()));
+        QCOMPARE(button(1)->accessibleName(), QString("Reset Delay"));
+    }
+
+    void aKeyResetsTheFocusedRow()
+    {
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        mNumber->editor->findChild<QSpinBox *>()->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(mNumber->isDefaultValue());
+        QCOMPARE(mNumber->editor->findChild<QSpinBox *>()->value(), 0);
+        QVERIFY(!mFlag->isDefaultValue());
+    }
+
+    void theMenuResetsAndCopies()
+    {
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(button(1)->isVisible());
+        QMenu *menu = openMenu(mNumber->editor);
+        QVERIFY(menu);
+        menu->actions().at(1)->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), mNumber->getFullName());
+        menu->actions().at(2)->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), QString("7"));
+        QCOMPARE(menu->actions().at(4)->text(), QString("Default: 0"));
+        QVERIFY(menu->actions().at(5)->text().startsWith("Changed on "));
+        menu->actions().at(0)->trigger();
+        QVERIFY(mNumber->isDefaultValue());
+        menu->close();
+    }
+
+    void theMenuDoesNotShowSecrets()
+    {
+        mToken = "old";
+        ConfItem *secret = mFixture->manager->addConfPassword("Token", &mToken, "General", "Token");
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set<QString>(secret->getFullName(), "new");
+        QMenu *menu = openMenu(secret->editor);
+        QVERIFY(menu);
+        for (const QAction *action : menu->actions())
+            QVERIFY2(!action->text().contains("old"), qPrintable(action->text()));
+        QCOMPARE(menu->actions().at(2)->isSeparator(), true); // no "Copy value"
+        menu->close();
+    }
+
+    void classesWithChangesAreMarked()
+    {
+        QVERIFY(mFixture->openActive());
+        constexpr int sChangedRole = Qt::UserRole + 2;
+        const QAbstractItemModel *model = WindowFixture::classList()->model();
+        QCOMPARE(model->index(1, 0).data(sChangedRole).toBool(), false);
+        const QImage before = WindowFixture::classList()->grab().toImage();
+        WindowFixture::store()->set(mOther->getFullName(), false);
+        QTRY_COMPARE(model->index(1, 0).data(sChangedRole).toBool(), true);
+        QCOMPARE(model->index(0, 0).data(sChangedRole).toBool(), false);
+        QVERIFY(WindowFixture::classList()->grab().toImage() != before);
+    }
+
+    void customPagesSayWhetherTheyHaveChanged()
+    {
+        bool isChanged = false;
+        mFixture->manager->setMajorWidget(
+            "Custom", [](QWidget *parent) { return new QLabel("page", parent); });
+        mFixture->manager->getMajorConfItemByName("Custom")->isChanged = [&] { return isChanged; };
+        QVERIFY(mFixture->openActive());
+        constexpr int sChangedRole = Qt::UserRole + 2;
+        const QModelIndex index = WindowFixture::classList()->model()->index(2, 0);
+        QVERIFY(!index.data(sChangedRole).toBool());
+        isChanged = true;
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QTRY_VERIFY(index.data(sChangedRole).toBool());
+    }
+
+    void showChangedListsTheChangedRowsOfAllPages()
+    {
+        QVERIFY(mFixture->openActive());
+        QVERIFY(!showChanges()->isEnabled());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        WindowFixture::store()->set(mOther->getFullName(), false);
+        QTRY_VERIFY(showChanges()->isEnabled());
+        QTest::mouseClick(showChanges(), Qt::LeftButton);
+        QCOMPARE(WindowFixture::captions(), (QStringList{"General", "Other"}));
+        QVERIFY(mNumber->editor && mOther->editor && !mFlag->editor);
+        QVERIFY(showChanges()->isChecked());
+        // A class leads back to its page.
+        WindowFixture::clickClass(1);
+        QVERIFY(!showChanges()->isChecked());
+        QCOMPARE(WindowFixture::captions(), QStringList{"Other"});
+    }
+
+    void aCallbackOfTheResetMayCloseTheWindow()
+    {
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(button(1)->isVisible());
+        mNumber->setConfChangedCallback(
+            [&](const QString &, const ConfValue *) { mFixture->manager->closeConfigWindow(); });
+        QTest::mouseClick(button(1), Qt::LeftButton);
+        QTRY_VERIFY(!WindowFixture::window());
+        QVERIFY(mNumber->isDefaultValue());
+    }
+
+    void lockedRowsCannotBeReset()
+    {
+        WindowFixture::store()->lockConf(mNumber->getFullName(), 9);
+        QVERIFY(mFixture->openActive());
+        QVERIFY(!mNumber->isDefaultValue());
+        QVERIFY(!button(1)->isVisible());
+    }
+
+private:
+    static QToolButton *button(int row)
+    {
+        return WindowFixture::window()->findChildren<QToolButton *>("ResetButton").at(row);
+    }
+    static QPushButton *showChanges()
+    {
+        return WindowFixture::child<QPushButton>("ShowChangesButton");
+    }
+    static QMenu *openMenu(QWidget *editor)
+    {
+        const QPoint position(2, 2);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position, editor->mapToGlobal(position));
+        QApplication::sendEvent(editor, &event);
+        return WindowFixture::window()->findChild<QMenu *>();
+    }
+
+    std::unique_ptr<WindowFixture> mFixture;
+    ConfItem *mFlag = nullptr;
+    ConfItem *mNumber = nullptr;
+    ConfItem *mOther = nullptr;
+    int mDelay = 0;
+    QString mToken;
+};
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_RowReset>(argc, argv);
+}
+
+#include "tst_RowReset.moc"

@@ -1,0 +1,34 @@
+#include "ChangedDot_p.h"
+
+#include <OrvUtils/QThemeCtrl.h>
+
+#include <QPainter>
+
+namespace MtConf {
+
+ChangedDot::ChangedDot(int diameter, QObject *parent)
+    : QStyledItemDelegate(parent), mDiameter(diameter)
+{
+}
+
+void ChangedDot::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                       const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!index.data(sChangedRole).toBool())
+        return;
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const QColor color = isSelected ? QColor(Qt::white)
+                                    : QThemeCtrl::instance()->color(QStringLiteral("ColorMain"));
+    QRect dot(0, 0, mDiameter, mDiameter);
+    dot.moveCenter(option.rect.center());
+    dot.moveRight(option.rect.right() - mDiameter);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawEllipse(QStyle::visualRect(option.direction, option.rect, dot));
+    painter->restore();
+}
+
+} // namespace MtConf

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "WindowFeature_p.h"
+
+#include <QHash>
+#include <QPoint>
+#include <QPointer>
+#include <QString>
+
+class QPushButton;
+
+namespace MtConf {
+
+class ResetButton;
+
+/// Shows what differs from its default, and resets it: a button at the end of each row, a key, a
+/// context menu, dots beside the classes with changes, and a button that shows all changes.
+class RowReset : public WindowFeature
+{
+    Q_OBJECT
+public:
+    explicit RowReset(ConfigurationWindow *window);
+    ~RowReset() override;
+
+    void rowAdded(const PageRow &row) override;
+    void pageShown() override;
+    void pageCleared() override;
+    void sheetApplied() override;
+    void retranslate() override;
+
+protected:
+    /// Shows the context menu of a row.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void update();
+    void queueUpdate();
+    void updateRow(const PageRow &row);
+    void updateClasses();
+    void resetFocusedRow();
+    void reset(const PageRow &row);
+    void showMenu(const PageRow &row, const QPoint &position);
+    void showChanges(bool isOn);
+    QList<ConfItem *> changedItems() const;
+
+    QHash<QString, QPointer<ResetButton>> mButtons; // of the shown page, by key
+    QPushButton *const mChangesButton;
+    bool mIsShowingChanges = false; // while that page is being built
+    bool mIsQueued = false;
+    int mObserver = 0;
+};
+
+} // namespace MtConf

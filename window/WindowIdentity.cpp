@@ -1,0 +1,69 @@
+#include "WindowIdentity_p.h"
+
+#include "MaltoConfiguration/manage/WindowMemory_p.h"
+
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QListView>
+#include <QScreen>
+
+namespace MtConf {
+
+namespace {
+
+constexpr QSize sMinimumSize(480, 320); // pixels at 96 dots per inch
+
+} // namespace
+
+WindowIdentity::WindowIdentity(ConfigurationWindow *window) : WindowFeature(window)
+{
+    const QIcon icon = QGuiApplication::windowIcon();
+    if (!icon.isNull())
+        window->setWindowIcon(icon);
+    restoreGeometry();
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &WindowIdentity::saveGeometry);
+}
+
+void WindowIdentity::retranslate()
+{
+    // Some platforms append the name of the application to titles that do not end with it.
+    const QString name = QGuiApplication::applicationDisplayName();
+    window()->setWindowTitle(name.isEmpty() ? tr("Settings") : tr("Settings \u2014 %1").arg(name));
+    classList()->setAccessibleName(window()->windowTitle());
+}
+
+void WindowIdentity::restoreGeometry()
+{
+    const QRect saved = WindowMemory::instance()->geometry();
+    const QRect geometry = saved.isValid() ? QRect(saved.topLeft(), QSize(scaled(saved.width()),
+                                                                          scaled(saved.height())))
+                                           : window()->geometry();
+    const QScreen *screen = QGuiApplication::screenAt(geometry.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect available = screen->availableGeometry();
+    const QSize smallest(scaled(sMinimumSize.width()), scaled(sMinimumSize.height()));
+    window()->setMinimumSize(smallest.boundedTo(available.size()));
+    const QSize size = geometry.size().boundedTo(available.size());
+    // Inside of the screen, as near as possible to where it was.
+    const int x = qBound(available.left(), geometry.x(), available.right() + 1 - size.width());
+    const int y = qBound(available.top(), geometry.y(), available.bottom() + 1 - size.height());
+    window()->setGeometry(QRect(QPoint(x, y), size));
+}
+
+void WindowIdentity::windowClosed()
+{
+    saveGeometry();
+}
+
+void WindowIdentity::saveGeometry()
+{
+    const QRect geometry = window()->normalGeometry();
+    const double factor = scaled(1000) / 1000.0;
+    const QSize size(qRound(geometry.width() / factor), qRound(geometry.height() / factor));
+    WindowMemory::instance()->setGeometry(QRect(geometry.topLeft(), size));
+}
+
+} // namespace MtConf
