@@ -74,6 +74,7 @@ void ClassicPageBuilder::addRow(PageRow *row, bool isLast)
 {
     const int gridRow = mGrid->rowCount();
     row->frame = mBox;
+    row->panel = mBox;
     row->gridRow = gridRow;
     if (row->caption) {
         mGrid->addWidget(row->editor, gridRow, 1);

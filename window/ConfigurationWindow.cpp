@@ -2,6 +2,7 @@
 
 #include "ClassicPageBuilder_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
+#include "ModernPageBuilder_p.h"
 #include "WindowFeature_p.h"
 #include "ui_ConfigurationWindow.h"
 
@@ -68,6 +69,7 @@ void setStaysOnTopHint(bool on)
 
 ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     : mUi(std::make_unique<Ui_ConfigurationWindow>()), mManager(manager),
+      mIsModern(manager && manager->windowLook == ModernLook),
       mUsesFiles(!manager || !(manager->windowFeatures & HostNameFeature))
 {
     mHostCode = HostCode::of(this);
@@ -97,8 +99,13 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     connect(qApp, &QCoreApplication::aboutToQuit, this, &ConfigurationWindow::commitBeforeQuit);
 
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
-    mBuilder = std::make_unique<ClassicPageBuilder>(mUi->gboxConfigBoard, mUi->layoutConfigItem,
-                                                    mScale, mManager && mManager->windowFeatures);
+    if (mIsModern)
+        mBuilder = std::make_unique<ModernPageBuilder>(mUi->gboxConfigBoard, mUi->layoutConfigItem,
+                                                       mScale, [this] { return currentClass(); });
+    else
+        mBuilder = std::make_unique<ClassicPageBuilder>(mUi->gboxConfigBoard, mUi->layoutConfigItem,
+                                                        mScale,
+                                                        mManager && mManager->windowFeatures);
     addFeatures();
     retranslateUi();
 

@@ -29,6 +29,7 @@ class HostCode;
 class MtConfManage;
 class PageBuilder;
 class WindowFeature;
+struct LookValues;
 struct PageRow;
 
 /// Shows the settings window and returns it. An existing window is raised, and restored if it is
@@ -154,6 +155,7 @@ private:
     /// Saves the geometry and makes room for a new window, while this one waits for its deletion.
     void resign();
     void initConfigClassList();
+    LookValues look() const;
     void initAppearance();
     void applyDefaultGeometry();
     void refreshItemIcon();
@@ -196,6 +198,7 @@ private:
     QList<QPointer<WindowFeature>> mFeatures;
     QMap<QStandardItem *, QString> mItemIcons;
     double mScale = 1;
+    const bool mIsModern;
     const bool mUsesFiles; // of the working directory: for the geometry and style sheets
     QPersistentModelIndex mNextPage;
     bool mOpeningPage = false;

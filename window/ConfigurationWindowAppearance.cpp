@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "FocusRing_p.h"
+#include "LookValues_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "WindowFeature_p.h"
 #include "WindowGeometryFile_p.h"
@@ -97,6 +98,11 @@ void setQssForWidget(QWidget *widget, double scale)
     applySheets(widget, scale, ConfigurationWindow::sSheetsOfWorkingDirectory);
 }
 
+LookValues ConfigurationWindow::look() const
+{
+    return lookValues(mIsModern ? ModernLook : ClassicLook);
+}
+
 double ConfigurationWindow::screenScale() const
 {
     return OrvScreenManager::instance()->widgetScreen(this).dpi / 72;
@@ -129,8 +135,11 @@ void ConfigurationWindow::applyDefaultGeometry()
     const QPoint center = OrvScreenManager::instance()->primaryScreen().rect.center();
     const auto centerX = static_cast<float>(center.x());
     const auto centerY = static_cast<float>(center.y());
-    const auto width = static_cast<float>(768 * mScale);
-    const auto height = static_cast<float>(500 * mScale);
+    QSizeF size = look().size * mScale;
+    if (mIsModern)
+        size = size.boundedTo(OrvScreenManager::instance()->primaryScreen().rect.size());
+    const auto width = static_cast<float>(size.width());
+    const auto height = static_cast<float>(size.height());
     setGeometry(qRound(centerX - width / 2), qRound(centerY - height / 2), qRound(width),
                 qRound(height));
 }
@@ -148,7 +157,12 @@ void ConfigurationWindow::loadQss()
 {
     const HostCodeScope scope(mHostCode);
     mScale = screenScale();
-    applySheets(this, mScale, mUsesFiles && sSheetsOfWorkingDirectory);
+    const LookValues values = look();
+    if (values.sheets.isEmpty())
+        applySheets(this, mScale, mUsesFiles && sSheetsOfWorkingDirectory);
+    else
+        QThemeCtrl::instance()->handleQssFile(this, values.sheets, mScale / values.unitsPerPoint);
+    FocusRing::follow(this);
     refreshItemIcon();
     tellFeatures(&WindowFeature::sheetApplied);
     // The button applies the window's new sheet only after it is polished again.
@@ -161,8 +175,12 @@ void ConfigurationWindow::loadQss()
 
 void ConfigurationWindow::refreshItemIcon()
 {
-    const QColor color = QThemeCtrl::instance()->color(QStringLiteral("ColorFg0"));
-    const int size = static_cast<int>(24 * mScale);
+    const LookValues values = look();
+    const QColor color = QThemeCtrl::instance()->color(values.iconColor);
+    const QColor selected = values.selectedIconColor.isEmpty()
+                                ? QColor(Qt::white)
+                                : QThemeCtrl::instance()->color(values.selectedIconColor);
+    const int size = static_cast<int>(values.iconSize * mScale);
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row) {
         const auto glyph = mIconMap.constFind(row.value());
         if (glyph == mIconMap.constEnd()) {
@@ -173,7 +191,7 @@ void ConfigurationWindow::refreshItemIcon()
         // The selected row has white text on the main colour, and a white icon. It needs the same
         // sizes as the normal icon, or the list draws one larger than the other.
         for (const int factor : {1, 2, 3}) {
-            QPixmap pixmap = QIconfont::Pixmap(*glyph, Qt::white, size * factor, QMargins());
+            QPixmap pixmap = QIconfont::Pixmap(*glyph, selected, size * factor, QMargins());
             pixmap.setDevicePixelRatio(1);
             icon.addPixmap(pixmap, QIcon::Selected);
         }

@@ -2,8 +2,10 @@
 
 #include "LivePages_p.h"
 #include "MaltoConfiguration/manage/WindowMemory_p.h"
+#include "ModernWindow_p.h"
 #include "RowDetails_p.h"
 #include "RowReset_p.h"
+#include "WindowFeature_p.h"
 #include "WindowIdentity_p.h"
 #include "WindowKeys_p.h"
 
@@ -16,9 +18,11 @@ namespace MtConf {
 void ConfigurationWindow::addFeatures()
 {
     const quint32 features = mManager ? mManager->windowFeatures : 0;
-    if (!features)
-        return;
-    mManager->prepareFeatures();
+    // First, so that other features can change what it shows.
+    if (mIsModern)
+        mFeatures.append(new ModernWindow(this));
+    if (features)
+        mManager->prepareFeatures();
     if (features & HostNameFeature)
         mFeatures.append(new WindowIdentity(this));
     if (features & NavigationFeature)

@@ -192,10 +192,10 @@ void ConfigurationWindow::describePage()
     mUi->scrollArea->setAccessibleName(page);
     mUi->gboxConfigBoard->setAccessibleName(page);
     for (const PageRow &row : std::as_const(mRows)) {
-        if (!row.editor || !row.frame) // a host may have deleted the editor
+        if (!row.editor || !row.panel) // a host may have deleted the editor
             continue;
         const QString group = translatedName(row.group);
-        row.frame->setAccessibleName(group);
+        row.panel->setAccessibleName(group);
         row.editor->describeControls(group);
     }
 }

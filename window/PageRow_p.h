@@ -19,6 +19,7 @@ struct PageRow
     QPointer<QWidget> caption;         ///< the caption, which may be the control itself
     QPointer<QLabel> message;          ///< why a value is not accepted
     QPointer<QWidget> frame;           ///< the widget that contains the row, and maybe others
+    QPointer<QWidget> panel;           ///< the panel of its group
     int gridRow = 0;                   ///< the row in the grid of the classic page
 };
 

@@ -1,0 +1,210 @@
+#include "ModernWindow_p.h"
+
+#include "ModernPageBuilder_p.h"
+#include "SwitchCaption_p.h"
+
+#include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace MtConf {
+
+namespace {
+
+// Sizes in pixels at 96 dots per inch.
+constexpr int sListWidth = 216;
+constexpr int sListMargin = 12;
+constexpr int sRowHeight = 36;
+constexpr int sIconWidth = 26; // with the gap to the text
+constexpr int sIconHeight = 18;
+constexpr int sNarrowWindow = 760;
+constexpr int sPageWidth = 720;
+constexpr int sPageTop = 20;
+constexpr int sPageSide = 24;
+constexpr int sTitleGap = 12;
+constexpr QSize sLeastWindow(520, 400);
+
+} // namespace
+
+ModernWindow::ModernWindow(ConfigurationWindow *window)
+    : WindowFeature(window),
+      mResetPage(window->findChild<QPushButton *>(QStringLiteral("btnRestoreDefault"))),
+      mResetAll(window->findChild<QPushButton *>(QStringLiteral("btnRestoreAllDefault"))),
+      mPage(window->findChild<QVBoxLayout *>(QStringLiteral("verticalLayout"))),
+      mRows(window->findChild<QVBoxLayout *>(QStringLiteral("layoutConfigItem")))
+{
+    for (QPushButton *button : {mResetPage, mResetAll}) {
+        button->setStyleSheet(QString()); // the form's
+        button->setFlat(true);
+        button->setCursor(Qt::PointingHandCursor);
+    }
+    for (const char *name : {"horizontalLayout", "horizontalLayout_2"}) {
+        auto *layout = window->findChild<QHBoxLayout *>(QLatin1String(name));
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+    }
+    mLine = new QFrame(window->centralWidget());
+    mLine->setObjectName(QStringLiteral("ModernColumnLine"));
+    window->findChild<QHBoxLayout *>(QStringLiteral("horizontalLayout"))->insertWidget(1, mLine);
+    classList()->setUniformItemSizes(true);
+    classList()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    classList()->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    buildTitle();
+    window->installEventFilter(this);
+    scrollArea()->viewport()->installEventFilter(this);
+    scrollArea()->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void ModernWindow::buildTitle()
+{
+    QWidget *const board = mPage->parentWidget();
+    mTitle = new QLabel(board);
+    mTitle->setObjectName(QStringLiteral("ModernPageTitle"));
+    mTitle->setTextFormat(Qt::PlainText);
+    mTitle->setIndent(0);
+    mTitle->setWordWrap(true);
+    mState = new QLabel(board);
+    mState->setObjectName(QStringLiteral("ModernPageState"));
+    mState->hide();
+    auto *titles = new QHBoxLayout;
+    titles->addWidget(mTitle, 1);
+    titles->addWidget(mState, 0, Qt::AlignBottom);
+    mPage->insertLayout(0, titles);
+    mPage->addStretch();
+}
+
+void ModernWindow::sheetApplied()
+{
+    window()->setMinimumSize(sLeastWindow * scaled(100) / 100);
+    classList()->setIconSize(QSize(scaled(sIconWidth), scaled(sIconHeight)));
+    const int margin = scaled(sListMargin);
+    classColumn()->setContentsMargins(margin, margin, margin, margin);
+    classColumn()->setSpacing(scaled(8));
+    mPage->setSpacing(0);
+    mRows->setSpacing(0);
+    mLine->setFixedWidth(qMax(1, scaled(1)));
+    setListWidth();
+    setMargins();
+}
+
+void ModernWindow::setMargins()
+{
+    const int width = scrollArea()->viewport()->width();
+    const int side = scaled(sPageSide) + qMax(0, (width - scaled(sPageWidth)) / 2);
+    mPage->setContentsMargins(side, scaled(sPageTop), side, scaled(sPageTop));
+}
+
+void ModernWindow::setListWidth()
+{
+    mIsNarrow = window()->width() < scaled(sNarrowWindow);
+    const int full = scaled(sListWidth) - mLine->width() - 2 * scaled(sListMargin);
+    classList()->setFixedWidth(mIsNarrow ? scaled(sRowHeight) : full);
+    mResetAll->setMaximumWidth(full);
+    mResetAll->setVisible(!mIsNarrow);
+    const QString narrow = mIsNarrow ? QStringLiteral("1") : QStringLiteral("0");
+    if (classList()->property("narrow").toString() != narrow) {
+        classList()->setProperty("narrow", narrow);
+        classList()->style()->unpolish(classList());
+        classList()->style()->polish(classList());
+    }
+    showTexts();
+}
+
+/// Shows the texts of the buttons, and the names of the classes as tool tips of a narrow list.
+void ModernWindow::showTexts()
+{
+    mResetPage->setText(tr("Reset this page…"));
+    const QString all = tr("Reset all settings…");
+    mResetAll->ensurePolished();
+    const int room = classList()->maximumWidth() - scaled(2 * 10);
+    mResetAll->setText(mResetAll->fontMetrics().elidedText(all, Qt::ElideRight, room));
+    mResetAll->setAccessibleName(all);
+    mResetAll->setToolTip(mResetAll->text() == all ? QString() : all);
+    QAbstractItemModel *const classes = classList()->model();
+    for (int row = 0; row < classes->rowCount(); ++row) {
+        const QModelIndex index = classes->index(row, 0);
+        const QVariant tip = mIsNarrow ? index.data() : QVariant();
+        if (index.data(Qt::ToolTipRole) != tip)
+            classes->setData(index, tip, Qt::ToolTipRole);
+    }
+}
+
+void ModernWindow::showTitle()
+{
+    mTitle->setText(classList()->currentIndex().data().toString());
+}
+
+bool ModernWindow::isCustomPage() const
+{
+    const QString name = classList()->currentIndex().data(sClassNameRole).toString();
+    const MajorConfItem *const shown = manager() ? manager()->getMajorConfItemByName(name)
+                                                 : nullptr;
+    return shown && shown->majorWidget && rows().isEmpty();
+}
+
+void ModernWindow::pageShown()
+{
+    showTitle();
+    hideOwnTitle();
+    arrangePage();
+}
+
+void ModernWindow::arrangePage()
+{
+    const bool isCustom = isCustomPage();
+    // The button is below the last row, and the rest of the window stays empty. A page of the host
+    // fills the window.
+    QLayoutItem *const last = mRows->itemAt(mRows->count() - 1);
+    if (QSpacerItem *const spacer = last ? last->spacerItem() : nullptr)
+        spacer->changeSize(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+    mPage->setStretch(mPage->indexOf(mRows), isCustom ? 1 : 0);
+    mPage->setStretch(mPage->count() - 1, isCustom ? 0 : 1);
+    mRows->invalidate();
+}
+
+/// Hides the caption of a page of the host that repeats the title.
+void ModernWindow::hideOwnTitle()
+{
+    if (!isCustomPage())
+        return;
+    const QList<QLabel *> labels = mPage->parentWidget()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->property("ClassLabel").isValid() && label->text() == mTitle->text())
+            label->hide();
+    }
+}
+
+void ModernWindow::retranslate()
+{
+    showTitle();
+    showTexts();
+    for (const PageRow &row : rows()) {
+        if (auto *caption = dynamic_cast<SwitchCaption *>(row.caption.data()))
+            caption->followText();
+        if (row.editor)
+            ModernPageBuilder::setFieldWidths(row.editor, scaled(100) / 100.);
+    }
+}
+
+bool ModernWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) {
+        if (watched == window())
+            setListWidth();
+        else
+            setMargins();
+    }
+    return WindowFeature::eventFilter(watched, event);
+}
+
+} // namespace MtConf

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "WindowFeature_p.h"
+
+#include <QPointer>
+
+class QFrame;
+class QLabel;
+class QPushButton;
+
+namespace MtConf {
+
+/// Turns the form into the frame of the modern look: a narrow list of classes that shrinks to icons
+/// in a narrow window, and a page of limited width with a title and quiet buttons.
+class ModernWindow : public WindowFeature
+{
+    Q_OBJECT
+public:
+    explicit ModernWindow(ConfigurationWindow *window);
+
+    void pageShown() override;
+    void sheetApplied() override;
+    void retranslate() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildTitle();
+    void placeRestoreButtons();
+    void setMargins();
+    void setListWidth();
+    void showTexts();
+    void showTitle();
+    bool isCustomPage() const;
+    void arrangePage();
+    void hideOwnTitle();
+
+    QPushButton *const mResetPage;
+    QPushButton *const mResetAll;
+    QVBoxLayout *const mPage;
+    QVBoxLayout *const mRows;
+    QLabel *mTitle = nullptr;
+    QLabel *mState = nullptr;
+    QFrame *mLine = nullptr;
+    bool mIsNarrow = false;
+};
+
+} // namespace MtConf

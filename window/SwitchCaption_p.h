@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+#include <QPointer>
+
+class QCheckBox;
+
+namespace MtConf {
+
+/// The caption of a flag in the modern look, beside its check box, which is drawn as a switch
+/// without a text. The caption shows the text, the state and the tool tip of the check box, and a
+/// click toggles it. The check box keeps its text for screen readers.
+class SwitchCaption : public QLabel
+{
+public:
+    /// Draws `box` as a switch of `size` pixels.
+    SwitchCaption(QCheckBox *box, QSize size, QWidget *parent);
+
+    /// Shows the text of the check box.
+    void followText();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void followState();
+    void drawSwitch() const;
+
+    const QPointer<QCheckBox> mBox;
+};
+
+} // namespace MtConf
