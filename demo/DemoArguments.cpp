@@ -95,6 +95,8 @@ void addOptions(QCommandLineParser *parser)
         {QStringLiteral("scale"),
          QStringLiteral("Multiply the screen's dots per inch by <factor>, 0.5 to 4."),
          QStringLiteral("factor")},
+        {QStringLiteral("classic"),
+         QStringLiteral("Show the classic settings window, without additional features.")},
         {QStringLiteral("pictures"),
          QStringLiteral("Draw every page in both themes into <folder>, and quit."),
          QStringLiteral("folder")},
@@ -152,6 +154,7 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
     if (!message.isEmpty())
         return Outcome::Failed;
 
+    isClassic = given("classic");
     occupied = given("occupied");
     keyToHold = parser.value(KeyHolder::option());
     if (!keyToHold.isEmpty())

@@ -31,6 +31,7 @@ public:
     QString language;            ///< the code of a language; may be empty
     std::optional<double> scale; ///< multiplies the screen's dots per inch
     QString picturesFolder;      ///< the folder for pictures of every page; empty to run normally
+    bool isClassic = false;      ///< whether the settings window is the classic one
     bool occupied = false;       ///< whether another program registers one of the hotkeys first
     QString keyToHold;           ///< the key to hold for another instance; empty for none
     QString message;             ///< the text for the console

@@ -30,11 +30,15 @@ QxtGlobalShortcut *shortcutOf(const MtConf::ConfItem &item)
 
 } // namespace
 
-DemoSession::DemoSession(const QString &localFile)
+DemoSession::DemoSession(const QString &localFile, Look look)
     : mManager(std::make_unique<MtConf::MtConfManage>())
 {
     ConfStorage::instance()->useRobustFiles();
     ConfStorage::instance()->mLocalSaveFile = localFile;
+    if (look == Look::Modern) {
+        mManager->windowFeatures = MtConf::AllWindowFeatures;
+        mManager->windowLook = MtConf::ModernLook;
+    }
     declareSettings(*mManager, mSettings, mActions);
     addPages();
     addCallbacks();

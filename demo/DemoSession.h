@@ -21,8 +21,14 @@ class DemoSession : public QObject
 {
     Q_OBJECT
 public:
+    /// How the settings window looks.
+    enum class Look {
+        Classic, ///< as in hosts that ask for nothing
+        Modern   ///< the modern look with all features
+    };
+
     /// Declares all settings. They are saved in `localFile`.
-    explicit DemoSession(const QString &localFile);
+    DemoSession(const QString &localFile, Look look);
     ~DemoSession() override;
 
     /// Loads the local file and then `configFile`, which may be empty, and applies the theme, the

@@ -32,12 +32,17 @@ bool enterFolderOf(const QString &localFile)
     return QDir::setCurrent(QFileInfo(localFile).path());
 }
 
+DemoSession::Look lookOf(const DemoArguments &arguments)
+{
+    return arguments.isClassic ? DemoSession::Look::Classic : DemoSession::Look::Modern;
+}
+
 int run(const DemoArguments &arguments)
 {
     if (!enterFolderOf(arguments.localFile))
         return fail(QStringLiteral("Cannot enter the folder of %1").arg(arguments.localFile));
     const MessageLog log;
-    DemoSession session(arguments.localFile);
+    DemoSession session(arguments.localFile, lookOf(arguments));
     session.load(arguments.configFile);
     if (arguments.theme)
         session.chooseTheme(*arguments.theme);
@@ -59,7 +64,8 @@ int drawPictures(const DemoArguments &arguments)
     QString error;
     {
         const MessageLog log;
-        DemoSession session(arguments.localFile.isEmpty() ? unused : arguments.localFile);
+        DemoSession session(arguments.localFile.isEmpty() ? unused : arguments.localFile,
+                            lookOf(arguments));
         session.load(arguments.configFile);
         ConfStorage::instance()->mLocalSaveFile = unused; // the pictures change settings
         if (!arguments.language.isEmpty())

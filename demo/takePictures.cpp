@@ -2,6 +2,7 @@
 
 #include "DemoSession.h"
 #include "declareSettings.h"
+#include "designScale.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
@@ -47,7 +48,10 @@ QString save(const QImage &picture, const QString &path)
 QString takePictures(DemoSession &session, QWidget &mainWindow, const QString &folder)
 {
     MtConf::ConfigurationWindow *window = session.manager().ShowWindow();
-    const QSize size = window->size();
+    // The size of the modern window does not depend on the screen here.
+    const bool isModern = session.manager().windowLook == MtConf::ModernLook;
+    const QSize size = isModern ? (QSizeF(735, 517.5) * designScale(window)).toSize()
+                                : window->size();
     mainWindow.show();
     for (const QThemeCtrl::Theme theme : {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark}) {
         DemoSession::showTheme(static_cast<int>(theme));

@@ -45,7 +45,7 @@ public:
         session.reset();
         QVERIFY(!MtConf::ConfigurationWindow::instance());
         clearStore();
-        session = std::make_unique<DemoSession>(localFile());
+        session = std::make_unique<DemoSession>(localFile(), DemoSession::Look::Classic);
         session->load(configFile);
     }
 

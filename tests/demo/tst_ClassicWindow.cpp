@@ -94,7 +94,7 @@ void tst_ClassicWindow::init()
     for (const QString &file : files)
         QVERIFY(QFile::remove(file));
     qputenv("HOME", "/home/user"); // a default value
-    mSession = std::make_unique<DemoSession>("settings.json");
+    mSession = std::make_unique<DemoSession>("settings.json", DemoSession::Look::Classic);
     mSession->load(QString());
     DemoSession::showTheme(static_cast<int>(QThemeCtrl::Theme::Light));
 }

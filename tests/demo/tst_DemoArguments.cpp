@@ -16,6 +16,7 @@ private Q_SLOTS:
     void picturesShowEveryPageInBothThemes();
     void picturesWriteNothingButPictures();
     void picturesAreScaled();
+    void classicWindowIsShownOnRequest();
     void picturesShowTheConfiguration();
     void picturesShowTheLanguage();
     void occupiedFailsOnAPlatformWithoutHotkeys();
@@ -55,7 +56,7 @@ void tst_DemoArguments::helpListsEveryOption()
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(help.errors, QString());
     for (const char *option : {"--local-file", "--config", "--page", "--theme", "--language",
-                               "--scale", "--pictures", "--occupied", "--help"})
+                               "--scale", "--classic", "--pictures", "--occupied", "--help"})
         QVERIFY2(help.output.contains(QLatin1String(option)), option);
     QVERIFY(!help.output.contains("--hold-key"));
 }
@@ -138,7 +139,11 @@ void tst_DemoArguments::picturesShowEveryPageInBothThemes()
         const QImage picture(path);
         QVERIFY2(picture.width() > 400 && picture.height() > 400, qPrintable(path));
         const QColor corner = picture.pixelColor(picture.width() - 2, picture.height() - 2);
-        QCOMPARE(corner.name(), QString(path.endsWith("-dark.png") ? "#1e1f22" : "#f2f3f5"));
+        const bool isDark = path.endsWith("-dark.png");
+        if (path.contains("/main-"))
+            QCOMPARE(corner.name(), QString(isDark ? "#1e1f22" : "#f2f3f5"));
+        else
+            QCOMPARE(corner.name(), QString(isDark ? "#1c1d20" : "#f3f4f6"));
     }
 }
 
@@ -159,9 +164,16 @@ void tst_DemoArguments::picturesAreScaled()
 {
     QCOMPARE(run({"--pictures", "one", "--scale", "1"}).exitCode, 0);
     QCOMPARE(run({"--pictures", "two", "--scale", "2"}).exitCode, 0);
-    // 768 points at 96 and at 192 dots per inch
-    QCOMPARE(QImage("one/mouse-light.png").width(), 1024);
-    QCOMPARE(QImage("two/mouse-light.png").width(), 2048);
+    QCOMPARE(QImage("one/mouse-light.png").width(), 980);
+    QCOMPARE(QImage("two/mouse-light.png").width(), 1960);
+}
+
+void tst_DemoArguments::classicWindowIsShownOnRequest()
+{
+    QCOMPARE(run({"--pictures", "classic", "--classic"}).exitCode, 0);
+    const QImage picture("classic/mouse-light.png");
+    QCOMPARE(picture.width(), 1024); // 768 points at 96 dots per inch
+    QCOMPARE(picture.pixelColor(picture.width() - 2, 2).name(), QString("#f2f3f5"));
 }
 
 void tst_DemoArguments::picturesShowTheConfiguration()

@@ -20,7 +20,8 @@ class Program
 public:
     Program()
     {
-        mFixture.session = std::make_unique<DemoSession>(DemoFixture::localFile());
+        mFixture.session = std::make_unique<DemoSession>(DemoFixture::localFile(),
+                                                         DemoSession::Look::Classic);
         mFixture.session->load(QString());
         mFixture.open("General");
         ConfStorage::instance()->addObserver([this](const ConfChange &change) {
@@ -113,7 +114,8 @@ void tst_DemoTwice::bothFollowEachOtherAndKeepBothChanges()
         QCOMPARE(program->exitCode(), 0);
     }
     DemoFixture demo(DemoFixture::Files::Keep);
-    demo.session = std::make_unique<DemoSession>(DemoFixture::localFile());
+    demo.session = std::make_unique<DemoSession>(DemoFixture::localFile(),
+                                                 DemoSession::Look::Classic);
     demo.session->load(QString());
     QVERIFY(!demo.settings().showTips);
     QVERIFY(demo.settings().showTrayIcon);
