@@ -1,13 +1,12 @@
 #include "ChangedDot_p.h"
 
-#include <OrvUtils/QThemeCtrl.h>
-
 #include <QPainter>
 
 namespace MtConf {
 
-ChangedDot::ChangedDot(int diameter, QObject *parent)
-    : QStyledItemDelegate(parent), mDiameter(diameter)
+ChangedDot::ChangedDot(int diameter, const QColor &color, const QColor &selectedColor,
+                       QObject *parent)
+    : QStyledItemDelegate(parent), mDiameter(diameter), mColor(color), mSelectedColor(selectedColor)
 {
 }
 
@@ -18,15 +17,13 @@ void ChangedDot::paint(QPainter *painter, const QStyleOptionViewItem &option,
     if (!index.data(sChangedRole).toBool())
         return;
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    const QColor color = isSelected ? QColor(Qt::white)
-                                    : QThemeCtrl::instance()->color(QStringLiteral("ColorMain"));
     QRect dot(0, 0, mDiameter, mDiameter);
     dot.moveCenter(option.rect.center());
     dot.moveRight(option.rect.right() - mDiameter);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(color);
+    painter->setBrush(isSelected ? mSelectedColor : mColor);
     painter->drawEllipse(QStyle::visualRect(option.direction, option.rect, dot));
     painter->restore();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QStyledItemDelegate>
 
 namespace MtConf {
@@ -13,14 +14,16 @@ public:
     /// The role of the model that tells whether something has changed.
     static constexpr int sChangedRole = Qt::UserRole + 2;
 
-    /// Draws dots of `diameter` pixels.
-    ChangedDot(int diameter, QObject *parent);
+    /// Draws dots of `diameter` pixels, in `selectedColor` in the selected row.
+    ChangedDot(int diameter, const QColor &color, const QColor &selectedColor, QObject *parent);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
 private:
     const int mDiameter;
+    const QColor mColor;
+    const QColor mSelectedColor;
 };
 
 } // namespace MtConf

@@ -13,15 +13,19 @@
 #include <MaltoConfiguration/store/ConfOperation.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include <OrvUtils/QThemeCtrl.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QListView>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace MtConf {
@@ -99,6 +103,7 @@ void RowReset::rowAdded(const PageRow &row)
 void RowReset::pageShown()
 {
     mChangesButton->setChecked(mIsShowingChanges);
+    updatePageState();
     updateClasses();
 }
 
@@ -109,8 +114,13 @@ void RowReset::pageCleared()
 
 void RowReset::sheetApplied()
 {
+    const auto color = [](const char *name) {
+        return QThemeCtrl::instance()->color(QLatin1String(name));
+    };
     QAbstractItemDelegate *const former = classList()->itemDelegate();
-    classList()->setItemDelegate(new ChangedDot(scaled(sDotSize), classList()));
+    classList()->setItemDelegate(
+        new ChangedDot(scaled(sDotSize), color(isModern() ? "ModernAccent" : "ColorMain"),
+                       isModern() ? color("ModernOnAccent") : QColor(Qt::white), classList()));
     former->deleteLater();
 }
 
@@ -132,7 +142,21 @@ void RowReset::update()
     mIsQueued = false;
     for (const PageRow &row : rows())
         updateRow(row);
+    updatePageState();
     updateClasses();
+}
+
+/// Shows how many rows of the page have changed, if the look has a place for it.
+void RowReset::updatePageState()
+{
+    auto *const state = window()->findChild<QLabel *>(QStringLiteral("ModernPageState"));
+    if (!state)
+        return;
+    const auto count = static_cast<int>(
+        std::count_if(rows().cbegin(), rows().cend(),
+                      [](const PageRow &row) { return !row.item->isDefaultValue(); }));
+    state->setText(tr("%n changed", nullptr, count));
+    state->setVisible(count > 0);
 }
 
 void RowReset::updateRow(const PageRow &row)

@@ -36,6 +36,7 @@ private:
     void update();
     void queueUpdate();
     void updateRow(const PageRow &row);
+    void updatePageState();
     void updateClasses();
     void resetFocusedRow();
     void reset(const PageRow &row);

@@ -49,6 +49,11 @@ QVBoxLayout *WindowFeature::classColumn() const
     return mWindow->mUi->verticalLayout_3;
 }
 
+bool WindowFeature::isModern() const
+{
+    return mWindow->mIsModern;
+}
+
 QScrollArea *WindowFeature::scrollArea() const
 {
     return mWindow->mUi->scrollArea;

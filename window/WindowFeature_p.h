@@ -60,6 +60,7 @@ protected:
     static constexpr int sClassNameRole = Qt::UserRole + 1;
     /// The column on the left: the list of classes and the widgets above and below it.
     QVBoxLayout *classColumn() const;
+    bool isModern() const;
     QScrollArea *scrollArea() const;
 
     /// The rows of the shown page.

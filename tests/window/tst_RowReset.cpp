@@ -105,6 +105,22 @@ private Q_SLOTS:
         menu->close();
     }
 
+    void theModernPageCountsItsChanges()
+    {
+        mFixture->manager->windowLook = ModernLook;
+        QVERIFY(mFixture->openActive());
+        const auto *state = WindowFixture::child<QLabel>("ModernPageState");
+        QVERIFY(!state->isVisible());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        WindowFixture::store()->set(mOther->getFullName(), false); // on another page
+        QTRY_COMPARE(state->text(), QString("1 changed"));
+        QVERIFY(state->isVisible());
+        WindowFixture::clickClass(1);
+        QCOMPARE(state->text(), QString("1 changed"));
+        QTest::mouseClick(button(0), Qt::LeftButton);
+        QVERIFY(!state->isVisible());
+    }
+
     void classesWithChangesAreMarked()
     {
         QVERIFY(mFixture->openActive());
