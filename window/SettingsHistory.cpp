@@ -128,16 +128,19 @@ void SettingsHistory::apply(Direction direction)
     const QPointer<SettingsHistory> self(this);
     const bool isUndo = direction == Direction::Undo;
     QStringList keys;
+    bool hasApplied = false;
     mIsApplying = true;
-    while (keys.isEmpty() && (isUndo ? steps->canUndo() : steps->canRedo())) {
+    while (!hasApplied && (isUndo ? steps->canUndo() : steps->canRedo())) {
         const int index = isUndo ? steps->index() - 1 : steps->index();
         const auto *step = static_cast<const SettingsStep *>(steps->command(index));
         const int count = steps->count();
         isUndo ? steps->undo() : steps->redo();
         if (!self)
             return;
-        if (steps->count() == count && step->hasApplied()) // it was not dropped
-            keys = step->keys();
+        if (steps->count() < count) // it was dropped
+            continue;
+        hasApplied = step->hasApplied();
+        keys += step->keys();
     }
     mIsApplying = false;
     renewIfCleared();

@@ -209,8 +209,11 @@ void SettingsStep::apply(Side from, Side to)
 {
     mEntries.removeUnchanged();
     const QStringList keys = ownKeys(from, to);
-    mHasApplied = !keys.isEmpty();
-    if (!mHasApplied)
+    mHasApplied = std::any_of(keys.cbegin(), keys.cend(), [this](const QString &key) {
+        const Entry &entry = *mEntries.find(key);
+        return !hasSameValue(entry.before, entry.after);
+    });
+    if (keys.isEmpty())
         return;
     Entries answers;
     {

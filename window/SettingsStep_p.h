@@ -47,7 +47,8 @@ public:
     /// Does the same for the states after the step. The first call does nothing: the store has
     /// them already.
     void redo() override;
-    /// Returns whether the last call of `undo` or `redo` had something to change.
+    /// Returns whether the last call of `undo` or `redo` had a value to change. A user does not see
+    /// whether a default value was set or restored.
     bool hasApplied() const { return mHasApplied; }
 
 private:

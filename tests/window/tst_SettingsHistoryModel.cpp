@@ -183,7 +183,7 @@ private:
                 areOthers = areOthers && !isDone && !isOwn;
                 if (isOwn && !isDone) {
                     cells[key] = goal;
-                    hasApplied = true;
+                    hasApplied = hasApplied || !goal.hasSameValue(start);
                 }
             }
             if (!areOthers)
