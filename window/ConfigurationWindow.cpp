@@ -7,6 +7,7 @@
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/store/ConfOperation.h>
 
 #include <OrvUtils/SetWindowTopmost.h>
 
@@ -241,6 +242,7 @@ void ConfigurationWindow::restorePageDefault()
         return;
     {
         const HostCodeScope scope(mHostCode);
+        const ConfOperation operation(ConfStorage::instance(), ConfChange::Cause::Restored);
         const QList<PageRow> rows = mRows;
         for (const PageRow &row : rows) {
             if (row.editor)
@@ -258,6 +260,7 @@ void ConfigurationWindow::restoreAllDefault()
         return;
     {
         const HostCodeScope scope(mHostCode);
+        const ConfOperation operation(ConfStorage::instance(), ConfChange::Cause::Restored);
         mManager->restoreAllDefault();
     }
     if (self)

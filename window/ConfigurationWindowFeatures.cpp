@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "HistoryFeature_p.h"
 #include "LivePages_p.h"
 #include "MaltoConfiguration/manage/WindowMemory_p.h"
 #include "ModernWindow_p.h"
@@ -33,6 +34,8 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new RowReset(this));
     if (features & LivePagesFeature)
         mFeatures.append(new LivePages(this));
+    if (features & UndoFeature)
+        mFeatures.append(new HistoryFeature(this));
     tellFeatures(&WindowFeature::sheetApplied);
 }
 
