@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QListView>
 #include <QTranslator>
 
@@ -167,6 +169,94 @@ void checkControls(benchmark::State &state, QWidget *window)
         state.SkipWithError("the page is not shown");
 }
 
+/// The settings window with Find and `count` items on pages of 100, of which the first is empty.
+class FindWindow
+{
+public:
+    explicit FindWindow(int count) : mFlags(count)
+    {
+        constexpr int sPageSize = 100;
+        mPrevious = QDir::currentPath();
+        QDir::setCurrent(mFolder.path());
+        mManager.windowFeatures = MtConf::FindFeature;
+        mManager.addMajorConfItemIfNotExist(emptyPageName());
+        for (int i = 0; i < count; ++i)
+            mManager
+                .addConfBool("Show border", &mFlags[i], QStringLiteral("Page%1").arg(i / sPageSize),
+                             QStringLiteral("Item%1").arg(i))
+                ->setHelp("Draws a line around the captured window, in the colour of the border");
+        mManager.ShowWindow();
+        finishShowing();
+        field()->setFocus();
+        finishShowing();
+    }
+    ~FindWindow()
+    {
+        mManager.closeConfigWindow();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        clearStore();
+        QDir::setCurrent(mPrevious);
+    }
+    Q_DISABLE_COPY(FindWindow)
+
+    static QLineEdit *field()
+    {
+        return MtConf::ConfigurationWindow::instance()->findChild<QLineEdit *>(
+            QStringLiteral("FindField"));
+    }
+    static void type(QChar character)
+    {
+        QKeyEvent press(QEvent::KeyPress, character.toUpper().unicode(), Qt::NoModifier, character);
+        QApplication::sendEvent(field(), &press);
+    }
+
+private:
+    QTemporaryDir mFolder;
+    QString mPrevious;
+    QVector<bool> mFlags;
+    MtConf::MtConfManage mManager;
+};
+
+/// Types one key into Find. The first one is found in every item.
+void typeIntoFind(benchmark::State &state)
+{
+    const QString word = QStringLiteral("border");
+    FindWindow window(sizeOf(state));
+    int typed = 0;
+    for (auto _ : state) {
+        FindWindow::type(word.at(typed));
+        finishShowing();
+        if (++typed < word.size())
+            continue;
+        state.PauseTiming();
+        typed = 0;
+        if (FindWindow::field()->text() != word)
+            state.SkipWithError("the keys are not typed");
+        FindWindow::field()->clear();
+        finishShowing();
+        state.ResumeTiming();
+    }
+    countEntries(state);
+}
+
+/// What Find is compared with: a page of 200 rows.
+void buildPage(benchmark::State &state)
+{
+    constexpr int sRows = 200;
+    LibraryWindow window(sRows);
+    window.open();
+    for (auto _ : state) {
+        state.PauseTiming();
+        window.leavePage();
+        finishShowing();
+        state.ResumeTiming();
+        window.showPage();
+        finishShowing();
+    }
+    countEntries(state);
+    window.close();
+}
+
 template<class Window> void firstShowing(benchmark::State &state)
 {
     Window window(sizeOf(state));
@@ -245,6 +335,8 @@ void addWindowBenchmarks()
     addBenchmark("firstShowing", "bare", firstShowing<BareWindow>, {20});
     addBenchmark("switchPage", "library", switchPage<LibraryWindow>, {20, 200, 1000});
     addBenchmark("switchPage", "bare", switchPage<BareWindow>, {20, 200, 1000});
+    addBenchmark("typeIntoFind", "library", typeIntoFind, {100, 10000});
+    addBenchmark("typeIntoFind", "bare", buildPage, {100, 10000});
     addBenchmark("switchLanguage", "library", switchLanguage<LibraryWindow>, {20, 200});
     addBenchmark("switchLanguage", "bare", switchLanguage<BareWindow>, {20, 200});
     addBenchmark("switchTheme", "library", switchTheme<LibraryWindow>, {20, 200});

@@ -6,6 +6,7 @@
 #include "ModernWindow_p.h"
 #include "RowDetails_p.h"
 #include "RowReset_p.h"
+#include "SettingsFind_p.h"
 #include "WindowFeature_p.h"
 #include "WindowIdentity_p.h"
 #include "WindowKeys_p.h"
@@ -36,6 +37,8 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new LivePages(this));
     if (features & UndoFeature)
         mFeatures.append(new HistoryFeature(this));
+    if (features & FindFeature)
+        mFeatures.append(new SettingsFind(this));
     tellFeatures(&WindowFeature::sheetApplied);
 }
 

@@ -2,10 +2,10 @@
 
 #include "FoldedText_p.h"
 #include "MaltoConfiguration/manage/ItemVisibility_p.h"
+#include "WindowFeature_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QStringMatcher>
 
@@ -21,12 +21,6 @@ constexpr QLatin1Char sSeparator('\n');
 
 /// How well a word matches; the sum of all words decides the order.
 enum Score : int { CaptionStart, InCaption, OtherStart, Elsewhere, NoMatch };
-
-/// Translates the names of classes and groups as the window does.
-QString translatedName(const QString &name)
-{
-    return QCoreApplication::translate("MtConf::ConfigurationWindow", name.toUtf8().constData());
-}
 
 /// Appends a text in the language shown and, if it differs, in English.
 void appendBoth(QString *texts, const QString &shown, const QString &english)
@@ -152,12 +146,9 @@ void SettingsIndex::update()
 
 void SettingsIndex::addItem(ConfItem *item)
 {
-    const QString group = item->subName.isEmpty() ? QString() : item->name;
     Entry entry;
     entry.item = item;
     entry.className = item->majorName;
-    entry.shownClass = translatedName(item->majorName);
-    entry.shownGroup = group.isEmpty() ? QString() : translatedName(group);
 
     QString texts;
     const QByteArray caption = item->displayText;
@@ -168,8 +159,9 @@ void SettingsIndex::addItem(ConfItem *item)
                item->properties.value(QStringLiteral("Malto.Help")).toString());
     for (const ConfChoice &choice : std::as_const(item->choices))
         appendBoth(&texts, choice.text(), choice.label);
-    appendBoth(&texts, entry.shownClass, item->majorName);
-    appendBoth(&texts, entry.shownGroup, group);
+    appendBoth(&texts, WindowFeature::translatedName(item->majorName), item->majorName);
+    if (!item->subName.isEmpty())
+        appendBoth(&texts, WindowFeature::translatedName(item->name), item->name);
     texts += item->getFullName();
     entry.folded = folded + foldedText(texts);
     entry.captionSize = folded.size();
@@ -180,9 +172,8 @@ void SettingsIndex::addCustomPage(const MajorConfItem &major)
 {
     Entry page;
     page.className = major.name;
-    page.shownClass = translatedName(major.name);
     QString names;
-    appendBoth(&names, page.shownClass, major.name);
+    appendBoth(&names, WindowFeature::translatedName(major.name), major.name);
     names = foldedText(names);
     page.folded = names;
     page.captionSize = names.size();

@@ -41,8 +41,6 @@ public:
     {
         ConfItem *item = nullptr; ///< null for a custom page
         QString className;        ///< not translated
-        QString shownClass;       ///< the class, translated
-        QString shownGroup;       ///< the group, translated; empty if the setting has none
         QString text;             ///< one of `MajorConfItem::searchTexts`; empty: the page itself
         QString folded;           ///< what is searched: the caption first
         QString::size_type captionSize = 0; ///< of the caption within `folded`
