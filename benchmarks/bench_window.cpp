@@ -55,8 +55,12 @@ public:
 class LibraryWindow
 {
 public:
-    explicit LibraryWindow(int count) : mFlags(count), mNumbers(count)
+    explicit LibraryWindow(int count, MtConf::WindowLook look = MtConf::ClassicLook,
+                           quint32 features = 0)
+        : mFlags(count), mNumbers(count)
     {
+        mManager.windowLook = look;
+        mManager.windowFeatures = features;
         // The window saves its geometry in the working directory.
         mPrevious = QDir::currentPath();
         QDir::setCurrent(mFolder.path());
@@ -113,6 +117,16 @@ private:
     QVector<bool> mFlags;
     QVector<int> mNumbers;
     MtConf::MtConfManage mManager;
+};
+
+/// The same window with everything that a host can ask for.
+class ModernWindow : public LibraryWindow
+{
+public:
+    explicit ModernWindow(int count)
+        : LibraryWindow(count, MtConf::ModernLook, MtConf::AllWindowFeatures)
+    {
+    }
 };
 
 /// The same window without the library.
@@ -332,8 +346,10 @@ template<class Window> void switchTheme(benchmark::State &state)
 void addWindowBenchmarks()
 {
     addBenchmark("firstShowing", "library", firstShowing<LibraryWindow>, {20});
+    addBenchmark("firstShowing", "modern", firstShowing<ModernWindow>, {20});
     addBenchmark("firstShowing", "bare", firstShowing<BareWindow>, {20});
     addBenchmark("switchPage", "library", switchPage<LibraryWindow>, {20, 200, 1000});
+    addBenchmark("switchPage", "modern", switchPage<ModernWindow>, {20, 200, 1000});
     addBenchmark("switchPage", "bare", switchPage<BareWindow>, {20, 200, 1000});
     addBenchmark("typeIntoFind", "library", typeIntoFind, {100, 10000});
     addBenchmark("typeIntoFind", "bare", buildPage, {100, 10000});

@@ -13,6 +13,7 @@ namespace MtConf {
 namespace {
 
 constexpr int sGridSpacing = 12; // points
+constexpr int sEndWidth = 18;    // the same
 
 // Rows of the grid, counted from that of the editor. A row without widgets takes no space.
 constexpr int sTextRow = 2;
@@ -63,6 +64,16 @@ void ClassicPageBuilder::beginGroup(const QString &caption, const QString &sourc
         mGrid->setSpacing(spacing);
         mGrid->setProperty("SourceSpacing", sGridSpacing);
     }
+    if (mHasFeatures)
+        keepEndFree();
+}
+
+/// Reserves the last column, so that the others do not move when a widget is added there.
+void ClassicPageBuilder::keepEndFree()
+{
+    auto *end = new QWidget(mBox);
+    end->setFixedSize(qRound(mScale * sEndWidth), 0);
+    mGrid->addWidget(end, 0, 2);
 }
 
 QWidget *ClassicPageBuilder::newRowParent()

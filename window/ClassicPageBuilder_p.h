@@ -27,6 +27,7 @@ public:
     void addUnderCaption(const PageRow &row, QWidget *widget) override;
 
 private:
+    void keepEndFree();
     void addCaption(const QString &caption, const QString &source);
 
     QWidget *const mBoard;

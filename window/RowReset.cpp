@@ -83,18 +83,6 @@ RowReset::~RowReset()
 
 void RowReset::rowAdded(const PageRow &row)
 {
-    auto *button = new ResetButton(row.frame);
-    button->setFixedSize(scaled(sButtonSize), scaled(sButtonSize));
-    builder()->addAtEnd(row, button);
-    connect(button, &QAbstractButton::clicked, this, [this, key = row.key] {
-        for (const PageRow &shown : rows()) {
-            if (shown.key == key) {
-                reset(PageRow(shown));
-                return;
-            }
-        }
-    });
-    mButtons.insert(row.key, button);
     row.frame->removeEventFilter(this); // rows of the classic look share their frame
     row.frame->installEventFilter(this);
     updateRow(row);
@@ -161,11 +149,14 @@ void RowReset::updatePageState()
 
 void RowReset::updateRow(const PageRow &row)
 {
-    ResetButton *const button = mButtons.value(row.key);
-    if (!button)
-        return;
     const bool isChanged = !row.item->isDefaultValue()
                            && !ConfStorage::instance()->isLocked(row.key);
+    ResetButton *button = mButtons.value(row.key);
+    // Most rows never need one.
+    if (!button && isChanged && row.frame)
+        button = addButton(row);
+    if (!button)
+        return;
     // The keyboard would be without focus.
     if (!isChanged && button->hasFocus() && row.editor) {
         if (QWidget *const control = firstControl(row.editor))
@@ -175,6 +166,36 @@ void RowReset::updateRow(const PageRow &row)
     button->setAccessibleName(tr("Reset %1").arg(QObject::tr(row.item->displayText)));
     button->setToolTip(
         QStringLiteral("%1 (%2)").arg(tr("Reset"), resetKey().toString(QKeySequence::NativeText)));
+}
+
+ResetButton *RowReset::addButton(const PageRow &row)
+{
+    auto *button = new ResetButton(row.frame);
+    button->setFixedSize(scaled(sButtonSize), scaled(sButtonSize));
+    builder()->addAtEnd(row, button);
+    connect(button, &QAbstractButton::clicked, this, [this, key = row.key] { resetKeyed(key); });
+    // After the controls of its row.
+    if (row.editor) {
+        QWidget *last = row.editor;
+        const QList<QWidget *> controls = row.editor->findChildren<QWidget *>();
+        for (QWidget *control : controls) {
+            if (control->focusPolicy() & Qt::TabFocus)
+                last = control;
+        }
+        QWidget::setTabOrder(last, button);
+    }
+    mButtons.insert(row.key, button);
+    return button;
+}
+
+void RowReset::resetKeyed(const QString &key)
+{
+    for (const PageRow &row : rows()) {
+        if (row.key == key) {
+            reset(PageRow(row));
+            return;
+        }
+    }
 }
 
 /// Marks the classes on whose pages something has changed.
@@ -284,7 +305,7 @@ void RowReset::showMenu(const PageRow &row, const QPoint &position)
     QAction *const resetAction = menu->addAction(tr("Reset"));
     resetAction->setShortcut(resetKey());
     resetAction->setEnabled(mButtons.value(row.key) && mButtons.value(row.key)->isVisible());
-    connect(resetAction, &QAction::triggered, this, [this, row] { reset(row); });
+    connect(resetAction, &QAction::triggered, this, [this, key = row.key] { resetKeyed(key); });
     connect(menu->addAction(tr("Copy key")), &QAction::triggered, this,
             [key = row.key] { QApplication::clipboard()->setText(key); });
     const ConfStorage *const store = ConfStorage::instance();

@@ -36,6 +36,8 @@ private:
     void update();
     void queueUpdate();
     void updateRow(const PageRow &row);
+    ResetButton *addButton(const PageRow &row);
+    void resetKeyed(const QString &key);
     void updatePageState();
     void updateClasses();
     void resetFocusedRow();
@@ -44,7 +46,7 @@ private:
     void showChanges(bool isOn);
     QList<ConfItem *> changedItems() const;
 
-    QHash<QString, QPointer<ResetButton>> mButtons; // of the shown page, by key
+    QHash<QString, QPointer<ResetButton>> mButtons; // of rows that have differed, by key
     QPushButton *const mChangesButton;
     bool mIsShowingChanges = false; // while that page is being built
     bool mIsQueued = false;

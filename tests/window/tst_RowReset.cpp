@@ -37,28 +37,29 @@ private Q_SLOTS:
     void theButtonIsShownWhileTheRowDiffers()
     {
         QVERIFY(mFixture->openActive());
-        QVERIFY(!button(0)->isVisible());
+        QVERIFY(!button(mFlag));
         const int end = mNumber->editor->geometry().right();
         QTest::mouseClick(WindowFixture::checkBox(mFlag), Qt::LeftButton, {}, QPoint(10, 8));
-        QTRY_VERIFY(button(0)->isVisible());
-        QVERIFY(!button(1)->isVisible());
+        QTRY_VERIFY(button(mFlag));
+        QVERIFY(!button(mNumber));
         QCOMPARE(mNumber->editor->geometry().right(), end);
-        QTest::mouseClick(button(0), Qt::LeftButton);
+        QTest::mouseClick(button(mFlag), Qt::LeftButton);
         QVERIFY(mFlag->isDefaultValue());
         QVERIFY(WindowFixture::checkBox(mFlag)->isChecked());
-        QVERIFY(!button(0)->isVisible());
+        QVERIFY(!button(mFlag));
     }
 
     void theButtonIsUsedByKeyboardAndPassesTheFocusOn()
     {
         QVERIFY(mFixture->openActive());
         WindowFixture::store()->set(mNumber->getFullName(), 7);
-        QTRY_VERIFY(button(1)->isVisible());
-        button(1)->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(button(1), Qt::Key_Space);
+        QTRY_VERIFY(button(mNumber));
+        mNumber->editor->findChild<QSpinBox *>()->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), button(mNumber));
+        QTest::keyClick(button(mNumber), Qt::Key_Space);
         QVERIFY(mNumber->isDefaultValue());
         QVERIFY(mNumber->editor->isAncestorOf(QApplication::focusWidget()));
-        QCOMPARE(button(1)->accessibleName(), QString("Reset Delay"));
     }
 
     void aKeyResetsTheFocusedRow()
@@ -77,7 +78,7 @@ private Q_SLOTS:
     {
         QVERIFY(mFixture->openActive());
         WindowFixture::store()->set(mNumber->getFullName(), 7);
-        QTRY_VERIFY(button(1)->isVisible());
+        QTRY_VERIFY(button(mNumber));
         QMenu *menu = openMenu(mNumber->editor);
         QVERIFY(menu);
         menu->actions().at(1)->trigger();
@@ -117,7 +118,8 @@ private Q_SLOTS:
         QVERIFY(state->isVisible());
         WindowFixture::clickClass(1);
         QCOMPARE(state->text(), QString("1 changed"));
-        QTest::mouseClick(button(0), Qt::LeftButton);
+        QTRY_VERIFY(button(mOther));
+        QTest::mouseClick(button(mOther), Qt::LeftButton);
         QVERIFY(!state->isVisible());
     }
 
@@ -170,10 +172,10 @@ private Q_SLOTS:
     {
         QVERIFY(mFixture->openActive());
         WindowFixture::store()->set(mNumber->getFullName(), 7);
-        QTRY_VERIFY(button(1)->isVisible());
+        QTRY_VERIFY(button(mNumber));
         mNumber->setConfChangedCallback(
             [&](const QString &, const ConfValue *) { mFixture->manager->closeConfigWindow(); });
-        QTest::mouseClick(button(1), Qt::LeftButton);
+        QTest::mouseClick(button(mNumber), Qt::LeftButton);
         QTRY_VERIFY(!WindowFixture::window());
         QVERIFY(mNumber->isDefaultValue());
     }
@@ -183,13 +185,21 @@ private Q_SLOTS:
         WindowFixture::store()->lockConf(mNumber->getFullName(), 9);
         QVERIFY(mFixture->openActive());
         QVERIFY(!mNumber->isDefaultValue());
-        QVERIFY(!button(1)->isVisible());
+        QVERIFY(!button(mNumber));
     }
 
 private:
-    static QToolButton *button(int row)
+    /// Returns the visible button of the row; null if there is none.
+    static QToolButton *button(const ConfItem *item)
     {
-        return WindowFixture::window()->findChildren<QToolButton *>("ResetButton").at(row);
+        const auto name = "Reset " + QString(item->displayText);
+        const QList<QToolButton *> buttons = WindowFixture::window()->findChildren<QToolButton *>(
+            "ResetButton");
+        for (QToolButton *button : buttons) {
+            if (button->isVisible() && button->accessibleName() == name)
+                return button;
+        }
+        return nullptr;
     }
     static QPushButton *showChanges()
     {
