@@ -139,15 +139,32 @@ QWidget *HistoryFeature::editorOf(const QStringList &keys) const
     return nullptr;
 }
 
+/// Opens the page of the first key that has one, unless the shown page has one of the keys.
 void HistoryFeature::openPageOf(const QStringList &keys)
 {
+    QString page;
+    for (const QString &key : keys) {
+        const QString name = pageOf(key);
+        if (name == window()->currentClass())
+            return;
+        if (page.isEmpty())
+            page = name;
+    }
+    if (!page.isEmpty())
+        window()->switchToView(page);
+}
+
+/// Returns the class with whose name `key` begins, as that of an entry on a custom page, or an
+/// empty name.
+QString HistoryFeature::pageOf(const QString &key) const
+{
     if (!manager())
-        return;
-    const auto &items = manager()->items;
-    const auto isChanged = [&](const ConfItem &item) { return keys.contains(item.getFullName()); };
-    const auto found = std::find_if(items.cbegin(), items.cend(), isChanged);
-    if (found != items.cend() && found->majorName != window()->currentClass())
-        window()->switchToView(found->majorName);
+        return QString();
+    const auto &classes = manager()->majorItems;
+    const auto found = std::find_if(classes.cbegin(), classes.cend(), [&](const auto &major) {
+        return key.startsWith(major.name + QLatin1Char('.'));
+    });
+    return found != classes.cend() ? found->name : QString();
 }
 
 } // namespace MtConf

@@ -35,6 +35,7 @@ private:
     bool refreshRows(const QStringList &keys);
     QWidget *editorOf(const QStringList &keys) const;
     void openPageOf(const QStringList &keys);
+    QString pageOf(const QString &key) const;
     static QString textOf(ConfChange::Cause cause, int count);
 
     SettingsHistory *const mHistory;
