@@ -1,5 +1,7 @@
 #include "ProfileStore.h"
 
+#include <MaltoConfiguration/store/ConfOperation.h>
+
 #include <QUuid>
 
 #include <algorithm>
@@ -138,6 +140,8 @@ void ProfileStore::setValue(const QString &key, const QString &member, const QJs
     if (!mProfiles.count(key) || changed.value(member) == value)
         return;
     changed.insert(member, value);
+    // So that the settings window can undo it.
+    const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
     ConfStorage::instance()->set(key, changed);
 }
 
@@ -149,5 +153,6 @@ void ProfileStore::remove(const QString &key)
 
 void ProfileStore::restorePresets()
 {
+    const ConfOperation restoring(ConfStorage::instance(), ConfChange::Cause::Restored);
     ConfStorage::instance()->restoreDynamicConf(prefix());
 }
