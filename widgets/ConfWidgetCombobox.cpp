@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/ConfWidgetCombobox.h>
 
 #include "CheckedFlags_p.h"
+#include "RoundedPopup_p.h"
 
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
@@ -29,6 +30,7 @@ ConfWidgetCombobox::ConfWidgetCombobox(ConfItem *item, QWidget *parent)
         mComboBox = new ComboboxDisableWheel(this);
         // Style sheets apply to the rows of this view, not to those of the default view.
         mComboBox->setView(new QListView(mComboBox));
+        new RoundedPopup(mComboBox);
         connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &ConfWidgetCombobox::setValueInt32);
     }

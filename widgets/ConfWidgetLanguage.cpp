@@ -3,6 +3,7 @@
 #include "LangCodeTable_p.h"
 #include "MaltoConfiguration/store/Limits_p.h"
 #include "MaltoConfiguration/store/PosixFile_p.h"
+#include "RoundedPopup_p.h"
 
 #include <OrvUtils/getPreferredLanguages.h>
 
@@ -67,6 +68,7 @@ ConfWidgetLanguage::ConfWidgetLanguage(ConfItem *item, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     // Style sheets apply to the rows of this view, not to those of the default view.
     mComboBox->setView(new QListView(mComboBox));
+    new RoundedPopup(mComboBox);
     mComboBox->addItems(displayNames());
     layout->addWidget(mComboBox);
     connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

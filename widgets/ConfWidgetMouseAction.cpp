@@ -3,6 +3,7 @@
 #include "CheckedFlags_p.h"
 #include "EditorTexts_p.h"
 #include "Glyphs_p.h"
+#include "RoundedPopup_p.h"
 
 #include <MaltoConfiguration/widgets/ComboboxDisableWheel.h>
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
@@ -100,6 +101,7 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
         mModifierBox->addItem(QString::fromUtf8(modifier.symbol), static_cast<int>(modifier.flag));
     // Style sheets apply to the rows of this view, not to those of the default view.
     mActionBox->setView(new QListView(mActionBox));
+    new RoundedPopup(mActionBox);
     addActions(kind);
     auto *plus = new QLabel(QStringLiteral("+"), this);
     plus->setAlignment(Qt::AlignCenter);

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
 #include "FaintPlaceholder_p.h"
+#include "RoundedPopup_p.h"
 
 #include "QtWidgetsCompat_p.h"
 
@@ -121,6 +122,7 @@ MultiSelectComboBox::MultiSelectComboBox(QWidget *parent)
     setProperty("class", QStringLiteral("MultiSelectComboBox"));
     setModel(mListWidget->model());
     setView(mListWidget);
+    new MtConf::RoundedPopup(this);
     mListWidget->setItemDelegate(new CheckBoxRowDelegate(mListWidget));
     setLineEdit(mLineEdit);
     connect(this, QOverload<int>::of(&QComboBox::activated), this,

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void rowsHaveTheColoursOfThePanel();
     void longestTextFitsIntoTheMinimumWidth_data() { textsBeginAtTheSamePlace_data(); }
     void longestTextFitsIntoTheMinimumWidth();
+    void multiSelectBoxHasTheFillOfOthers();
     void placeholderIsFainterThanText_data();
     void placeholderIsFainterThanText();
     void placeholderColourOfTheHostIsKept();
@@ -146,6 +147,9 @@ void tst_ComboBoxAppearance::textsBeginAtTheSamePlace()
     if (mWindow->isRightToLeft()) {
         // A line edit reserves room for the cursor after its text; the other fields do not.
         QVERIFY(besideEdge(mMulti, 2));
+        // No room on the right for the buttons, which are on the left.
+        const QRect text = mSpin->findChild<QLineEdit *>()->geometry();
+        QVERIFY(mSpin->rect().right() - text.right() <= edge);
         return;
     }
     for (QWidget *field : {static_cast<QWidget *>(mMulti), static_cast<QWidget *>(mSpin),
@@ -213,6 +217,16 @@ void tst_ComboBoxAppearance::longestTextFitsIntoTheMinimumWidth()
     };
     QVERIFY(room(mPlain) >= mPlain->fontMetrics().horizontalAdvance(sText));
     QVERIFY(room(mMulti) >= mMulti->fontMetrics().horizontalAdvance(sText));
+}
+
+void tst_ComboBoxAppearance::multiSelectBoxHasTheFillOfOthers()
+{
+    for (const auto theme : {QThemeCtrl::Theme::Light, QThemeCtrl::Theme::Dark}) {
+        applySheets(mWindow.get(), theme, 1);
+        const QPoint beforeTheText(4, 12);
+        QCOMPARE(mMulti->grab().toImage().pixelColor(beforeTheText),
+                 mPlain->grab().toImage().pixelColor(beforeTheText));
+    }
 }
 
 void tst_ComboBoxAppearance::placeholderIsFainterThanText_data()
