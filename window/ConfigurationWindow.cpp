@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "ClassicPageBuilder_p.h"
+#include "DialogDress_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "ModernPageBuilder_p.h"
 #include "WindowFeature_p.h"
@@ -79,6 +80,7 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
         sWindow = this;
 
     mUi->setupUi(this);
+    new DialogDress(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowFlag(Qt::WindowStaysOnTopHint);
 

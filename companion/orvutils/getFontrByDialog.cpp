@@ -14,6 +14,11 @@ QFont getFontrByDialog(const QFont &initial, QWidget *parent, const QString &tit
     const QPointer<QFontDialog> dialog = new QFontDialog(offered, parent);
     dialog->setOption(QFontDialog::DontUseNativeDialog);
     dialog->setWindowTitle(title);
+    if (dialog->currentFont().family() != offered.family()) {
+        // The family is not installed. The dialog selects any other one; texts are drawn in this.
+        offered.setFamily(QFontInfo(initial).family());
+        dialog->setCurrentFont(offered);
+    }
     // The dialog rounds the size, so compare with the font that it shows.
     const QFont shown = dialog->currentFont();
     const bool accepted = dialog->exec() == QDialog::Accepted;

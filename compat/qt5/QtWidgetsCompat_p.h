@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QSize>
 #include <QVariant>
 
@@ -21,6 +22,12 @@ inline QSize globalStrut()
 inline bool isEqual(const QVariant &a, const QVariant &b)
 {
     return a == b;
+}
+
+/// Returns the position of the mouse in the widget.
+inline QPointF positionOf(const QMouseEvent &event)
+{
+    return event.localPos();
 }
 
 } // namespace QtCompat

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QSize>
 #include <QVariant>
 
@@ -19,6 +20,12 @@ inline QSize globalStrut()
 inline bool isEqual(const QVariant &a, QVariant b)
 {
     return a == b || (b.convert(a.metaType()) && a == b);
+}
+
+/// Returns the position of the mouse in the widget.
+inline QPointF positionOf(const QMouseEvent &event)
+{
+    return event.position();
 }
 
 } // namespace QtCompat
