@@ -150,7 +150,7 @@ void MainWindow::retranslate()
     mRestoreAction->setText(tr("&Restore all…"));
     mQuitAction->setText(tr("&Quit"));
     mThemeMenu->setTitle(tr("&Theme"));
-    const QStringList names{tr("Like the system"), tr("Light"), tr("Dark")};
+    const QStringList names{tr("Follow the system"), tr("Light"), tr("Dark")};
     const QList<QAction *> themes = mThemes->actions();
     for (QAction *action : themes)
         action->setText(names.value(action->data().toInt()));
@@ -216,6 +216,7 @@ void MainWindow::restoreAll()
         QMessageBox::Question, windowTitle(),
         tr("Restore the defaults of all settings and the presets of the profiles?"),
         QMessageBox::Yes | QMessageBox::No, this);
+    question->setDefaultButton(QMessageBox::No);
     const int answer = question->exec();
     if (!self || !question)
         return;

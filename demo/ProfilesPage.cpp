@@ -15,9 +15,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -52,6 +58,18 @@ QSpinBox *makeSideBox(QWidget *parent)
     return box;
 }
 
+/// Makes rows as wide as the list, which elides their texts.
+class NarrowRowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+};
+
 } // namespace
 
 ProfilesPage::ProfilesPage(ProfileStore &profiles, QWidget *parent)
@@ -63,12 +81,16 @@ ProfilesPage::ProfilesPage(ProfileStore &profiles, QWidget *parent)
       mWidth(makeSideBox(mValues)), mHeightLabel(new QLabel(mValues)),
       mHeight(makeSideBox(mValues)), mColorLabel(new QLabel(mValues)),
       mColor(new ColorSelectButton(mValues)), mPointer(new QCheckBox(mValues)),
-      mState(new QLabel(mValues))
+      mState(new QLabel(mValues)), mNotice(new QLabel(this))
 {
     const int spacing = qRound(8 * designScale(parent));
     mTitle->setProperty("ClassLabel", QStringLiteral("normal"));
     mHint->setAlignment(Qt::AlignCenter);
     mHint->setWordWrap(true);
+    mNotice->setObjectName(QStringLiteral("profileNotice"));
+    mNotice->setTextFormat(Qt::PlainText);
+    mNotice->setWordWrap(true);
+    mNotice->hide();
 
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -77,6 +99,7 @@ ProfilesPage::ProfilesPage(ProfileStore &profiles, QWidget *parent)
     layout->addWidget(makeListSide(), 1, 0);
     layout->addWidget(makeValueSide(), 1, 1, Qt::AlignTop);
     layout->addWidget(mHint, 1, 1);
+    layout->addWidget(mNotice, 2, 0, 1, 2);
     layout->setColumnStretch(0, 2);
     layout->setColumnStretch(1, 3);
 
@@ -84,6 +107,19 @@ ProfilesPage::ProfilesPage(ProfileStore &profiles, QWidget *parent)
     applySheet();
     connectAll();
     refresh();
+    window()->installEventFilter(this);
+}
+
+ProfilesPage::~ProfilesPage()
+{
+    storeName();
+}
+
+bool ProfilesPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == window() && event->type() == QEvent::Close)
+        storeName();
+    return QWidget::eventFilter(watched, event);
 }
 
 QWidget *ProfilesPage::makeListSide()
@@ -100,6 +136,8 @@ QWidget *ProfilesPage::makeListSide()
     mAdd->setObjectName(QStringLiteral("addProfile"));
     mRemove->setObjectName(QStringLiteral("removeProfile"));
     mRestore->setObjectName(QStringLiteral("restoreProfiles"));
+    mList->setItemDelegate(new NarrowRowDelegate(mList));
+    mList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return side;
 }
 
@@ -142,11 +180,19 @@ void ProfilesPage::connectAll()
     connect(QThemeCtrl::instance(), &QThemeCtrl::sigThemeChanged, this, &ProfilesPage::applySheet);
     connect(mList, &QListWidget::currentItemChanged, this, &ProfilesPage::showProfile);
     connect(mAdd, &QPushButton::clicked, this, &ProfilesPage::addProfile);
-    connect(mRemove, &QPushButton::clicked, this, &ProfilesPage::removeProfile);
-    connect(mRestore, &QPushButton::clicked, &mProfiles, &ProfileStore::restorePresets);
+    connect(mRemove, &QPushButton::clicked, this, &ProfilesPage::askToRemove);
+    connect(mRestore, &QPushButton::clicked, this, &ProfilesPage::askToRestore);
     connect(mName, &QLineEdit::textChanged, this, &ProfilesPage::checkName);
-    connect(mName, &QLineEdit::returnPressed, this, &ProfilesPage::renameProfile);
-    connect(mRename, &QPushButton::clicked, this, &ProfilesPage::renameProfile);
+    connect(mName, &QLineEdit::textEdited, mNotice, &QLabel::hide);
+    connect(mName, &QLineEdit::editingFinished, this, &ProfilesPage::storeName);
+    connect(mRename, &QPushButton::clicked, this, &ProfilesPage::storeName);
+    const auto connectKey = [this](Qt::Key key, void (ProfilesPage::*onKey)()) {
+        auto *shortcut = new QShortcut(key, mList);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, onKey);
+    };
+    connectKey(Qt::Key_Delete, &ProfilesPage::askToRemove);
+    connectKey(Qt::Key_F2, &ProfilesPage::editName);
     const auto connectSide = [this](QSpinBox *box, const QString &member) {
         connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
                 [this, member](int side) { mProfiles.setValue(mShownKey, member, side); });
@@ -206,6 +252,7 @@ void ProfilesPage::refresh()
             const QIcon icon = swatch(color, iconSize, devicePixelRatioF());
             auto *item = new QListWidgetItem(icon, mProfiles.name(key), mList);
             item->setData(Qt::UserRole, key);
+            item->setToolTip(item->text()); // the row may be too narrow for it
         }
         selectKey(shown);
         if (!mList->currentItem() && mList->count() > 0)
@@ -218,6 +265,8 @@ void ProfilesPage::showProfile()
 {
     const QString key = currentKey();
     const bool another = key != mShownKey;
+    if (another)
+        leaveName();
     mShownKey = key;
     mValues->setVisible(!key.isEmpty());
     mHint->setVisible(key.isEmpty());
@@ -227,7 +276,8 @@ void ProfilesPage::showProfile()
     const QSignalBlocker widthBlocker(mWidth);
     const QSignalBlocker heightBlocker(mHeight);
     // Keep a name that is being typed when other values of the profile change.
-    if (another || !mName->hasFocus())
+    // An unchanged text keeps its selection.
+    if (!mName->isModified() && mName->text() != mProfiles.name(key))
         mName->setText(mProfiles.name(key));
     mWidth->setValue(profile.value(QLatin1String("width")).toInt());
     mHeight->setValue(profile.value(QLatin1String("height")).toInt());
@@ -246,10 +296,27 @@ void ProfilesPage::checkName()
     mRename->setEnabled(error.isEmpty() && mName->text().trimmed() != mProfiles.name(mShownKey));
 }
 
-void ProfilesPage::renameProfile()
+/// Stores the name that the user has typed, if the profile can have it.
+void ProfilesPage::storeName()
 {
+    if (!mName->isModified() || !mProfiles.nameError(mShownKey, mName->text()).isEmpty())
+        return;
+    mName->setModified(false);
     mProfiles.rename(mShownKey, mName->text());
     checkName();
+}
+
+/// Stores the name before the page shows another profile, or says why it is not stored.
+void ProfilesPage::leaveName()
+{
+    storeName();
+    const bool isLost = mName->isModified() && mProfiles.keys().contains(mShownKey);
+    if (isLost)
+        mNotice->setText(
+            tr("“%1” keeps its name. %2")
+                .arg(mProfiles.name(mShownKey), mProfiles.nameError(mShownKey, mName->text())));
+    mNotice->setVisible(isLost);
+    mName->setModified(false);
 }
 
 void ProfilesPage::addProfile()
@@ -257,13 +324,50 @@ void ProfilesPage::addProfile()
     const QString key = mProfiles.add();
     refresh();
     selectKey(key);
+    editName();
+}
+
+void ProfilesPage::editName()
+{
     mName->setFocus();
     mName->selectAll();
 }
 
-void ProfilesPage::removeProfile()
+void ProfilesPage::askToRemove()
 {
-    mProfiles.remove(mShownKey);
+    const QString key = mShownKey;
+    if (key.isEmpty())
+        return;
+    ask(tr("Delete the profile “%1”?").arg(mProfiles.name(key)), tr("Delete"),
+        [this, key] { mProfiles.remove(key); });
+}
+
+void ProfilesPage::askToRestore()
+{
+    const QStringList keys = mProfiles.keys();
+    const auto isPreset = [this](const QString &key) { return mProfiles.isUntouchedPreset(key); };
+    const auto lost = std::count_if(keys.cbegin(), keys.cend(), std::not_fn(isPreset));
+    if (lost == 0)
+        mProfiles.restorePresets();
+    else
+        ask(tr("Restore the presets? This deletes your own profiles and undoes your changes of the "
+               "presets."),
+            tr("Restore presets"), [this] { mProfiles.restorePresets(); });
+}
+
+/// Asks `question` and calls `onYes` if the user chooses the button `action`. The other button is
+/// the default. The page may be deleted meanwhile, and the question with it.
+void ProfilesPage::ask(const QString &question, const QString &action,
+                       const std::function<void()> &onYes)
+{
+    auto *box = new QMessageBox(QMessageBox::Question, window()->windowTitle(), question,
+                                QMessageBox::Cancel, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(QMessageBox::Cancel);
+    const QPushButton *yes = box->addButton(action, QMessageBox::AcceptRole);
+    connect(yes, &QPushButton::clicked, this, onYes);
+    box->open();
 }
 
 QString ProfilesPage::currentKey() const

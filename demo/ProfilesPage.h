@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class ColorSelectButton;
 class ProfileStore;
 class QCheckBox;
@@ -13,13 +15,22 @@ class QPushButton;
 class QSpinBox;
 
 /// The page of the capture profiles: the list with buttons to add and delete profiles and to
-/// restore the presets, and beside it the values of the selected profile.
+/// restore the presets, and beside it the values of the selected profile. In the list Delete
+/// deletes and F2 renames.
+///
+/// A name that is typed is stored when the user confirms it, leaves the field, the profile or the
+/// page, or closes the window. A name that the profile cannot have is not stored, and the page says
+/// why.
 class ProfilesPage : public QWidget
 {
     Q_OBJECT
 public:
     /// Edits `profiles`, which must outlive the page.
     ProfilesPage(ProfileStore &profiles, QWidget *parent);
+    ~ProfilesPage() override;
+
+    /// Stores the typed name when the window is about to close, which saves.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -34,9 +45,13 @@ private:
     void refresh();
     void showProfile();
     void checkName();
-    void renameProfile();
+    void storeName();
+    void leaveName();
     void addProfile();
-    void removeProfile();
+    void editName();
+    void askToRemove();
+    void askToRestore();
+    void ask(const QString &question, const QString &action, const std::function<void()> &onYes);
     QString currentKey() const;
     void selectKey(const QString &key);
 
@@ -60,5 +75,6 @@ private:
     ColorSelectButton *const mColor;
     QCheckBox *const mPointer;
     QLabel *const mState;
+    QLabel *const mNotice;
     QString mShownKey;
 };

@@ -51,7 +51,7 @@ void WatermarkEditor::loadConf()
 void WatermarkEditor::retranslateUi()
 {
     ConfigItemWidget::retranslateUi();
-    mText->setPlaceholderText(tr("No watermark"));
+    mText->setPlaceholderText(tr("None if empty"));
     mOpacity->setToolTip(tr("Opacity"));
 }
 

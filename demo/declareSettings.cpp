@@ -128,7 +128,7 @@ void Declare::appearance(MtConfManage &m, Settings &s)
     const QString page = "Appearance"_s;
     m.addConfInt32WithCombobox(
         QT_TR_NOOP("Theme"),
-        {QT_TR_NOOP("Like the system"), QT_TR_NOOP("Light"), QT_TR_NOOP("Dark")}, &s.theme, page,
+        {QT_TR_NOOP("Follow the system"), QT_TR_NOOP("Light"), QT_TR_NOOP("Dark")}, &s.theme, page,
         "Theme"_s);
 
     const QString selection = "Selection"_s;
@@ -145,7 +145,7 @@ void Declare::appearance(MtConfManage &m, Settings &s)
     const QString label = "Size label"_s;
     m.addConfBool(QT_TR_NOOP("Show size beside the selection"), &s.showSize, page, label, "Show"_s);
     m.addConfQFont(QT_TR_NOOP("Font"), &s.labelFont, page, label, "Font"_s);
-    m.addConfQColor(QT_TR_NOOP("Colour"), &s.labelColor, page, label, "Color"_s);
+    m.addConfQColor(QT_TR_NOOP("Color"), &s.labelColor, page, label, "Color"_s);
 }
 
 void Declare::capture(MtConfManage &m, Settings &s)
@@ -196,7 +196,7 @@ void Declare::hotkeys(MtConfManage &m, Settings &s, const ProgramActions &action
 
     const QString tools = "Tools"_s;
     add(QT_TR_NOOP("Pin the clipboard"), &s.pinClipboard, tools, "Pin"_s);
-    add(QT_TR_NOOP("Pick a colour"), &s.pickColor, tools, "PickColor"_s);
+    add(QT_TR_NOOP("Pick a color"), &s.pickColor, tools, "PickColor"_s);
 
     const QString program = "In this program"_s;
     m.addConfShortcut(QT_TR_NOOP("Open the settings"), &s.showSettings, actions.showSettings, page,
@@ -336,7 +336,6 @@ void Declare::system(MtConfManage &m, Settings &s)
 
     // The last setting must not be a hidden one: the window draws a line below every other setting.
     m.addConfBool(QT_TR_NOOP("Write a log file"), &s.logToFile, page, "LogToFile"_s);
-    m.setConfigClassFlag(page, MtConf::ClassWithoutGroupBoxes);
     m.itemFilter = [&s](ConfItem &) { return s.showExpert; };
 }
 

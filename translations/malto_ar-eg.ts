@@ -82,7 +82,7 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
-        <translation>لغة النظام</translation>
+        <translation>حسب النظام</translation>
     </message>
 </context>
 <context>

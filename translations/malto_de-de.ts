@@ -82,7 +82,7 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     <name>MtConf::ConfWidgetLanguage</name>
     <message>
         <source>Follow the system</source>
-        <translation>Systemsprache</translation>
+        <translation>Wie das System</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>ال&amp;سمة</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>حسب النظام</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>فاتح</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>هل تريد استعادة الإعدادات الافتراضية كلها وملفات التعريف الجاهزة؟</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>حسب النظام</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>ملف خاص بك، أو ملف جاهز معدّل.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>يحتفظ «%1» باسمه. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>هل تريد حذف ملف التعريف «%1»؟</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>هل تريد استعادة الملفات الجاهزة؟ سيؤدي هذا إلى حذف ملفاتك الخاصة والتراجع عن تغييراتك في الملفات الجاهزة.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>السمة</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>حسب النظام</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>فاتح</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>الخط</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>اللون</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>تثبيت محتوى الحافظة</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>التقاط لون</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> بكسل</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>حسب النظام</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>اللون</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>التقاط لون</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>بلا علامة مائية</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>العتامة</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>فارغ: بدون</translation>
     </message>
 </context>
 <context>

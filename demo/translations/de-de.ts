@@ -78,10 +78,6 @@
         <translation>De&amp;sign</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Wie das System</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Hell</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Alle Einstellungen zurücksetzen und die Profilvorgaben wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Wie das System</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Eigenes Profil oder geänderte Vorgabe.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>„%1“ behält seinen Namen. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Das Profil „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Vorgaben wiederherstellen? Das löscht Ihre eigenen Profile und verwirft Ihre Änderungen an den Vorgaben.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Design</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Wie das System</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Hell</translation>
     </message>
@@ -382,10 +390,6 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     <message>
         <source>Font</source>
         <translation>Schrift</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Farbe</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Zwischenablage anheften</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Farbe aufnehmen</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Farbe aufnehmen</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Kein Wasserzeichen</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Leer: keines</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>&amp;Theme</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Like the system</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Light</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Restore the defaults of all settings and the presets of the profiles?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Follow the system</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Yours, or a changed preset.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1” keeps its name. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Delete the profile “%1”?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</translation>
         <translation>Theme</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Like the system</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Light</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</translation>
     <message>
         <source>Font</source>
         <translation>Font</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Colour</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Pin the clipboard</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Pick a colour</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Follow the system</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Pick a colour</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>No watermark</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>None if empty</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>&amp;Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Según el sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Claro</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>¿Restaurar los perfiles predefinidos y los valores predeterminados de todos los ajustes?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Según el sistema</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Añada uno o restaure los predefinidos.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Propio o predefinido modificado.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>«%1» conserva su nombre. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>¿Eliminar el perfil «%1»?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>¿Restaurar los perfiles predefinidos? Se eliminarán sus propios perfiles y se desharán sus cambios en los predefinidos.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Según el sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Claro</translation>
     </message>
@@ -382,10 +390,6 @@ Añada uno o restaure los predefinidos.</translation>
     <message>
         <source>Font</source>
         <translation>Tipo de letra</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Color</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Añada uno o restaure los predefinidos.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Fijar el portapapeles</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Tomar un color</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Añada uno o restaure los predefinidos.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Según el sistema</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Tomar un color</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Añada uno o restaure los predefinidos.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Sin marca de agua</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Vacío: ninguna</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>&amp;Thème</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Comme le système</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Clair</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Rétablir tous les réglages par défaut et les profils prédéfinis&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Suivre le système</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Profil personnel ou prédéfini modifié.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>« %1 » garde son nom. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Supprimer le profil « %1 » ?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Rétablir les profils prédéfinis ? Vos propres profils seront supprimés et vos modifications des profils prédéfinis annulées.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Thème</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Comme le système</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Clair</translation>
     </message>
@@ -382,10 +390,6 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     <message>
         <source>Font</source>
         <translation>Police</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Couleur</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Épingler le presse-papiers</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Prélever une couleur</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Suivre le système</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Prélever une couleur</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Aucun filigrane</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Vide : aucun</translation>
     </message>
 </context>
 <context>

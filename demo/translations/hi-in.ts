@@ -78,10 +78,6 @@
         <translation>थीम (&amp;T)</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>सिस्टम के अनुसार</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>हल्की</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>क्या आप सभी सेटिंग के डिफ़ॉल्ट और प्रीसेट प्रोफ़ाइल पुनर्स्थापित करना चाहते हैं?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>सिस्टम के अनुसार</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>आपकी अपनी प्रोफ़ाइल या बदला गया प्रीसेट।</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1” का नाम वही रहेगा। %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>क्या प्रोफ़ाइल “%1” हटाएँ?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>क्या प्रीसेट पुनर्स्थापित करें? इससे आपकी अपनी प्रोफ़ाइलें हट जाएँगी और प्रीसेट में आपके बदलाव रद्द हो जाएँगे।</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>थीम</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>सिस्टम के अनुसार</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>हल्की</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>फ़ॉन्ट</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>रंग</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>क्लिपबोर्ड पिन करें</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>स्क्रीन से रंग चुनें</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>सिस्टम के अनुसार</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>रंग</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>स्क्रीन से रंग चुनें</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>कोई वॉटरमार्क नहीं</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>अपारदर्शिता</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>खाली: कोई नहीं</translation>
     </message>
 </context>
 <context>

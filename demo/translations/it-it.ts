@@ -78,10 +78,6 @@
         <translation>&amp;Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Come il sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Chiaro</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Ripristinare i profili predefiniti e i valori predefiniti di tutte le impostazioni?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Segui il sistema</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Personale o predefinito modificato.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1” mantiene il suo nome. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Eliminare il profilo “%1”?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Ripristinare i profili predefiniti? I tuoi profili verranno eliminati e le modifiche ai predefiniti annullate.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Come il sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Chiaro</translation>
     </message>
@@ -382,10 +390,6 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     <message>
         <source>Font</source>
         <translation>Font</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Colore</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Fissa gli appunti</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Preleva un colore</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Segui il sistema</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Preleva un colore</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Aggiungine uno o ripristina i predefiniti.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Nessuna filigrana</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacità</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Vuoto: nessuna</translation>
     </message>
 </context>
 <context>

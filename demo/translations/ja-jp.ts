@@ -78,10 +78,6 @@
         <translation>テーマ(&amp;T)</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>システムに合わせる</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>ライト</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>すべての設定をデフォルトに戻し、プリセットのプロファイルを復元しますか？</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>システムに従う</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>自分で作成したプロファイル、または変更したプリセット。</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>「%1」の名前はそのままです。%2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>プロファイル「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>プリセットを復元しますか？ 自分で作成したプロファイルは削除され、プリセットへの変更は元に戻ります。</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>テーマ</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>システムに合わせる</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>ライト</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>フォント</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>カラー</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>クリップボードをピン留め</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>色を取得</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>システムに従う</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>色を取得</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>透かしなし</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>空欄でなし</translation>
     </message>
 </context>
 <context>

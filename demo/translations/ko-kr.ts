@@ -78,10 +78,6 @@
         <translation>테마(&amp;T)</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>시스템 설정에 따름</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>라이트</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>모든 설정의 기본값과 기본 제공 프로필을 복원하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>시스템 설정에 따름</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>직접 만들었거나 변경한 프로필입니다.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1”의 이름은 그대로입니다. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>프로필 “%1”을(를) 삭제할까요?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>기본 제공 프로필을 복원할까요? 직접 만든 프로필이 삭제되고 기본 제공 프로필의 변경 사항이 취소됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>테마</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>시스템 설정에 따름</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>라이트</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>서체</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>색상</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>클립보드 고정</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>색상 추출</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation>px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>시스템 설정에 따름</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>색상</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>색상 추출</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>워터마크 없음</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>불투명도</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>비우면 없음</translation>
     </message>
 </context>
 <context>

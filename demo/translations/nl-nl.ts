@@ -78,10 +78,6 @@
         <translation>&amp;Thema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Systeem volgen</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Licht</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>De meegeleverde profielen en de standaardwaarden van alle instellingen herstellen?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Systeem volgen</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Eigen of gewijzigd meegeleverd profiel.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>‘%1’ behoudt zijn naam. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Profiel ‘%1’ verwijderen?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Meegeleverde profielen herstellen? Uw eigen profielen worden verwijderd en uw wijzigingen in de meegeleverde ongedaan gemaakt.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Thema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Systeem volgen</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Licht</translation>
     </message>
@@ -382,10 +390,6 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     <message>
         <source>Font</source>
         <translation>Lettertype</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Kleur</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Klembord vastzetten</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Schermkleur kiezen</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Systeem volgen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Kleur</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Schermkleur kiezen</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Geen watermerk</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Leeg: geen</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>&amp;Motyw</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Jak w systemie</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Jasny</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Przywrócić domyślne wartości wszystkich ustawień i wbudowane profile?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Zgodnie z systemem</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Własny lub zmieniony wbudowany.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>„%1” zachowuje swoją nazwę. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Usunąć profil „%1”?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Przywrócić profile wbudowane? Twoje własne profile zostaną usunięte, a zmiany w profilach wbudowanych cofnięte.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Motyw</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Jak w systemie</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Jasny</translation>
     </message>
@@ -382,10 +390,6 @@ Dodaj profil lub przywróć wbudowane.</translation>
     <message>
         <source>Font</source>
         <translation>Czcionka</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Kolor</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Dodaj profil lub przywróć wbudowane.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Przypnij schowek</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Pobierz kolor</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Zgodnie z systemem</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Kolor</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Pobierz kolor</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Dodaj profil lub przywróć wbudowane.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Bez znaku wodnego</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Krycie</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Puste: bez znaku</translation>
     </message>
 </context>
 <context>

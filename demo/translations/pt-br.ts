@@ -78,10 +78,6 @@
         <translation>&amp;Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Como o sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Claro</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Restaurar os padrões de todas as configurações e os perfis predefinidos?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Seguir o sistema</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Adicione um ou restaure os predefinidos.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Próprio ou predefinido alterado.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1” mantém seu nome. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Excluir o perfil “%1”?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Restaurar os perfis predefinidos? Seus próprios perfis serão excluídos e suas alterações nos predefinidos serão desfeitas.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Como o sistema</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Claro</translation>
     </message>
@@ -382,10 +390,6 @@ Adicione um ou restaure os predefinidos.</translation>
     <message>
         <source>Font</source>
         <translation>Fonte</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Cor</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Adicione um ou restaure os predefinidos.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Fixar a área de transferência</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Selecionar uma cor</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Adicione um ou restaure os predefinidos.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Seguir o sistema</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Cor</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Selecionar uma cor</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Adicione um ou restaure os predefinidos.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Sem marca-d’água</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacidade</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Vazio: nenhuma</translation>
     </message>
 </context>
 <context>

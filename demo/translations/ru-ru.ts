@@ -78,10 +78,6 @@
         <translation>&amp;Тема</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Как в системе</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Светлая</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Восстановить значения по умолчанию для всех настроек и стандартные профили?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Как в системе</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>Свой или изменённый стандартный.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>«%1» сохраняет своё имя. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Удалить профиль «%1»?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Восстановить стандартные профили? Ваши собственные профили будут удалены, а изменения стандартных отменены.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>Тема</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Как в системе</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Светлая</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>Шрифт</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Цвет</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>Закрепить буфер обмена</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Взять цвет</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> пикс.</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Цвет</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Взять цвет</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Без водяного знака</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Непрозрачность</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Пусто: нет</translation>
     </message>
 </context>
 <context>

@@ -78,10 +78,6 @@
         <translation>&amp;Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Som systemet</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Ljust</translation>
     </message>
@@ -109,6 +105,10 @@
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Vill du återställa de förinställda profilerna och standardvärdena för alla inställningar?</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Följ systemet</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfigurationWindow</name>
@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Hotkeys</source>
-        <translation>Kortkommando</translation>
+        <translation>Genvägar</translation>
     </message>
     <message>
         <source>Mouse</source>
@@ -300,6 +300,18 @@ Lägg till en eller återställ de förinställda.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Egen eller ändrad förinställd profil.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>”%1” behåller sitt namn. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>Ta bort profilen ”%1”?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Återställa de förinställda profilerna? Dina egna profiler tas bort och dina ändringar av de förinställda ångras.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Som systemet</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Ljust</translation>
     </message>
@@ -382,10 +390,6 @@ Lägg till en eller återställ de förinställda.</translation>
     <message>
         <source>Font</source>
         <translation>Typsnitt</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Färg</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Lägg till en eller återställ de förinställda.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Fäst urklipp</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Hämta en färg</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Lägg till en eller återställ de förinställda.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Följ systemet</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Färg</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Hämta en färg</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Lägg till en eller återställ de förinställda.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Ingen vattenstämpel</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opacitet</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Tomt: ingen</translation>
     </message>
 </context>
 <context>

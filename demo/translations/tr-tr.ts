@@ -78,10 +78,6 @@
         <translation>&amp;Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Sistemle aynı</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Açık</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>Tüm ayarların varsayılanları ve hazır profiller geri yüklensin mi?</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Sistemi takip et</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <source>Yours, or a changed preset.</source>
         <translation>Sizin profiliniz ya da değiştirilmiş hazır profil.</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1” adını koruyor. %2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>“%1” profili silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>Hazır profiller geri yüklensin mi? Kendi profilleriniz silinir, hazır profillerdeki değişiklikleriniz geri alınır.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Tema</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>Sistemle aynı</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>Açık</translation>
     </message>
@@ -382,10 +390,6 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     <message>
         <source>Font</source>
         <translation>Yazı tipi</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>Renk</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     <message>
         <source>Pin the clipboard</source>
         <translation>Panoyu sabitle</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>Ekrandan renk al</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <source> px</source>
         <translation> px</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Sistemi takip et</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Renk</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>Ekrandan renk al</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>Filigran yok</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>Opaklık</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>Boşsa yok</translation>
     </message>
 </context>
 <context>

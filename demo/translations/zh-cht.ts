@@ -78,10 +78,6 @@
         <translation>佈景主題(&amp;T)</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>跟隨系統</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>淺色</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>要將所有設定還原為預設值，並還原內建設定檔嗎？</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>跟隨系統</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>自訂的設定檔，或已變更的內建設定檔。</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>「%1」保留原名稱。%2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>要刪除設定檔「%1」嗎？</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>要還原內建設定檔嗎？這會刪除您自訂的設定檔，並復原您對內建設定檔的變更。</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>佈景主題</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>跟隨系統</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>淺色</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>字型</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>顏色</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>釘選剪貼簿</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>擷取顏色</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> 像素</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>跟隨系統</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>顏色</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>擷取顏色</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>無浮水印</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>留空則無</translation>
     </message>
 </context>
 <context>

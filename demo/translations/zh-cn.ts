@@ -78,10 +78,6 @@
         <translation>主题(&amp;T)</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>跟随系统</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>浅色</translation>
     </message>
@@ -108,6 +104,10 @@
     <message>
         <source>Restore the defaults of all settings and the presets of the profiles?</source>
         <translation>要将所有设置恢复为默认值，并恢复预设配置吗？</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>跟随系统</translation>
     </message>
 </context>
 <context>
@@ -300,6 +300,18 @@ Add one, or restore the presets.</source>
         <source>Yours, or a changed preset.</source>
         <translation>自定义配置，或已更改的预设。</translation>
     </message>
+    <message>
+        <source>“%1” keeps its name. %2</source>
+        <translation>“%1”保留原名称。%2</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”?</source>
+        <translation>要删除配置“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Restore the presets? This deletes your own profiles and undoes your changes of the presets.</source>
+        <translation>要恢复预设吗？这会删除您的自定义配置，并撤消您对预设的更改。</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -344,10 +356,6 @@ Add one, or restore the presets.</source>
         <translation>主题</translation>
     </message>
     <message>
-        <source>Like the system</source>
-        <translation>跟随系统</translation>
-    </message>
-    <message>
         <source>Light</source>
         <translation>浅色</translation>
     </message>
@@ -382,10 +390,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Font</source>
         <translation>字体</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>颜色</translation>
     </message>
     <message>
         <source>Delay before a capture (s)</source>
@@ -458,10 +462,6 @@ Add one, or restore the presets.</source>
     <message>
         <source>Pin the clipboard</source>
         <translation>剪贴板贴图</translation>
-    </message>
-    <message>
-        <source>Pick a colour</source>
-        <translation>取色</translation>
     </message>
     <message>
         <source>Double-click to finish</source>
@@ -683,6 +683,18 @@ Add one, or restore the presets.</source>
         <source> px</source>
         <translation> 像素</translation>
     </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Pick a color</source>
+        <translation>取色</translation>
+    </message>
 </context>
 <context>
     <name>StoredDataPage</name>
@@ -698,12 +710,12 @@ Add one, or restore the presets.</source>
 <context>
     <name>WatermarkEditor</name>
     <message>
-        <source>No watermark</source>
-        <translation>无水印</translation>
-    </message>
-    <message>
         <source>Opacity</source>
         <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>None if empty</source>
+        <translation>留空则无</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QScrollBar>
+
+#include <algorithm>
 
 class tst_ProfilesPage : public QObject
 {
@@ -19,7 +23,18 @@ private Q_SLOTS:
     void caseOfTheOwnNameCanBeChanged();
     void editedValueIsStoredInTheProfile();
     void deletingTheLastProfileShowsAHint();
+    void deletingAsksFirst_data();
+    void deletingAsksFirst();
     void restoringPresetsRemovesTheProfilesOfTheUser();
+    void restoringPresetsAsksWhatItWouldDelete_data();
+    void restoringPresetsAsksWhatItWouldDelete();
+    void restoringDeletedPresetsNeedsNoQuestion();
+    void keyF2EditsTheName();
+    void typedNameIsStored_data();
+    void typedNameIsStored();
+    void typedNameThatCannotBeUsedIsSaidInWords_data();
+    void typedNameThatCannotBeUsedIsSaidInWords();
+    void longNameIsElidedWithAToolTip();
     void changeFromOutsideKeepsTheNameBeingTyped();
     void invalidProfileFromAFileCanBeRenamedOrDeleted();
 
@@ -46,6 +61,23 @@ private:
         for (int row = 0; row < list->count(); ++row)
             result << list->item(row)->text();
         return result;
+    }
+    static QMessageBox *question()
+    {
+        return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    }
+    /// Clicks the button of the question that does what was asked.
+    static void confirm()
+    {
+        const QMessageBox *box = question();
+        QVERIFY(box);
+        const QList<QAbstractButton *> buttons = box->buttons();
+        const auto yes = std::find_if(buttons.cbegin(), buttons.cend(), [box](auto *button) {
+            return box->buttonRole(button) == QMessageBox::AcceptRole;
+        });
+        QVERIFY(yes != buttons.cend());
+        QTest::mouseClick(*yes, Qt::LeftButton);
+        QCoreApplication::processEvents();
     }
     void typeName(const QString &name) const
     {
@@ -146,8 +178,10 @@ void tst_ProfilesPage::editedValueIsStoredInTheProfile()
 
 void tst_ProfilesPage::deletingTheLastProfileShowsAHint()
 {
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         click("removeProfile");
+        confirm();
+    }
     QCOMPARE(names(), QStringList());
     QVERIFY(!child<QPushButton>("removeProfile")->isEnabled());
     QVERIFY(child<QGroupBox>("ConfigGroupBox")->isHidden());
@@ -161,9 +195,169 @@ void tst_ProfilesPage::restoringPresetsRemovesTheProfilesOfTheUser()
     click("addProfile");
     clickRow(1);
     click("removeProfile");
+    confirm();
     QCOMPARE(names(), QStringList({"New profile", "Thumbnail", "Window"}));
     click("restoreProfiles");
+    confirm();
     QCOMPARE(names(), QStringList({"Screen", "Thumbnail", "Window"}));
+}
+
+void tst_ProfilesPage::restoringPresetsAsksWhatItWouldDelete_data()
+{
+    QTest::addColumn<bool>("isChangedPreset");
+    QTest::newRow("a profile of the user") << false;
+    QTest::newRow("a changed preset") << true;
+}
+
+void tst_ProfilesPage::restoringPresetsAsksWhatItWouldDelete()
+{
+    QFETCH(bool, isChangedPreset);
+    if (isChangedPreset)
+        mDemo->session->profiles().setValue("Profiles.Screen", "width", 99);
+    else
+        click("addProfile");
+    const QStringList before = names();
+    click("restoreProfiles");
+    QVERIFY(question());
+    QCOMPARE(question()->text(), QString("Restore the presets? This deletes your own profiles and "
+                                         "undoes your changes of the presets."));
+    QTest::keyClick(question(), Qt::Key_Return); // the default is the safe answer
+    QTRY_VERIFY(!question());
+    QCOMPARE(names(), before);
+    QCOMPARE(mDemo->session->profiles().profile("Profiles.Screen")["width"].toInt(),
+             isChangedPreset ? 99 : 1920);
+}
+
+void tst_ProfilesPage::restoringDeletedPresetsNeedsNoQuestion()
+{
+    click("removeProfile");
+    confirm();
+    QCOMPARE(names(), QStringList({"Thumbnail", "Window"}));
+    click("restoreProfiles");
+    QVERIFY(!question());
+    QCOMPARE(names(), QStringList({"Screen", "Thumbnail", "Window"}));
+}
+
+void tst_ProfilesPage::deletingAsksFirst_data()
+{
+    QTest::addColumn<bool>("isKey");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("button, confirmed") << false << 0 << true;
+    QTest::newRow("key, confirmed") << true << 0 << true;
+    QTest::newRow("button, Return") << false << int(Qt::Key_Return) << false;
+    QTest::newRow("key, Return") << true << int(Qt::Key_Return) << false;
+    QTest::newRow("key, Escape") << true << int(Qt::Key_Escape) << false;
+}
+
+void tst_ProfilesPage::deletingAsksFirst()
+{
+    QFETCH(bool, isKey);
+    QFETCH(int, answer);
+    QFETCH(bool, isDeleted);
+    QVERIFY(QTest::qWaitForWindowActive(mDemo->window()));
+    clickRow(2);
+    if (isKey)
+        QTest::keyClick(child<QListWidget>("profileList"), Qt::Key_Delete);
+    else
+        click("removeProfile");
+    QVERIFY(question());
+    QCOMPARE(question()->text(), QString("Delete the profile “Window”?"));
+    QCOMPARE(question()->windowTitle(), mDemo->window()->windowTitle());
+    if (answer)
+        QTest::keyClick(question(), Qt::Key(answer));
+    else
+        confirm();
+    QTRY_VERIFY(!question());
+    QCOMPARE(names().contains("Window"), !isDeleted);
+}
+
+void tst_ProfilesPage::keyF2EditsTheName()
+{
+    QVERIFY(QTest::qWaitForWindowActive(mDemo->window()));
+    clickRow(1);
+    QTest::keyClick(child<QListWidget>("profileList"), Qt::Key_F2);
+    QVERIFY(child<QLineEdit>("profileName")->hasFocus());
+    QCOMPARE(child<QLineEdit>("profileName")->selectedText(), QString("Thumbnail"));
+    QTest::keyClicks(child<QLineEdit>("profileName"), "Small");
+    QTest::keyClick(child<QLineEdit>("profileName"), Qt::Key_Return);
+    QTRY_COMPARE(names(), QStringList({"Screen", "Small", "Window"}));
+}
+
+void tst_ProfilesPage::typedNameIsStored_data()
+{
+    QTest::addColumn<QString>("next");
+    for (const char *next : {"other profile", "other field", "Delete and Escape", "Add",
+                             "other page", "page by the program", "closed window"})
+        QTest::newRow(next) << QString(next);
+}
+
+void tst_ProfilesPage::typedNameIsStored()
+{
+    QFETCH(QString, next);
+    QVERIFY(QTest::qWaitForWindowActive(mDemo->window()));
+    typeName(" Monitor ");
+    if (next == "other profile") {
+        clickRow(2);
+    } else if (next == "other field") {
+        QTest::keyClick(child<QLineEdit>("profileName"), Qt::Key_Tab);
+    } else if (next == "Delete and Escape") {
+        click("removeProfile");
+        QCOMPARE(question()->text(), QString("Delete the profile “Monitor”?"));
+        QTest::keyClick(question(), Qt::Key_Escape);
+    } else if (next == "Add") {
+        click("addProfile");
+    } else if (next == "other page") {
+        mDemo->clickClass("Mouse");
+    } else if (next == "page by the program") {
+        mDemo->window()->switchToView("Mouse");
+    } else {
+        QVERIFY(mDemo->close());
+        mDemo->start(); // reads the file that the closing window has written
+    }
+    QCOMPARE(mDemo->session->profiles().name("Profiles.Screen"), QString("Monitor"));
+}
+
+void tst_ProfilesPage::typedNameThatCannotBeUsedIsSaidInWords_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("empty") << QString() << "“Screen” keeps its name. A profile needs a name.";
+    QTest::newRow("name of another profile")
+        << "Window"
+        << "“Screen” keeps its name. Another profile has this name.";
+}
+
+void tst_ProfilesPage::typedNameThatCannotBeUsedIsSaidInWords()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, notice);
+    QVERIFY(QTest::qWaitForWindowActive(mDemo->window()));
+    typeName(name);
+    QTest::keyClick(child<QLineEdit>("profileName"), Qt::Key_Tab);
+    QCOMPARE(child<QLineEdit>("profileName")->text(), name); // still there to be mended
+    QVERIFY(child<QLabel>("profileNameError")->isVisible());
+    clickRow(1);
+    QVERIFY(child<QLabel>("profileNotice")->isVisible());
+    QCOMPARE(child<QLabel>("profileNotice")->text(), notice);
+    QCOMPARE(names(), QStringList({"Screen", "Thumbnail", "Window"}));
+    QCOMPARE(child<QLineEdit>("profileName")->text(), QString("Thumbnail"));
+    clickRow(0);
+    QVERIFY(child<QLabel>("profileNotice")->isHidden());
+    QCOMPARE(child<QLineEdit>("profileName")->text(), QString("Screen"));
+}
+
+void tst_ProfilesPage::longNameIsElidedWithAToolTip()
+{
+    const QString longest(40, 'M');
+    auto *list = child<QListWidget>("profileList");
+    mDemo->session->profiles().rename("Profiles.Screen", longest);
+    QTRY_COMPARE(names().first(), longest);
+    QCOMPARE(list->item(0)->toolTip(), longest);
+    QCoreApplication::processEvents();
+    QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(list->visualItemRect(list->item(0)).width(), list->viewport()->width());
+    QCOMPARE(list->textElideMode(), Qt::ElideRight);
 }
 
 void tst_ProfilesPage::changeFromOutsideKeepsTheNameBeingTyped()
@@ -192,6 +386,7 @@ void tst_ProfilesPage::invalidProfileFromAFileCanBeRenamedOrDeleted()
     QCOMPARE(names(), QStringList({"", "Mended", "Screen", "Thumbnail", "Window"}));
     clickRow(0);
     click("removeProfile");
+    confirm();
     QCOMPARE(names(), QStringList({"Mended", "Screen", "Thumbnail", "Window"}));
 }
 

@@ -60,7 +60,7 @@ bool isTrulyIdentical(const QString &file, const Message &message)
         "Cache (MB)", "Font",      "Format", "Distance (px)", "General",
         "Host",       "Image",     "Logo",   "Mouse",         "Name",
         "OK",         "Output",    "Port",   "Position",      "Quorvi Capture",
-        "System",     "Updates",   "Zoom",   "page",
+        "System",     "Updates",   "Zoom",   "page",          "Color",
     };
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
