@@ -27,7 +27,7 @@
     <name>KeySequenceEdit</name>
     <message>
         <source>Press shortcut key</source>
-        <translation>Нажмите сочетание клавиш</translation>
+        <translation>Нажмите клавиши</translation>
     </message>
     <message>
         <source>Clear shortcut key</source>

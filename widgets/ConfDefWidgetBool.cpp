@@ -1,12 +1,13 @@
 #include <MaltoConfiguration/widgets/ConfDefWidgetBool.h>
 
-#include <QCheckBox>
+#include "Captions_p.h"
+
 #include <QHBoxLayout>
 
 namespace MtConf {
 
 ConfDefWidgetBool::ConfDefWidgetBool(ConfItem *item, QWidget *parent)
-    : ConfigItemWidget(item, parent), mCheckBox(new QCheckBox(translatedText(), this))
+    : ConfigItemWidget(item, parent), mCheckBox(new CaptionCheckBox(translatedText(), this))
 {
     mLabel = mCheckBox;
     auto *layout = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
+#include "Captions_p.h"
 #include "HostCode_p.h"
 #include "RangeCheck_p.h"
 #include "RowDependency_p.h"
@@ -125,7 +126,7 @@ QWidget *ConfigItemWidget::label()
 {
     if (mLabel)
         return mLabel;
-    mLabel = new QLabel(translatedText(), parentWidget());
+    mLabel = new CaptionLabel(translatedText(), parentWidget());
     mLabel->setProperty("ConfigItemWidgetLabel", QStringLiteral("1"));
     refreshLabelState();
     updateToolTips();

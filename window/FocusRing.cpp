@@ -36,8 +36,11 @@ QRect visiblePart(const QWidget *widget)
 {
     // These are as wide as their column, and empty behind the text.
     if (qobject_cast<const QCheckBox *>(widget) || qobject_cast<const QRadioButton *>(widget)) {
+        QSize size = widget->sizeHint();
+        if (widget->hasHeightForWidth()) // the text may have several lines
+            size.setHeight(widget->heightForWidth(widget->width()));
         return QStyle::alignedRect(widget->layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
-                                   widget->sizeHint().boundedTo(widget->size()), widget->rect());
+                                   size.boundedTo(widget->size()), widget->rect());
     }
     return widget->rect();
 }

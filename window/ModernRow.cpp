@@ -44,7 +44,10 @@ ModernRow::ModernRow(QWidget *panel, double pixel)
     mGrid->setColumnMinimumWidth(sButtonColumn, px(sGap) + px(sButton));
     mGrid->setColumnMinimumWidth(sRightColumn, px(sRight));
     mTexts->setSpacing(px(sTextGap));
-    mGrid->addLayout(mTexts, 0, sTextColumn, Qt::AlignVCenter);
+    // An aligned layout would not become higher for texts of several lines.
+    mTexts->addStretch();
+    mTexts->addStretch();
+    mGrid->addLayout(mTexts, 0, sTextColumn);
 }
 
 void ModernRow::setEditor(QWidget *editor, Place place)
@@ -59,7 +62,7 @@ void ModernRow::addText(QWidget *text)
 {
     if (auto *label = qobject_cast<QLabel *>(text))
         label->setWordWrap(true);
-    mTexts->addWidget(text);
+    mTexts->insertWidget(mTexts->count() - 1, text);
 }
 
 void ModernRow::setButton(QWidget *button)

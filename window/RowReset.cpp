@@ -6,7 +6,6 @@
 #include "PageBuilder_p.h"
 #include "ResetButton_p.h"
 #include "RowWords_p.h"
-#include "SettingsFind_p.h"
 #include "ValueInWords_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -41,17 +40,15 @@ QKeySequence resetKey()
     return QKeySequence(Qt::CTRL | Qt::Key_R);
 }
 
-/// Returns the controls of `editor` that take the focus by Tab.
-QList<QWidget *> controlsOf(const ConfigItemWidget *editor)
+/// Returns the first control of `editor` that takes the focus by Tab; null if there is none.
+QWidget *firstControl(const ConfigItemWidget *editor)
 {
-    QList<QWidget *> controls;
-    const QList<QWidget *> children = editor->findChildren<QWidget *>();
-    for (QWidget *child : children) {
-        // The list of a combo box is a window of its own.
-        if ((child->focusPolicy() & Qt::TabFocus) && child->window() == editor->window())
-            controls.append(child);
+    const QList<QWidget *> controls = editor->findChildren<QWidget *>();
+    for (QWidget *control : controls) {
+        if (control->focusPolicy() & Qt::TabFocus && control->isEnabled())
+            return control;
     }
-    return controls;
+    return nullptr;
 }
 
 /// Returns whether a click at `position` in the frame of the row is meant for the row.
@@ -162,9 +159,8 @@ void RowReset::updateRow(const PageRow &row)
         return;
     // The keyboard would be without focus.
     if (!isChanged && button->hasFocus() && row.editor) {
-        const QList<QWidget *> controls = controlsOf(row.editor);
-        if (!controls.isEmpty())
-            controls.first()->setFocus();
+        if (QWidget *const control = firstControl(row.editor))
+            control->setFocus();
     }
     button->setVisible(isChanged);
     button->setAccessibleName(tr("Reset %1").arg(QObject::tr(row.item->displayText)));
@@ -180,9 +176,13 @@ ResetButton *RowReset::addButton(const PageRow &row)
     connect(button, &QAbstractButton::clicked, this, [this, key = row.key] { resetKeyed(key); });
     // After the controls of its row.
     if (row.editor) {
-        const QList<QWidget *> controls = controlsOf(row.editor);
-        if (!controls.isEmpty())
-            QWidget::setTabOrder(controls.last(), button);
+        QWidget *last = row.editor;
+        const QList<QWidget *> controls = row.editor->findChildren<QWidget *>();
+        for (QWidget *control : controls) {
+            if (control->focusPolicy() & Qt::TabFocus)
+                last = control;
+        }
+        QWidget::setTabOrder(last, button);
     }
     mButtons.insert(row.key, button);
     return button;
@@ -274,10 +274,6 @@ void RowReset::showChanges(bool isOn)
 {
     if (!manager())
         return;
-    if (auto *const find = window()->findChild<SettingsFind *>()) {
-        find->show(isOn ? QStringLiteral("@changed") : QString());
-        return;
-    }
     const QPointer<RowReset> self(this);
     mIsShowingChanges = isOn;
     if (isOn)

@@ -84,12 +84,10 @@ public:
         }
         const auto buttons = window->findChildren<QAbstractButton *>();
         for (const QAbstractButton *button : buttons)
-            add(button, button->text(), button->sizeHint().width(), button->width());
+            addText(button, button->text());
         const auto labels = window->findChildren<QLabel *>();
-        for (const QLabel *label : labels) {
-            if (!label->wordWrap())
-                add(label, label->text(), label->sizeHint().width(), label->width());
-        }
+        for (const QLabel *label : labels)
+            addText(label, label->text());
         addRows(window->findChild<QListView *>("configList"));
     }
 
@@ -102,12 +100,23 @@ private:
         if (widget->isVisible() && !isIcon && needed > available)
             mTexts += QString("%1 (needs %2 of %3 pixels)").arg(text).arg(needed).arg(available);
     }
+    void addText(const QWidget *widget, const QString &text)
+    {
+        if (!widget->hasHeightForWidth()) {
+            add(widget, text, widget->sizeHint().width(), widget->width());
+            return;
+        }
+        // The text may have several lines.
+        add(widget, text, widget->minimumSizeHint().width(), widget->width());
+        add(widget, text, widget->heightForWidth(widget->width()), widget->height());
+    }
     void addEntries(const QComboBox *box)
     {
         for (int i = 0; i < box->count(); ++i) {
             const QString text = box->itemText(i);
-            // QComboBox clips what is drawn, which may be narrower than the advance.
-            const int drawn = box->fontMetrics().boundingRect(text).right() + 1;
+            // QComboBox clips what is drawn, which may be narrower than the advance. One pixel is the
+            // edge of the last letter, and less than what style sheets round.
+            const int drawn = box->fontMetrics().boundingRect(text).right();
             add(box, text, drawn, textWidth(box));
         }
     }
@@ -151,7 +160,7 @@ void tst_TranslatedDemo::cleanup()
 void tst_TranslatedDemo::everyDeclaredTextIsTranslated()
 {
     const LogCapture log;
-    DemoSession session("settings.json");
+    DemoSession session("settings.json", DemoSession::Look::Classic);
     session.load(QString());
     // No text of the demo's settings is the same in Russian.
     ConfWidgetLanguage::installTranslator("ru-ru");
@@ -183,7 +192,7 @@ void tst_TranslatedDemo::everyTextFitsItsPage()
 {
     QFETCH(QString, code);
     const LogCapture log;
-    DemoSession session("settings.json");
+    DemoSession session("settings.json", DemoSession::Look::Classic);
     QFile config("config.json");
     QVERIFY(config.open(QIODevice::WriteOnly));
     config.write(R"({"System.ShowExpert": true})");
