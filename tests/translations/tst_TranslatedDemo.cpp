@@ -114,8 +114,8 @@ private:
     {
         for (int i = 0; i < box->count(); ++i) {
             const QString text = box->itemText(i);
-            // QComboBox clips what is drawn, which may be narrower than the advance. One pixel is the
-            // edge of the last letter, and less than what style sheets round.
+            // QComboBox clips what is drawn, which may be narrower than the advance. One pixel is
+            // the edge of the last letter, and less than what style sheets round.
             const int drawn = box->fontMetrics().boundingRect(text).right();
             add(box, text, drawn, textWidth(box));
         }
