@@ -101,6 +101,34 @@ void ConfDefWidgetQKeySequence::refreshState()
         canTryAgain = true;
     }
     mStateButton->setEnabled(canTryAgain);
+    if (onStatusChanged)
+        onStatusChanged();
+}
+
+ConfigItemWidget::Status ConfDefWidgetQKeySequence::status()
+{
+    Status status;
+    status.icon = mStateButton;
+    const QxtGlobalShortcut *const hotkey = shortcut();
+    if (!hotkey || readValue<QKeySequence>().isEmpty())
+        return status;
+    if (!hotkey->isEnabled()) {
+        status.text = tr("Disabled.");
+    } else if (!hotkey->isValid()) {
+        status.text = tr("Another program may use this hotkey.");
+        status.actionText = tr("Try again");
+        status.action = [this] { registerAgain(); };
+    }
+    return status;
+}
+
+void ConfDefWidgetQKeySequence::registerAgain()
+{
+    const QPointer<ConfDefWidgetQKeySequence> self(this);
+    if (QxtGlobalShortcut *const hotkey = shortcut())
+        hotkey->setShortcut(readValue<QKeySequence>());
+    if (self)
+        refreshState();
 }
 
 void ConfDefWidgetQKeySequence::showState(const QChar &glyph, const QString &color,

@@ -38,6 +38,8 @@ public:
     /// Sets the stored hotkey in the field. If the field showed another one, the field emits
     /// `sigKeySequenceChanged`, which calls `onKeySequenceChanged`.
     void loadConf() override;
+    /// Returns whether the hotkey could not be registered, or is disabled.
+    Status status() override;
 
 public Q_SLOTS:
     /// Sets `sequence` in the global shortcut and stores it. Does nothing if there is no global
@@ -57,6 +59,7 @@ private:
     QxtGlobalShortcut *shortcut();
     void watchShortcut(QxtGlobalShortcut *shortcut);
     void forgetShortcut(const QObject *destroyed);
+    void registerAgain();
     void showState(const QChar &glyph, const QString &color, const QString &toolTip);
     void showNoState();
 

@@ -199,6 +199,21 @@ void ConfWidgetMouseAction::refreshConflictState()
     } else {
         showState(QStringLiteral("CorrectIcon"), sCorrectGlyph, QString());
     }
+    if (onStatusChanged)
+        onStatusChanged();
+}
+
+ConfigItemWidget::Status ConfWidgetMouseAction::status()
+{
+    Status status;
+    status.icon = mStateLabel;
+    if (mCurrentValue == sLeftClick)
+        status.text = QObject::tr("Cannot set left-click separately");
+    else if ((mCurrentValue & sActionBits) == 0)
+        return status;
+    else if (const ConfWidgetMouseAction *other = firstConflict())
+        status.text = QObject::tr("Conflict with %1").arg(other->translatedText());
+    return status;
 }
 
 const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const

@@ -42,6 +42,9 @@ public:
     /// controls show.
     void loadConf() override;
 
+    /// Returns the conflict or the error that the icon shows.
+    Status status() override;
+
     /// Updates the state icon. A conflict is a conflict with the stored value of another live
     /// editor.
     void refreshConflictState();

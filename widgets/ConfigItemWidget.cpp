@@ -170,6 +170,11 @@ bool ConfigItemWidget::isBeingEdited() const
     return text && text->document()->isModified();
 }
 
+ConfigItemWidget::Status ConfigItemWidget::status()
+{
+    return {};
+}
+
 QLabel *ConfigItemWidget::messageLabel()
 {
     const bool hasMessage = mHasMessage || mItem->validator

@@ -8,7 +8,9 @@
 #include <QJsonValue>
 #include <QList>
 #include <QPointer>
+#include <QString>
 
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -75,6 +77,20 @@ public:
 
     /// Returns the range of the item in words, such as "From 1 to 99 px"; empty if it has none.
     QString rangeText() const;
+
+    /// The state of the setting besides its value, such as a hotkey that another program uses.
+    struct Status
+    {
+        QWidget *icon = nullptr;      ///< the control that shows the state as an icon; may be null
+        QString text;                 ///< what is wrong, translated; empty if nothing is
+        QString actionText;           ///< what the user can do about it, translated; may be empty
+        std::function<void()> action; ///< does it
+    };
+    /// Returns the state. By default it has neither an icon nor a text.
+    virtual Status status();
+    /// Called when the state may have changed. The window sets it if its look shows the text of the
+    /// state instead of the icon.
+    std::function<void()> onStatusChanged;
 
     /// Sets the accessible texts of the controls for screen readers: the caption as the accessible
     /// name, and the help text of the item, or else `group`, the caption of the group, as the

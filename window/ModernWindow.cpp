@@ -1,6 +1,8 @@
 #include "ModernWindow_p.h"
 
+#include "DependencyNote_p.h"
 #include "ModernPageBuilder_p.h"
+#include "StatusNote_p.h"
 #include "SwitchCaption_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -95,6 +97,7 @@ void ModernWindow::sheetApplied()
     mLine->setFixedWidth(qMax(1, scaled(1)));
     setListWidth();
     setMargins();
+    refreshNotes(); // they contain colours
 }
 
 void ModernWindow::setMargins()
@@ -152,8 +155,47 @@ bool ModernWindow::isCustomPage() const
     return shown && shown->majorWidget && rows().isEmpty();
 }
 
+void ModernWindow::rowAdded(const PageRow &row)
+{
+    if (!row.frame || !row.editor)
+        return;
+    if (row.editor->status().icon)
+        builder()->addUnderCaption(row, new StatusNote(row.editor, row.frame));
+    if (!row.item->dependencies.isEmpty()) {
+        const auto find = [this](const QString &key) { return findItem(key); };
+        builder()->addUnderCaption(row, new DependencyNote(row.item, row.editor, find, row.frame));
+    }
+}
+
+ConfItem *ModernWindow::findItem(const QString &key) const
+{
+    for (const PageRow &row : rows()) { // in most cases on the same page
+        if (row.key == key)
+            return row.item;
+    }
+    if (!manager())
+        return nullptr;
+    for (ConfItem &item : manager()->items) {
+        if (item.getFullName() == key)
+            return &item;
+    }
+    return nullptr;
+}
+
+void ModernWindow::refreshNotes()
+{
+    const QWidget *const board = mPage->parentWidget();
+    const QList<StatusNote *> states = board->findChildren<StatusNote *>();
+    for (StatusNote *note : states)
+        note->refresh();
+    const QList<DependencyNote *> reasons = board->findChildren<DependencyNote *>();
+    for (DependencyNote *note : reasons)
+        note->refresh();
+}
+
 void ModernWindow::pageShown()
 {
+    refreshNotes();
     showTitle();
     hideOwnTitle();
     arrangePage();
@@ -188,6 +230,7 @@ void ModernWindow::retranslate()
 {
     showTitle();
     showTexts();
+    refreshNotes();
     for (const PageRow &row : rows()) {
         if (auto *caption = dynamic_cast<SwitchCaption *>(row.caption.data()))
             caption->followText();

@@ -18,6 +18,7 @@ class ModernWindow : public WindowFeature
 public:
     explicit ModernWindow(ConfigurationWindow *window);
 
+    void rowAdded(const PageRow &row) override;
     void pageShown() override;
     void sheetApplied() override;
     void retranslate() override;
@@ -31,6 +32,8 @@ private:
     void setListWidth();
     void showTexts();
     void showTitle();
+    void refreshNotes();
+    ConfItem *findItem(const QString &key) const;
     bool isCustomPage() const;
     void arrangePage();
     void hideOwnTitle();
