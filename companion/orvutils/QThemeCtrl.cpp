@@ -11,6 +11,8 @@
 #include <QPalette>
 #include <QWidget>
 
+#include <utility>
+
 QThemeCtrl *QThemeCtrl::instance()
 {
     // Never destroyed: static windows of the host may use it while the process exits.
@@ -86,16 +88,46 @@ bool QThemeCtrl::isDark() const
 
 void QThemeCtrl::updateLook()
 {
-    const bool dark = mTheme == Theme::System ? mSystemDark : mTheme == Theme::Dark;
-    if (dark == mDark)
-        return;
-    mDark = dark;
-    Q_EMIT sigThemeChanged();
+    const bool wasDark = std::exchange(mDark, mTheme == Theme::System ? mSystemDark
+                                                                      : mTheme == Theme::Dark);
+    const QMap<QString, QString> former = std::exchange(mContrastValues, contrastValues());
+    if (mDark != wasDark || mContrastValues != former)
+        Q_EMIT sigThemeChanged();
 }
 
-const QMap<QString, QString> &QThemeCtrl::values() const
+QMap<QString, QString> QThemeCtrl::values() const
 {
-    return mDark ? mDarkValues : mLightValues;
+    QMap<QString, QString> values = mDark ? mDarkValues : mLightValues;
+    for (auto value = mContrastValues.cbegin(); value != mContrastValues.cend(); ++value)
+        values.insert(value.key(), *value);
+    return values;
+}
+
+void QThemeCtrl::setContrast(Contrast contrast)
+{
+    mContrast = contrast;
+    updateLook();
+}
+
+QThemeCtrl::Contrast QThemeCtrl::contrast() const
+{
+    return mContrast;
+}
+
+bool QThemeCtrl::isHighContrast() const
+{
+    return !mContrastValues.isEmpty();
+}
+
+/// Returns the values that high contrast replaces; none if the contrast is not high.
+QMap<QString, QString> QThemeCtrl::contrastValues() const
+{
+    const bool isSystemHigh = isOfHighContrast(mSystemPalette);
+    if (mContrast == Contrast::Normal || (mContrast == Contrast::System && !isSystemHigh))
+        return {};
+    // The palette of the system fits the theme if both are dark, or both light.
+    const bool fits = isSystemHigh && mDark == mSystemDark;
+    return contrastThemeValues(fits ? mSystemPalette : contrastPalette(mDark));
 }
 
 QString QThemeCtrl::value(const QString &name) const
@@ -166,6 +198,7 @@ void QThemeCtrl::onApplicationPalette(const QPalette &palette)
 {
     if (isOwnPalette(palette))
         return;
+    mSystemPalette = palette;
     mSystemDark = palette.color(QPalette::Window).lightness()
                   < palette.color(QPalette::WindowText).lightness();
     updateLook();

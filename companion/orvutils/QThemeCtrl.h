@@ -5,12 +5,12 @@
 #include <QColor>
 #include <QMap>
 #include <QObject>
+#include <QPalette>
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
 
 class QGuiApplication;
-class QPalette;
 class QWidget;
 class SheetWatcher;
 
@@ -66,6 +66,23 @@ public:
     /// warning.
     QString expandMacros(const QString &sheet, double scale) const;
 
+    /// Which colours the names that begin with "Modern" have.
+    enum class Contrast {
+        System, ///< those of the palette while it is one of high contrast, or else the theme's
+        Normal, ///< the theme's
+        High    ///< black and white, or the palette's while it is one of high contrast
+    };
+    Q_ENUM(Contrast)
+
+    /// Sets the contrast; System by default. The palette of the application is one of high contrast
+    /// if its texts have a contrast ratio of at least 20 to 1 with windows and fields, which nearly
+    /// is that of black and white. Emits sigThemeChanged() if a colour changes.
+    void setContrast(Contrast contrast);
+    /// Returns the contrast that was set.
+    Contrast contrast() const;
+    /// Returns whether the contrast, set or followed, is high.
+    bool isHighContrast() const;
+
     /// Sets the theme; System by default. Emits sigThemeChanged() if isDark() changes.
     void setTheme(Theme theme);
     /// Returns the theme that was set.
@@ -102,7 +119,8 @@ private:
     bool isOwnPalette(const QPalette &palette) const;
     void updateLook();
     void warnOnce(const QString &text) const;
-    const QMap<QString, QString> &values() const;
+    QMap<QString, QString> values() const;
+    QMap<QString, QString> contrastValues() const;
     QString expanded(const QMap<QString, QString> &values, const QString &text, double scale) const;
     QColor colorOf(const QMap<QString, QString> &values, const QString &name) const;
 
@@ -111,6 +129,9 @@ private:
     Theme mTheme = Theme::System;
     bool mSystemDark = false;
     bool mDark = false;
+    Contrast mContrast = Contrast::System;
+    QPalette mSystemPalette;
+    QMap<QString, QString> mContrastValues; // empty unless the contrast is high
     QPointer<QGuiApplication> mApplication;
     SheetWatcher *mWatcher;
     mutable QSet<QString> mWarned;

@@ -42,6 +42,7 @@ QMap<QString, QString> lightThemeValues()
         {QStringLiteral("ModernOnError"), QStringLiteral("#ffffff")},
         {QStringLiteral("ModernGood"), QStringLiteral("#2e7d43")},
         {QStringLiteral("ModernHit"), QStringLiteral("#fff1a8")},
+        {QStringLiteral("ModernMarks"), QStringLiteral("light")},
         {QStringLiteral("FontMain"), mainFontFamilies()},
     };
 }
@@ -77,7 +78,8 @@ QMap<QString, QString> darkThemeValues()
         {QStringLiteral("ModernError"), QStringLiteral("#f27d7d")},
         {QStringLiteral("ModernOnError"), QStringLiteral("#0f1114")},
         {QStringLiteral("ModernGood"), QStringLiteral("#6cc283")},
-        {QStringLiteral("ModernHit"), QStringLiteral("#4b4010")},
+        {QStringLiteral("ModernHit"), QStringLiteral("#433a0e")},
+        {QStringLiteral("ModernMarks"), QStringLiteral("dark")},
         {QStringLiteral("FontMain"), mainFontFamilies()},
     };
 }

@@ -13,8 +13,13 @@ draw() {
 white='#ffffff'
 grey='#8a919c' # visible on light and dark backgrounds
 
-draw check "$white" 'polyline 14,34 27,47 50,19'
-draw partly "$white" 'line 16,32 48,32'
-draw dot "$white" "fill $white stroke-width 0 circle 32,32 32,20"
+marks() { # <colour> <suffix>
+    draw "check$2" "$1" 'polyline 14,34 27,47 50,19'
+    draw "partly$2" "$1" 'line 16,32 48,32'
+    draw "dot$2" "$1" "fill $1 stroke-width 0 circle 32,32 32,20"
+}
+
+marks "$white" ''
+marks '#0f1114' -dark # on a light accent
 draw arrow-down "$grey" 'polyline 14,24 32,42 50,24'
 draw arrow-up "$grey" 'polyline 14,40 32,22 50,40'
