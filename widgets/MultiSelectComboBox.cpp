@@ -107,7 +107,7 @@ QString MultiSelectComboBoxPrivate::textToFit() const
     QString text;
     for (int i = 0; i < q->count() && text.size() <= q->mMaxDisplayLength; ++i) {
         if (const QCheckBox *box = q->checkBox(i))
-            text += box->text() + QLatin1Char(';');
+            text += box->text() + q->mSeparator;
     }
     return elided(text, q->mMaxDisplayLength);
 }
@@ -212,11 +212,17 @@ void MultiSelectComboBox::setItemTexts(const QStringList &texts)
     showSelection();
 }
 
+void MultiSelectComboBox::setSeparator(const QString &separator)
+{
+    mSeparator = separator;
+    showSelection();
+}
+
 QStringList MultiSelectComboBox::currentText() const
 {
     // The shown text counts, even if it is elided. The whole text is in the tool tip.
     const QString shown = mLineEdit->text();
-    return shown.isEmpty() ? QStringList() : shown.split(QLatin1Char(';'));
+    return shown.isEmpty() ? QStringList() : shown.split(mSeparator);
 }
 
 void MultiSelectComboBox::setCurrentText(const QStringList &texts)
@@ -305,7 +311,7 @@ void MultiSelectComboBox::showSelection()
         if (box && box->isChecked())
             checked.append(box->text());
     }
-    const QString text = checked.join(QLatin1Char(';'));
+    const QString text = checked.join(mSeparator);
     mShownText = elided(text, mMaxDisplayLength);
     showText();
     mLineEdit->setToolTip(text);

@@ -55,8 +55,10 @@ public:
     /// null do not change.
     void setItemTexts(const QStringList &texts);
 
-    /// Returns the text that the closed box shows, split at ";"; empty if it shows no text. The
-    /// last part of an elided text ends with "...".
+    /// Sets the text between the checked entries in the closed box; ";" by default.
+    void setSeparator(const QString &separator);
+    /// Returns the text that the closed box shows, split at the separator; empty if it shows no
+    /// text. The last part of an elided text ends with "...".
     QStringList currentText() const;
     /// Checks all entries whose text is in `texts`. Other entries do not change.
     void setCurrentText(const QStringList &texts);
@@ -89,8 +91,9 @@ public:
 public Q_SLOTS:
     /// Toggles entry `index`.
     void itemClicked(int index);
-    /// Shows the texts of the checked entries, joined with ";" and elided after 32 characters, sets
-    /// the whole text as the tool tip and emits `selectionChanged`. `state` is not used.
+    /// Shows the texts of the checked entries, joined with the separator and elided after 32
+    /// characters, sets the whole text as the tool tip and emits `selectionChanged`. `state` is not
+    /// used.
     void stateChanged(int state);
 
 Q_SIGNALS:
@@ -118,6 +121,7 @@ private:
     void alignText();
 
     int mMaxDisplayLength = 32;
+    QString mSeparator{QLatin1Char(';')};
     std::unique_ptr<MultiSelectComboBoxPrivate> d;
     QListWidget *mListWidget = nullptr;
     QLineEdit *mLineEdit = nullptr;
