@@ -4,6 +4,7 @@
 #include "DialogDress_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "ModernPageBuilder_p.h"
+#include "ResetQuestion_p.h"
 #include "WindowFeature_p.h"
 #include "ui_ConfigurationWindow.h"
 
@@ -240,7 +241,7 @@ void ConfigurationWindow::restorePageDefault()
 {
     // A callback may rebuild the page, which deletes its editors, or close the window.
     const QPointer<ConfigurationWindow> self(this);
-    if (!commitForRestore() || !confirm(tr("Are you sure to restore current page default?")))
+    if (!commitForRestore() || !confirmPageRestore())
         return;
     {
         const HostCodeScope scope(mHostCode);
@@ -250,6 +251,8 @@ void ConfigurationWindow::restorePageDefault()
             if (row.editor)
                 row.editor->restoreDefault();
         }
+        if (self && mIsModern)
+            restoreCustomPage();
     }
     if (self)
         rebuildPage();
@@ -258,7 +261,7 @@ void ConfigurationWindow::restorePageDefault()
 void ConfigurationWindow::restoreAllDefault()
 {
     const QPointer<ConfigurationWindow> self(this);
-    if (!commitForRestore() || !confirm(tr("Are you sure to restore all default?")) || !mManager)
+    if (!commitForRestore() || !confirmRestoreOfAll() || !mManager)
         return;
     {
         const HostCodeScope scope(mHostCode);
@@ -277,6 +280,39 @@ bool ConfigurationWindow::commitForRestore()
     const MtConfManage *const manager = mManager;
     commitEditors();
     return self && mManager == manager;
+}
+
+void ConfigurationWindow::restoreCustomPage()
+{
+    const MajorConfItem *const shown = mManager ? mManager->getMajorConfItemByName(currentClass())
+                                                : nullptr;
+    const auto restore = shown ? shown->restoreDefault : nullptr; // a copy: see addItemWidget()
+    if (restore && mRows.isEmpty())
+        restore();
+}
+
+bool ConfigurationWindow::confirmPageRestore()
+{
+    if (!mIsModern)
+        return confirm(tr("Are you sure to restore current page default?"));
+    QStringList captions;
+    for (const PageRow &row : std::as_const(mRows)) {
+        if (row.editor && !row.item->isDefaultValue())
+            captions.append(QObject::tr(row.item->displayText));
+    }
+    return askToReset(this, ResetScope::Page, captions);
+}
+
+bool ConfigurationWindow::confirmRestoreOfAll()
+{
+    if (!mIsModern || !mManager)
+        return confirm(tr("Are you sure to restore all default?"));
+    QStringList captions;
+    for (const ConfItem &item : std::as_const(mManager->items)) {
+        if (!item.isDefaultValue())
+            captions.append(QObject::tr(item.displayText));
+    }
+    return askToReset(this, ResetScope::All, captions);
 }
 
 bool ConfigurationWindow::confirm(const QString &question)

@@ -185,7 +185,10 @@ private:
     bool commitForRestore();
     void clearConfigItem();
 
+    bool confirmPageRestore();
+    bool confirmRestoreOfAll();
     bool confirm(const QString &question);
+    void restoreCustomPage();
     void rebuildPage();
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;

@@ -88,7 +88,13 @@ void applySheets(QWidget *widget, double scale, bool allowsFiles)
         {QStringLiteral(":/qss/ConfigurationWindow")}, allowsFiles);
     QThemeCtrl::instance()->handleQssFile(widget, {common, own}, scale);
     if (widget)
-        FocusRing::follow(widget);
+        FocusRing::follow(widget, QStringLiteral("ColorMain"));
+}
+
+void applyModernSheet(QWidget *widget, const LookValues &values, double scale)
+{
+    QThemeCtrl::instance()->handleQssFile(widget, values.sheets, scale / values.unitsPerPoint);
+    FocusRing::follow(widget, QStringLiteral("ModernAccent"));
 }
 
 } // namespace
@@ -161,8 +167,7 @@ void ConfigurationWindow::loadQss()
     if (values.sheets.isEmpty())
         applySheets(this, mScale, mUsesFiles && sSheetsOfWorkingDirectory);
     else
-        QThemeCtrl::instance()->handleQssFile(this, values.sheets, mScale / values.unitsPerPoint);
-    FocusRing::follow(this);
+        applyModernSheet(this, values, mScale);
     refreshItemIcon();
     tellFeatures(&WindowFeature::sheetApplied);
     // The button applies the window's new sheet only after it is polished again.

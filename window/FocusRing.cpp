@@ -11,6 +11,7 @@
 #include <QProxyStyle>
 #include <QRadioButton>
 #include <QStyleOption>
+#include <QVariant>
 
 namespace MtConf {
 
@@ -49,6 +50,8 @@ QRect visiblePart(const QWidget *widget)
 class RingStyle : public QProxyStyle
 {
 public:
+    explicit RingStyle(const QString &color) : mColor(color) {}
+
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returned) const override
     {
@@ -82,10 +85,15 @@ public:
         const QRectF outer = visiblePart(frame->widget()).translated(margin, margin);
         const double beyond = margin - width / 2.0;
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(QThemeCtrl::instance()->color(QStringLiteral("ColorMain")), width));
-        painter->drawRoundedRect(outer.adjusted(-beyond, -beyond, beyond, beyond), sRadius * scale,
-                                 sRadius * scale);
+        painter->setPen(QPen(QThemeCtrl::instance()->color(mColor), width));
+        // The ring of a switch is as round as the switch.
+        const bool isRound = frame->widget()->property("Switch").isValid();
+        const double radius = isRound ? outer.height() / 2 + beyond : sRadius * scale;
+        painter->drawRoundedRect(outer.adjusted(-beyond, -beyond, beyond, beyond), radius, radius);
     }
+
+private:
+    const QString mColor;
 };
 
 class RingFrame : public QFocusFrame
@@ -107,13 +115,14 @@ protected:
 
 } // namespace
 
-void FocusRing::follow(QWidget *root)
+void FocusRing::follow(QWidget *root, const QString &color)
 {
     if (!root->findChild<FocusRing *>(QString(), Qt::FindDirectChildrenOnly))
-        new FocusRing(root);
+        new FocusRing(root, color);
 }
 
-FocusRing::FocusRing(QWidget *root) : QObject(root), mStyle(std::make_unique<RingStyle>())
+FocusRing::FocusRing(QWidget *root, const QString &color)
+    : QObject(root), mStyle(std::make_unique<RingStyle>(color))
 {
     connect(qApp, &QApplication::focusChanged, this, &FocusRing::onFocusChanged);
     onFocusChanged(nullptr, QApplication::focusWidget());

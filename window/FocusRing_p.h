@@ -18,12 +18,13 @@ class FocusRing : public QObject
 {
     Q_OBJECT
 public:
-    /// Gives `root` a ring, unless it has one already. The ring is deleted with `root`.
-    static void follow(QWidget *root);
+    /// Gives `root` a ring in the theme's colour `color`, unless it has one already. The ring is
+    /// deleted with `root`.
+    static void follow(QWidget *root, const QString &color);
     ~FocusRing() override;
 
 private:
-    explicit FocusRing(QWidget *root);
+    FocusRing(QWidget *root, const QString &color);
     bool isResponsibleFor(const QWidget *widget) const;
     void onFocusChanged(QWidget *former, QWidget *now);
     void surround(QWidget *widget);

@@ -1,13 +1,21 @@
 #include "ModernPageBuilder_p.h"
 
+#include "MaltoConfiguration/widgets/Glyphs_p.h"
+#include "MaltoConfiguration/widgets/RangeCheck_p.h"
 #include "ModernRow_p.h"
 #include "SwitchCaption_p.h"
 
 #include <MaltoConfiguration/manage/MajorConfItem.h>
 #include <MaltoConfiguration/widgets/ConfWidgetPath.h>
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
+#include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
+
+#include <OrvUtils/QThemeCtrl.h>
+#include <QIconfont/QIconfont.h>
 
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -27,7 +35,9 @@ constexpr double sPixelsPerInch = 96;
 constexpr double sPointsPerInch = 72;
 constexpr QSize sSwitch(38, 22);
 constexpr int sField = 220;
+constexpr int sClearIcon = 24;
 constexpr int sNumber = 104;
+constexpr int sBesideNumber = 40; // the padding and the arrows
 
 QList<QWidget *> childrenOf(const QWidget *widget)
 {
@@ -55,6 +65,33 @@ bool isField(QWidget *widget)
            || qobject_cast<QLineEdit *>(widget);
 }
 
+/// Draws the button that clears a hotkey in the colour of texts that are less important.
+void quietClearButton(const KeySequenceEdit *edit)
+{
+    const QColor color = QThemeCtrl::instance()->color(QStringLiteral("ModernSecondary"));
+    const QList<QAction *> actions = edit->actions();
+    for (QAction *action : actions)
+        action->setIcon(QIconfont::Icon(sErrorGlyph, color, sClearIcon, QMargins()));
+}
+
+/// Returns the width of the field of a number: the usual one, or more if its longest number needs
+/// more.
+int numberWidth(const PageRow &row, double pixel)
+{
+    auto *const box = row.editor->findChild<QAbstractSpinBox *>();
+    QStringList texts{box->text()};
+    for (const char *limit : {"MinValue", "MaxValue"}) {
+        const QVariant number = row.item->properties.value(QLatin1String(limit));
+        if (number.isValid())
+            texts.append(numberText(box->locale(), number.toDouble()) + row.item->suffixText());
+    }
+    box->ensurePolished();
+    int width = 0;
+    for (const QString &text : std::as_const(texts))
+        width = qMax(width, box->fontMetrics().horizontalAdvance(text));
+    return qMax(qRound(sNumber * pixel), width + qRound(sBesideNumber * pixel));
+}
+
 } // namespace
 
 ModernPageBuilder::ModernPageBuilder(QWidget *board, QVBoxLayout *layout, double scale,
@@ -73,6 +110,8 @@ void ModernPageBuilder::beginGroup(const QString &caption, const QString &source
         mTitle->setIndent(0);
         mTitle->setProperty("SourceText", source);
         mTitle->setProperty("ClassLabel", QStringLiteral("normal"));
+        if (mLayout->count() == 0)
+            mTitle->setProperty("first", QStringLiteral("1"));
     }
     mPanel = new QGroupBox(mBoard);
     mPanel->setProperty("GroupName", source);
@@ -103,7 +142,7 @@ void ModernPageBuilder::addRow(PageRow *row, bool isLast)
         mRow->addText(row->caption);
     if (row->message)
         mRow->addText(row->message);
-    setFieldWidths(row->editor, mPixel);
+    setFields(*row, mPixel);
     mRow->setEditor(row->editor, placeOf(row->editor));
     mPanel->layout()->addWidget(mRow);
 }
@@ -138,19 +177,25 @@ void ModernPageBuilder::addUnderCaption(const PageRow &row, QWidget *widget)
         static_cast<ModernRow *>(row.frame.data())->addText(widget);
 }
 
-void ModernPageBuilder::setFieldWidths(QWidget *editor, double pixel)
+void ModernPageBuilder::setFields(const PageRow &row, double pixel)
 {
     QList<QWidget *> fields;
-    const QList<QWidget *> children = childrenOf(editor);
+    const QList<QWidget *> children = childrenOf(row.editor);
     for (QWidget *child : children) {
+        if (auto *box = qobject_cast<MultiSelectComboBox *>(child))
+            box->setSeparator(tr(", ", "between the chosen entries"));
+        if (auto *edit = qobject_cast<KeySequenceEdit *>(child))
+            quietClearButton(edit);
         if (isField(child))
             fields.append(child);
     }
     // Several fields share the width.
     if (fields.size() != 1)
         return;
-    QWidget *const field = fields.first();
-    field->setMinimumWidth(qRound((isNumber(field) ? sNumber : sField) * pixel));
+    if (isNumber(fields.first()))
+        fields.first()->setFixedWidth(numberWidth(row, pixel));
+    else
+        fields.first()->setMinimumWidth(qRound(sField * pixel));
 }
 
 } // namespace MtConf

@@ -2,6 +2,7 @@
 
 #include "PageBuilder_p.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <functional>
@@ -16,6 +17,7 @@ class ModernRow;
 /// Builds pages of the modern look: a panel for each group, and rows with the editors at the right.
 class ModernPageBuilder : public PageBuilder
 {
+    Q_DECLARE_TR_FUNCTIONS(MtConf::ModernPageBuilder)
 public:
     /// Builds into `layout`, whose widgets are children of `board`. `scale` is in pixels per point.
     /// `className` returns the name of the shown class, whose own group needs no title.
@@ -30,9 +32,10 @@ public:
     void addAtEnd(const PageRow &row, QWidget *widget) override;
     void addUnderCaption(const PageRow &row, QWidget *widget) override;
 
-    /// Gives the fields of `editor` the usual widths of the look. Editors that translate themselves
-    /// set some of the widths again.
-    static void setFieldWidths(QWidget *editor, double pixel);
+    /// Gives the fields of a row the usual widths, texts in the present language and icons in the
+    /// colours of the present theme. To be called again after a change: editors that translate
+    /// themselves also set some of the widths.
+    static void setFields(const PageRow &row, double pixel);
 
 private:
     QWidget *const mBoard;

@@ -34,7 +34,7 @@ constexpr int sPageWidth = 720;
 constexpr int sPageTop = 20;
 constexpr int sPageSide = 24;
 constexpr int sTitleGap = 12;
-constexpr QSize sLeastWindow(520, 400);
+constexpr QSize sLeastWindow(640, 400);
 
 } // namespace
 
@@ -97,7 +97,9 @@ void ModernWindow::sheetApplied()
     mLine->setFixedWidth(qMax(1, scaled(1)));
     setListWidth();
     setMargins();
-    refreshNotes(); // they contain colours
+    // Both have colours of the theme.
+    refreshNotes();
+    refreshFields();
 }
 
 void ModernWindow::setMargins()
@@ -147,12 +149,20 @@ void ModernWindow::showTitle()
     mTitle->setText(classList()->currentIndex().data().toString());
 }
 
+const MajorConfItem *ModernWindow::shownClass() const
+{
+    return manager() ? manager()->getMajorConfItemByName(window()->currentClass()) : nullptr;
+}
+
 bool ModernWindow::isCustomPage() const
 {
-    const QString name = classList()->currentIndex().data(sClassNameRole).toString();
-    const MajorConfItem *const shown = manager() ? manager()->getMajorConfItemByName(name)
-                                                 : nullptr;
-    return shown && shown->majorWidget && rows().isEmpty();
+    return shownClass() && shownClass()->majorWidget && rows().isEmpty();
+}
+
+/// Returns whether the shown page of the host can be reset.
+bool ModernWindow::canReset() const
+{
+    return shownClass() && shownClass()->restoreDefault;
 }
 
 void ModernWindow::rowAdded(const PageRow &row)
@@ -193,6 +203,14 @@ void ModernWindow::refreshNotes()
         note->refresh();
 }
 
+void ModernWindow::refreshFields()
+{
+    for (const PageRow &row : rows()) {
+        if (row.editor)
+            ModernPageBuilder::setFields(row, scaled(100) / 100.);
+    }
+}
+
 void ModernWindow::pageShown()
 {
     refreshNotes();
@@ -209,6 +227,8 @@ void ModernWindow::arrangePage()
     QLayoutItem *const last = mRows->itemAt(mRows->count() - 1);
     if (QSpacerItem *const spacer = last ? last->spacerItem() : nullptr)
         spacer->changeSize(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+    if (isCustom && !canReset())
+        mResetPage->hide();
     mPage->setStretch(mPage->indexOf(mRows), isCustom ? 1 : 0);
     mPage->setStretch(mPage->count() - 1, isCustom ? 0 : 1);
     mRows->invalidate();
@@ -231,11 +251,10 @@ void ModernWindow::retranslate()
     showTitle();
     showTexts();
     refreshNotes();
+    refreshFields();
     for (const PageRow &row : rows()) {
         if (auto *caption = dynamic_cast<SwitchCaption *>(row.caption.data()))
             caption->followText();
-        if (row.editor)
-            ModernPageBuilder::setFieldWidths(row.editor, scaled(100) / 100.);
     }
 }
 

@@ -10,6 +10,8 @@ class QPushButton;
 
 namespace MtConf {
 
+struct MajorConfItem;
+
 /// Turns the form into the frame of the modern look: a narrow list of classes that shrinks to icons
 /// in a narrow window, and a page of limited width with a title and quiet buttons.
 class ModernWindow : public WindowFeature
@@ -33,8 +35,11 @@ private:
     void showTexts();
     void showTitle();
     void refreshNotes();
+    void refreshFields();
     ConfItem *findItem(const QString &key) const;
+    const MajorConfItem *shownClass() const;
     bool isCustomPage() const;
+    bool canReset() const;
     void arrangePage();
     void hideOwnTitle();
 

@@ -84,7 +84,7 @@ void tst_ModernLook::windowHasTheSizeOfTheLook()
     open("Edit");
     const QSize room = mHost->window()->screen()->availableSize();
     QCOMPARE(mHost->window()->size(), QSize(px(980), px(690)).boundedTo(room));
-    QCOMPARE(mHost->window()->minimumSize(), QSize(px(520), px(400)));
+    QCOMPARE(mHost->window()->minimumSize(), QSize(px(640), px(400)));
 }
 
 void tst_ModernLook::classesAreNarrowRows()
