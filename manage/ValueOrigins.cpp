@@ -6,14 +6,8 @@
 namespace MtConf {
 
 ValueOrigins::ValueOrigins()
+    : mObserver(ConfStorage::instance(), [this](const ConfChange &change) { onChange(change); })
 {
-    mObserver = ConfStorage::instance()->addObserver(
-        [this](const ConfChange &change) { onChange(change); });
-}
-
-ValueOrigins::~ValueOrigins()
-{
-    ConfStorage::instance()->removeObserver(mObserver);
 }
 
 ValueOrigins::Origin ValueOrigins::originOf(const QString &key) const

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
+
 #include <QHash>
-#include <QPointer>
 #include <QString>
 
 #include <memory>
-
-struct ConfChange;
 
 namespace MtConf {
 
@@ -24,7 +23,6 @@ public:
     };
 
     ValueOrigins();
-    ~ValueOrigins();
     Q_DISABLE_COPY(ValueOrigins)
 
     /// Returns where the present value of `key` comes from. What was changed in an earlier run of
@@ -49,7 +47,7 @@ private:
 
     QHash<QString, Origin> mOrigins; // of keys that are not simply changed here
     const std::shared_ptr<int> mFiles = std::make_shared<int>(0); // that are being loaded
-    int mObserver = 0;
+    const StoreObserver mObserver;
 };
 
 } // namespace MtConf

@@ -8,18 +8,13 @@ namespace MtConf {
 
 RowDependency::RowDependency(const QMap<QString, QJsonValue> &dependencies,
                              ConfigItemWidget *editor)
-    : QObject(editor), mDependencies(dependencies), mEditor(editor)
+    : QObject(editor), mDependencies(dependencies), mEditor(editor),
+      mObserver(ConfStorage::instance(), [this](const ConfChange &change) {
+          if (mDependencies.contains(change.key))
+              update();
+      })
 {
-    mObserver = ConfStorage::instance()->addObserver([this](const ConfChange &change) {
-        if (mDependencies.contains(change.key))
-            update();
-    });
     update();
-}
-
-RowDependency::~RowDependency()
-{
-    ConfStorage::instance()->removeObserver(mObserver);
 }
 
 bool RowDependency::isFulfilled() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
+
 #include <QJsonValue>
 #include <QMap>
 #include <QObject>
@@ -15,7 +17,6 @@ class RowDependency : public QObject
 public:
     /// Follows the values of `dependencies`, by key, until `editor` is destroyed.
     RowDependency(const QMap<QString, QJsonValue> &dependencies, ConfigItemWidget *editor);
-    ~RowDependency() override;
 
 private:
     bool isFulfilled() const;
@@ -23,7 +24,7 @@ private:
 
     const QMap<QString, QJsonValue> mDependencies;
     ConfigItemWidget *const mEditor;
-    int mObserver = 0;
+    const StoreObserver mObserver;
 };
 
 } // namespace MtConf

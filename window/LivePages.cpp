@@ -13,16 +13,11 @@
 
 namespace MtConf {
 
-LivePages::LivePages(ConfigurationWindow *window) : WindowFeature(window)
+LivePages::LivePages(ConfigurationWindow *window)
+    : WindowFeature(window),
+      mObserver(ConfStorage::instance(), [this](const ConfChange &change) { onChange(change); })
 {
-    mObserver = ConfStorage::instance()->addObserver(
-        [this](const ConfChange &change) { onChange(change); });
     connect(qApp, &QApplication::focusChanged, this, &LivePages::refreshLeft);
-}
-
-LivePages::~LivePages()
-{
-    ConfStorage::instance()->removeObserver(mObserver);
 }
 
 void LivePages::pageCleared()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
 #include "WindowFeature_p.h"
 
 #include <QHash>
@@ -8,8 +9,6 @@
 #include <QString>
 
 class QLabel;
-
-struct ConfChange;
 
 namespace MtConf {
 
@@ -21,7 +20,6 @@ class LivePages : public WindowFeature
     Q_OBJECT
 public:
     explicit LivePages(ConfigurationWindow *window);
-    ~LivePages() override;
 
     void pageCleared() override;
 
@@ -35,7 +33,7 @@ private:
     QSet<QString> mChanged; // keys whose rows are not refreshed yet
     bool mIsQueued = false;
     QHash<QString, QPointer<QLabel>> mNotices; // of fields that are being edited, by key
-    int mObserver = 0;
+    const StoreObserver mObserver;
 };
 
 } // namespace MtConf

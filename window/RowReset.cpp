@@ -64,9 +64,9 @@ bool contains(const PageRow &row, const QPoint &position)
 } // namespace
 
 RowReset::RowReset(ConfigurationWindow *window)
-    : WindowFeature(window), mChangesButton(new QPushButton(window))
+    : WindowFeature(window), mChangesButton(new QPushButton(window)),
+      mObserver(ConfStorage::instance(), [this](const ConfChange &) { queueUpdate(); })
 {
-    mObserver = ConfStorage::instance()->addObserver([this](const ConfChange &) { queueUpdate(); });
     auto *shortcut = new QShortcut(resetKey(), window);
     connect(shortcut, &QShortcut::activated, this, &RowReset::resetFocusedRow);
     mChangesButton->setObjectName(QStringLiteral("ShowChangesButton"));
@@ -74,11 +74,6 @@ RowReset::RowReset(ConfigurationWindow *window)
     connect(mChangesButton, &QAbstractButton::clicked, this, &RowReset::showChanges);
     classColumn()->insertWidget(classColumn()->indexOf(classList()) + 1, mChangesButton);
     updateClasses();
-}
-
-RowReset::~RowReset()
-{
-    ConfStorage::instance()->removeObserver(mObserver);
 }
 
 void RowReset::rowAdded(const PageRow &row)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
 #include "WindowFeature_p.h"
 
 #include <QHash>
@@ -20,7 +21,6 @@ class RowReset : public WindowFeature
     Q_OBJECT
 public:
     explicit RowReset(ConfigurationWindow *window);
-    ~RowReset() override;
 
     void rowAdded(const PageRow &row) override;
     void pageShown() override;
@@ -50,7 +50,7 @@ private:
     QPushButton *const mChangesButton;
     bool mIsShowingChanges = false; // while that page is being built
     bool mIsQueued = false;
-    int mObserver = 0;
+    const StoreObserver mObserver;
 };
 
 } // namespace MtConf

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
 #include "SettingsStep_p.h"
-#include "StoreObserver_p.h"
 
 #include <QObject>
 #include <QPointer>

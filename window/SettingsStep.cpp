@@ -1,6 +1,6 @@
 #include "SettingsStep_p.h"
 
-#include "StoreObserver_p.h"
+#include "MaltoConfiguration/store/StoreObserver_p.h"
 
 #include <MaltoConfiguration/store/ConfOperation.h>
 
