@@ -223,6 +223,7 @@ void tst_ProfilesPage::restoringPresetsAsksWhatItWouldDelete()
                                          "undoes your changes of the presets."));
     QTest::keyClick(question(), Qt::Key_Return); // the default is the safe answer
     QTRY_VERIFY(!question());
+    QCoreApplication::processEvents(); // the list follows a deletion here
     QCOMPARE(names(), before);
     QCOMPARE(mDemo->session->profiles().profile("Profiles.Screen")["width"].toInt(),
              isChangedPreset ? 99 : 1920);
@@ -269,6 +270,7 @@ void tst_ProfilesPage::deletingAsksFirst()
     else
         confirm();
     QTRY_VERIFY(!question());
+    QCoreApplication::processEvents(); // the list follows a deletion here
     QCOMPARE(names().contains("Window"), !isDeleted);
 }
 
