@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "HistoryFeature_p.h"
+#include "ImportExport_p.h"
 #include "LivePages_p.h"
 #include "MaltoConfiguration/manage/WindowMemory_p.h"
 #include "ModernWindow_p.h"
@@ -33,6 +34,8 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new RowDetails(this));
     if (features & ResetFeature)
         mFeatures.append(new RowReset(this));
+    if (features & ImportExportFeature)
+        mFeatures.append(new ImportExport(this));
     if (features & LivePagesFeature)
         mFeatures.append(new LivePages(this));
     if (features & UndoFeature)

@@ -6,13 +6,19 @@
 
 namespace MtConf {
 
+QString groupCaption(const ConfItem &item)
+{
+    const QString page = WindowFeature::translatedName(item.majorName);
+    return item.subName.isEmpty()
+               ? page
+               : page + QStringLiteral(" \u203a ") + WindowFeature::translatedName(item.name);
+}
+
 PageGroups pageGroups(const QList<ConfItem *> &items)
 {
     PageGroups groups;
     for (ConfItem *item : items) {
-        QString caption = WindowFeature::translatedName(item->majorName);
-        if (!item->subName.isEmpty())
-            caption += QStringLiteral(" \u203a ") + WindowFeature::translatedName(item->name);
+        const QString caption = groupCaption(*item);
         auto group = std::find_if(groups.begin(), groups.end(),
                                   [&](const auto &other) { return other.first == caption; });
         if (group == groups.end())

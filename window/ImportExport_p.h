@@ -1,0 +1,47 @@
+#pragma once
+
+#include "WindowFeature_p.h"
+
+#include <QMessageBox>
+
+class QFileDialog;
+class QPushButton;
+
+namespace MtConf {
+
+class SettingsImport;
+
+/// Exports the settings to a file and imports them, with two buttons below the list of classes.
+class ImportExport : public WindowFeature
+{
+    Q_OBJECT
+public:
+    explicit ImportExport(ConfigurationWindow *window);
+
+    void sheetApplied() override;
+    void retranslate() override;
+
+    /// Asks for a file and writes the settings into it.
+    void exportSettings();
+    /// Asks for a file, shows what it would change, and imports what the user leaves checked.
+    void importSettings();
+
+protected:
+    /// Hides the buttons while the list shows only icons.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool commitEditors();
+    QString chooseFile(QFileDialog *dialog);
+    QStringList chooseChanges(const QString &path, const SettingsImport &import);
+    void apply(const SettingsImport &import, const QStringList &keys);
+    void tell(QMessageBox::Icon icon, const QString &title, const QString &text);
+    void dress(QWidget *widget) const;
+
+    QWidget *const mFoot;
+    QPushButton *const mImport;
+    QPushButton *const mExport;
+    QString mFolder; // of the last file
+};
+
+} // namespace MtConf
