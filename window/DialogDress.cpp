@@ -84,7 +84,10 @@ void fitLists(QFontDialog *dialog)
             continue;
         list->ensurePolished();
         const int frame = 2 * list->frameWidth();
-        list->setMinimumHeight(sRowsOfList * list->sizeHintForRow(0) + frame);
+        const int rowHeight = qMax(1, list->sizeHintForRow(0));
+        // At least as many as Qt shows.
+        const int rows = qMax(sRowsOfList, (list->sizeHint().height() + rowHeight - 1) / rowHeight);
+        list->setMinimumHeight(rows * rowHeight + frame);
         const int letter = list->fontMetrics().horizontalAdvance(QLatin1Char('m'));
         const int text = qMin(list->sizeHintForColumn(0), sLettersOfList * letter);
         list->setMinimumWidth(text + 2 * letter + list->verticalScrollBar()->sizeHint().width());

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void ringSurvivesThePage();
     void dialogsOfTheWindowHaveARing();
     void nestedSheetsHaveOneRing();
+    void ringOfTheModernLookHasItsAccent();
     void clickOnAClassMovesNothing();
 
 private:
@@ -202,6 +203,21 @@ void tst_FocusRing::nestedSheetsHaveOneRing()
     QCOMPARE(visibleRings().size(), 1);
     WindowFixture::classList()->setFocus();
     QCOMPARE(visibleRings().size(), 1);
+}
+
+void tst_FocusRing::ringOfTheModernLookHasItsAccent()
+{
+    mFixture->declare();
+    mFixture->manager->windowLook = MtConf::ModernLook;
+    mFixture->manager->ShowWindow("Edit");
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QThemeCtrl::instance()->setTheme(QThemeCtrl::Theme::Dark);
+    const QColor accent = QThemeCtrl::instance()->color("ModernAccent");
+    mFixture->control<QComboBox>("Text")->setFocus();
+    const QList<QColor> colors = fromTheLeft(ring(), 0, width());
+    for (const QColor &color : colors)
+        QCOMPARE(color, accent);
 }
 
 void tst_FocusRing::clickOnAClassMovesNothing()
