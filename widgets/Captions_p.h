@@ -12,8 +12,9 @@ class CaptionLabel : public QLabel
 public:
     CaptionLabel(const QString &text, QWidget *parent);
 
-    /// Returns the size of the text in one line.
+    /// Returns the size of the text in one line, which may become bold.
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 };
 
 /// A check box that is the caption of its row, with the same rule for its text.
@@ -22,6 +23,7 @@ class CaptionCheckBox : public QCheckBox
 public:
     CaptionCheckBox(const QString &text, QWidget *parent);
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;

@@ -51,6 +51,8 @@ private Q_SLOTS:
     void typedTextIsSavedBesideOtherChanges();
     void messageIsShownUnderTheRow();
     void validatorMayCloseTheWindow();
+    void fieldsKeepTheirPlaceWhenACaptionBecomesBold_data();
+    void fieldsKeepTheirPlaceWhenACaptionBecomesBold();
     void rowsWithoutOptionsHaveNeitherMessageNorToolTip();
     void helpIsToolTipAndDescription();
     void expertRowsAreShownOnRequest();
@@ -247,6 +249,44 @@ void tst_Rows::validatorMayCloseTheWindow()
     editor()->commit();
     QTRY_VERIFY(!mFixture->window());
     QCOMPARE(mText, QString());
+}
+
+void tst_Rows::fieldsKeepTheirPlaceWhenACaptionBecomesBold_data()
+{
+    QTest::addColumn<bool>("isCheckBox");
+    QTest::addColumn<int>("windowWidth"); // 0 for the default size
+    QTest::newRow("label") << false << 0;
+    QTest::newRow("check box") << true << 0;
+    QTest::newRow("label in a narrow window") << false << 500;
+    QTest::newRow("check box in a narrow window") << true << 500;
+}
+
+void tst_Rows::fieldsKeepTheirPlaceWhenACaptionBecomesBold()
+{
+    QFETCH(const bool, isCheckBox);
+    QFETCH(const int, windowWidth);
+    const char *const longCaption = "The longest of all captions of this page by far";
+    const ConfItem *flag = mFixture->addBool(isCheckBox ? longCaption : "Short");
+    addText(isCheckBox ? "Short text" : longCaption);
+    QVERIFY(mFixture->open());
+    if (windowWidth > 0)
+        mFixture->window()->resize(windowWidth, mFixture->window()->height());
+    QWidget *const caption = isCheckBox ? flag->editor->label() : editor()->label();
+    QTRY_VERIFY(caption->width() >= caption->minimumSizeHint().width());
+    QVERIFY(!caption->font().bold());
+    const int place = editor()->x();
+    const QSize hint = caption->sizeHint();
+
+    if (isCheckBox) {
+        mFixture->clickBox(mFixture->checkBox(flag));
+    } else {
+        editor()->line->setText("typed");
+        editor()->commit();
+    }
+    QVERIFY(caption->font().bold());
+    QCOMPARE(caption->sizeHint(), hint);
+    QCoreApplication::processEvents();
+    QCOMPARE(editor()->x(), place);
 }
 
 void tst_Rows::rowsWithoutOptionsHaveNeitherMessageNorToolTip()
