@@ -163,8 +163,11 @@ QString ConfigurationWindow::currentClass() const
 
 void ConfigurationWindow::fitToPage()
 {
-    const QSize missing = mUi->gboxConfigBoard->minimumSizeHint()
-                          - mUi->scrollArea->viewport()->size();
+    const QSize shown = mUi->scrollArea->viewport()->size();
+    QSize needed = mUi->gboxConfigBoard->minimumSizeHint().expandedTo(QSize(shown.width(), 0));
+    // Captions may have several lines.
+    needed.setHeight(qMax(needed.height(), mUi->gboxConfigBoard->heightForWidth(needed.width())));
+    const QSize missing = needed - shown;
     resize(size() + missing.expandedTo(QSize(0, 0)));
 }
 
