@@ -34,6 +34,7 @@ private Q_SLOTS:
     void cleanup() { mFixture.reset(); }
 
     void openingAndClosingLeaksNothing();
+    void theModernWindowWithAllFeaturesLeaksNothing();
     void switchingPagesLeaksNothing();
     void openingThePageOfAHotkeyDoesNotAffectTheHotkey();
 
@@ -107,6 +108,13 @@ private:
 void tst_WindowMemory::openingAndClosingLeaksNothing()
 {
     repeat("opened and closed", times(10, 1000), 16, [this] { openAndClose("Edit"); });
+}
+
+void tst_WindowMemory::theModernWindowWithAllFeaturesLeaksNothing()
+{
+    mFixture->manager->windowFeatures = MtConf::AllWindowFeatures;
+    mFixture->manager->windowLook = MtConf::ModernLook;
+    repeat("modern, opened and closed", times(10, 1000), 64, [this] { openAndClose("Edit"); });
 }
 
 void tst_WindowMemory::switchingPagesLeaksNothing()
