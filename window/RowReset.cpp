@@ -6,6 +6,7 @@
 #include "PageBuilder_p.h"
 #include "ResetButton_p.h"
 #include "RowWords_p.h"
+#include "SettingsFind_p.h"
 #include "ValueInWords_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -40,15 +41,17 @@ QKeySequence resetKey()
     return QKeySequence(Qt::CTRL | Qt::Key_R);
 }
 
-/// Returns the first control of `editor` that takes the focus by Tab; null if there is none.
-QWidget *firstControl(const ConfigItemWidget *editor)
+/// Returns the controls of `editor` that take the focus by Tab.
+QList<QWidget *> controlsOf(const ConfigItemWidget *editor)
 {
-    const QList<QWidget *> controls = editor->findChildren<QWidget *>();
-    for (QWidget *control : controls) {
-        if (control->focusPolicy() & Qt::TabFocus && control->isEnabled())
-            return control;
+    QList<QWidget *> controls;
+    const QList<QWidget *> children = editor->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        // The list of a combo box is a window of its own.
+        if ((child->focusPolicy() & Qt::TabFocus) && child->window() == editor->window())
+            controls.append(child);
     }
-    return nullptr;
+    return controls;
 }
 
 /// Returns whether a click at `position` in the frame of the row is meant for the row.
@@ -154,8 +157,9 @@ void RowReset::updateRow(const PageRow &row)
         return;
     // The keyboard would be without focus.
     if (!isChanged && button->hasFocus() && row.editor) {
-        if (QWidget *const control = firstControl(row.editor))
-            control->setFocus();
+        const QList<QWidget *> controls = controlsOf(row.editor);
+        if (!controls.isEmpty())
+            controls.first()->setFocus();
     }
     button->setVisible(isChanged);
     button->setAccessibleName(tr("Reset %1").arg(QObject::tr(row.item->displayText)));
@@ -171,13 +175,9 @@ ResetButton *RowReset::addButton(const PageRow &row)
     connect(button, &QAbstractButton::clicked, this, [this, key = row.key] { resetKeyed(key); });
     // After the controls of its row.
     if (row.editor) {
-        QWidget *last = row.editor;
-        const QList<QWidget *> controls = row.editor->findChildren<QWidget *>();
-        for (QWidget *control : controls) {
-            if (control->focusPolicy() & Qt::TabFocus)
-                last = control;
-        }
-        QWidget::setTabOrder(last, button);
+        const QList<QWidget *> controls = controlsOf(row.editor);
+        if (!controls.isEmpty())
+            QWidget::setTabOrder(controls.last(), button);
     }
     mButtons.insert(row.key, button);
     return button;
@@ -269,6 +269,10 @@ void RowReset::showChanges(bool isOn)
 {
     if (!manager())
         return;
+    if (auto *const find = window()->findChild<SettingsFind *>()) {
+        find->show(isOn ? QStringLiteral("@changed") : QString());
+        return;
+    }
     const QPointer<RowReset> self(this);
     mIsShowingChanges = isOn;
     if (isOn)

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
 #include <QToolButton>
@@ -168,6 +170,30 @@ private Q_SLOTS:
         QCOMPARE(WindowFixture::captions(), QStringList{"Other"});
     }
 
+    void showChangedUsesFindIfTheHostHasIt()
+    {
+        mFixture->manager->windowFeatures = ResetFeature | FindFeature;
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(showChanges()->isEnabled());
+        QTest::mouseClick(showChanges(), Qt::LeftButton);
+        QCOMPARE(WindowFixture::child<QLineEdit>("FindField")->text(), QString("@changed"));
+        QTRY_VERIFY(mNumber->editor && !mFlag->editor);
+    }
+
+    void aButtonThatComesLaterIsInTheTabOrder()
+    {
+        mChoice = 1;
+        ConfItem *choice = mFixture->manager->addConfInt32WithCombobox(
+            "Choice", {"One", "Two"}, &mChoice, "General", "Choice");
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(choice->getFullName(), 0);
+        QTRY_VERIFY(button(choice));
+        choice->editor->findChild<QComboBox *>()->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), button(choice));
+    }
+
     void aCallbackOfTheResetMayCloseTheWindow()
     {
         QVERIFY(mFixture->openActive());
@@ -218,6 +244,7 @@ private:
     ConfItem *mNumber = nullptr;
     ConfItem *mOther = nullptr;
     int mDelay = 0;
+    int mChoice = 0;
     QString mToken;
 };
 
