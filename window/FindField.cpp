@@ -56,6 +56,9 @@ void FindField::setClearText(const QString &text)
 /// Places the hint at the end of the field, before the button. The text of the user has priority.
 void FindField::placeHint()
 {
+    const QString shown = text().isEmpty() ? placeholderText() : text();
+    // Qt draws each text in its own direction, so the hint and the button change sides with it.
+    setLayoutDirection(shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const int gap = fontMetrics().horizontalAdvance(QLatin1Char('x'));
     int end = width() - gap;
     if (mClear->isVisible()) {
@@ -65,7 +68,6 @@ void FindField::placeHint()
     const QSize size = mHint->sizeHint();
     const QRect place(end - size.width(), (height() - size.height()) / 2, size.width(),
                       size.height());
-    const QString shown = text().isEmpty() ? placeholderText() : text();
     const bool hasRoom = fontMetrics().horizontalAdvance(shown) + 3 * gap < place.left();
     mHint->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
     mHint->setVisible(hasRoom && !mHint->text().isEmpty());
@@ -91,16 +93,7 @@ void FindField::keyPressEvent(QKeyEvent *event)
     else if (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up)
         Q_EMIT resultRequested(event->key() == Qt::Key_Down);
     else
-        typeKey(event);
-}
-
-void FindField::typeKey(QKeyEvent *event)
-{
-    const Qt::LayoutDirection direction = parentWidget()->layoutDirection();
-    QLineEdit::keyPressEvent(event);
-    // The hint and the button would change sides with the text.
-    if (layoutDirection() != direction)
-        unsetLayoutDirection();
+        QLineEdit::keyPressEvent(event);
 }
 
 void FindField::focusInEvent(QFocusEvent *event)

@@ -40,7 +40,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void typeKey(QKeyEvent *event);
     void placeHint();
 
     QLabel *const mHint;

@@ -2,6 +2,7 @@
 
 #include "FoldedText_p.h"
 #include "PageRow_p.h"
+#include "SwitchCaption_p.h"
 
 #include <OrvUtils/QThemeCtrl.h>
 
@@ -10,6 +11,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTextDocument>
@@ -57,22 +59,30 @@ DrawnText textOfLabel(const QLabel *label)
     if (isRich)
         return {};
     const int margin = label->margin();
+    QRect rect = label->contentsRect().adjusted(margin, margin, -margin, -margin);
     const Qt::LayoutDirection direction = label->text().isRightToLeft() ? Qt::RightToLeft
                                                                         : Qt::LeftToRight;
-    return {label->text(), label->contentsRect().adjusted(margin, margin, -margin, -margin),
-            QStyle::visualAlignment(direction, label->alignment()), label->wordWrap()};
+    const Qt::Alignment alignment = QStyle::visualAlignment(direction, label->alignment());
+    int indent = label->indent();
+    if (indent < 0 && label->frameWidth() > 0) // Qt's default
+        indent = label->fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2 - margin;
+    if (indent > 0 && (alignment & Qt::AlignLeft))
+        rect.setLeft(rect.left() + indent);
+    else if (indent > 0 && (alignment & Qt::AlignRight))
+        rect.setRight(rect.right() - indent);
+    return {label->text(), rect, alignment, label->wordWrap()};
 }
 
 DrawnText textOfButton(const QAbstractButton *button)
 {
     QStyleOptionButton option;
     option.initFrom(button);
-    const QRect rect = button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option,
-                                                       button);
-    QString text = button->text();
-    text.remove(QLatin1Char('&'));
-    return {text, rect,
-            QStyle::visualAlignment(button->layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)};
+    const bool isPushed = qobject_cast<const QPushButton *>(button);
+    const auto part = isPushed ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
+    const QRect rect = button->style()->subElementRect(part, &option, button);
+    const Qt::Alignment alignment = isPushed ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
+    return {withoutMark(button->text()), rect,
+            QStyle::visualAlignment(button->layoutDirection(), alignment)};
 }
 
 DrawnText textOf(const QWidget *widget)

@@ -79,6 +79,7 @@ void ModernWindow::buildTitle()
     mState->setObjectName(QStringLiteral("ModernPageState"));
     mState->hide();
     auto *titles = new QHBoxLayout;
+    titles->setObjectName(QStringLiteral("ModernTitles"));
     titles->addWidget(mTitle, 1);
     titles->addWidget(mState, 0, Qt::AlignBottom);
     mPage->insertLayout(0, titles);

@@ -9,6 +9,7 @@
 
 #include <OrvUtils/QThemeCtrl.h>
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -19,7 +20,6 @@
 #include <QShortcut>
 #include <QStandardItemModel>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace MtConf {
 
@@ -75,6 +75,12 @@ void SettingsFind::addField()
     QWidget::setTabOrder(mField, classList());
     classList()->setFocus(); // not the field, although it is the first widget
     mShortcut = new QShortcut(QKeySequence::Find, window());
+    if (auto *titles = window()->findChild<QHBoxLayout *>(QStringLiteral("ModernTitles"))) {
+        mHelp = new QLabel(mPage->parentWidget());
+        mHelp->setObjectName(QStringLiteral("FindHelp"));
+        mHelp->hide();
+        titles->addWidget(mHelp, 0, Qt::AlignBottom);
+    }
 }
 
 void SettingsFind::connectField()
@@ -201,9 +207,8 @@ void SettingsFind::showResults()
 void SettingsFind::endSearch()
 {
     mPause.stop();
-    QLabel *const state = mHasResults ? stateLabel() : nullptr;
-    if (state)
-        state->hide();
+    if (mHelp)
+        mHelp->hide();
     mQuery = SettingsQuery();
     mHits.clear();
     mResults = Results();

@@ -25,6 +25,9 @@ namespace MtConf {
 
 namespace {
 
+constexpr char sLink[] = "FindLink"; // a text of a custom page
+constexpr char sMore[] = "FindMore";
+
 /// Returns the first widget of the row that takes the focus, or null.
 QWidget *controlOf(const PageRow &row)
 {
@@ -86,6 +89,8 @@ void SettingsFind::decorate()
         if (isGroupCaption(label))
             texts.insert(label);
     }
+    for (QPushButton *link : buttons(sLink))
+        texts.insert(link);
     for (const PageRow &row : rows()) {
         const QList<QLabel *> inRow = row.frame ? labelsIn(row.frame) : QList<QLabel *>();
         for (QLabel *label : inRow)
@@ -97,6 +102,11 @@ void SettingsFind::decorate()
     }
     for (QWidget *text : std::as_const(texts))
         mMarks.append(new HitMark(text, mQuery.words));
+}
+
+QList<QPushButton *> SettingsFind::buttons(const char *name) const
+{
+    return mPage->parentWidget()->findChildren<QPushButton *>(QLatin1String(name));
 }
 
 void SettingsFind::markWords()
@@ -111,34 +121,36 @@ void SettingsFind::markWords()
 void SettingsFind::addTexts()
 {
     QString className;
-    QGroupBox *box = nullptr;
+    QVBoxLayout *links = nullptr;
     int index = mResults.isTextFirst ? 0 : std::max(0, mPage->count() - 1); // before the spacer
     QWidget *const board = mPage->parentWidget();
     for (const SettingsIndex::Entry &entry : std::as_const(mResults.texts)) {
         const QString shownClass = translatedName(entry.className);
-        if (!box || entry.className != className) {
+        if (!links || entry.className != className) {
             className = entry.className;
             auto *caption = new QLabel(shownClass, board);
+            caption->setIndent(0);
             caption->setProperty("ClassLabel", QStringLiteral("normal"));
-            box = new QGroupBox(board);
+            auto *box = new QGroupBox(board);
             box->setObjectName(QStringLiteral("ConfigGroupBox"));
             box->setAccessibleName(shownClass);
-            new QVBoxLayout(box);
+            links = new QVBoxLayout(box);
             mPage->insertWidget(index++, caption);
             mPage->insertWidget(index++, box);
         }
         const QString text = entry.text.isEmpty() ? shownClass : entry.text;
-        QPushButton *const button = addButton(box, static_cast<QBoxLayout *>(box->layout()), text);
+        QPushButton *const button = addButton(sLink, text, links);
         connect(button, &QPushButton::clicked, this,
                 [this, entry] { openText(entry.className, entry.text); });
     }
 }
 
-QPushButton *SettingsFind::addButton(QWidget *parent, QBoxLayout *layout, const QString &text)
+QPushButton *SettingsFind::addButton(const char *name, const QString &text, QBoxLayout *layout)
 {
     QString shown = text;
-    auto *button = new QPushButton(shown.replace(QLatin1Char('&'), QLatin1String("&&")), parent);
-    button->setObjectName(QStringLiteral("FindLink"));
+    shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+    auto *button = new QPushButton(shown, layout->parentWidget());
+    button->setObjectName(QLatin1String(name));
     button->setFlat(true);
     button->setCursor(Qt::PointingHandCursor);
     layout->addWidget(button, 0, Qt::AlignLeading);
@@ -150,7 +162,7 @@ void SettingsFind::addMore()
     if (mResults.more == 0)
         return;
     const QString text = tr("Show more (%1)").arg(mField->locale().toString(mResults.more));
-    QPushButton *const button = addButton(mPage->parentWidget(), mPage, text);
+    QPushButton *const button = addButton(sMore, text, mPage);
     connect(button, &QPushButton::clicked, this, [this] {
         mLimit += sRowLimit;
         showResults();
@@ -181,12 +193,6 @@ void SettingsFind::renameGroups()
     }
 }
 
-/// Returns the label beside the title, or null if the look has none.
-QLabel *SettingsFind::stateLabel() const
-{
-    return window()->findChild<QLabel *>(QStringLiteral("ModernPageState"));
-}
-
 /// Shows the title of the results where the look has one.
 void SettingsFind::showTitle()
 {
@@ -194,9 +200,9 @@ void SettingsFind::showTitle()
     scrollArea()->setAccessibleName(title);
     if (auto *label = window()->findChild<QLabel *>(QStringLiteral("ModernPageTitle")))
         label->setText(title);
-    if (QLabel *const state = stateLabel()) {
-        state->setText(tr("Enter opens the page"));
-        state->show();
+    if (mHelp) {
+        mHelp->setText(tr("Enter opens the page"));
+        mHelp->setVisible(!mHits.isEmpty());
     }
 }
 
@@ -290,9 +296,7 @@ void SettingsFind::focusResult(bool isFirst)
     QList<QWidget *> controls;
     for (const PageRow &row : rows())
         controls.append(controlOf(row));
-    const QList<QPushButton *> links = mPage->parentWidget()->findChildren<QPushButton *>(
-        QStringLiteral("FindLink"));
-    for (QPushButton *link : links)
+    for (QPushButton *link : buttons(sLink))
         controls.insert(mResults.isTextFirst ? 0 : controls.size(), link);
     controls.removeAll(nullptr);
     if (controls.isEmpty())

@@ -62,13 +62,13 @@ private:
     Results resultsOf(const QList<int> &hits) const;
     void decorate();
     void addTexts();
-    QPushButton *addButton(QWidget *parent, QBoxLayout *layout, const QString &text);
+    static QPushButton *addButton(const char *name, const QString &text, QBoxLayout *layout);
+    QList<QPushButton *> buttons(const char *name) const;
     void addMore();
     void addNothing();
     void markWords();
     void renameGroups();
     void showTitle();
-    QLabel *stateLabel() const;
 
     void openFirst();
     void openFocused();
@@ -83,6 +83,7 @@ private:
     FindField *mField = nullptr;
     QToolButton *mButton = nullptr; // in place of the field in a narrow column
     QShortcut *mShortcut = nullptr;
+    QLabel *mHelp = nullptr; // beside the title; null if the look has none
     QVBoxLayout *const mPage;
     QTimer mPause;
     SettingsQuery mQuery;

@@ -16,7 +16,8 @@ constexpr double sDisabledOpacity = 0.45;
 constexpr double sKnobMargin = 1. / 11; // of the height of the switch
 constexpr char sChanged[] = "changed";
 
-/// Returns the text of a button without the mark of its shortcut key.
+} // namespace
+
 QString withoutMark(QString text)
 {
     for (int i = 0; i + 1 < text.size(); ++i) {
@@ -25,8 +26,6 @@ QString withoutMark(QString text)
     }
     return text;
 }
-
-} // namespace
 
 SwitchCaption::SwitchCaption(QCheckBox *box, QSize size, QWidget *parent)
     : QLabel(parent), mBox(box)

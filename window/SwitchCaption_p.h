@@ -7,6 +7,9 @@ class QCheckBox;
 
 namespace MtConf {
 
+/// Returns the text of a button without the mark of its shortcut key.
+QString withoutMark(QString text);
+
 /// The caption of a flag in the modern look, beside its check box, which is drawn as a switch
 /// without a text. The caption shows the text, the state and the tool tip of the check box, and a
 /// click toggles it. The check box keeps its text for screen readers.

@@ -263,13 +263,13 @@ void tst_FindResults::fewRowsAreBuiltAtATime()
     QVERIFY(mFixture->find("switch"));
     QCOMPARE(mFixture->hint()->text(), QString("120 of 124"));
     QCOMPARE(mFixture->shownKeys().size(), 50);
-    auto *more = mFixture->child<QPushButton>("FindLink");
+    auto *more = mFixture->child<QPushButton>("FindMore");
     QCOMPARE(more->text(), QString("Show more (70)"));
     more->click();
     QTRY_COMPARE(mFixture->shownKeys().size(), 100);
-    mFixture->child<QPushButton>("FindLink")->click();
+    mFixture->child<QPushButton>("FindMore")->click();
     QTRY_COMPARE(mFixture->shownKeys().size(), 120);
-    QTRY_VERIFY(!mFixture->child<QPushButton>("FindLink"));
+    QTRY_VERIFY(!mFixture->child<QPushButton>("FindMore"));
 }
 
 void tst_FindResults::customPageIsOpenedAtItsText()

@@ -38,7 +38,8 @@ private Q_SLOTS:
     void narrowColumnShowsAButton();
     void hintFitsIn();
     void partsAreNamedForScreenReaders();
-    void layoutIsMirrored();
+    void hintIsAwayFromTheText_data();
+    void hintIsAwayFromTheText();
 
 private:
     std::unique_ptr<FindFixture> mFixture;
@@ -360,16 +361,34 @@ void tst_SettingsFind::partsAreNamedForScreenReaders()
     QCOMPARE(mFixture->child<QWidget>("scrollArea")->accessibleName(), QString("Results"));
 }
 
-void tst_SettingsFind::layoutIsMirrored()
+void tst_SettingsFind::hintIsAwayFromTheText_data()
 {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("isMirrored");
+    QTest::newRow("nothing") << QString() << true; // where the placeholder is not
+    QTest::newRow("Arabic") << QStringLiteral(u"بحث") << true;
+    QTest::newRow("Latin") << "tips" << false;
+}
+
+void tst_SettingsFind::hintIsAwayFromTheText()
+{
+    QFETCH(QString, typed);
+    QFETCH(bool, isMirrored);
+    const TableTranslator translator({{"Search settings", QStringLiteral(u"بحث")}});
     QVERIFY(mFixture->openActive());
     mFixture->window()->setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(mFixture->find("window"));
+    QTest::keyClicks(mFixture->field(), "a");
+    mFixture->field()->setText(typed);
     QVERIFY(mFixture->hint()->isVisible());
-    QCOMPARE(mFixture->field()->layoutDirection(), Qt::RightToLeft);
-    QVERIFY(mFixture->hint()->geometry().center().x() < mFixture->field()->width() / 2);
-    QVERIFY(!mFixture->field()->findChild<QAbstractButton *>()->geometry().intersects(
-        mFixture->hint()->geometry()));
+    const QRect hint = mFixture->hint()->geometry();
+    const QWidget *button = mFixture->field()->findChild<QAbstractButton *>();
+    QVERIFY(!button->isVisible() || !button->geometry().intersects(hint));
+    QCOMPARE(hint.center().x() < mFixture->field()->width() / 2, isMirrored);
+    if (typed.isEmpty())
+        return;
+    mFixture->field()->grab(); // scrolls to the cursor
+    const int cursor = mFixture->field()->inputMethodQuery(Qt::ImCursorRectangle).toRect().x();
+    QCOMPARE(cursor > mFixture->field()->width() / 2, isMirrored);
 }
 
 int main(int argc, char **argv)
