@@ -63,9 +63,7 @@ MtConf::ConfItem *DemoSession::item(const char *page, const char *name)
 
 void DemoSession::addPages()
 {
-    mManager->setMajorWidget(QStringLiteral("Profiles"), [this](QWidget *parent) {
-        return new ProfilesPage(mProfiles, parent);
-    });
+    addProfilesPage();
     mManager->setMajorWidget(QStringLiteral("Stored data"), [this](QWidget *parent) {
         return new StoredDataPage(mWatcher, parent);
     });
@@ -84,6 +82,28 @@ void DemoSession::addPages()
         {QStringLiteral("Stored data"), QuorviGlyphs::Correct},
     };
     mManager->setIconMap(icons);
+}
+
+void DemoSession::addProfilesPage()
+{
+    const QString name = QStringLiteral("Profiles");
+    mManager->setMajorWidget(name, [this](QWidget *parent) {
+        mProfilesPage = new ProfilesPage(mProfiles, parent);
+        return mProfilesPage;
+    });
+    MtConf::MajorConfItem *const page = mManager->getMajorConfItemByName(name);
+    page->searchTexts = [this] {
+        QStringList names;
+        const QStringList keys = mProfiles.keys();
+        for (const QString &key : keys)
+            names.append(mProfiles.name(key));
+        return names;
+    };
+    page->showSearchText = [this](const QString &profile) {
+        if (mProfilesPage)
+            mProfilesPage->select(profile);
+    };
+    page->isChanged = [this] { return !mProfiles.isUntouched(); };
 }
 
 void DemoSession::addCallbacks()

@@ -6,9 +6,12 @@
 #include "SettingsWatcher.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
+
+class ProfilesPage;
 
 namespace MtConf {
 class ConfItem;
@@ -61,6 +64,7 @@ Q_SIGNALS:
 private:
     MtConf::ConfItem *item(const char *page, const char *name);
     void addPages();
+    void addProfilesPage();
     void addCallbacks();
     void addHotkeyCallbacks();
     void registerHotkeys();
@@ -71,6 +75,7 @@ private:
     Settings mSettings;
     const ProgramActions mActions{this};
     ProfileStore mProfiles;
+    QPointer<ProfilesPage> mProfilesPage; // while it is shown
     SettingsWatcher mWatcher;
     std::unique_ptr<MtConf::MtConfManage> mManager;
 };

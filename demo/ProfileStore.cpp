@@ -102,6 +102,17 @@ bool ProfileStore::isUntouchedPreset(const QString &key) const
     return ConfStorage::instance()->isEqualToDefault(key);
 }
 
+bool ProfileStore::isUntouched() const
+{
+    const auto &presets = ConfStorage::instance()->mPresetDynamicConfs;
+    for (auto preset = presets.cbegin(); preset != presets.cend(); ++preset) {
+        if (preset.key().startsWith(prefix()) && !mProfiles.count(preset.key()))
+            return false;
+    }
+    return std::all_of(mProfiles.cbegin(), mProfiles.cend(),
+                       [this](const auto &entry) { return isUntouchedPreset(entry.first); });
+}
+
 QString ProfileStore::nameError(const QString &key, const QString &name) const
 {
     const QString wanted = name.trimmed();

@@ -32,6 +32,8 @@ public:
     QString name(const QString &key) const;
     /// Returns whether a profile is an unchanged preset.
     bool isUntouchedPreset(const QString &key) const;
+    /// Returns whether the profiles are the presets, unchanged.
+    bool isUntouched() const;
 
     /// Returns why the profile `key` cannot have the name `name`, translated, or an empty text.
     QString nameError(const QString &key, const QString &name) const;

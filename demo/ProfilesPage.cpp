@@ -376,6 +376,16 @@ QString ProfilesPage::currentKey() const
     return item ? item->data(Qt::UserRole).toString() : QString();
 }
 
+void ProfilesPage::select(const QString &name)
+{
+    const QStringList keys = mProfiles.keys();
+    for (const QString &key : keys) {
+        if (mProfiles.name(key) == name)
+            selectKey(key);
+    }
+    mList->setFocus();
+}
+
 void ProfilesPage::selectKey(const QString &key)
 {
     for (int row = 0; row < mList->count(); ++row) {

@@ -29,6 +29,9 @@ public:
     ProfilesPage(ProfileStore &profiles, QWidget *parent);
     ~ProfilesPage() override;
 
+    /// Selects the profile of that name, if there is one, and gives the list the focus.
+    void select(const QString &name);
+
     /// Stores the typed name when the window is about to close, which saves.
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -40,12 +40,13 @@ public:
     Q_DISABLE_COPY(DemoFixture)
 
     /// Ends the running session, if any, and starts a new one.
-    void start(const QString &configFile = QString())
+    void start(const QString &configFile = QString(),
+               DemoSession::Look look = DemoSession::Look::Classic)
     {
         session.reset();
         QVERIFY(!MtConf::ConfigurationWindow::instance());
         clearStore();
-        session = std::make_unique<DemoSession>(localFile(), DemoSession::Look::Classic);
+        session = std::make_unique<DemoSession>(localFile(), look);
         session->load(configFile);
     }
 

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void longNameIsElidedWithAToolTip();
     void changeFromOutsideKeepsTheNameBeingTyped();
     void invalidProfileFromAFileCanBeRenamedOrDeleted();
+    void profileIsFoundByItsName();
+    void changedProfilesAreListedAsChanged();
 
 private:
     template<class Widget> Widget *child(const char *name) const
@@ -390,6 +392,36 @@ void tst_ProfilesPage::invalidProfileFromAFileCanBeRenamedOrDeleted()
     click("removeProfile");
     confirm();
     QCOMPARE(names(), QStringList({"Mended", "Screen", "Thumbnail", "Window"}));
+}
+
+void tst_ProfilesPage::profileIsFoundByItsName()
+{
+    mDemo->start(QString(), DemoSession::Look::Modern);
+    mDemo->session->profiles().rename("Profiles.Thumbnail", QStringLiteral(u"Größe S"));
+    QVERIFY(mDemo->open("General"));
+    auto *field = child<QLineEdit>("FindField");
+    QTest::keyClicks(field, "grosse");
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(mDemo->window()->currentClass(), QString("Profiles"));
+    QCOMPARE(child<QListWidget>("profileList")->currentItem()->text(), QStringLiteral(u"Größe S"));
+}
+
+void tst_ProfilesPage::changedProfilesAreListedAsChanged()
+{
+    mDemo->start(QString(), DemoSession::Look::Modern);
+    ProfileStore &profiles = mDemo->session->profiles();
+    const auto isChanged = mDemo->session->manager().getMajorConfItemByName("Profiles")->isChanged;
+    QVERIFY(!isChanged());
+    const QString added = profiles.add();
+    QVERIFY(isChanged());
+    profiles.remove(added);
+    QVERIFY(!isChanged());
+    profiles.setValue("Profiles.Screen", "width", 800);
+    QVERIFY(isChanged());
+    profiles.restorePresets();
+    QVERIFY(!isChanged());
+    profiles.remove("Profiles.Screen");
+    QVERIFY(isChanged());
 }
 
 int main(int argc, char **argv)
