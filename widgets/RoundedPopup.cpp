@@ -18,8 +18,9 @@ constexpr double sRadius = 5; // points, as in the style sheet
 RoundedPopup::RoundedPopup(QComboBox *box) : QObject(box), mPopup(box->view()->parentWidget())
 {
     mPopup->setAttribute(Qt::WA_TranslucentBackground);
-    mPopup->setWindowFlags(mPopup->windowFlags() | Qt::FramelessWindowHint
-                           | Qt::NoDropShadowWindowHint);
+    // The window does not exist yet. setWindowFlags() would style the list again.
+    mPopup->overrideWindowFlags(mPopup->windowFlags() | Qt::FramelessWindowHint
+                                | Qt::NoDropShadowWindowHint);
     mPopup->installEventFilter(this);
 }
 
