@@ -11,8 +11,11 @@ struct Message
 {
     QString context;
     QString source;
-    QString translation;
+    QStringList forms; ///< the translation, or that of each plural form of the language
+    bool isPlural = false;
     bool isFinished = false;
+
+    QString translation() const { return forms.value(0); }
 };
 
 QList<Message> readMessages(const QString &path)
@@ -28,12 +31,16 @@ QList<Message> readMessages(const QString &path)
             continue;
         if (xml.name() == QLatin1String("name")) {
             message.context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            message.isPlural = xml.attributes().hasAttribute("numerus");
         } else if (xml.name() == QLatin1String("source")) {
             message.source = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
             message.isFinished = !xml.attributes().hasAttribute("type");
-            message.translation = xml.readElementText();
+            message.forms = message.isPlural ? QStringList() : QStringList(xml.readElementText());
             messages.append(message);
+        } else if (xml.name() == QLatin1String("numerusform")) {
+            messages.last().forms.append(xml.readElementText());
         }
     }
     return xml.hasError() ? QList<Message>() : messages;
@@ -42,7 +49,7 @@ QList<Message> readMessages(const QString &path)
 /// Returns the parts of a text that every translation must keep, in any order.
 QStringList fixedParts(const QString &text)
 {
-    static const QRegularExpression part("%[0-9]+|\n|\\[|\\]");
+    static const QRegularExpression part("%[0-9n]+|\n|\\[|\\]");
     QStringList parts;
     for (auto match = part.globalMatch(text); match.hasNext();)
         parts.append(match.next().captured());
@@ -50,17 +57,37 @@ QStringList fixedParts(const QString &text)
     return parts;
 }
 
+QString languageOf(const QString &file)
+{
+    return file.section('_', -1).section('/', -1).left(2);
+}
+
+/// Returns the number of plural forms of a language.
+int formCount(const QString &language)
+{
+    static const QHash<QString, int> counts{{"ar", 6}, {"ja", 1}, {"ko", 1}, {"pl", 3},
+                                            {"ru", 3}, {"tr", 1}, {"zh", 1}};
+    return counts.value(language, 2);
+}
+
+/// Returns whether a form is for a single number, which it can say in words: in Arabic those for
+/// 0, 1 and 2. The first form of Russian is for 21, too.
+bool isForOneNumber(const QString &language, int form)
+{
+    return language == "ar" && form <= 2;
+}
+
 /// Returns whether a translation may equal the English text: names, units, and words that other
 /// languages share with English.
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
-        " d",         " h",        " min",   " ms",           " px",
-        " s",         "%1, %2 px", "&File",  "&HTML:",        "Capture",
-        "Cache (MB)", "Font",      "Format", "Distance (px)", "General",
-        "Host",       "Image",     "Logo",   "Mouse",         "Name",
-        "OK",         "Output",    "Port",   "Position",      "Quorvi Capture",
-        "System",     "Updates",   "Zoom",   "page",          "Color",
+        " d",         " h",      " min",   " ms",           " px",      " s",
+        "%1, %2 px",  "%1 pt",   "%1 px",  "&File",         "&HTML:",   ", ",
+        "Cache (MB)", "Capture", "Color",  "Distance (px)", "Font",     "Format",
+        "General",    "Host",    "Image",  "Logo",          "Mouse",    "Name",
+        "No",         "OK",      "Output", "Port",          "Position", "Quorvi Capture",
+        "System",     "Updates", "Zoom",   "page",
     };
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
@@ -106,6 +133,8 @@ private Q_SLOTS:
     void everyTextOfTheSourcesIsTranslated();
     void translationsKeepPlaceholdersLineBreaksAndMnemonics_data() { everyFile("*.ts"); }
     void translationsKeepPlaceholdersLineBreaksAndMnemonics();
+    void pluralTextsHaveEachFormOfTheLanguage_data() { everyFile("*.ts"); }
+    void pluralTextsHaveEachFormOfTheLanguage();
     void noTextIsLeftInEnglish_data() { everyFile("*.ts"); }
     void noTextIsLeftInEnglish();
     void adviceUsesTheTextsOfTheDemo_data() { everyFile("malto_*.ts"); }
@@ -137,7 +166,7 @@ private:
         const QList<Message> messages = read(file);
         for (const Message &message : messages) {
             if (message.source.startsWith(source))
-                return message.translation;
+                return message.translation();
         }
         return QString();
     }
@@ -178,7 +207,7 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
     QSet<QString> translated;
     const QList<Message> messages = read(file);
     for (const Message &message : messages) {
-        if (message.isFinished && !message.translation.isEmpty())
+        if (message.isFinished && !message.forms.contains(QString()))
             translated.insert(message.context + '|' + message.source);
     }
     const bool isDemo = file.startsWith("demo/");
@@ -195,12 +224,31 @@ void tst_Translations::translationsKeepPlaceholdersLineBreaksAndMnemonics()
     QVERIFY(!messages.isEmpty());
     for (const Message &message : messages) {
         const QByteArray where = message.source.toUtf8();
-        QVERIFY2(fixedParts(message.translation) == fixedParts(message.source), where.constData());
-        // A unit follows its number, in most languages after a blank.
-        const bool isUnit = message.source.startsWith(' ');
-        QVERIFY2(isUnit || message.translation == message.translation.trimmed(), where.constData());
-        QVERIFY2(mnemonic(message.translation).isEmpty() == mnemonic(message.source).isEmpty(),
-                 where.constData());
+        // Units follow their numbers and commas precede the next entry, in most languages with a
+        // blank between them.
+        const bool isTrimmed = message.source == message.source.trimmed();
+        for (int form = 0; form < message.forms.size(); ++form) {
+            const QString &text = message.forms.at(form);
+            QStringList parts = fixedParts(message.source);
+            if (isForOneNumber(languageOf(file), form) && !text.contains("%n"))
+                parts.removeAll("%n");
+            QVERIFY2(fixedParts(text) == parts, where.constData());
+            QVERIFY2(!isTrimmed || text == text.trimmed(), where.constData());
+            QVERIFY2(mnemonic(text).isEmpty() == mnemonic(message.source).isEmpty(),
+                     where.constData());
+        }
+    }
+}
+
+void tst_Translations::pluralTextsHaveEachFormOfTheLanguage()
+{
+    QFETCH(QString, file);
+    const QList<Message> messages = read(file);
+    for (const Message &message : messages) {
+        const QByteArray where = message.source.toUtf8();
+        QVERIFY2(message.isPlural == message.source.contains("%n"), where.constData());
+        const int count = message.isPlural ? formCount(languageOf(file)) : 1;
+        QVERIFY2(message.forms.size() == count, where.constData());
     }
 }
 
@@ -209,7 +257,7 @@ void tst_Translations::noTextIsLeftInEnglish()
     QFETCH(QString, file);
     const QList<Message> messages = read(file);
     for (const Message &message : messages) {
-        QVERIFY2(message.translation != message.source || isTrulyIdentical(file, message),
+        QVERIFY2(!message.forms.contains(message.source) || isTrulyIdentical(file, message),
                  message.source.toUtf8().constData());
     }
 }
@@ -248,8 +296,9 @@ void tst_Translations::mnemonicsOfADialogAreUnique()
     QSet<QString> keys;
     const QList<Message> messages = read(file);
     for (const Message &message : messages) {
-        const QString key = message.context == context ? mnemonic(message.translation) : QString();
-        QVERIFY2(!keys.contains(key), qPrintable(message.translation));
+        const QString key = message.context == context ? mnemonic(message.translation())
+                                                       : QString();
+        QVERIFY2(!keys.contains(key), qPrintable(message.translation()));
         if (!key.isEmpty())
             keys.insert(key);
     }
@@ -278,7 +327,7 @@ void tst_Translations::hostGetsAFileForEveryLanguageAndKeepsItsTranslations()
     QVERIFY(file.resize(0) && file.seek(0) && file.write(content) == content.size());
     file.close();
     const QList<Message> again = update(arguments, "host/texts/zh-cht.ts");
-    QCOMPARE(again.value(0).translation, QString("顯示格線"));
+    QCOMPARE(again.value(0).translation(), QString("顯示格線"));
     QVERIFY(again.value(0).isFinished);
     QVERIFY(!QFile::exists("host/texts/fr-fr.ts"));
 }
