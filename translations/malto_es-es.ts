@@ -62,6 +62,14 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
         <source>Disabled.</source>
         <translation>Desactivado.</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>Es posible que otro programa use este atajo.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,442 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>¿Seguro que desea restaurar todos los valores predeterminados?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>Requiere «%1»</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>No disponible con «%1»</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>Requiere «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>Se ha quitado 1 entrada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>Se ha quitado %n entrada.</numerusform>
+            <numerusform>Se han quitado %n entradas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>Se ha importado 1 ajuste.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>Se ha importado %n ajuste.</numerusform>
+            <numerusform>Se han importado %n ajustes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>Se ha restaurado %n ajuste.</numerusform>
+            <numerusform>Se han restaurado %n ajustes.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>Importar ajustes</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>El archivo «%1» cambia estos ajustes. Se importan los que estén marcados.</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>Ajustes del archivo</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Aquí</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>En el archivo</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1, aquí: %2, en el archivo: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Marcar todo</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Desmarcar todo</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>Importar (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Otros ajustes</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (predeterminado)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>No existe</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Quitado</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>Entradas de otras versiones que se omiten: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>Entradas ilegibles que se omiten: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>Ajustes propios de cada equipo que se omiten: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>Ajustes bloqueados que se omiten: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>Ajustes cuyo valor no se admite aquí: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>Importar ajustes de un archivo</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>Exportar los ajustes a un archivo</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Ajustes (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Exportar ajustes</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Importar ajustes</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>El archivo «%1» no cambia nada aquí.</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>Ajustes que no se han podido importar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>Modificado en otro lugar entretanto. Lo que escriba lo reemplazará.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>Restaurar esta página…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>Restaurar todo…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>¿Restaurar esta página?</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>¿Restaurar todos los ajustes?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>¿Restaurar 1 ajuste de esta página?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>¿Restaurar 1 ajuste de todas las páginas?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>¿Restaurar %n ajuste de esta página?</numerusform>
+            <numerusform>¿Restaurar %n ajustes de esta página?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>¿Restaurar %n ajuste de todas las páginas?</numerusform>
+            <numerusform>¿Restaurar %n ajustes de todas las páginas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>Mostrar modificados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n modificado</numerusform>
+            <numerusform>%n modificados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Restaurar %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Copiar la clave</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>Copiar el valor</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>Predeterminado: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>Sin modificar</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>Modificado el %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>Del archivo %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>Modificado por otro programa o equipo el %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>Modificado por otro programa o equipo</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>Bloqueado por el administrador</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>«%1» no es un archivo.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>No se han podido guardar los ajustes en «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>El archivo «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>El archivo «%1» supera %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>No se ha podido leer el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>El archivo «%1» está vacío.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>El archivo «%1» está dañado: su contenido tiene demasiados niveles de anidamiento.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>El archivo «%1» está dañado o incompleto.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>El archivo «%1» no contiene ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Buscar ajustes</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>Mostrar más (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>Ningún ajuste coincide con «%1»</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Intro abre la página</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Sin definir</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vacío</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>negrita</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>cursiva</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>subrayado</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>Ajustes – %1</translation>
     </message>
 </context>
 <context>

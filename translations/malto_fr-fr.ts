@@ -62,6 +62,14 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>Disabled.</source>
         <translation>Désactivé.</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>Un autre programme utilise peut-être ce raccourci.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,442 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>Voulez-vous vraiment rétablir toutes les valeurs par défaut&#x202f;?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>Nécessite «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>Incompatible avec «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>Nécessite «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>1 entrée supprimée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>%n entrée supprimée.</numerusform>
+            <numerusform>%n entrées supprimées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>1 réglage importé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>%n réglage importé.</numerusform>
+            <numerusform>%n réglages importés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>%n réglage rétabli.</numerusform>
+            <numerusform>%n réglages rétablis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>Importer des réglages</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» modifie ces réglages. Ceux qui sont cochés sont importés.</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>Réglages du fichier</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Ici</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Dans le fichier</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1, ici&#xa0;: %2, dans le fichier&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout cocher</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Tout décocher</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>Importer (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Autres réglages</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (par défaut)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>N’existe pas</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>Entrées d’autres versions, ignorées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>Entrées illisibles, ignorées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>Réglages propres à chaque ordinateur, ignorés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>Réglages verrouillés, ignorés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>Réglages dont la valeur n’est pas acceptée ici&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>Importer des réglages depuis un fichier</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>Exporter les réglages dans un fichier</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Réglages (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Exporter les réglages</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Importer des réglages</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne change rien ici.</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>Réglages qui n’ont pas pu être importés&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>Modifié ailleurs entre-temps. Votre saisie remplacera la nouvelle valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>Rétablir la page…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>Tout rétablir…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>Rétablir les valeurs par défaut de cette page&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>Rétablir tous les réglages par défaut&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>Rétablir 1 réglage de cette page&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>Rétablir 1 réglage de toutes les pages&#x202f;?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>Rétablir %n réglage de cette page&#x202f;?</numerusform>
+            <numerusform>Rétablir %n réglages de cette page&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>Rétablir %n réglage de toutes les pages&#x202f;?</numerusform>
+            <numerusform>Rétablir %n réglages de toutes les pages&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>Afficher les modifiés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n modifié</numerusform>
+            <numerusform>%n modifiés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Rétablir %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Copier la clé</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>Copier la valeur</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>Par défaut&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>Non modifié</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>Modifié le %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>Du fichier %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>Modifié par un autre programme ou ordinateur le %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>Modifié par un autre programme ou ordinateur</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>Verrouillé par l’administrateur</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>Impossible d’enregistrer les réglages dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» dépasse %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>Impossible de lire le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est vide.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est endommagé&#xa0;: son contenu est imbriqué trop profondément.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est endommagé ou incomplet.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Trouver un réglage</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>Afficher plus (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>Aucun réglage ne correspond à «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Entrée ouvre la page</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Non défini</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vide</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>gras</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>italique</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>souligné</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>Réglages – %1</translation>
     </message>
 </context>
 <context>

@@ -62,6 +62,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Disabled.</source>
         <translation>無効です。</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>ほかのプログラムがこのショートカットキーを使用している可能性があります。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,436 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>すべての設定をデフォルトに戻してもよろしいですか？</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>「%1」が必要です</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>「%1」と同時には使えません</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>「%1」が必要です: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>1 件のエントリを削除しました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>%n 件のエントリを削除しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>1 件の設定をインポートしました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>%n 件の設定をインポートしました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>%n 件の設定をデフォルトに戻しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>設定のインポート</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>ファイル「%1」は次の設定を変更します。チェックした設定がインポートされます。</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>ファイル内の設定</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1、現在: %2、ファイル: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>すべて解除</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>インポート (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (デフォルト)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>存在しません</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>削除済み</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>除外された、ほかのバージョンのエントリ: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>除外された、読み取れないエントリ: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>除外された、各コンピューター固有の設定: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>除外された、ロック中の設定: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>ここでは値が受け付けられない設定: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>インポート…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>ファイルから設定をインポート</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>エクスポート…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>設定をファイルにエクスポート</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>設定 (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>設定のエクスポート</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>設定のインポート</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>ファイル「%1」で変更される設定はありません。</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>インポートできなかった設定: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>入力中にほかの場所で変更されました。入力した内容で置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>ページをデフォルトに戻す…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>すべてデフォルトに戻す…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>このページをデフォルトに戻しますか？</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>すべての設定をデフォルトに戻しますか？</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>このページの 1 件の設定をデフォルトに戻しますか？</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>全ページの 1 件の設定をデフォルトに戻しますか？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>このページの %n 件の設定をデフォルトに戻しますか？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>全ページの %n 件の設定をデフォルトに戻しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>デフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>変更済みを表示</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n 件変更済み</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1をデフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>デフォルトに戻す</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>キーをコピー</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>値をコピー</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>デフォルト: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>変更日時: %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更済み</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>ファイル %1 の値</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>ほかのプログラムまたはコンピューターによる変更: %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>ほかのプログラムまたはコンピューターによる変更</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>管理者によりロックされています</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>「%1」はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>設定を「%1」に保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>ファイル「%1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>ファイル「%1」は %2 を超えています。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>ファイル「%1」を読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>ファイル「%1」は空です。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>ファイル「%1」は壊れています。内容の階層が深すぎます。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>ファイル「%1」は壊れているか、不完全です。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>ファイル「%1」に設定は含まれていません。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>さらに表示 (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>「%1」に一致する設定はありません</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>検索結果</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Enter でページを開きます</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>太字</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>下線</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>設定 — %1</translation>
     </message>
 </context>
 <context>

@@ -62,6 +62,14 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>Disabled.</source>
         <translation>Uitgeschakeld.</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>Mogelijk gebruikt een ander programma deze sneltoets.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,442 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>Weet u zeker dat u alle standaardwaarden wilt herstellen?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>Vereist ‘%1’</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>Niet samen met ‘%1’</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>Vereist ‘%1’: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>1 item verwijderd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>%n item verwijderd.</numerusform>
+            <numerusform>%n items verwijderd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>1 instelling geïmporteerd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>%n instelling geïmporteerd.</numerusform>
+            <numerusform>%n instellingen geïmporteerd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>%n instelling hersteld.</numerusform>
+            <numerusform>%n instellingen hersteld.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>Instellingen importeren</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>Het bestand ‘%1’ wijzigt deze instellingen. De aangevinkte worden geïmporteerd.</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>Instellingen in het bestand</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In het bestand</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1, hier: %2, in het bestand: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles selecteren</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Niets selecteren</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>Importeren (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Andere instellingen</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (standaard)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>Bestaat niet</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Verwijderd</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>Overgeslagen items van andere versies: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>Overgeslagen onleesbare items: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>Overgeslagen instellingen die per computer gelden: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>Overgeslagen vergrendelde instellingen: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>Instellingen waarvan de waarde hier niet is toegestaan: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>Importeren…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>Instellingen uit een bestand importeren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>De instellingen naar een bestand exporteren</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Instellingen (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Instellingen exporteren</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Instellingen importeren</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>Het bestand ‘%1’ wijzigt hier niets.</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>Instellingen die niet konden worden geïmporteerd: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>Intussen elders gewijzigd. Wat u typt, vervangt de nieuwe waarde.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>Pagina herstellen…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>Alles herstellen…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>Deze pagina herstellen?</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>Alle instellingen herstellen?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>1 instelling op deze pagina herstellen?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>1 instelling op alle pagina’s herstellen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>%n instelling op deze pagina herstellen?</numerusform>
+            <numerusform>%n instellingen op deze pagina herstellen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>%n instelling op alle pagina’s herstellen?</numerusform>
+            <numerusform>%n instellingen op alle pagina’s herstellen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>Gewijzigde tonen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n gewijzigd</numerusform>
+            <numerusform>%n gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 herstellen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Herstellen</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Sleutel kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>Waarde kopiëren</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>Standaard: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>Niet gewijzigd</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>Gewijzigd op %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>Uit het bestand %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>Gewijzigd door een ander programma of andere computer op %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>Gewijzigd door een ander programma of andere computer</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>Vergrendeld door de beheerder</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>‘%1’ is geen bestand.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>De instellingen konden niet worden opgeslagen in ‘%1’.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Het bestand ‘%1’ bestaat niet.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>Het bestand ‘%1’ is groter dan %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>Het bestand ‘%1’ kon niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Het bestand ‘%1’ is leeg.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>Het bestand ‘%1’ is beschadigd: de inhoud is te diep genest.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>Het bestand ‘%1’ is beschadigd of onvolledig.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>Het bestand ‘%1’ bevat geen instellingen.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Instelling zoeken</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Zoekopdracht wissen</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>Meer tonen (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>Geen instelling komt overeen met ‘%1’</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Enter opent de pagina</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Niet ingesteld</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leeg</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>vet</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>cursief</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>onderstreept</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>Instellingen – %1</translation>
     </message>
 </context>
 <context>

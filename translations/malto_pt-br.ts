@@ -62,6 +62,14 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
         <source>Disabled.</source>
         <translation>Desativado.</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>Outro programa pode estar usando este atalho.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar novamente</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,442 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>Tem certeza de que deseja restaurar todos os padrões?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>Requer “%1”</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>Indisponível com “%1”</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>Requer “%1”: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>1 entrada removida.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>%n entrada removida.</numerusform>
+            <numerusform>%n entradas removidas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>1 configuração importada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>%n configuração importada.</numerusform>
+            <numerusform>%n configurações importadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>%n configuração restaurada.</numerusform>
+            <numerusform>%n configurações restauradas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>Importar configurações</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>O arquivo “%1” altera estas configurações. As que estiverem marcadas serão importadas.</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>Configurações no arquivo</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Configuração</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Aqui</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>No arquivo</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1, aqui: %2, no arquivo: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Marcar tudo</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Desmarcar tudo</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>Importar (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Outras configurações</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (padrão)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>Não existe</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Removida</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>Entradas de outras versões, ignoradas: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>Entradas ilegíveis, ignoradas: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>Configurações próprias de cada computador, ignoradas: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>Configurações bloqueadas, ignoradas: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>Configurações cujo valor não é aceito aqui: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>Importar configurações de um arquivo</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>Exportar as configurações para um arquivo</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Configurações (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Exportar configurações</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Importar configurações</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>O arquivo “%1” não altera nada aqui.</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>Configurações que não puderam ser importadas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>Alterada em outro lugar nesse meio-tempo. O que você digitar a substituirá.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>Restaurar esta página…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>Restaurar tudo…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>Restaurar esta página?</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>Restaurar todas as configurações?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>Restaurar 1 configuração desta página?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>Restaurar 1 configuração de todas as páginas?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>Restaurar %n configuração desta página?</numerusform>
+            <numerusform>Restaurar %n configurações desta página?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>Restaurar %n configuração de todas as páginas?</numerusform>
+            <numerusform>Restaurar %n configurações de todas as páginas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>Mostrar alteradas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>%n alterada</numerusform>
+            <numerusform>%n alteradas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Restaurar %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Copiar chave</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>Copiar valor</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>Padrão: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>Não alterada</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>Alterada em %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Alterada</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>Do arquivo %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>Alterada por outro programa ou computador em %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>Alterada por outro programa ou computador</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>Bloqueada pelo administrador</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>“%1” não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>Não foi possível salvar as configurações em “%1”.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>O arquivo “%1” não existe.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>O arquivo “%1” é maior que %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>Não foi possível ler o arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>O arquivo “%1” está vazio.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>O arquivo “%1” está danificado: seu conteúdo tem níveis demais de aninhamento.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>O arquivo “%1” está danificado ou incompleto.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>O arquivo “%1” não contém configurações.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Limpar a busca</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>Mostrar mais (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>Nenhuma configuração corresponde a “%1”</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Enter abre a página</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhuma</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Não definido</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vazio</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>negrito</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>itálico</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>sublinhado</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>Configurações – %1</translation>
     </message>
 </context>
 <context>

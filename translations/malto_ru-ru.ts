@@ -62,6 +62,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Disabled.</source>
         <translation>Отключено.</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>Возможно, это сочетание использует другая программа.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,448 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>Вы действительно хотите восстановить все значения по умолчанию?</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>Требуется «%1»</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>Недоступно при «%1»</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>Требуется «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>Удалена 1 запись.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>Удалена %n запись.</numerusform>
+            <numerusform>Удалено %n записи.</numerusform>
+            <numerusform>Удалено %n записей.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>Импортирован 1 параметр.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>Импортирован %n параметр.</numerusform>
+            <numerusform>Импортировано %n параметра.</numerusform>
+            <numerusform>Импортировано %n параметров.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>Сброшен %n параметр.</numerusform>
+            <numerusform>Сброшено %n параметра.</numerusform>
+            <numerusform>Сброшено %n параметров.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>Импорт настроек</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>Файл «%1» изменяет эти параметры. Отмеченные будут импортированы.</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>Настройки в файле</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Параметр</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Здесь</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>В файле</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1, здесь: %2, в файле: %3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>Снять выбор</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>Импортировать (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Другие параметры</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (по умолчанию)</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>Не существует</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Удалено</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>Пропущенные записи других версий: %1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>Пропущенные нечитаемые записи: %1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>Пропущенные параметры, свои для каждого компьютера: %1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>Пропущенные заблокированные параметры: %1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>Параметры, значение которых здесь не принимается: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>Импортировать настройки из файла</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>Экспортировать настройки в файл</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>Настройки (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>Экспорт настроек</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>Импорт настроек</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>Файл «%1» ничего здесь не меняет.</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>Параметры, которые не удалось импортировать: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>Тем временем изменено в другом месте. Ваш ввод заменит новое значение.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>Сбросить страницу…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>Сбросить всё…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>Сбросить эту страницу?</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>Сбросить все настройки?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>Сбросить 1 параметр на этой странице?</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>Сбросить 1 параметр на всех страницах?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>Сбросить %n параметр на этой странице?</numerusform>
+            <numerusform>Сбросить %n параметра на этой странице?</numerusform>
+            <numerusform>Сбросить %n параметров на этой странице?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>Сбросить %n параметр на всех страницах?</numerusform>
+            <numerusform>Сбросить %n параметра на всех страницах?</numerusform>
+            <numerusform>Сбросить %n параметров на всех страницах?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>Показать изменённые</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>Изменено: %n</numerusform>
+            <numerusform>Изменено: %n</numerusform>
+            <numerusform>Изменено: %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Сбросить: %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>Копировать ключ</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>Копировать значение</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>По умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>Не изменено</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>Изменено %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>Из файла %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>Изменено другой программой или на другом компьютере %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>Изменено другой программой или на другом компьютере</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>Заблокировано администратором</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>«%1» — не файл.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>Не удалось сохранить настройки в «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>Файл «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>Файл «%1» больше %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>Не удалось прочитать файл «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>Файл «%1» пуст.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>Файл «%1» повреждён: слишком глубокая вложенность содержимого.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>Файл «%1» повреждён или неполон.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>Файл «%1» не содержит настроек.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Поиск настроек</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Очистить поиск</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>Показать ещё (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>Нет параметров по запросу «%1»</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Результаты</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>Enter открывает страницу</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Не задано</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Пусто</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 пикс.</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 пт</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>полужирный</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>курсив</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>подчёркнутый</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>Настройки – %1</translation>
     </message>
 </context>
 <context>

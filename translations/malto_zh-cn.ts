@@ -62,6 +62,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Disabled.</source>
         <translation>已禁用。</translation>
     </message>
+    <message>
+        <source>Another program may use this hotkey.</source>
+        <translation>其他程序可能正在使用此快捷键。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -209,6 +217,436 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Are you sure to restore all default?</source>
         <translation>确定要将所有设置恢复为默认值吗？</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::DependencyNote</name>
+    <message>
+        <source>Needs “%1”</source>
+        <translation>需要“%1”</translation>
+    </message>
+    <message>
+        <source>Not with “%1”</source>
+        <translation>不能与“%1”同时使用</translation>
+    </message>
+    <message>
+        <source>Needs “%1”: %2</source>
+        <translation>需要“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::HistoryFeature</name>
+    <message>
+        <source>Removed 1 entry.</source>
+        <translation>已移除 1 个条目。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n entries.</source>
+        <translation>
+            <numerusform>已移除 %n 个条目。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported 1 setting.</source>
+        <translation>已导入 1 项设置。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n settings.</source>
+        <translation>
+            <numerusform>已导入 %n 项设置。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n settings.</source>
+        <translation>
+            <numerusform>已将 %n 项设置恢复默认。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportDialog</name>
+    <message>
+        <source>Import settings</source>
+        <translation>导入设置</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes these settings. Those that are checked are imported.</source>
+        <translation>文件“%1”会更改以下设置。将导入已勾选的设置。</translation>
+    </message>
+    <message>
+        <source>Settings in the file</source>
+        <translation>文件中的设置</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>设置项</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>文件中</translation>
+    </message>
+    <message>
+        <source>%1, here: %2, in the file: %3</source>
+        <translation>%1，当前：%2，文件中：%3</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Select none</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>Import (%1)</source>
+        <translation>导入 (%1)</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>其他设置</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1（默认）</translation>
+    </message>
+    <message>
+        <source>Does not exist</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>已移除</translation>
+    </message>
+    <message>
+        <source>Entries of other versions, which are left out: %1</source>
+        <translation>已略过的其他版本的条目：%1</translation>
+    </message>
+    <message>
+        <source>Entries that cannot be read, which are left out: %1</source>
+        <translation>已略过的无法读取的条目：%1</translation>
+    </message>
+    <message>
+        <source>Settings that stay on each computer, which are left out: %1</source>
+        <translation>已略过的仅限本机的设置：%1</translation>
+    </message>
+    <message>
+        <source>Locked settings, which are left out: %1</source>
+        <translation>已略过的锁定设置：%1</translation>
+    </message>
+    <message>
+        <source>Settings whose value is not accepted here: %1</source>
+        <translation>值在此处不被接受的设置：%1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ImportExport</name>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Import settings from a file</source>
+        <translation>从文件导入设置</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Export the settings to a file</source>
+        <translation>将设置导出到文件</translation>
+    </message>
+    <message>
+        <source>Settings (*.json)</source>
+        <translation>设置 (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Export settings</source>
+        <translation>导出设置</translation>
+    </message>
+    <message>
+        <source>Import settings</source>
+        <translation>导入设置</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; changes nothing here.</source>
+        <translation>文件“%1”不会更改此处的任何设置。</translation>
+    </message>
+    <message>
+        <source>Settings that could not be imported: %1</source>
+        <translation>未能导入的设置：%1</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::LivePages</name>
+    <message>
+        <source>Changed elsewhere meanwhile. What you type replaces it.</source>
+        <translation>期间已在别处更改。您输入的内容将替换新值。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernPageBuilder</name>
+    <message>
+        <source>, </source>
+        <comment>between the chosen entries</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ModernWindow</name>
+    <message>
+        <source>Reset this page…</source>
+        <translation>将此页恢复默认…</translation>
+    </message>
+    <message>
+        <source>Reset all settings…</source>
+        <translation>全部恢复默认…</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ResetQuestion</name>
+    <message>
+        <source>Reset this page?</source>
+        <translation>要将此页恢复默认吗？</translation>
+    </message>
+    <message>
+        <source>Reset all settings?</source>
+        <translation>要将所有设置恢复默认吗？</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on this page?</source>
+        <translation>要将此页的 1 项设置恢复默认吗？</translation>
+    </message>
+    <message>
+        <source>Reset 1 setting on all pages?</source>
+        <translation>要将所有页面的 1 项设置恢复默认吗？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on this page?</source>
+        <translation>
+            <numerusform>要将此页的 %n 项设置恢复默认吗？</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reset %n settings on all pages?</source>
+        <translation>
+            <numerusform>要将所有页面的 %n 项设置恢复默认吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>恢复默认</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowReset</name>
+    <message>
+        <source>Show changed</source>
+        <translation>显示已更改</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n changed</source>
+        <translation>
+            <numerusform>已更改 %n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>将“%1”恢复默认</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>恢复默认</translation>
+    </message>
+    <message>
+        <source>Copy key</source>
+        <translation>复制键名</translation>
+    </message>
+    <message>
+        <source>Copy value</source>
+        <translation>复制值</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::RowWords</name>
+    <message>
+        <source>Default: %1</source>
+        <translation>默认：%1</translation>
+    </message>
+    <message>
+        <source>Not changed</source>
+        <translation>未更改</translation>
+    </message>
+    <message>
+        <source>Changed on %1</source>
+        <translation>更改于 %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>已更改</translation>
+    </message>
+    <message>
+        <source>From the file %1</source>
+        <translation>来自文件 %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer on %1</source>
+        <translation>由其他程序或计算机更改于 %1</translation>
+    </message>
+    <message>
+        <source>Changed by another program or computer</source>
+        <translation>由其他程序或计算机更改</translation>
+    </message>
+    <message>
+        <source>Locked by the administrator</source>
+        <translation>已被管理员锁定</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFile</name>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>“%1”不是文件。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved in &quot;%1&quot;.</source>
+        <translation>无法将设置保存到“%1”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not exist.</source>
+        <translation>文件“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is larger than %2.</source>
+        <translation>文件“%1”大于 %2。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read.</source>
+        <translation>无法读取文件“%1”。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is empty.</source>
+        <translation>文件“%1”为空。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged: its content is nested too deeply.</source>
+        <translation>文件“%1”已损坏：内容嵌套过深。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is damaged or not complete.</source>
+        <translation>文件“%1”已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; does not contain settings.</source>
+        <translation>文件“%1”不包含设置。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::SettingsFind</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>搜索设置</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Show more (%1)</source>
+        <translation>显示更多 (%1)</translation>
+    </message>
+    <message>
+        <source>No setting matches “%1”</source>
+        <translation>没有与“%1”匹配的设置</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Enter opens the page</source>
+        <translation>按 Enter 键打开页面</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::UndoBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::ValueInWords</name>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 磅</translation>
+    </message>
+    <message>
+        <source>bold</source>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>underlined</source>
+        <translation>下划线</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::WindowIdentity</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Settings — %1</source>
+        <translation>设置 — %1</translation>
     </message>
 </context>
 <context>
