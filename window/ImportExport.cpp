@@ -15,7 +15,6 @@
 #include <QDynamicPropertyChangeEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QListView>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -55,13 +54,14 @@ QPushButton *newButton(const char *name, QWidget *parent)
 
 ImportExport::ImportExport(ConfigurationWindow *window)
     : WindowFeature(window), mFoot(new QWidget(window->centralWidget())),
+      mLayout(new QBoxLayout(QBoxLayout::LeftToRight, mFoot)),
       mImport(newButton("btnImport", mFoot)), mExport(newButton("btnExport", mFoot))
 {
-    auto *layout = new QHBoxLayout(mFoot);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(mImport);
-    layout->addWidget(mExport);
-    layout->addStretch(1);
+    mLayout->setContentsMargins(0, 0, 0, 0);
+    mLayout->setSpacing(0);
+    mLayout->addWidget(mImport, 0, Qt::AlignLeft);
+    mLayout->addWidget(mExport, 0, Qt::AlignLeft);
+    mLayout->addStretch(1);
     classColumn()->insertWidget(classColumn()->indexOf(classList()) + 1, mFoot);
     QWidget::setTabOrder(classList(), mImport);
     QWidget::setTabOrder(mImport, mExport);
@@ -77,6 +77,17 @@ ImportExport::ImportExport(ConfigurationWindow *window)
 void ImportExport::sheetApplied()
 {
     dress(mFoot);
+    arrange();
+}
+
+/// Places the buttons side by side, or below each other if the list is too narrow for their texts.
+void ImportExport::arrange()
+{
+    mImport->ensurePolished();
+    mExport->ensurePolished();
+    const int width = mImport->sizeHint().width() + mExport->sizeHint().width();
+    const bool fits = width <= qMin(classList()->width(), classList()->maximumWidth());
+    mLayout->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 /// The sheet of the modern look has rules for all its widgets.
@@ -93,6 +104,7 @@ void ImportExport::retranslate()
     mImport->setToolTip(tr("Import settings from a file"));
     mExport->setText(tr("Export…"));
     mExport->setToolTip(tr("Export the settings to a file"));
+    arrange();
 }
 
 bool ImportExport::eventFilter(QObject *watched, QEvent *event)
@@ -100,6 +112,8 @@ bool ImportExport::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::DynamicPropertyChange
         && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == sNarrow)
         mFoot->setVisible(watched->property(sNarrow).toString() != QLatin1String("1"));
+    if (event->type() == QEvent::Resize)
+        arrange();
     return WindowFeature::eventFilter(watched, event);
 }
 

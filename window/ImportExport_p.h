@@ -4,6 +4,7 @@
 
 #include <QMessageBox>
 
+class QBoxLayout;
 class QFileDialog;
 class QPushButton;
 
@@ -27,7 +28,7 @@ public:
     void importSettings();
 
 protected:
-    /// Hides the buttons while the list shows only icons.
+    /// Follows the width of the list: hides the buttons while it shows only icons.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -37,8 +38,10 @@ private:
     void apply(const SettingsImport &import, const QStringList &keys);
     void tell(QMessageBox::Icon icon, const QString &title, const QString &text);
     void dress(QWidget *widget) const;
+    void arrange();
 
     QWidget *const mFoot;
+    QBoxLayout *const mLayout;
     QPushButton *const mImport;
     QPushButton *const mExport;
     QString mFolder; // of the last file

@@ -106,14 +106,18 @@ private:
 
 void tst_ImportDialog::rowsAreInTheOrderOfThePages()
 {
-    int values[5] = {};
+    int values[7] = {};
     mManager->addConfInt32("Zoom", &values[0], "View", "Zoom");
     mManager->addConfInt32("Delay", &values[1], "Capture", "Delay");
     mManager->addConfInt32("Area", &values[2], "View", "Area");
     mManager->addConfInt32("Edge", &values[3], "Capture", "Snapping", "Edge");
     mManager->addConfInt32("Format", &values[4], "Capture", "Format");
+    mManager->addConfInt32("Width", &values[5], "Capture", "Frame", "Width");
+    mManager->addConfInt32("Reach", &values[6], "Capture", "Snapping", "Reach");
     const QVector<ImportRow> rows = rowsOf({{"Capture.Delay", entry(100, 1)},
                                             {"Capture.Format", entry(100, 1)},
+                                            {"Capture.Frame.Width", entry(100, 1)},
+                                            {"Capture.Snapping.Reach", entry(100, 1)},
                                             {"Capture.Snapping.Edge", entry(100, 1)},
                                             {"View.Area", entry(100, 1)},
                                             {"View.Zoom", entry(100, 1)}});
@@ -121,7 +125,9 @@ void tst_ImportDialog::rowsAreInTheOrderOfThePages()
     for (const ImportRow &row : rows)
         texts.append(row.group + ": " + row.caption);
     QCOMPARE(texts, QStringList({"View: Zoom", "View: Area", "Capture: Delay", "Capture: Format",
-                                 QString::fromUtf8("Capture › Snapping: Edge")}));
+                                 QString::fromUtf8("Capture › Snapping: Edge"),
+                                 QString::fromUtf8("Capture › Snapping: Reach"),
+                                 QString::fromUtf8("Capture › Frame: Width")}));
 }
 
 void tst_ImportDialog::subItemsAreInTheirGroup()

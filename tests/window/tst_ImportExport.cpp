@@ -1,4 +1,5 @@
 #include "MaltoConfiguration/window/ImportDialog_p.h"
+#include "MaltoConfiguration/window/ImportExport_p.h"
 #include "MaltoConfiguration/window/SettingsHistory_p.h"
 #include "support/Entries.h"
 #include "support/FileText.h"
@@ -124,6 +125,7 @@ private Q_SLOTS:
     void windowMayBeDeletedInEachDialog();
     void callbackMayDestroyTheManager();
     void textsFollowTheLanguage();
+    void longTextsAreBelowEachOther();
     void narrowListHidesTheButtons();
     void tabLeadsToTheButtons();
 
@@ -187,7 +189,10 @@ void tst_ImportExport::typedTextIsExported()
     auto *edit = item->editor->findChild<QLineEdit *>();
     edit->setFocus();
     QTest::keyClicks(edit, "typed");
-    QVERIFY(click("btnExport", {choose("out.json")}));
+    const Answers answers({choose("out.json")});
+    // As by a key of the host: the field keeps the focus.
+    WindowFixture::window()->findChild<MtConf::ImportExport *>()->exportSettings();
+    QVERIFY(answers.areGiven());
     QCOMPARE(entriesOf("out.json").value("Capture.Text").toObject().value("v"),
              QJsonValue("typed"));
     mFixture.reset(); // while the variable exists
@@ -438,6 +443,28 @@ void tst_ImportExport::textsFollowTheLanguage()
     Q_EMIT mFixture->manager->sigLanguageChange();
     QCOMPARE(button("btnImport")->text(), QString::fromUtf8("de Import…"));
     QCOMPARE(button("btnExport")->toolTip(), QString("de Export the settings to a file"));
+}
+
+void tst_ImportExport::longTextsAreBelowEachOther()
+{
+    struct Lengthener : QTranslator
+    {
+        QString translate(const char *, const char *source, const char *, int) const override
+        {
+            return QString::fromUtf8(source).repeated(4);
+        }
+        bool isEmpty() const override { return false; }
+    };
+    mFixture->manager->windowLook = MtConf::ModernLook; // whose list has a fixed width
+    QVERIFY(mFixture->open());
+    const int width = WindowFixture::classList()->width();
+    QCOMPARE(button("btnImport")->y(), button("btnExport")->y());
+    Lengthener lengthener;
+    QVERIFY(QCoreApplication::installTranslator(&lengthener));
+    Q_EMIT mFixture->manager->sigLanguageChange();
+    QTRY_VERIFY(button("btnImport")->y() < button("btnExport")->y());
+    QCOMPARE(WindowFixture::classList()->width(), width);
+    QVERIFY(button("btnExport")->geometry().right() <= width);
 }
 
 void tst_ImportExport::narrowListHidesTheButtons()
