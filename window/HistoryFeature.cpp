@@ -54,21 +54,8 @@ void HistoryFeature::apply(void (SettingsHistory::*direction)())
 {
     const HostCodeScope scope(hostCode());
     const QPointer<SettingsHistory> history(mHistory); // callbacks may delete the window
-    if (commitEditors() && history)
+    if (commitEditors() && history)                    // what is typed is the newest step then
         (history->*direction)();
-}
-
-/// Stores what is typed, which is the newest step then. Returns false if a callback has deleted the
-/// window.
-bool HistoryFeature::commitEditors()
-{
-    const QPointer<HistoryFeature> self(this);
-    const QList<PageRow> shown = rows();
-    for (const PageRow &row : shown) {
-        if (row.editor)
-            row.editor->commit();
-    }
-    return self;
 }
 
 void HistoryFeature::onRecorded(ConfChange::Cause cause, const QStringList &keys)

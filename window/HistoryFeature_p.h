@@ -29,7 +29,6 @@ private:
     void apply(void (SettingsHistory::*direction)());
     void addAction(const char *name, QKeySequence::StandardKey key,
                    void (SettingsHistory::*direction)());
-    bool commitEditors();
     void onRecorded(ConfChange::Cause cause, const QStringList &keys);
     void onApplied(const QStringList &keys);
     bool refreshRows(const QStringList &keys);

@@ -117,20 +117,6 @@ bool ImportExport::eventFilter(QObject *watched, QEvent *event)
     return WindowFeature::eventFilter(watched, event);
 }
 
-/// Lets the editors store what is typed. Returns false if a callback has deleted the window or
-/// destroyed its manager.
-bool ImportExport::commitEditors()
-{
-    const QPointer<ImportExport> self(this);
-    const HostCodeScope scope(hostCode());
-    const QList<PageRow> shown = rows();
-    for (const PageRow &row : shown) {
-        if (row.editor)
-            row.editor->commit();
-    }
-    return self && manager();
-}
-
 /// Returns the chosen path; empty if there is none, or if the window was deleted meanwhile.
 QString ImportExport::chooseFile(QFileDialog *dialog)
 {
@@ -151,7 +137,7 @@ QString ImportExport::chooseFile(QFileDialog *dialog)
 
 void ImportExport::exportSettings()
 {
-    if (!commitEditors())
+    if (!commitEditors() || !manager())
         return;
     auto *dialog = new QFileDialog(window(), tr("Export settings"), mFolder);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -166,7 +152,7 @@ void ImportExport::exportSettings()
 
 void ImportExport::importSettings()
 {
-    if (!commitEditors())
+    if (!commitEditors() || !manager())
         return;
     auto *dialog = new QFileDialog(window(), tr("Import settings"), mFolder);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);

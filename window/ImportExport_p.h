@@ -32,7 +32,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool commitEditors();
     QString chooseFile(QFileDialog *dialog);
     QStringList chooseChanges(const QString &path, const SettingsImport &import);
     void apply(const SettingsImport &import, const QStringList &keys);

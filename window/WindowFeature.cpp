@@ -1,5 +1,6 @@
 #include "WindowFeature_p.h"
 
+#include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "ui_ConfigurationWindow.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
@@ -57,6 +58,18 @@ bool WindowFeature::isModern() const
 QScrollArea *WindowFeature::scrollArea() const
 {
     return mWindow->mUi->scrollArea;
+}
+
+bool WindowFeature::commitEditors()
+{
+    const HostCodeScope scope(hostCode());
+    const QPointer<WindowFeature> self(this);
+    const QList<PageRow> shown = rows();
+    for (const PageRow &row : shown) {
+        if (row.editor)
+            row.editor->commit();
+    }
+    return self;
 }
 
 const QList<PageRow> &WindowFeature::rows() const

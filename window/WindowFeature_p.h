@@ -63,6 +63,9 @@ protected:
     bool isModern() const;
     QScrollArea *scrollArea() const;
 
+    /// Lets the editors of the page store what is typed. Returns false if a callback has deleted
+    /// the window.
+    bool commitEditors();
     /// The rows of the shown page.
     const QList<PageRow> &rows() const;
     PageBuilder *builder() const;

@@ -1,5 +1,4 @@
 #include "MaltoConfiguration/window/ImportDialog_p.h"
-#include "MaltoConfiguration/window/ImportExport_p.h"
 #include "MaltoConfiguration/window/SettingsHistory_p.h"
 #include "support/Entries.h"
 #include "support/FileText.h"
@@ -110,7 +109,7 @@ private Q_SLOTS:
     void buttonsNeedTheFeature();
     void exportWritesTheChosenFile();
     void exportProposesTheNameOfTheHost();
-    void typedTextIsExported();
+    void whatEditorsHoldIsExported();
     void existingFileIsReplacedOnlyIfTheUserAgrees();
     void failedExportIsSaid();
     void checkedSettingsAreImported();
@@ -180,19 +179,28 @@ void tst_ImportExport::exportProposesTheNameOfTheHost()
     QVERIFY(QDir().entryList({"*.json"}, QDir::Files).isEmpty());
 }
 
-void tst_ImportExport::typedTextIsExported()
+void tst_ImportExport::whatEditorsHoldIsExported()
 {
+    /// Stores its text only when it is told to.
+    struct Editor : MtConf::ConfigItemWidget
+    {
+        using ConfigItemWidget::ConfigItemWidget;
+        void loadConf() override {}
+        void commit() override
+        {
+            if (!typed.isEmpty())
+                writeValue(typed);
+        }
+        QString typed;
+    };
     QString text;
-    mFixture->manager->addConfText("Text", &text, "Capture", "Text");
+    mFixture->manager->addConfQString(
+        "Text", &text, "Capture", "Text", "",
+        [](MtConf::ConfItem *item, QWidget *parent) { return new Editor(item, parent); });
     QVERIFY(mFixture->open());
-    MtConf::ConfItem *item = mFixture->manager->getItemByName("Capture", "Text", "");
-    auto *edit = item->editor->findChild<QLineEdit *>();
-    edit->setFocus();
-    QTest::keyClicks(edit, "typed");
-    const Answers answers({choose("out.json")});
-    // As by a key of the host: the field keeps the focus.
-    WindowFixture::window()->findChild<MtConf::ImportExport *>()->exportSettings();
-    QVERIFY(answers.areGiven());
+    auto *editor = mFixture->manager->getItemByName("Capture", "Text", "")->editor;
+    static_cast<Editor *>(editor)->typed = "typed";
+    QVERIFY(click("btnExport", {choose("out.json")}));
     QCOMPARE(entriesOf("out.json").value("Capture.Text").toObject().value("v"),
              QJsonValue("typed"));
     mFixture.reset(); // while the variable exists
