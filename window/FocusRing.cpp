@@ -3,10 +3,12 @@
 #include <OrvUtils/OrvScreenManager.h>
 #include <OrvUtils/QThemeCtrl.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QFocusFrame>
+#include <QItemSelectionModel>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QRadioButton>
@@ -42,6 +44,12 @@ QRect visiblePart(const QWidget *widget)
             size.setHeight(widget->heightForWidth(widget->width()));
         return QStyle::alignedRect(widget->layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter,
                                    size.boundedTo(widget->size()), widget->rect());
+    }
+    // The row that the keys of the user act on.
+    const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+    if (view && view->property("RingAroundRow").toBool() && view->currentIndex().isValid()) {
+        const QRect row = view->visualRect(view->currentIndex());
+        return row.translated(view->viewport()->pos()).intersected(widget->rect());
     }
     return widget->rect();
 }
@@ -163,6 +171,11 @@ void FocusRing::surround(QWidget *widget)
         mFrame->setStyle(mStyle.get());
     }
     mFrame->setWidget(widget);
+    disconnect(mRowConnection);
+    if (const auto *view = qobject_cast<QAbstractItemView *>(widget)) {
+        mRowConnection = connect(view->selectionModel(), &QItemSelectionModel::currentChanged,
+                                 mFrame, QOverload<>::of(&QWidget::update));
+    }
     if (widget && mFrame->widget())
         mFrame->show(); // even if Tab scrolls to the widget only later
 }

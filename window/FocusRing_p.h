@@ -32,6 +32,7 @@ private:
     const std::unique_ptr<QStyle> mStyle;
     // A child of the scroll area or of the window that it is in, which may delete it.
     QPointer<QFocusFrame> mFrame;
+    QMetaObject::Connection mRowConnection; // of a list with the focus
 };
 
 } // namespace MtConf

@@ -35,6 +35,7 @@ constexpr double sPixelsPerInch = 96;
 constexpr double sPointsPerInch = 72;
 constexpr QSize sSwitch(38, 22);
 constexpr int sField = 220;
+constexpr int sSharedField = 80;
 constexpr int sClearIcon = 24;
 constexpr int sNumber = 104;
 constexpr int sBesideNumber = 40; // the padding and the arrows
@@ -189,7 +190,11 @@ void ModernPageBuilder::setFields(const PageRow &row, double pixel)
         if (isField(child))
             fields.append(child);
     }
-    // Several fields share the width.
+    if (fields.size() > 1) {
+        // They share the width, and get narrower in a narrow window.
+        for (QWidget *field : std::as_const(fields))
+            field->setMinimumWidth(qRound(sSharedField * pixel));
+    }
     if (fields.size() != 1)
         return;
     if (isNumber(fields.first()))

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -34,7 +35,7 @@ constexpr int sPageWidth = 720;
 constexpr int sPageTop = 20;
 constexpr int sPageSide = 24;
 constexpr int sTitleGap = 12;
-constexpr QSize sLeastWindow(640, 400);
+constexpr QSize sLeastWindow(680, 400);
 
 } // namespace
 
@@ -59,6 +60,7 @@ ModernWindow::ModernWindow(ConfigurationWindow *window)
     mLine->setObjectName(QStringLiteral("ModernColumnLine"));
     window->findChild<QHBoxLayout *>(QStringLiteral("horizontalLayout"))->insertWidget(1, mLine);
     classList()->setUniformItemSizes(true);
+    classList()->setProperty("RingAroundRow", true);
     classList()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     classList()->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     buildTitle();
@@ -77,6 +79,7 @@ void ModernWindow::buildTitle()
     mTitle->setWordWrap(true);
     mState = new QLabel(board);
     mState->setObjectName(QStringLiteral("ModernPageState"));
+    mState->setIndent(0);
     mState->hide();
     auto *titles = new QHBoxLayout;
     titles->setObjectName(QStringLiteral("ModernTitles"));
@@ -88,7 +91,8 @@ void ModernWindow::buildTitle()
 
 void ModernWindow::sheetApplied()
 {
-    window()->setMinimumSize(sLeastWindow * scaled(100) / 100);
+    const QSize room = window()->screen()->availableSize();
+    window()->setMinimumSize((sLeastWindow * scaled(100) / 100).boundedTo(room));
     classList()->setIconSize(QSize(scaled(sIconWidth), scaled(sIconHeight)));
     const int margin = scaled(sListMargin);
     classColumn()->setContentsMargins(margin, margin, margin, margin);

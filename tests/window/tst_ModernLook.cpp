@@ -84,12 +84,14 @@ void tst_ModernLook::windowHasTheSizeOfTheLook()
     open("Edit");
     const QSize room = mHost->window()->screen()->availableSize();
     QCOMPARE(mHost->window()->size(), QSize(px(980), px(690)).boundedTo(room));
-    QCOMPARE(mHost->window()->minimumSize(), QSize(px(640), px(400)));
+    QCOMPARE(mHost->window()->minimumSize(), QSize(px(680), px(400)).boundedTo(room));
 }
 
 void tst_ModernLook::classesAreNarrowRows()
 {
     open("Edit");
+    mHost->window()->resize(px(980), px(690));
+    QCoreApplication::processEvents();
     QListView *list = WindowFixture::classList();
     QCOMPARE(inWindow(list).left(), px(12));
     QCOMPARE(list->width(), px(216) - px(1) - 2 * px(12));

@@ -304,7 +304,7 @@ void tst_ModernPage::pageStaysInTheWindow()
 {
     open("Edit");
     const int dpi = qEnvironmentVariableIntValue("QT_FONT_DPI");
-    mHost->window()->resize(640 * dpi / 96, 400 * dpi / 96); // the least size
+    mHost->window()->resize(680 * dpi / 96, 400 * dpi / 96); // the least size
     auto *area = WindowFixture::child<QScrollArea>("scrollArea");
     QTRY_VERIFY2(area->widget()->width() <= area->viewport()->width(),
                  QByteArray::number(area->widget()->width() - area->viewport()->width()));
