@@ -3,7 +3,9 @@
 #include "ProfileStore.h"
 #include "designScale.h"
 
+#include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/widgets/QSpinBoxDisableWheel.h>
+#include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include <OrvUtils/ColorSelectButton.h>
 #include <OrvUtils/QThemeCtrl.h>
@@ -233,8 +235,17 @@ void ProfilesPage::retranslate()
 
 void ProfilesPage::applySheet()
 {
-    QThemeCtrl::instance()->handleQssFile(this, {QStringLiteral(":/demo/ProfilesPage")},
-                                          designScale(parentWidget()));
+    // The sheets of the two looks have different units.
+    constexpr double sPointsPerPixel = 0.75;
+    const auto *settings = qobject_cast<const MtConf::ConfigurationWindow *>(window());
+    const bool isModern = settings && settings->manager()
+                          && settings->manager()->windowLook == MtConf::ModernLook;
+    const double scale = designScale(parentWidget());
+    if (isModern)
+        QThemeCtrl::instance()->handleQssFile(this, {QStringLiteral(":/demo/ModernProfilesPage")},
+                                              scale * sPointsPerPixel);
+    else
+        QThemeCtrl::instance()->handleQssFile(this, {QStringLiteral(":/demo/ProfilesPage")}, scale);
 }
 
 void ProfilesPage::refresh()
