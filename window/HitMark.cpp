@@ -175,7 +175,7 @@ void HitMark::paintEvent(QPaintEvent *)
             const qreal x = line.cursorToX(from);
             const qreal other = line.cursorToX(to);
             const QRectF area(std::min(x, other), line.y(), std::abs(other - x), line.height());
-            paintGround(&painter, area.translated(origin));
+            paintGround(&painter, area.translated(origin).toAlignedRect());
         }
     }
 }

@@ -7,6 +7,8 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListView>
@@ -279,7 +281,14 @@ void SettingsFind::reveal(const ConfItem *item)
         return;
     if (QWidget *const control = controlOf(*row))
         control->setFocus(Qt::OtherFocusReason);
-    scrollArea()->ensureWidgetVisible(new RowMark(*row));
+    scrollTo(new RowMark(*row));
+}
+
+void SettingsFind::scrollTo(QWidget *widget)
+{
+    // A new page is not laid out yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    scrollArea()->ensureWidgetVisible(widget);
 }
 
 void SettingsFind::focusResult(bool isFirst)
@@ -303,7 +312,7 @@ void SettingsFind::focusResult(bool isFirst)
         return;
     QWidget *const control = isFirst ? controls.first() : controls.last();
     control->setFocus(isFirst ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    scrollArea()->ensureWidgetVisible(control);
+    scrollTo(control);
 }
 
 } // namespace MtConf

@@ -76,6 +76,7 @@ private:
     void openText(const QString &className, const QString &text);
     bool openPage(const QString &className);
     void reveal(const ConfItem *item);
+    void scrollTo(QWidget *widget);
     void focusResult(bool isFirst);
     const PageRow *rowOf(const QObject *widget) const;
 

@@ -5,6 +5,8 @@
 
 #include <QPushButton>
 
+#include <algorithm>
+
 using MtConf::ConfItem;
 
 /// The results of Find: their rows, marks and order, and the way to the page of a result.
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void enterOpensThePageOfTheFocusedRow();
     void enterThatConfirmsAValueStays();
     void doubleClickOpensThePageOfARow();
+    void openedRowIsScrolledToAndMarked_data();
     void openedRowIsScrolledToAndMarked();
     void arrowKeysLeadToTheResults();
     void nothingFoundIsSaid();
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void fewRowsAreBuiltAtATime();
     void customPageIsOpenedAtItsText();
     void changedSettingsAreListed();
+    void modernLookHasATitleAndMarksFlags();
 
 private:
     std::unique_ptr<FindFixture> mFixture;
@@ -109,13 +113,22 @@ void tst_FindResults::doubleClickOpensThePageOfARow()
     QTRY_VERIFY(item->editor->isAncestorOf(mFixture->window()->focusWidget()));
 }
 
+void tst_FindResults::openedRowIsScrolledToAndMarked_data()
+{
+    QTest::addColumn<bool>("isEnabled");
+    QTest::newRow("row that takes the focus") << true;
+    QTest::newRow("disabled row") << false;
+}
+
 void tst_FindResults::openedRowIsScrolledToAndMarked()
 {
+    QFETCH(bool, isEnabled);
     constexpr int sMany = 60;
     for (int i = 0; i < sMany; ++i)
         mFixture->addBool(qPrintable(QString("Switch%1").arg(i)), "", "Many");
     std::vector<int> numbers(1, 3);
     ConfItem *last = mFixture->manager->addConfInt32("The last one", &numbers[0], "Many", "Last");
+    last->dependsOn(mFixture->tipsItem(), isEnabled);
     QVERIFY(mFixture->openActive());
     QVERIFY(mFixture->find("last one"));
     QTest::keyClick(mFixture->field(), Qt::Key_Return);
@@ -125,6 +138,7 @@ void tst_FindResults::openedRowIsScrolledToAndMarked()
         return area->viewport()->rect().contains(rect);
     };
     QTRY_VERIFY(mFixture->child<QWidget>("FindRowMark"));
+    QCoreApplication::processEvents();
     QVERIFY(isInView());
     auto *mark = mFixture->child<QWidget>("FindRowMark");
     QVERIFY(mark->isVisible());
@@ -312,6 +326,48 @@ void tst_FindResults::changedSettingsAreListed()
     QCOMPARE(mFixture->shownKeys(), QStringList{"System.Hotkeys work"});
     QCOMPARE(mFixture->shownClasses(), QStringList{"System"});
     QCOMPARE(mFixture->hint()->text(), QString("1 of 4"));
+}
+
+void tst_FindResults::modernLookHasATitleAndMarksFlags()
+{
+    mFixture->manager->windowLook = MtConf::ModernLook;
+    mFixture->manager->windowFeatures = MtConf::AllWindowFeatures;
+    QVERIFY(mFixture->openActive());
+    const auto *title = mFixture->child<QLabel>("ModernPageTitle");
+    const auto *help = mFixture->child<QLabel>("FindHelp");
+    QCOMPARE(title->text(), QString("General"));
+    QVERIFY(!help->isVisible());
+
+    QVERIFY(mFixture->find("window"));
+    QCOMPARE(title->text(), QString("Results"));
+    QVERIFY(help->isVisible());
+    mFixture->store()->set("System.Hotkeys work", false);
+    QCoreApplication::processEvents();
+    QVERIFY(help->isVisible());
+    Q_EMIT mFixture->manager->sigLanguageChange();
+    QCOMPARE(title->text(), QString("Results"));
+    // The help is below the caption.
+    const QColor hit = QThemeCtrl::instance()->color(QStringLiteral("ModernHit"));
+    for (const char *text : {"Capture a window", "Also those of a window"}) {
+        const QList<QLabel *> labels = mFixture->window()->findChildren<QLabel *>();
+        const auto label = std::find_if(
+            labels.cbegin(), labels.cend(), [text](const QLabel *other) {
+                return other->text() == QLatin1String(text) && other->isVisible();
+            });
+        QVERIFY2(label != labels.cend(), text);
+        const int end = (*label)->fontMetrics().horizontalAdvance(QLatin1String(text));
+        const QPoint inWord = (*label)->mapTo(mFixture->window(), QPoint(end - 1, 3));
+        const QPoint before = (*label)->mapTo(mFixture->window(), QPoint(1, 3));
+        const QImage image = mFixture->window()->grab().toImage();
+        QCOMPARE(image.pixelColor(inWord).name(), hit.name());
+        QVERIFY(image.pixelColor(before).name() != hit.name());
+    }
+
+    QVERIFY(mFixture->find("xyz"));
+    QVERIFY(!help->isVisible());
+    mFixture->field()->clear();
+    QCOMPARE(title->text(), QString("General"));
+    QVERIFY(!help->isVisible());
 }
 
 int main(int argc, char **argv)
