@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyle>
 
 namespace MtConf {
 
@@ -53,6 +54,8 @@ bool askToReset(QWidget *window, ResetScope scope, const QStringList &captions)
     box->setInformativeText(list(captions));
     QPushButton *const reset = box->addButton(Texts::reset(), QMessageBox::DestructiveRole);
     reset->setObjectName(QStringLiteral("ModernReset"));
+    reset->style()->unpolish(reset); // the box has polished it without the name
+    reset->style()->polish(reset);
     QPushButton *const cancel = box->addButton(Texts::cancel(), QMessageBox::RejectRole);
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);
