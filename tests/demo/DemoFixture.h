@@ -43,10 +43,6 @@ public:
     void start(const QString &configFile = QString(),
                DemoSession::Look look = DemoSession::Look::Classic)
     {
-        start(DemoSession::Look::Classic, configFile);
-    }
-    void start(DemoSession::Look look, const QString &configFile = QString())
-    {
         session.reset();
         QVERIFY(!MtConf::ConfigurationWindow::instance());
         clearStore();

@@ -53,7 +53,7 @@ void tst_ModernPages::noPageScrollsSideways_data()
 void tst_ModernPages::noPageScrollsSideways()
 {
     QFETCH(const QString, language);
-    mDemo.start(DemoSession::Look::Modern);
+    mDemo.start(QString(), DemoSession::Look::Modern);
     mDemo.session->chooseLanguage(language);
     const QStringList pages = pageNames();
     QVERIFY(mDemo.open(pages.first()));
@@ -76,7 +76,7 @@ void tst_ModernPages::noPageScrollsSideways()
 
 void tst_ModernPages::editorsOfAPageEndInOneColumn()
 {
-    mDemo.start(DemoSession::Look::Modern);
+    mDemo.start(QString(), DemoSession::Look::Modern);
     const QStringList pages = pageNames();
     for (const QString &page : pages) {
         QVERIFY(mDemo.open(page));
@@ -95,7 +95,7 @@ void tst_ModernPages::editorsOfAPageEndInOneColumn()
 
 void tst_ModernPages::pagesOfTheProgramHaveOneTitle()
 {
-    mDemo.start(DemoSession::Look::Modern);
+    mDemo.start(QString(), DemoSession::Look::Modern);
     mDemo.session->chooseLanguage("en-us"); // not the saved one
     for (const char *page : {"Profiles", "Stored data", "System"}) {
         QVERIFY(mDemo.open(page));
