@@ -104,9 +104,9 @@ void tst_ModernLook::pageHasALimitedWidthInTheMiddle()
 {
     open("Edit");
     mHost->window()->resize(px(1400), px(690));
-    QCoreApplication::processEvents();
+    const int width = px(720) - 2 * px(24);
+    QTRY_COMPARE(WindowFixture::groups().first()->width(), width);
     const QRect panel = inWindow(WindowFixture::groups().first());
-    QCOMPARE(panel.width(), px(720) - 2 * px(24));
     const QRect area = inWindow(WindowFixture::child<QScrollArea>("scrollArea")->viewport());
     QVERIFY(qAbs(panel.center().x() - area.center().x()) <= 1);
 }
