@@ -121,6 +121,9 @@ void ModernWindow::setListWidth()
     classList()->setFixedWidth(mIsNarrow ? scaled(sRowHeight) : full);
     mResetAll->setMaximumWidth(full);
     mResetAll->setVisible(!mIsNarrow);
+    // Of another feature. Its text would widen the column.
+    if (auto *changes = window()->findChild<QWidget *>(QStringLiteral("ShowChangesButton")))
+        changes->setVisible(!mIsNarrow);
     const QString narrow = mIsNarrow ? QStringLiteral("1") : QStringLiteral("0");
     if (classList()->property("narrow").toString() != narrow) {
         classList()->setProperty("narrow", narrow);

@@ -269,6 +269,7 @@ void tst_ModernPage::ownCaptionOfACustomPageIsHidden()
 
 void tst_ModernPage::narrowWindowShowsIconsWithToolTips()
 {
+    mHost->manager->windowFeatures = MtConf::AllWindowFeatures;
     open("Edit");
     QListView *list = WindowFixture::classList();
     const int dpi = qEnvironmentVariableIntValue("QT_FONT_DPI");
@@ -281,6 +282,8 @@ void tst_ModernPage::narrowWindowShowsIconsWithToolTips()
     QCOMPARE(list->width(), qRound(36. * dpi / 96));
     QCOMPARE(list->model()->index(0, 0).data(Qt::ToolTipRole).toString(),
              list->model()->index(0, 0).data().toString());
+    auto *line = WindowFixture::child<QFrame>("ModernColumnLine");
+    QTRY_VERIFY(line->x() < 72. * dpi / 96); // no text widens the column
     auto *area = WindowFixture::child<QScrollArea>("scrollArea");
     QTRY_VERIFY(area->widget()->width() <= area->viewport()->width());
 }
