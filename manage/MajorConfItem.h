@@ -39,7 +39,8 @@ struct MajorConfItem
     std::function<void(const QString &text)> showSearchText;
     /// Returns whether something on the page differs from its default. `ResetFeature`.
     std::function<bool()> isChanged;
-    /// Restores the defaults of the page, in the modern look when the user resets the page.
+    /// Restores the defaults of the page: called when the user restores all settings and, in the
+    /// modern look, when the user resets the page.
     std::function<void()> restoreDefault;
 };
 

@@ -91,6 +91,8 @@ MajorConfItem *MtConfManage::addMajorConfItemIfNotExist(const QString &name)
 {
     if (MajorConfItem *existing = getMajorConfItemByName(name))
         return existing;
+    if (windowFeatures)
+        prepareFeatures();
     MajorConfItem major;
     major.name = name;
     return appendKeepingAddresses(majorItems, major, mSharedMajorItems);

@@ -258,6 +258,18 @@ void ConfigItemWidget::setRowEnabled(bool isEnabled)
         commit();
     if (!writing.hasEditor()) // a callback has deleted it
         return;
+    applyEnabled();
+}
+
+void ConfigItemWidget::setRowLocked(bool isLocked)
+{
+    mIsRowLocked = isLocked;
+    applyEnabled();
+}
+
+void ConfigItemWidget::applyEnabled()
+{
+    const bool isEnabled = mIsRowEnabled && !mIsRowLocked;
     setEnabled(isEnabled);
     if (mLabel)
         mLabel->setEnabled(isEnabled);

@@ -92,6 +92,10 @@ public:
     /// state instead of the icon.
     std::function<void()> onStatusChanged;
 
+    /// Disables the row, whatever the values are that it depends on, or enables it again. For
+    /// values that an administrator has locked.
+    void setRowLocked(bool isLocked);
+
     /// Sets the accessible texts of the controls for screen readers: the caption as the accessible
     /// name, and the help text of the item, or else `group`, the caption of the group, as the
     /// accessible description, unless the editor has set its own. The caption becomes the buddy of
@@ -194,6 +198,7 @@ private:
     bool isStored(const QJsonValue &value);
     void updateToolTips();
     void setRowEnabled(bool isEnabled);
+    void applyEnabled();
     void leaveControls();
 
     const std::shared_ptr<HostCode> mHostCode;
@@ -201,6 +206,7 @@ private:
     QPointer<QLabel> mMessage;
     bool mHasMessage = false;
     bool mIsRowEnabled = true;
+    bool mIsRowLocked = false;
     bool mIsRefreshing = false;
     int mWrites = 0;
 };

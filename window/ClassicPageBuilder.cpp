@@ -1,6 +1,6 @@
 #include "ClassicPageBuilder_p.h"
 
-#include <MaltoConfiguration/manage/MajorConfItem.h>
+#include <MaltoConfiguration/manage/MtConfManage.h>
 
 #include <QFrame>
 #include <QGridLayout>
@@ -27,8 +27,9 @@ QGridLayout *gridOf(const PageRow &row)
 } // namespace
 
 ClassicPageBuilder::ClassicPageBuilder(QWidget *board, QVBoxLayout *layout, double scale,
-                                       bool hasFeatures)
-    : mBoard(board), mLayout(layout), mScale(scale), mHasFeatures(hasFeatures)
+                                       quint32 features)
+    : mBoard(board), mLayout(layout), mScale(scale), mHasFeatures(features),
+      mHasResetButtons(features & ResetFeature)
 {
 }
 
@@ -64,16 +65,14 @@ void ClassicPageBuilder::beginGroup(const QString &caption, const QString &sourc
         mGrid->setSpacing(spacing);
         mGrid->setProperty("SourceSpacing", sGridSpacing);
     }
-    if (mHasFeatures)
-        keepEndFree();
 }
 
 /// Reserves the last column, so that the others do not move when a widget is added there.
-void ClassicPageBuilder::keepEndFree()
+void ClassicPageBuilder::keepEndFree(int gridRow)
 {
     auto *end = new QWidget(mBox);
     end->setFixedSize(qRound(mScale * sEndWidth), 0);
-    mGrid->addWidget(end, 0, 2);
+    mGrid->addWidget(end, gridRow, 2);
 }
 
 QWidget *ClassicPageBuilder::newRowParent()
@@ -95,6 +94,8 @@ void ClassicPageBuilder::addRow(PageRow *row, bool isLast)
     }
     if (row->message)
         mGrid->addWidget(row->message, mGrid->rowCount(), row->caption ? 1 : 0);
+    if (mHasResetButtons && gridRow == 1) // the first row
+        keepEndFree(gridRow);
     if (isLast)
         return;
     auto *line = new QFrame(mBox);
@@ -102,7 +103,7 @@ void ClassicPageBuilder::addRow(PageRow *row, bool isLast)
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Sunken);
     if (mHasFeatures)
-        mGrid->addWidget(line, gridRow + sLineRow, 0, 1, 3);
+        mGrid->addWidget(line, gridRow + sLineRow, 0, 1, mHasResetButtons ? 3 : 2);
     else
         mGrid->addWidget(line, mGrid->rowCount(), 0, 1, 2);
 }

@@ -15,8 +15,8 @@ class ClassicPageBuilder : public PageBuilder
 {
 public:
     /// Builds into `layout`, whose widgets are children of `board`. `scale` is in pixels per point.
-    /// `hasFeatures` tells whether widgets are added to the rows later.
-    ClassicPageBuilder(QWidget *board, QVBoxLayout *layout, double scale, bool hasFeatures);
+    /// `features` are the `WindowFeatureFlag` bits of the features that add widgets to the rows.
+    ClassicPageBuilder(QWidget *board, QVBoxLayout *layout, double scale, quint32 features);
 
     void beginGroup(const QString &caption, const QString &source, int flags) override;
     QWidget *newRowParent() override;
@@ -27,13 +27,14 @@ public:
     void addUnderCaption(const PageRow &row, QWidget *widget) override;
 
 private:
-    void keepEndFree();
+    void keepEndFree(int gridRow);
     void addCaption(const QString &caption, const QString &source);
 
     QWidget *const mBoard;
     QVBoxLayout *const mLayout;
     const double mScale;
     const bool mHasFeatures;
+    const bool mHasResetButtons;
     QPointer<QGroupBox> mBox;
     QGridLayout *mGrid = nullptr; // of mBox
 };

@@ -1,5 +1,6 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include "ChangedItems_p.h"
 #include "ClassicPageBuilder_p.h"
 #include "DialogDress_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
@@ -21,6 +22,7 @@
 #include <QPersistentModelIndex>
 #include <QStandardItemModel>
 
+#include <optional>
 #include <utility>
 
 namespace MtConf {
@@ -28,6 +30,21 @@ namespace MtConf {
 namespace {
 
 ConfigurationWindow *sWindow = nullptr;
+
+/// While it exists, what is restored is one step for undo, if `manager` has that feature.
+class RestoreStep
+{
+public:
+    explicit RestoreStep(const MtConfManage *manager)
+    {
+        if (manager && (manager->windowFeatures & UndoFeature))
+            mOperation.emplace(ConfStorage::instance(), ConfChange::Cause::Restored);
+    }
+    Q_DISABLE_COPY(RestoreStep)
+
+private:
+    std::optional<ConfOperation> mOperation;
+};
 
 } // namespace
 
@@ -109,7 +126,7 @@ ConfigurationWindow::ConfigurationWindow(MtConfManage *manager)
     else
         mBuilder = std::make_unique<ClassicPageBuilder>(mUi->gboxConfigBoard, mUi->layoutConfigItem,
                                                         mScale,
-                                                        mManager && mManager->windowFeatures);
+                                                        mManager ? mManager->windowFeatures : 0);
     addFeatures();
     retranslateUi();
 
@@ -226,7 +243,10 @@ void ConfigurationWindow::commitBeforeQuit()
     ConfStorage *const store = ConfStorage::instance();
     const QPointer<ConfigurationWindow> self(this);
     const bool wasChanged = std::exchange(store->mChanged, false);
-    commitEditors();
+    if (!isClosed())
+        tellFeatures(&WindowFeature::windowClosed);
+    if (self)
+        commitEditors();
     const bool hasCommitted = store->mChanged;
     store->mChanged = hasCommitted || wasChanged;
     if (self && mManager && hasCommitted)
@@ -248,7 +268,7 @@ void ConfigurationWindow::restorePageDefault()
         return;
     {
         const HostCodeScope scope(mHostCode);
-        const ConfOperation operation(ConfStorage::instance(), ConfChange::Cause::Restored);
+        const RestoreStep step(mManager);
         const QList<PageRow> rows = mRows;
         for (const PageRow &row : rows) {
             if (row.editor)
@@ -268,8 +288,10 @@ void ConfigurationWindow::restoreAllDefault()
         return;
     {
         const HostCodeScope scope(mHostCode);
-        const ConfOperation operation(ConfStorage::instance(), ConfChange::Cause::Restored);
+        const RestoreStep step(mManager);
         mManager->restoreAllDefault();
+        if (self)
+            restoreCustomPages();
     }
     if (self)
         rebuildPage();
@@ -294,13 +316,24 @@ void ConfigurationWindow::restoreCustomPage()
         restore();
 }
 
+/// Restores the pages of the host that have a function for it.
+void ConfigurationWindow::restoreCustomPages()
+{
+    const QPointer<MtConfManage> manager(mManager);
+    for (int i = 0; manager && i < manager->majorItems.size(); ++i) {
+        const auto restore = manager->majorItems.at(i).restoreDefault; // a copy, too
+        if (restore)
+            restore();
+    }
+}
+
 bool ConfigurationWindow::confirmPageRestore()
 {
     if (!mIsModern)
         return confirm(tr("Are you sure to restore current page default?"));
     QStringList captions;
     for (const PageRow &row : std::as_const(mRows)) {
-        if (row.editor && !row.item->isDefaultValue())
+        if (row.editor && isResettable(*row.item))
             captions.append(QObject::tr(row.item->displayText));
     }
     return askToReset(this, ResetScope::Page, captions);
@@ -310,12 +343,12 @@ bool ConfigurationWindow::confirmRestoreOfAll()
 {
     if (!mIsModern || !mManager)
         return confirm(tr("Are you sure to restore all default?"));
+    const QPointer<ConfigurationWindow> self(this);
     QStringList captions;
-    for (const ConfItem &item : std::as_const(mManager->items)) {
-        if (!item.isDefaultValue())
-            captions.append(QObject::tr(item.displayText));
-    }
-    return askToReset(this, ResetScope::All, captions);
+    const QList<ConfItem *> changed = changedItems(mManager);
+    for (const ConfItem *item : changed)
+        captions.append(QObject::tr(item->displayText));
+    return self && askToReset(this, ResetScope::All, captions);
 }
 
 bool ConfigurationWindow::confirm(const QString &question)

@@ -189,6 +189,7 @@ private:
     bool confirmRestoreOfAll();
     bool confirm(const QString &question);
     void restoreCustomPage();
+    void restoreCustomPages();
     void rebuildPage();
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;
@@ -204,6 +205,7 @@ private:
     const bool mIsModern;
     const bool mUsesFiles; // of the working directory: for the geometry and style sheets
     QPersistentModelIndex mNextPage;
+    bool mShowsItems = false; // of several classes, instead of a page
     bool mOpeningPage = false;
     bool mBuildingPage = false;
     bool mIsNextPageWanted = false;

@@ -224,7 +224,9 @@ void ConfigurationWindow::retranslateUi()
         return;
     for (auto row = mItemIcons.cbegin(); row != mItemIcons.cend(); ++row)
         row.key()->setText(translatedName(row.value()));
-    const QList<QLabel *> labels = mUi->gboxConfigBoard->findChildren<QLabel *>();
+    // Captions of the builder, not labels on a page of the host.
+    const QList<QLabel *> labels = mUi->gboxConfigBoard->findChildren<QLabel *>(
+        QString(), Qt::FindDirectChildrenOnly);
     for (QLabel *label : labels) {
         const QString source = label->property("SourceText").toString();
         if (!source.isEmpty())

@@ -32,6 +32,8 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new WindowKeys(this));
     if (features & DetailsFeature)
         mFeatures.append(new RowDetails(this));
+    if (features & FindFeature)
+        mFeatures.append(new SettingsFind(this));
     if (features & ResetFeature)
         mFeatures.append(new RowReset(this));
     if (features & ImportExportFeature)
@@ -40,8 +42,6 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new LivePages(this));
     if (features & UndoFeature)
         mFeatures.append(new HistoryFeature(this));
-    if (features & FindFeature)
-        mFeatures.append(new SettingsFind(this));
     tellFeatures(&WindowFeature::sheetApplied);
 }
 

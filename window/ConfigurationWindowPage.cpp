@@ -35,6 +35,7 @@ void ConfigurationWindow::showPage(const QPersistentModelIndex &index)
         mIsNextPageWanted = true;
         return;
     }
+    mShowsItems = false;
     replacePage(
         [this, className = index.data(sClassNameRole).toString()] { buildPage(className); });
 }
@@ -46,6 +47,7 @@ void ConfigurationWindow::showItems(const QList<std::pair<QString, QList<ConfIte
     commitEditors();
     if (!self || !mManager || mBuildingPage)
         return;
+    mShowsItems = true;
     replacePage([this, self, groups] {
         mUi->btnRestoreDefault->hide();
         for (const auto &[caption, items] : groups) {

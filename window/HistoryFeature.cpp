@@ -10,6 +10,7 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include <QAction>
+#include <QListView>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -132,7 +133,7 @@ void HistoryFeature::openPageOf(const QStringList &keys)
     QString page;
     for (const QString &key : keys) {
         const QString name = pageOf(key);
-        if (name == window()->currentClass())
+        if (name == window()->currentClass() && !showsItems())
             return;
         if (page.isEmpty())
             page = name;
@@ -145,13 +146,13 @@ void HistoryFeature::openPageOf(const QStringList &keys)
 /// empty name.
 QString HistoryFeature::pageOf(const QString &key) const
 {
-    if (!manager())
-        return QString();
-    const auto &classes = manager()->majorItems;
-    const auto found = std::find_if(classes.cbegin(), classes.cend(), [&](const auto &major) {
-        return key.startsWith(major.name + QLatin1Char('.'));
-    });
-    return found != classes.cend() ? found->name : QString();
+    const QAbstractItemModel *const classes = classList()->model();
+    for (int row = 0; row < classes->rowCount(); ++row) {
+        const QString name = classes->index(row, 0).data(sClassNameRole).toString();
+        if (key.startsWith(name + QLatin1Char('.')))
+            return name;
+    }
+    return QString();
 }
 
 } // namespace MtConf

@@ -25,6 +25,19 @@ void LivePages::pageCleared()
     mNotices.clear();
 }
 
+void LivePages::retranslate()
+{
+    for (const QPointer<QLabel> &notice : std::as_const(mNotices)) {
+        if (notice)
+            notice->setText(noticeText());
+    }
+}
+
+QString LivePages::noticeText()
+{
+    return tr("Changed elsewhere meanwhile. What you type replaces it.");
+}
+
 void LivePages::onChange(const ConfChange &change)
 {
     // What an editor stores it shows already, and the user may still be typing.
@@ -84,7 +97,7 @@ void LivePages::showNotice(const PageRow &row)
     QPointer<QLabel> &notice = mNotices[row.key];
     if (notice)
         return;
-    notice = new QLabel(tr("Changed elsewhere meanwhile. What you type replaces it."), row.frame);
+    notice = new QLabel(noticeText(), row.frame);
     notice->setProperty("class", QStringLiteral("RowNotice"));
     notice->setWordWrap(true);
     builder()->addUnderCaption(row, notice);

@@ -22,6 +22,7 @@ public:
     explicit LivePages(ConfigurationWindow *window);
 
     void pageCleared() override;
+    void retranslate() override;
 
 private:
     void onChange(const ConfChange &change);
@@ -29,6 +30,7 @@ private:
     void refreshLeft();
     void refresh(const PageRow &row);
     void showNotice(const PageRow &row);
+    static QString noticeText();
 
     QSet<QString> mChanged; // keys whose rows are not refreshed yet
     bool mIsQueued = false;

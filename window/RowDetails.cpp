@@ -31,7 +31,7 @@ void RowDetails::rowAdded(const PageRow &row)
         addText(row, sHelpClass, help);
     if (isLocked(row)) {
         addText(row, "RowLocked", lockInWords());
-        row.editor->setEnabled(false);
+        row.editor->setRowLocked(true);
     }
     row.editor->installEventFilter(this);
     if (row.caption)
@@ -58,6 +58,28 @@ void RowDetails::retranslate()
                 continue;
             const bool isHelp = label->property("class") == QLatin1String(sHelpClass);
             label->setText(isHelp ? row.item->helpText() : lockInWords());
+        }
+    }
+    describe();
+}
+
+void RowDetails::pageShown()
+{
+    describe();
+}
+
+/// Adds the range and the default value to what screen readers say of the controls.
+void RowDetails::describe()
+{
+    for (const PageRow &row : rows()) {
+        const QList<QWidget *> controls = row.editor ? row.editor->findChildren<QWidget *>()
+                                                     : QList<QWidget *>();
+        for (QWidget *control : controls) {
+            const QString known = control->accessibleDescription();
+            QStringList texts{known, row.editor->rangeText(), defaultInWords(row)};
+            texts.removeAll(QString());
+            if (!known.isEmpty()) // one that the page describes
+                control->setAccessibleDescription(texts.join(QStringLiteral(". ")));
         }
     }
 }

@@ -16,6 +16,7 @@ public:
     explicit RowDetails(ConfigurationWindow *window);
 
     void rowAdded(const PageRow &row) override;
+    void pageShown() override;
     void retranslate() override;
 
 protected:
@@ -24,6 +25,7 @@ protected:
 
 private:
     void addText(const PageRow &row, const char *styleClass, const QString &text);
+    void describe();
     QString toolTipOf(const PageRow &row) const;
 };
 

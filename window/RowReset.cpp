@@ -1,7 +1,7 @@
 #include "RowReset_p.h"
 
 #include "ChangedDot_p.h"
-#include "MaltoConfiguration/manage/ItemVisibility_p.h"
+#include "ChangedItems_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "PageBuilder_p.h"
 #include "ResetButton_p.h"
@@ -54,6 +54,15 @@ QList<QWidget *> controlsOf(const ConfigItemWidget *editor)
     return controls;
 }
 
+/// Returns `text` as a menu shows it: shortened, and without a mark of a shortcut key.
+QString inMenu(const QString &text, const QFontMetrics &metrics)
+{
+    constexpr int sMostCharacters = 60;
+    const int width = metrics.averageCharWidth() * sMostCharacters;
+    return metrics.elidedText(text, Qt::ElideRight, width)
+        .replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 /// Returns whether a click at `position` in the frame of the row is meant for the row.
 bool contains(const PageRow &row, const QPoint &position)
 {
@@ -70,13 +79,26 @@ RowReset::RowReset(ConfigurationWindow *window)
     : WindowFeature(window), mChangesButton(new QPushButton(window)),
       mObserver(ConfStorage::instance(), [this](const ConfChange &) { queueUpdate(); })
 {
-    auto *shortcut = new QShortcut(resetKey(), window);
-    connect(shortcut, &QShortcut::activated, this, &RowReset::resetFocusedRow);
+    connect(new QShortcut(resetKey(), window), &QShortcut::activated, this, [this] {
+        if (const PageRow *const row = focusedRow())
+            reset(PageRow(*row));
+    });
+    // Text fields have menus of their own.
+    const QKeySequence menuKey(Qt::SHIFT | Qt::Key_F9);
+    connect(new QShortcut(menuKey, window), &QShortcut::activated, this, [this] {
+        const PageRow *const row = focusedRow();
+        if (row && row->editor)
+            showMenu(*row, row->editor->mapToGlobal(row->editor->rect().bottomLeft()));
+    });
     mChangesButton->setObjectName(QStringLiteral("ShowChangesButton"));
     mChangesButton->setCheckable(true);
     connect(mChangesButton, &QAbstractButton::clicked, this, &RowReset::showChanges);
+    // The class that is current already leads back to its page, too.
+    connect(classList(), &QAbstractItemView::clicked, this, [this] {
+        if (mChangesButton->isChecked())
+            rebuildPage();
+    });
     classColumn()->insertWidget(classColumn()->indexOf(classList()) + 1, mChangesButton);
-    updateClasses();
 }
 
 void RowReset::rowAdded(const PageRow &row)
@@ -113,7 +135,11 @@ void RowReset::sheetApplied()
 void RowReset::retranslate()
 {
     mChangesButton->setText(tr("Show changed"));
-    update();
+    for (const PageRow &row : rows())
+        updateRow(row);
+    updatePageState();
+    if (mChangesButton->isChecked())
+        showChangedItems(); // captions of several pages are not translated again
 }
 
 void RowReset::queueUpdate()
@@ -136,19 +162,18 @@ void RowReset::update()
 void RowReset::updatePageState()
 {
     auto *const state = window()->findChild<QLabel *>(QStringLiteral("ModernPageState"));
-    if (!state)
+    if (!state || showsItems())
         return;
     const auto count = static_cast<int>(
         std::count_if(rows().cbegin(), rows().cend(),
-                      [](const PageRow &row) { return !row.item->isDefaultValue(); }));
+                      [](const PageRow &row) { return isResettable(*row.item); }));
     state->setText(tr("%n changed", nullptr, count));
     state->setVisible(count > 0);
 }
 
 void RowReset::updateRow(const PageRow &row)
 {
-    const bool isChanged = !row.item->isDefaultValue()
-                           && !ConfStorage::instance()->isLocked(row.key);
+    const bool isChanged = isResettable(*row.item);
     ResetButton *button = mButtons.value(row.key);
     // Most rows never need one.
     if (!button && isChanged && row.frame)
@@ -196,57 +221,34 @@ void RowReset::resetKeyed(const QString &key)
 /// Marks the classes on whose pages something has changed.
 void RowReset::updateClasses()
 {
+    const QPointer<RowReset> self(this);
+    const HostCodeScope scope(hostCode());
+    const QSet<QString> changed = changedClasses(manager());
+    if (!self)
+        return;
     QAbstractItemModel *const model = classList()->model();
-    QSet<QString> changed;
-    if (manager()) {
-        const HostCodeScope scope(hostCode());
-        for (ConfItem *item : changedItems())
-            changed.insert(item->majorName);
-        for (int i = 0; manager() && i < manager()->majorItems.size(); ++i) {
-            const MajorConfItem major = manager()->majorItems.at(i);
-            if (major.isChanged && major.isChanged())
-                changed.insert(major.name);
-        }
-    }
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex index = model->index(row, 0);
         const bool isChanged = changed.contains(index.data(sClassNameRole).toString());
         if (index.data(ChangedDot::sChangedRole).toBool() != isChanged)
             model->setData(index, isChanged, ChangedDot::sChangedRole);
+        const QString description = isChanged ? tr("Changed") : QString();
+        if (index.data(Qt::AccessibleDescriptionRole).toString() != description)
+            model->setData(index, description, Qt::AccessibleDescriptionRole);
     }
     mChangesButton->setEnabled(!changed.isEmpty() || mChangesButton->isChecked());
 }
 
-/// Returns the items that the pages show and whose values are not the default ones.
-QList<ConfItem *> RowReset::changedItems() const
-{
-    QList<ConfItem *> changed;
-    // The filter of the host may destroy the manager.
-    for (int i = 0; manager() && i < manager()->majorItems.size(); ++i) {
-        const MajorConfItem &major = manager()->majorItems.at(i);
-        const QList<ConfItem *> items = major.majorWidget ? QList<ConfItem *>()
-                                                          : manager()->getConfItemList(major.name);
-        for (ConfItem *item : items) {
-            if (manager() && item->widgetCreator && !item->isDefaultValue()
-                && isItemShown(*manager(), item))
-                changed.append(item);
-        }
-    }
-    return changed;
-}
-
-void RowReset::resetFocusedRow()
+/// Returns the row that has the keyboard focus, or null.
+const PageRow *RowReset::focusedRow() const
 {
     const QWidget *const focused = window()->focusWidget();
-    for (const PageRow &row : rows()) {
-        const bool hasFocus = focused && row.editor
-                              && (focused == row.caption || row.editor->isAncestorOf(focused)
-                                  || focused == mButtons.value(row.key));
-        if (hasFocus) {
-            reset(PageRow(row));
-            return;
-        }
-    }
+    const auto found = std::find_if(rows().cbegin(), rows().cend(), [&](const PageRow &row) {
+        return focused && row.editor
+               && (focused == row.caption || row.editor->isAncestorOf(focused)
+                   || focused == mButtons.value(row.key));
+    });
+    return found != rows().cend() ? &*found : nullptr;
 }
 
 void RowReset::reset(const PageRow &row)
@@ -267,20 +269,27 @@ void RowReset::reset(const PageRow &row)
 
 void RowReset::showChanges(bool isOn)
 {
-    if (!manager())
-        return;
-    if (auto *const find = window()->findChild<SettingsFind *>()) {
+    if (auto *const find = window()->findChild<SettingsFind *>())
         find->show(isOn ? QStringLiteral("@changed") : QString());
-        return;
-    }
-    const QPointer<RowReset> self(this);
-    mIsShowingChanges = isOn;
-    if (isOn)
-        showItems(pageGroups(changedItems()));
+    else if (isOn)
+        showChangedItems();
     else
         rebuildPage();
-    if (self)
-        mIsShowingChanges = false;
+}
+
+void RowReset::showChangedItems()
+{
+    const QPointer<RowReset> self(this);
+    const QList<ConfItem *> changed = changedItems(manager());
+    if (!self)
+        return;
+    mIsShowingChanges = true;
+    showItems(pageGroups(changed));
+    if (!self)
+        return;
+    mIsShowingChanges = false;
+    if (auto *const title = window()->findChild<QLabel *>(QStringLiteral("ModernPageTitle")))
+        title->setText(tr("Changed settings"));
 }
 
 bool RowReset::eventFilter(QObject *watched, QEvent *event)
@@ -309,15 +318,16 @@ void RowReset::showMenu(const PageRow &row, const QPoint &position)
             [key = row.key] { QApplication::clipboard()->setText(key); });
     const ConfStorage *const store = ConfStorage::instance();
     if (!(store->mConfMetas.value(row.key).flags & ConfStorage::FlagSecret)) {
-        const QString value = valueInWords(*row.item,
-                                           store->mConfValues.value(row.key).toJsonValue());
+        const QJsonValue json = store->mConfValues.value(row.key).toJsonValue();
+        const bool isText = json.isString() && row.item->choices.isEmpty();
+        const QString value = isText ? json.toString() : valueInWords(*row.item, json);
         connect(menu->addAction(tr("Copy value")), &QAction::triggered, this,
                 [value] { QApplication::clipboard()->setText(value); });
     }
     menu->addSeparator();
     for (const QString &text : {defaultInWords(row), changeInWords(row)}) {
         if (!text.isEmpty())
-            menu->addAction(text)->setEnabled(false);
+            menu->addAction(inMenu(text, menu->fontMetrics()))->setEnabled(false);
     }
     menu->popup(position);
 }

@@ -40,11 +40,11 @@ private:
     void resetKeyed(const QString &key);
     void updatePageState();
     void updateClasses();
-    void resetFocusedRow();
+    const PageRow *focusedRow() const;
     void reset(const PageRow &row);
     void showMenu(const PageRow &row, const QPoint &position);
     void showChanges(bool isOn);
-    QList<ConfItem *> changedItems() const;
+    void showChangedItems();
 
     QHash<QString, QPointer<ResetButton>> mButtons; // of rows that have differed, by key
     QPushButton *const mChangesButton;

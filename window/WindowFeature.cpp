@@ -99,6 +99,11 @@ void WindowFeature::showItems(const PageGroups &groups)
     mWindow->showItems(groups);
 }
 
+bool WindowFeature::showsItems() const
+{
+    return mWindow->mShowsItems;
+}
+
 void WindowFeature::rebuildPage()
 {
     mWindow->rebuildPage();

@@ -44,7 +44,8 @@ public:
     virtual void sheetApplied();
     /// Called when the language has changed.
     virtual void retranslate();
-    /// Called when the window closes, before it is saved.
+    /// Called when the window closes, or the program quits with an open window, before the store is
+    /// saved.
     virtual void windowClosed();
 
 protected:
@@ -77,6 +78,8 @@ protected:
     /// Shows `groups` instead of the page of the selected class: captions, translated, with the
     /// items below each. The editors are live.
     void showItems(const PageGroups &groups);
+    /// Returns whether showItems() has replaced the page of the selected class.
+    bool showsItems() const;
     /// Shows the page of the selected class again.
     void rebuildPage();
 

@@ -23,7 +23,6 @@ WindowIdentity::WindowIdentity(ConfigurationWindow *window) : WindowFeature(wind
     if (!icon.isNull())
         window->setWindowIcon(icon);
     restoreGeometry();
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &WindowIdentity::saveGeometry);
 }
 
 void WindowIdentity::retranslate()
@@ -54,11 +53,6 @@ void WindowIdentity::restoreGeometry()
 }
 
 void WindowIdentity::windowClosed()
-{
-    saveGeometry();
-}
-
-void WindowIdentity::saveGeometry()
 {
     const QRect geometry = window()->normalGeometry();
     const double factor = scaled(1000) / 1000.0;

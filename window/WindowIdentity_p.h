@@ -19,7 +19,6 @@ public:
 
 private:
     void restoreGeometry();
-    void saveGeometry();
 };
 
 } // namespace MtConf

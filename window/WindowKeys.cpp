@@ -21,7 +21,6 @@ WindowKeys::WindowKeys(ConfigurationWindow *window) : WindowFeature(window)
     addKey(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), &WindowKeys::showPreviousPage);
     addKey(QKeySequence(Qt::Key_F1), &WindowKeys::showHelp);
     qApp->installEventFilter(this);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &WindowKeys::rememberPage);
 }
 
 void WindowKeys::addKey(const QKeySequence &key, void (WindowKeys::*action)())
@@ -81,11 +80,6 @@ void WindowKeys::showHelp()
 }
 
 void WindowKeys::windowClosed()
-{
-    rememberPage();
-}
-
-void WindowKeys::rememberPage()
 {
     if (manager())
         WindowMemory::instance()->setPage(window()->currentClass());

@@ -25,7 +25,6 @@ private:
     void showPreviousPage() { showPageAfter(-1); }
     void showPageAfter(int step);
     void showHelp();
-    void rememberPage();
 
     bool mHadPopup = false; // when the key was pressed that is down
 };

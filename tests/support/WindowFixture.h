@@ -128,7 +128,10 @@ public:
     static bool clickAndAnswer(QPushButton *button, QMessageBox::StandardButton answer)
     {
         return clickAndAnswer(button, [answer](QMessageBox *box) {
-            QTest::mouseClick(box->button(answer), Qt::LeftButton);
+            QAbstractButton *choice = box->button(answer);
+            if (!choice && answer == QMessageBox::Yes) // the modern look has a button of its own
+                choice = box->findChild<QPushButton *>(QStringLiteral("ModernReset"));
+            QTest::mouseClick(choice, Qt::LeftButton);
         });
     }
 

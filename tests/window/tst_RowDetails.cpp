@@ -124,6 +124,17 @@ private Q_SLOTS:
         QVERIFY(mFlag->editor->isEnabled());
     }
 
+    void lockedRowsStayDisabledWhenADependencyChanges()
+    {
+        mFixture->manager->getItemByName("General", "Delay", QString())->dependsOn(mFlag, true);
+        WindowFixture::store()->lockConf(mNumber->getFullName(), 9);
+        QVERIFY(mFixture->open());
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        WindowFixture::store()->set(mFlag->getFullName(), true);
+        QVERIFY(!mNumber->editor->isEnabled());
+        QVERIFY(!mNumber->editor->label()->isEnabled());
+    }
+
     void secretsAreNotInTheToolTip()
     {
         mToken = "old";

@@ -206,6 +206,57 @@ private Q_SLOTS:
         QVERIFY(mNumber->isDefaultValue());
     }
 
+    void hostCodeMayDeleteTheWindow_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<bool>("isModern");
+        for (const char *place : {"filter", "isChanged"}) {
+            for (const bool isModern : {false, true})
+                QTest::addRow("%s %s", place, isModern ? "modern" : "classic") << place << isModern;
+        }
+    }
+
+    void hostCodeMayDeleteTheWindow()
+    {
+        QFETCH(QString, place);
+        QFETCH(bool, isModern);
+        mFixture->manager->windowLook = isModern ? ModernLook : ClassicLook;
+        bool isArmed = false;
+        const auto deleteWindow = [&] {
+            if (isArmed)
+                delete WindowFixture::window();
+            return true;
+        };
+        mFixture->manager->itemFilter = [&](ConfItem &) {
+            return place != "filter" || deleteWindow();
+        };
+        mFlag->flags |= ItemIsFiltered;
+        mFixture->manager->getMajorConfItemByName("Other")->isChanged = [&] {
+            return place == "isChanged" && deleteWindow();
+        };
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QVERIFY(mFixture->openActive());
+        isArmed = true;
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(!WindowFixture::window());
+        QVERIFY(!mFixture->manager->ShowWindow()); // deleted while it is being built
+        isArmed = false;
+        QVERIFY(mFixture->openActive());
+    }
+
+    void theMenuShortensLongValues()
+    {
+        QString text = QString(5000, 'x');
+        mToken = "Tom & Jerry " + text;
+        ConfItem *item = mFixture->manager->addConfText("Token", &mToken, "General", "Token");
+        QVERIFY(mFixture->openActive());
+        QMenu *menu = openMenu(item->editor);
+        QVERIFY(menu);
+        QVERIFY(menu->actions().at(4)->text().startsWith("Default: Tom && Jerry xxx"));
+        QVERIFY(menu->sizeHint().width() < 1000);
+        menu->close();
+    }
+
     void lockedRowsCannotBeReset()
     {
         WindowFixture::store()->lockConf(mNumber->getFullName(), 9);

@@ -119,6 +119,28 @@ private Q_SLOTS:
         QVERIFY(WindowFixture::window()->styleSheet().contains("intruder"));
     }
 
+    void theGeometryIsSavedWhenTheProgramQuits()
+    {
+        WindowFixture::store()->loadLocalConfFile();
+        QVERIFY(mFixture->open());
+        WindowFixture::window()->setGeometry(QRect(60, 50, 700, 480));
+        QMetaObject::invokeMethod(qApp, "aboutToQuit");
+        QFile file(WindowFixture::localFile());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().contains("Malto.Window.Geometry"));
+    }
+
+    void aHostWithCustomPagesOnlyRemembersTheGeometry()
+    {
+        mFixture->manager = std::make_unique<MtConfManage>();
+        clearStore();
+        WindowFixture::store()->mLocalSaveFile = WindowFixture::localFile();
+        mFixture->manager->windowFeatures = HostNameFeature;
+        mFixture->manager->setMajorWidget(
+            "Page", [](QWidget *parent) { return new QLabel("page", parent); });
+        QVERIFY(WindowFixture::store()->mConfMetas.contains("Malto.Window.Geometry"));
+    }
+
     void twoManagersShareTheMemory()
     {
         QVERIFY(mFixture->open());

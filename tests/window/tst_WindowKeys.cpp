@@ -123,6 +123,18 @@ private Q_SLOTS:
         QCOMPARE(WindowFixture::window()->currentClass(), QString("General"));
     }
 
+    void aClosedWindowDoesNotChangeTheLastPage()
+    {
+        QVERIFY(mFixture->open("Second"));
+        QPointer<ConfigurationWindow> former(WindowFixture::window());
+        former->setAttribute(Qt::WA_DeleteOnClose, false);
+        former->close();
+        QVERIFY(mFixture->open("Third"));
+        QMetaObject::invokeMethod(qApp, "aboutToQuit");
+        QCOMPARE(WindowFixture::store()->get<QString>("Malto.Window.Page"), QString("Third"));
+        delete former;
+    }
+
     void theLastPageIsSavedLocally()
     {
         WindowFixture::store()->loadLocalConfFile();
