@@ -512,6 +512,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>نسخ القيمة</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>تم تغييرها</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>الإعدادات التي تم تغييرها</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
         <source>Copy value</source>
         <translation>Wert kopieren</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Geänderte Einstellungen</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

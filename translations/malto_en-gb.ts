@@ -488,6 +488,14 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
         <source>Copy value</source>
         <translation>Copy value</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Changed settings</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
         <source>Copy value</source>
         <translation>Copiar el valor</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificada</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Ajustes modificados</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>Copy value</source>
         <translation>Copier la valeur</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifiée</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Réglages modifiés</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

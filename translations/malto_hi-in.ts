@@ -488,6 +488,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>मान कॉपी करें</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>बदला गया</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>बदली गईं सेटिंग</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
         <source>Copy value</source>
         <translation>Copia valore</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Impostazioni modificate</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

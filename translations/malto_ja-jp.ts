@@ -482,6 +482,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>値をコピー</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更済み</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>変更済みの設定</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -482,6 +482,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>값 복사</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>변경됨</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>변경된 설정</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>Copy value</source>
         <translation>Waarde kopiëren</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Gewijzigde instellingen</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -494,6 +494,14 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
         <source>Copy value</source>
         <translation>Kopiuj wartość</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Zmieniono</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Zmienione ustawienia</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -488,6 +488,14 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
         <source>Copy value</source>
         <translation>Copiar valor</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Alterada</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Configurações alteradas</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -494,6 +494,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>Копировать значение</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Изменённые параметры</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

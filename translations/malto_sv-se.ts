@@ -488,6 +488,14 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
         <source>Copy value</source>
         <translation>Kopiera värde</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Ändrad</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Ändrade inställningar</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -482,6 +482,14 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
         <source>Copy value</source>
         <translation>Değeri kopyala</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>Değişti</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Değiştirilen ayarlar</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>

@@ -482,6 +482,14 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Copy value</source>
         <translation>複製值</translation>
     </message>
+    <message>
+        <source>Changed</source>
+        <translation>已變更</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>已變更的設定</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::RowWords</name>
