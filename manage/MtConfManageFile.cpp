@@ -25,7 +25,7 @@ void MtConfManage::_loadFromFile(QString path)
     const QJsonObject members = readJsonFromFile(path).object();
     ConfItemIndex index(items);
     const QPointer<MtConfManage> self(this); // a callback may destroy the manager
-    const ValueOrigins::ConfigurationFile file(mOrigins.get());
+    const ValueOrigins::Scope scope(mOrigins.get(), ValueOrigins::Origin::ConfigurationFile);
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
         const QString key = member.key();
         const ConfItem *item = index.find(key);

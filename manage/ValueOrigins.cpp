@@ -3,6 +3,8 @@
 #include <MaltoConfiguration/store/ConfChange.h>
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <utility>
+
 namespace MtConf {
 
 ValueOrigins::ValueOrigins()
@@ -22,25 +24,24 @@ ValueOrigins::Origin ValueOrigins::originOf(const QString &key) const
 
 void ValueOrigins::onChange(const ConfChange &change)
 {
-    if (*mFiles > 0)
-        mOrigins.insert(change.key, Origin::ConfigurationFile);
-    else if (change.cause == ConfChange::Cause::Loaded && ConfStorage::instance()->mLocalLoaded)
-        mOrigins.insert(change.key, Origin::Elsewhere);
-    else
+    const bool isMerged = change.cause == ConfChange::Cause::Loaded
+                          && ConfStorage::instance()->mLocalLoaded;
+    const Origin origin = mScope->value_or(isMerged ? Origin::Elsewhere : Origin::Changed);
+    if (origin == Origin::Changed)
         mOrigins.remove(change.key);
+    else
+        mOrigins.insert(change.key, origin);
 }
 
-ValueOrigins::ConfigurationFile::ConfigurationFile(ValueOrigins *origins)
-    : mFiles(origins ? origins->mFiles : nullptr)
+ValueOrigins::Scope::Scope(const ValueOrigins *origins, Origin origin)
+    : mCurrent(origins ? origins->mScope : std::make_shared<std::optional<Origin>>()),
+      mFormer(std::exchange(*mCurrent, origin))
 {
-    if (mFiles)
-        ++*mFiles;
 }
 
-ValueOrigins::ConfigurationFile::~ConfigurationFile()
+ValueOrigins::Scope::~Scope()
 {
-    if (mFiles)
-        --*mFiles;
+    *mCurrent = mFormer;
 }
 
 } // namespace MtConf

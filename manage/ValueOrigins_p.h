@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace MtConf {
 
@@ -29,24 +30,27 @@ public:
     /// the program counts as changed here.
     Origin originOf(const QString &key) const;
 
-    /// While it exists, changes come from a configuration file.
-    class ConfigurationFile
+    /// While it exists, changes come from `ConfigurationFile`, or count as `Changed`, such as those
+    /// of a file that the user imports.
+    class Scope
     {
     public:
         /// `origins` may be null, and may be destroyed before this object.
-        explicit ConfigurationFile(ValueOrigins *origins);
-        ~ConfigurationFile();
-        Q_DISABLE_COPY(ConfigurationFile)
+        Scope(const ValueOrigins *origins, Origin origin);
+        ~Scope();
+        Q_DISABLE_COPY(Scope)
 
     private:
-        const std::shared_ptr<int> mFiles;
+        const std::shared_ptr<std::optional<Origin>> mCurrent;
+        const std::optional<Origin> mFormer;
     };
 
 private:
     void onChange(const ConfChange &change);
 
-    QHash<QString, Origin> mOrigins; // of keys that are not simply changed here
-    const std::shared_ptr<int> mFiles = std::make_shared<int>(0); // that are being loaded
+    QHash<QString, Origin> mOrigins;                    // of keys that are not simply changed here
+    const std::shared_ptr<std::optional<Origin>> mScope // of the innermost Scope
+        = std::make_shared<std::optional<Origin>>();
     const StoreObserver mObserver;
 };
 

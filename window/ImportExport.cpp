@@ -2,6 +2,7 @@
 
 #include "HotkeyItems_p.h"
 #include "ImportDialog_p.h"
+#include "MaltoConfiguration/manage/ValueOrigins_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
 #include "SettingsFile_p.h"
 #include "SettingsHistory_p.h"
@@ -206,6 +207,7 @@ void ImportExport::apply(const SettingsImport &import, const QStringList &keys)
         std::optional<SettingsHistory::Recording> recording;
         if (auto *history = window()->findChild<SettingsHistory *>())
             recording.emplace(history);
+        const ValueOrigins::Scope originScope(origins(), ValueOrigins::Origin::Changed);
         refused = import.apply(ConfStorage::instance(), keys).refusedCount;
         registerHotkeys(host, keys);
     }

@@ -8,9 +8,11 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QJsonDocument>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QToolTip>
 #include <QTranslator>
 #include <QTreeWidget>
 #include <QxtGlobalShortcut>
@@ -119,6 +121,7 @@ private Q_SLOTS:
     void damagedFileIsSaid();
     void importedHotkeyIsRegistered();
     void importIsOneStepOfTheHistory();
+    void importedValuesCountAsChangedHere();
     void fileOfTheFirstMachineIsImportedOnTheSecond();
     void windowMayBeDeletedInEachDialog_data();
     void windowMayBeDeletedInEachDialog();
@@ -360,6 +363,24 @@ void tst_ImportExport::importIsOneStepOfTheHistory()
     history->redo();
     QCOMPARE(mDelay, 8);
     QCOMPARE(mSound, false);
+}
+
+void tst_ImportExport::importedValuesCountAsChangedHere()
+{
+    int seconds = 3;
+    writeFile(sFile, R"({"Capture.Seconds": {"t": 100, "v": 21}})");
+    mFixture->manager->windowFeatures |= MtConf::DetailsFeature; // before the declaration
+    const MtConf::ConfItem *const item = mFixture->manager->addConfInt32("Seconds", &seconds,
+                                                                         "Capture", "Seconds");
+    WindowFixture::store()->loadLocalConfFile(); // what is loaded from here on is merged
+    QVERIFY(mFixture->open());
+    QVERIFY(click("btnImport", {choose(sFile), accept}));
+    QCOMPARE(seconds, 21);
+    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
+    QApplication::sendEvent(item->editor, &event);
+    QVERIFY2(QToolTip::text().contains("Changed on "), qPrintable(QToolTip::text()));
+    QToolTip::hideText();
+    mFixture.reset(); // while the variable exists
 }
 
 void tst_ImportExport::fileOfTheFirstMachineIsImportedOnTheSecond()
