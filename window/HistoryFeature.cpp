@@ -27,7 +27,7 @@ HistoryFeature::HistoryFeature(ConfigurationWindow *window)
     connect(mKeys, &UndoKeys::focusMoved, mHistory, &SettingsHistory::endTyping);
     connect(mHistory, &SettingsHistory::recorded, this, &HistoryFeature::onRecorded);
     connect(mHistory, &SettingsHistory::applied, this, &HistoryFeature::onApplied);
-    connect(mBar, &UndoBar::undoRequested, this, [this] { apply(&SettingsHistory::undo); });
+    connect(mBar, &UndoBar::undoRequested, this, &HistoryFeature::undoShown);
 }
 
 void HistoryFeature::addAction(const char *name, QKeySequence::StandardKey key,
@@ -59,9 +59,21 @@ void HistoryFeature::apply(void (SettingsHistory::*direction)())
         (history->*direction)();
 }
 
+/// Undoes the step that the bar speaks of. What is typed is not stored before, because that would
+/// be a newer step.
+void HistoryFeature::undoShown()
+{
+    const HostCodeScope scope(hostCode());
+    const int shown = mRecordedCount;
+    // canUndo() records a step that is not finished, which the bar does not speak of.
+    if (mHistory->canUndo() && mRecordedCount == shown)
+        mHistory->undo();
+}
+
 void HistoryFeature::onRecorded(ConfChange::Cause cause, const QStringList &keys)
 {
     using Cause = ConfChange::Cause;
+    ++mRecordedCount;
     const auto count = static_cast<int>(keys.size());
     // One setting that was restored is seen in its row. Loads are recorded only if the user imports
     // a file.

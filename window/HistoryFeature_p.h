@@ -27,6 +27,7 @@ public:
 
 private:
     void apply(void (SettingsHistory::*direction)());
+    void undoShown();
     void addAction(const char *name, QKeySequence::StandardKey key,
                    void (SettingsHistory::*direction)());
     void onRecorded(ConfChange::Cause cause, const QStringList &keys);
@@ -40,6 +41,7 @@ private:
     SettingsHistory *const mHistory;
     const QPointer<UndoBar> mBar; // the window deletes it before the features
     UndoKeys *const mKeys;
+    int mRecordedCount = 0;
 };
 
 } // namespace MtConf

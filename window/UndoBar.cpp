@@ -32,6 +32,8 @@ UndoBar::UndoBar(QWidget *window)
     setObjectName(QStringLiteral("UndoBar"));
     mLabel->setTextFormat(Qt::PlainText);
     mButton->setAutoDefault(false);
+    // A click that takes the focus from a field would store what is typed there: a newer step.
+    mButton->setFocusPolicy(Qt::TabFocus);
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(mLabel, 1);
     layout->addWidget(mButton);

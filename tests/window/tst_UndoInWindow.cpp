@@ -46,6 +46,8 @@ private Q_SLOTS:
     void restoredPageIsOneStep();
     void restoredSettingsAreOneStep();
     void barStaysUntilTheNextEdit();
+    void barKeepsWhatIsTyped();
+    void barUndoesNoNewerStep();
     void removedEntryIsOffered();
     void pageOfTheSettingIsOpened();
     void callbackMayCloseTheWindow_data();
@@ -312,6 +314,41 @@ void tst_UndoInWindow::barStaysUntilTheNextEdit()
     QVERIFY(bar()->isVisible());
     click(mFlag);
     QTRY_VERIFY(!bar()->isVisible());
+}
+
+void tst_UndoInWindow::barKeepsWhatIsTyped()
+{
+    click(mFlag);
+    click(mOther);
+    QVERIFY(WindowFixture::clickAndAnswer(WindowFixture::restorePageButton(), QMessageBox::Yes));
+    QTRY_VERIFY(bar()->isVisible());
+    activate();
+    auto *const field = control<QLineEdit>(mText);
+    field->setFocus();
+    QTest::keyClicks(field, "abc");
+    const QString typed = field->text();
+    QVERIFY(typed.contains("abc"));
+    auto *const button = bar()->findChild<QPushButton *>();
+    QTest::mousePress(button, Qt::LeftButton);
+    QCoreApplication::processEvents(); // a stored text would hide the bar
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(value(0), false);
+    QCOMPARE(value(1), false);
+    QCOMPARE(field->text(), typed);
+    QTRY_COMPARE(mTextValue, typed);
+}
+
+void tst_UndoInWindow::barUndoesNoNewerStep()
+{
+    click(mFlag);
+    click(mOther);
+    QVERIFY(WindowFixture::clickAndAnswer(WindowFixture::restorePageButton(), QMessageBox::Yes));
+    QTRY_VERIFY(bar()->isVisible());
+    click(mFlag);
+    bar()->findChild<QPushButton *>()->click(); // before the event loop runs
+    QCOMPARE(value(0), false);
+    QCOMPARE(value(1), true);
+    QVERIFY(!bar()->isVisible());
 }
 
 void tst_UndoInWindow::removedEntryIsOffered()
