@@ -21,6 +21,8 @@
 #include <QStandardItemModel>
 #include <QToolButton>
 
+#include <memory>
+
 namespace MtConf {
 
 namespace {
@@ -45,7 +47,7 @@ QIcon magnifier(const QColor &color, qreal size)
 } // namespace
 
 SettingsFind::SettingsFind(ConfigurationWindow *window)
-    : WindowFeature(window), mIndex(manager()),
+    : WindowFeature(window), mIndex(std::make_shared<SettingsIndex>(manager())),
       mPage(window->findChild<QVBoxLayout *>(QStringLiteral("layoutConfigItem")))
 {
     addField();
@@ -88,9 +90,10 @@ void SettingsFind::connectField()
     connect(mShortcut, &QShortcut::activated, this, &SettingsFind::focusField);
     connect(mButton, &QToolButton::clicked, this, &SettingsFind::focusField);
     connect(mField, &FindField::focusEntered, this, &SettingsFind::prepare);
+    // Host code may delete the window, which a QLineEdit does not expect while it emits a signal.
+    connect(mField, &QLineEdit::textChanged, this, &SettingsFind::search, Qt::QueuedConnection);
     connect(mField, &FindField::focusLeft, this, &SettingsFind::showNarrow, Qt::QueuedConnection);
     connect(mField, &QLineEdit::textChanged, this, &SettingsFind::showNarrow);
-    connect(mField, &QLineEdit::textChanged, this, &SettingsFind::search);
     connect(mField, &FindField::openRequested, this, &SettingsFind::openFirst);
     connect(mField, &FindField::resultRequested, this, &SettingsFind::focusResult);
 }
@@ -122,11 +125,29 @@ void SettingsFind::showNarrow()
 /// Reads the declarations before a search begins, because the host may have changed them.
 void SettingsFind::prepare()
 {
-    if (!mField->text().isEmpty())
+    if (!mQuery.isEmpty())
         return;
+    mIndex->clear();
+    const auto update = [this] {
+        if (mQuery.isEmpty()) // mHits are positions in the index
+            updateIndex();
+    };
+    QMetaObject::invokeMethod(this, update, Qt::QueuedConnection); // as in connectField()
+}
+
+/// Reads the declarations if that is necessary. Returns false if host code has deleted the window.
+bool SettingsFind::updateIndex()
+{
     const HostCodeScope scope(hostCode());
-    mIndex.clear();
-    mIndex.update();
+    const QPointer<SettingsFind> self(this);
+    const std::shared_ptr<SettingsIndex> index = mIndex; // host code may delete the window
+    // A class that was declared later has no page in this window.
+    QStringList classes;
+    const QAbstractItemModel *const rows = classList()->model();
+    for (int row = 0; row < rows->rowCount(); ++row)
+        classes.append(rows->index(row, 0).data(sClassNameRole).toString());
+    index->update(classes);
+    return self && manager();
 }
 
 void SettingsFind::search()
@@ -141,8 +162,8 @@ void SettingsFind::search()
     }
     const HostCodeScope scope(hostCode());
     const QPointer<SettingsFind> self(this);
-    mIndex.update();
-    const QList<int> hits = self ? mIndex.find(query) : QList<int>();
+    const std::shared_ptr<SettingsIndex> index = mIndex; // host code may delete the window
+    const QList<int> hits = updateIndex() ? index->find(query) : QList<int>();
     if (!self || !manager())
         return;
     mHits = hits;
@@ -158,7 +179,7 @@ void SettingsFind::showHint()
     mField->setHint(mQuery.isEmpty() ? mShortcut->key().toString(QKeySequence::NativeText)
                                      : tr("%1 of %2")
                                            .arg(locale.toString(static_cast<int>(mHits.size())),
-                                                locale.toString(mIndex.count())));
+                                                locale.toString(mIndex->count())));
 }
 
 /// Hides the classes without a hit, and shows all of them without a query.
@@ -166,7 +187,7 @@ void SettingsFind::showClasses()
 {
     QSet<QString> found;
     for (const int hit : std::as_const(mHits))
-        found.insert(mIndex.at(hit).className);
+        found.insert(mIndex->at(hit).className);
     const QAbstractItemModel *const classes = classList()->model();
     for (int row = 0; row < classes->rowCount(); ++row) {
         const QString name = classes->index(row, 0).data(sClassNameRole).toString();
@@ -238,7 +259,7 @@ void SettingsFind::pageShown()
 {
     if (!mIsBuilding) {
         // Another part of the window has shown a page.
-        if (!mQuery.isEmpty()) {
+        if (!mQuery.isEmpty() || !SettingsQuery(mField->text()).isEmpty()) {
             endSearch();
             mField->clear();
         }
@@ -275,14 +296,18 @@ void SettingsFind::retranslate()
     const QString keys = mShortcut->key().toString(QKeySequence::NativeText);
     mButton->setAccessibleName(name);
     mButton->setToolTip(QStringLiteral("%1 (%2)").arg(name, keys));
-    mIndex.clear();
+    const QPointer<SettingsFind> self(this);
+    search(); // what has just been typed
+    if (!self)
+        return;
+    mIndex->clear();
     if (mQuery.isEmpty()) {
         showHint();
         return;
     }
     mQuery = SettingsQuery();
     search();
-    if (mHasResults) {
+    if (self && mHasResults) {
         renameGroups();
         showTitle();
     }

@@ -65,7 +65,7 @@ SettingsFind::Results SettingsFind::resultsOf(const QList<int> &hits) const
     const int shown = std::min(mLimit, static_cast<int>(hits.size()));
     results.more = static_cast<int>(hits.size()) - shown;
     for (int i = 0; i < shown; ++i) {
-        const SettingsIndex::Entry &entry = mIndex.at(hits.at(i));
+        const SettingsIndex::Entry &entry = mIndex->at(hits.at(i));
         if (!entry.item) {
             results.isTextFirst = results.isTextFirst || i == 0;
             results.texts.append(entry);
@@ -235,9 +235,11 @@ void SettingsFind::openFocused()
 
 void SettingsFind::openFirst()
 {
-    if (mHits.isEmpty())
+    const QPointer<SettingsFind> self(this);
+    search(); // what has just been typed
+    if (!self || mHits.isEmpty())
         return;
-    const SettingsIndex::Entry first = mIndex.at(mHits.first());
+    const SettingsIndex::Entry first = mIndex->at(mHits.first());
     if (first.item)
         openItem(first.item);
     else
@@ -293,8 +295,11 @@ void SettingsFind::scrollTo(QWidget *widget)
 
 void SettingsFind::focusResult(bool isFirst)
 {
+    const QPointer<SettingsFind> self(this);
+    search(); // what has just been typed
+    if (!self)
+        return;
     if (mPause.isActive()) {
-        const QPointer<SettingsFind> self(this);
         showResults();
         if (self)
             QTimer::singleShot(0, this, [this, isFirst] { focusResult(isFirst); });

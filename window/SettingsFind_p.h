@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <memory>
+
 class QBoxLayout;
 class QLabel;
 class QPushButton;
@@ -52,6 +54,7 @@ private:
     void focusField();
     void showNarrow();
     void prepare();
+    bool updateIndex();
     void search();
     void showHint();
     void showClasses();
@@ -80,7 +83,7 @@ private:
     void focusResult(bool isFirst);
     const PageRow *rowOf(const QObject *widget) const;
 
-    SettingsIndex mIndex;
+    const std::shared_ptr<SettingsIndex> mIndex;
     FindField *mField = nullptr;
     QToolButton *mButton = nullptr; // in place of the field in a narrow column
     QShortcut *mShortcut = nullptr;

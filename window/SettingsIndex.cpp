@@ -111,7 +111,7 @@ bool SettingsIndex::isStale() const
                        [](const ConfItem &now, const ConfItem *then) { return &now == then; });
 }
 
-void SettingsIndex::update()
+void SettingsIndex::update(const QStringList &classes)
 {
     if (!mManager || !isStale())
         return;
@@ -125,11 +125,13 @@ void SettingsIndex::update()
         itemsOf[item.majorName].append(const_cast<ConfItem *>(&item));
         mItems.append(&item);
     }
-    QList<MajorConfItem> classes;
-    for (const MajorConfItem &major : std::as_const(mManager->majorItems))
-        classes.append(major);
-    mClassCount = static_cast<int>(classes.size());
-    for (const MajorConfItem &major : std::as_const(classes)) {
+    QList<MajorConfItem> pages;
+    for (const MajorConfItem &major : std::as_const(mManager->majorItems)) {
+        if (classes.contains(major.name))
+            pages.append(major);
+    }
+    mClassCount = static_cast<int>(mManager->majorItems.size());
+    for (const MajorConfItem &major : std::as_const(pages)) {
         if (major.majorWidget) {
             addCustomPage(major);
             continue;

@@ -50,9 +50,9 @@ public:
 
     /// Drops the texts, after a change of language or of the declarations.
     void clear();
-    /// Reads the declarations if there are no texts, or if settings were added since. Calls host
-    /// code: `MtConfManage::itemFilter` and `MajorConfItem::searchTexts`.
-    void update();
+    /// Reads the declarations of `classes` if there are no texts, or if settings were added since.
+    /// Calls host code: `MtConfManage::itemFilter` and `MajorConfItem::searchTexts`.
+    void update(const QStringList &classes);
 
     /// Returns the entries that match, by their positions: those with the words in their captions
     /// first, otherwise in declaration order. Calls host code: `MajorConfItem::isChanged`.

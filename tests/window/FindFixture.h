@@ -27,6 +27,7 @@ public:
     {
         field()->setFocus();
         field()->clear();
+        QCoreApplication::processEvents(); // ends the previous search
         QTest::keyClicks(field(), query);
         const bool isShown = QTest::qWaitFor(hasResults);
         QCoreApplication::processEvents(); // shows and lays out the rows

@@ -33,6 +33,9 @@ private Q_SLOTS:
     void fewRowsAreBuiltAtATime();
     void customPageIsOpenedAtItsText();
     void changedSettingsAreListed();
+    void classDeclaredLaterIsNotFound();
+    void hostCodeMayDeleteTheWindow_data();
+    void hostCodeMayDeleteTheWindow();
     void modernLookHasATitleAndMarksFlags();
 
 private:
@@ -328,6 +331,73 @@ void tst_FindResults::changedSettingsAreListed()
     QCOMPARE(mFixture->hint()->text(), QString("1 of 4"));
 }
 
+void tst_FindResults::classDeclaredLaterIsNotFound()
+{
+    QVERIFY(mFixture->openActive());
+    mFixture->addBool("A window too late", "", "Later"); // the window has no page for it
+    mFixture->addBool("A window in time", "", "System");
+    QVERIFY(mFixture->find("window"));
+    QCOMPARE(mFixture->shownKeys(),
+             (QStringList{"Capture.Capture a window.Window", "System.Hotkeys work",
+                          "System.A window in time"}));
+    QCOMPARE(mFixture->hint()->text(), QString("3 of 5"));
+    QVERIFY(mFixture->find("late"));
+    QTest::keyClick(mFixture->field(), Qt::Key_Return);
+    QCOMPARE(mFixture->window()->currentClass(), QString("General"));
+}
+
+void tst_FindResults::hostCodeMayDeleteTheWindow_data()
+{
+    QTest::addColumn<QString>("where");
+    QTest::addColumn<QString>("how");
+    for (const char *where : {"itemFilter", "searchTexts", "isChanged"}) {
+        for (const char *how : {"text", "key"})
+            QTest::addRow("%s, %s", where, how) << where << how;
+    }
+    QTest::newRow("itemFilter, focus") << "itemFilter"
+                                       << "focus";
+    QTest::newRow("searchTexts, focus") << "searchTexts"
+                                        << "focus";
+}
+
+void tst_FindResults::hostCodeMayDeleteTheWindow()
+{
+    QFETCH(const QString, where);
+    QFETCH(const QString, how);
+    bool isArmed = false;
+    const auto deleteIn = [&](const char *name) {
+        if (isArmed && where == QLatin1String(name)) {
+            isArmed = false;
+            delete mFixture->window();
+        }
+        return true;
+    };
+    mFixture->addBool("Filtered")->flags = MtConf::ItemIsFiltered;
+    mFixture->manager->itemFilter = [&](const ConfItem &) { return deleteIn("itemFilter"); };
+    for (const char *name : {"First", "Second"}) {
+        mFixture->manager->setMajorWidget(name, [](QWidget *parent) { return new QLabel(parent); });
+        auto *page = mFixture->manager->getMajorConfItemByName(name);
+        page->isChanged = [&] { return deleteIn("isChanged"); };
+        page->searchTexts = [&] {
+            deleteIn("searchTexts");
+            return QStringList{"a", "b"};
+        };
+    }
+    QVERIFY(mFixture->openActive());
+    mFixture->addBool("Another"); // the texts are read again
+    isArmed = true;
+    if (how == "text") {
+        mFixture->field()->setText("@changed");
+    } else {
+        mFixture->field()->setFocus();
+        if (how == "key") {
+            QTest::keyClicks(mFixture->field(), "@changed");
+            QTest::keyClick(mFixture->field(), Qt::Key_Return); // searches at once
+        }
+    }
+    QTRY_VERIFY(!mFixture->window());
+}
+
 void tst_FindResults::modernLookHasATitleAndMarksFlags()
 {
     mFixture->manager->windowLook = MtConf::ModernLook;
@@ -366,7 +436,7 @@ void tst_FindResults::modernLookHasATitleAndMarksFlags()
     QVERIFY(mFixture->find("xyz"));
     QVERIFY(!help->isVisible());
     mFixture->field()->clear();
-    QCOMPARE(title->text(), QString("General"));
+    QTRY_COMPARE(title->text(), QString("General"));
     QVERIFY(!help->isVisible());
 }
 

@@ -88,7 +88,10 @@ MtConf::ConfItem *tst_SettingsIndex::addFlag(const char *caption, const QString 
 
 QStringList tst_SettingsIndex::found(const QString &query)
 {
-    mIndex->update();
+    QStringList classes;
+    for (const MtConf::MajorConfItem &major : std::as_const(mManager->majorItems))
+        classes << major.name;
+    mIndex->update(classes);
     QStringList names;
     const QList<int> hits = mIndex->find(SettingsQuery(query));
     for (const int hit : hits) {
