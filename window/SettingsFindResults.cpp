@@ -99,7 +99,9 @@ void SettingsFind::decorate()
             texts.insert(label);
         if (row.caption) {
             texts.insert(row.caption);
-            row.caption->installEventFilter(this);
+            // A click on the caption of a flag switches it.
+            if (row.editor && !qobject_cast<QAbstractButton *>(row.editor->label()))
+                row.caption->installEventFilter(this);
         }
     }
     for (QWidget *text : std::as_const(texts))

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void enterOpensThePageOfTheFocusedRow();
     void enterThatConfirmsAValueStays();
     void doubleClickOpensThePageOfARow();
+    void doubleClickOnAFlagStays_data();
+    void doubleClickOnAFlagStays();
     void openedRowIsScrolledToAndMarked_data();
     void openedRowIsScrolledToAndMarked();
     void arrowKeysLeadToTheResults();
@@ -114,6 +116,34 @@ void tst_FindResults::doubleClickOpensThePageOfARow()
     QTest::mouseDClick(item->editor->label(), Qt::LeftButton);
     QCOMPARE(mFixture->window()->currentClass(), QString("System"));
     QTRY_VERIFY(item->editor->isAncestorOf(mFixture->window()->focusWidget()));
+}
+
+void tst_FindResults::doubleClickOnAFlagStays_data()
+{
+    QTest::addColumn<quint32>("look");
+    QTest::newRow("classic") << quint32(MtConf::ClassicLook);
+    QTest::newRow("modern") << quint32(MtConf::ModernLook);
+}
+
+void tst_FindResults::doubleClickOnAFlagStays()
+{
+    QFETCH(const quint32, look);
+    mFixture->manager->windowLook = MtConf::WindowLook(look);
+    QVERIFY(mFixture->openActive());
+    QVERIFY(mFixture->find("hotkeys"));
+    QWidget *caption = mFixture->hotkeysItem()->editor->label();
+    if (look == MtConf::ModernLook) {
+        const QList<QLabel *> labels = mFixture->window()->findChildren<QLabel *>();
+        for (QLabel *label : labels) {
+            if (label->text() == "Hotkeys work")
+                caption = label;
+        }
+        QVERIFY(qobject_cast<QLabel *>(caption));
+    }
+    QTest::mouseDClick(caption, Qt::LeftButton, {}, QPoint(5, caption->height() / 2));
+    QCoreApplication::processEvents();
+    QVERIFY(mFixture->hasResults());
+    QCOMPARE(mFixture->window()->currentClass(), QString("General"));
 }
 
 void tst_FindResults::openedRowIsScrolledToAndMarked_data()
