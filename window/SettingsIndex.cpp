@@ -118,7 +118,8 @@ void SettingsIndex::update(const QStringList &classes)
     clear();
     mIsBuilt = true;
     mHadExperts = mManager->showExpertItems;
-    // Host code that is called below may change the lists of the manager, or destroy it.
+    // Host code that is called below may change the lists of the manager, or destroy the manager or
+    // the window. The caller keeps the index.
     QHash<QString, QList<ConfItem *>> itemsOf;
     for (const ConfItem &item : std::as_const(mManager->items)) {
         // A loop that is not const would detach the list.

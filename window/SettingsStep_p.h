@@ -66,8 +66,8 @@ private:
     class Entries
     {
     public:
-        /// Adds a change of the operation. An observer may hear a change that another one made in
-        /// answer before the change that caused it.
+        /// Adds a change of the operation. An observer may be notified of a change that another one
+        /// made in answer before the change that caused it.
         void add(const ConfChange &change, bool isDirect);
         /// Adds the later change `entry`.
         void append(const Entry &entry);
