@@ -82,6 +82,7 @@ int drawPictures(const DemoArguments &arguments)
 int main(int argc, char **argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("malto-demo"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quorvi Capture"));
     DemoArguments arguments;
     DemoArguments::Outcome outcome;
     {

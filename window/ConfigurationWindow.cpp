@@ -230,7 +230,10 @@ bool ConfigurationWindow::event(QEvent *event)
 
 void ConfigurationWindow::closeEvent(QCloseEvent *event)
 {
+    const QPointer<ConfigurationWindow> self(this);
     tellFeatures(&WindowFeature::windowClosed);
+    if (!self) // deleted by an observer of what the features have stored
+        return;
     QMainWindow::closeEvent(event);
     if (mManager)
         mManager->saveToFile();

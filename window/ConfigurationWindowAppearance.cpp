@@ -229,7 +229,7 @@ void ConfigurationWindow::retranslateUi()
         QString(), Qt::FindDirectChildrenOnly);
     for (QLabel *label : labels) {
         const QString source = label->property("SourceText").toString();
-        if (!source.isEmpty())
+        if (!source.isEmpty() && label->property("ClassLabel").isValid())
             label->setText(translatedName(source));
     }
     describePage();

@@ -12,10 +12,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -64,6 +66,7 @@ ModernWindow::ModernWindow(ConfigurationWindow *window)
     classList()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     classList()->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     buildTitle();
+    addMoreButton();
     window->installEventFilter(this);
     scrollArea()->viewport()->installEventFilter(this);
     scrollArea()->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -114,6 +117,33 @@ void ModernWindow::setMargins()
     mPage->setContentsMargins(side, scaled(sPageTop), side, scaled(sPageTop));
 }
 
+void ModernWindow::addMoreButton()
+{
+    mMore = new QToolButton(window()->centralWidget());
+    mMore->setObjectName(QStringLiteral("ModernMore"));
+    mMore->setText(QStringLiteral("\u22ef"));
+    mMore->setAutoRaise(true);
+    connect(mMore, &QAbstractButton::clicked, this, &ModernWindow::showMore);
+    classColumn()->addWidget(mMore, 0, Qt::AlignHCenter);
+}
+
+/// Offers the buttons of the column that are hidden, by whatever feature, in a menu.
+void ModernWindow::showMore()
+{
+    auto *menu = new QMenu(window());
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const QList<QPushButton *> buttons = window()->centralWidget()->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->isVisible() || scrollArea()->isAncestorOf(button) || button->text().isEmpty())
+            continue;
+        const QString name = button->accessibleName();
+        QAction *const action = menu->addAction(name.isEmpty() ? button->text() : name);
+        action->setEnabled(button->isEnabled());
+        connect(action, &QAction::triggered, button, &QAbstractButton::click);
+    }
+    menu->popup(mMore->mapToGlobal(mMore->rect().topRight()));
+}
+
 void ModernWindow::setListWidth()
 {
     mIsNarrow = window()->width() < scaled(sNarrowWindow);
@@ -121,6 +151,7 @@ void ModernWindow::setListWidth()
     classList()->setFixedWidth(mIsNarrow ? scaled(sRowHeight) : full);
     mResetAll->setMaximumWidth(full);
     mResetAll->setVisible(!mIsNarrow);
+    mMore->setVisible(mIsNarrow);
     // Of another feature. Its text would widen the column.
     if (auto *changes = window()->findChild<QWidget *>(QStringLiteral("ShowChangesButton")))
         changes->setVisible(!mIsNarrow);
@@ -137,6 +168,8 @@ void ModernWindow::setListWidth()
 void ModernWindow::showTexts()
 {
     mResetPage->setText(tr("Reset this page…"));
+    mMore->setToolTip(tr("More"));
+    mMore->setAccessibleName(mMore->toolTip());
     const QString all = tr("Reset all settings…");
     mResetAll->ensurePolished();
     const int room = classList()->maximumWidth() - scaled(2 * 10);

@@ -7,6 +7,7 @@
 class QFrame;
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 namespace MtConf {
 
@@ -32,6 +33,8 @@ private:
     void placeRestoreButtons();
     void setMargins();
     void setListWidth();
+    void addMoreButton();
+    void showMore();
     void showTexts();
     void showTitle();
     void refreshNotes();
@@ -50,6 +53,7 @@ private:
     QLabel *mTitle = nullptr;
     QLabel *mState = nullptr;
     QFrame *mLine = nullptr;
+    QToolButton *mMore = nullptr; // in a narrow window: the buttons that have no room
     bool mIsNarrow = false;
 };
 

@@ -22,7 +22,32 @@ bool isLocked(const PageRow &row)
 
 } // namespace
 
-RowDetails::RowDetails(ConfigurationWindow *window) : WindowFeature(window) {}
+RowDetails::RowDetails(ConfigurationWindow *window)
+    : WindowFeature(window),
+      mObserver(ConfStorage::instance(), [this](const ConfChange &change) { onChange(change); })
+{
+}
+
+/// A value may be locked while its row is shown, by a file that is loaded later.
+void RowDetails::onChange(const ConfChange &change)
+{
+    for (const PageRow &row : rows()) {
+        if (row.key == change.key && row.editor && !mLocked.contains(row.key) && isLocked(row))
+            showLock(row);
+    }
+}
+
+void RowDetails::showLock(const PageRow &row)
+{
+    addText(row, "RowLocked", lockInWords());
+    row.editor->setRowLocked(true);
+    mLocked.insert(row.key);
+}
+
+void RowDetails::pageCleared()
+{
+    mLocked.clear();
+}
 
 void RowDetails::rowAdded(const PageRow &row)
 {
@@ -30,8 +55,7 @@ void RowDetails::rowAdded(const PageRow &row)
     if (!help.isEmpty())
         addText(row, sHelpClass, help);
     if (isLocked(row)) {
-        addText(row, "RowLocked", lockInWords());
-        row.editor->setRowLocked(true);
+        showLock(row);
     }
     row.editor->installEventFilter(this);
     if (row.caption)

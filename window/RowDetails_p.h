@@ -1,7 +1,9 @@
 #pragma once
 
+#include "MaltoConfiguration/store/StoreObserver_p.h"
 #include "WindowFeature_p.h"
 
+#include <QSet>
 #include <QString>
 
 namespace MtConf {
@@ -17,6 +19,7 @@ public:
 
     void rowAdded(const PageRow &row) override;
     void pageShown() override;
+    void pageCleared() override;
     void retranslate() override;
 
 protected:
@@ -26,7 +29,12 @@ protected:
 private:
     void addText(const PageRow &row, const char *styleClass, const QString &text);
     void describe();
+    void showLock(const PageRow &row);
+    void onChange(const ConfChange &change);
     QString toolTipOf(const PageRow &row) const;
+
+    QSet<QString> mLocked; // keys of rows that say so
+    const StoreObserver mObserver;
 };
 
 } // namespace MtConf

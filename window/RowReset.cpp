@@ -36,6 +36,12 @@ namespace {
 constexpr double sButtonSize = 24; // pixels at 96 dots per inch
 constexpr double sDotSize = 6;     // the same
 
+/// What finds the changed settings.
+QString changedQuery()
+{
+    return QStringLiteral("@changed");
+}
+
 QKeySequence resetKey()
 {
     return QKeySequence(Qt::CTRL | Qt::Key_R);
@@ -110,7 +116,9 @@ void RowReset::rowAdded(const PageRow &row)
 
 void RowReset::pageShown()
 {
-    mChangesButton->setChecked(mIsShowingChanges);
+    const auto *const find = window()->findChild<SettingsFind *>();
+    mChangesButton->setChecked(mIsShowingChanges
+                               || (find && showsItems() && find->query() == changedQuery()));
     updatePageState();
     updateClasses();
 }
@@ -270,7 +278,7 @@ void RowReset::reset(const PageRow &row)
 void RowReset::showChanges(bool isOn)
 {
     if (auto *const find = window()->findChild<SettingsFind *>())
-        find->show(isOn ? QStringLiteral("@changed") : QString());
+        find->show(isOn ? changedQuery() : QString());
     else if (isOn)
         showChangedItems();
     else

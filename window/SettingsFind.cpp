@@ -104,6 +104,11 @@ void SettingsFind::show(const QString &query)
     mField->setText(query);
 }
 
+QString SettingsFind::query() const
+{
+    return mField->text();
+}
+
 void SettingsFind::focusField()
 {
     mButton->hide();

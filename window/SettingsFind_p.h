@@ -28,6 +28,8 @@ public:
 
     /// Puts `query` into the field and shows what it finds.
     void show(const QString &query);
+    /// Returns what the field contains.
+    QString query() const;
 
     void pageShown() override;
     void pageCleared() override;

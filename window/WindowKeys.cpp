@@ -15,7 +15,7 @@ namespace MtConf {
 WindowKeys::WindowKeys(ConfigurationWindow *window) : WindowFeature(window)
 {
     // Fields that record hotkeys, popups and fields that are edited in place take these keys first.
-    addKey(QKeySequence(Qt::Key_Escape), &WindowKeys::close);
+    addKey(QKeySequence(Qt::Key_Escape), &WindowKeys::leave);
     addKey(QKeySequence(Qt::CTRL | Qt::Key_W), &WindowKeys::close);
     addKey(QKeySequence(Qt::CTRL | Qt::Key_Tab), &WindowKeys::showNextPage);
     addKey(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), &WindowKeys::showPreviousPage);
@@ -35,9 +35,18 @@ bool WindowKeys::eventFilter(QObject *watched, QEvent *event)
     // The list of a combo box is hidden by this event already. Parents get it, too.
     if (event->type() == QEvent::ShortcutOverride && QApplication::activePopupWidget())
         mHadPopup = true;
-    else if (event->type() == QEvent::KeyRelease)
-        mHadPopup = false;
+    else if (event->type() == QEvent::KeyRelease || event->type() == QEvent::WindowActivate)
+        mHadPopup = false; // the release may go to another program
     return false;
+}
+
+/// Leaves the results of a search, or else closes.
+void WindowKeys::leave()
+{
+    if (showsItems() && !QApplication::activePopupWidget() && !mHadPopup)
+        rebuildPage();
+    else
+        close();
 }
 
 void WindowKeys::close()

@@ -4,8 +4,9 @@
 
 namespace MtConf {
 
-/// Keys of the window: Escape and Ctrl+W close it, Ctrl+Tab and Ctrl+Shift+Tab show the next and
-/// the previous page, F1 calls the host's help. The last page is remembered in the store.
+/// Keys of the window: Escape and Ctrl+W close it (Escape leaves a search first), Ctrl+Tab and
+/// Ctrl+Shift+Tab show the next and the previous page, F1 calls the host's help. The last page is
+/// remembered in the store.
 class WindowKeys : public WindowFeature
 {
     Q_OBJECT
@@ -20,6 +21,7 @@ protected:
 
 private:
     void addKey(const QKeySequence &key, void (WindowKeys::*action)());
+    void leave();
     void close();
     void showNextPage() { showPageAfter(1); }
     void showPreviousPage() { showPageAfter(-1); }

@@ -15,10 +15,14 @@ for language in en-us de-de zh-cn ar-eg; do
         "$(build_folder default)"/bin/malto-demo --pictures "$work/$language" --language "$language" >/dev/null 2>&1
 done
 
+xvfb-run -a -s '-screen 0 1920x1200x24 -dpi 96' "$(build_folder default)"/bin/malto-demo --classic \
+    --pictures "$work/classic" --language en-us >/dev/null 2>&1
+
 small=(-resize 760x +dither -colors 256 -strip)
 convert "$work/en-us/appearance-light.png" "${small[@]}" docs/pictures/window-light.png
 convert "$work/en-us/appearance-dark.png" "${small[@]}" docs/pictures/window-dark.png
 convert "$work/ar-eg/appearance-light.png" "${small[@]}" docs/pictures/window-rtl.png
+convert "$work/classic/appearance-light.png" "${small[@]}" docs/pictures/window-classic.png
 
 frames=()
 for frame in en-us/mouse-light en-us/mouse-dark de-de/mouse-dark zh-cn/mouse-dark ar-eg/mouse-dark \

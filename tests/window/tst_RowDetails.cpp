@@ -124,6 +124,17 @@ private Q_SLOTS:
         QVERIFY(mFlag->editor->isEnabled());
     }
 
+    void rowsThatAreLockedLaterSaySo()
+    {
+        QVERIFY(mFixture->open());
+        QVERIFY(mNumber->editor->isEnabled());
+        WindowFixture::store()->lockConf(mNumber->getFullName(), 9);
+        QVERIFY(!mNumber->editor->isEnabled());
+        QCOMPARE(texts("RowLocked").size(), 1);
+        WindowFixture::store()->lockConf(mNumber->getFullName(), 8);
+        QCOMPARE(texts("RowLocked").size(), 1);
+    }
+
     void lockedRowsStayDisabledWhenADependencyChanges()
     {
         mFixture->manager->getItemByName("General", "Delay", QString())->dependsOn(mFlag, true);

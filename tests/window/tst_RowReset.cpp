@@ -170,6 +170,29 @@ private Q_SLOTS:
         QCOMPARE(WindowFixture::captions(), QStringList{"Other"});
     }
 
+    void aNarrowModernWindowOffersItsButtonsInAMenu()
+    {
+        mFixture->manager->windowLook = ModernLook;
+        QVERIFY(mFixture->openActive());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        WindowFixture::window()->resize(900, 500);
+        auto *more = WindowFixture::child<QToolButton>("ModernMore");
+        QTRY_VERIFY(showChanges()->isVisible() && !more->isVisible());
+        QTRY_VERIFY(showChanges()->isEnabled());
+        WindowFixture::window()->resize(690, 500);
+        QTRY_VERIFY(!showChanges()->isVisible() && more->isVisible());
+        QTest::mouseClick(more, Qt::LeftButton);
+        auto *menu = WindowFixture::window()->findChild<QMenu *>();
+        QVERIFY(menu);
+        QStringList texts;
+        for (QAction *action : menu->actions())
+            texts << action->text();
+        QCOMPARE(texts, (QStringList{QString::fromUtf8("Reset all settings…"), "Show changed"}));
+        menu->actions().last()->trigger();
+        menu->close();
+        QTRY_VERIFY(mNumber->editor && !mFlag->editor);
+    }
+
     void showChangedUsesFindIfTheHostHasIt()
     {
         mFixture->manager->windowFeatures = ResetFeature | FindFeature;
@@ -179,6 +202,11 @@ private Q_SLOTS:
         QTest::mouseClick(showChanges(), Qt::LeftButton);
         QCOMPARE(WindowFixture::child<QLineEdit>("FindField")->text(), QString("@changed"));
         QTRY_VERIFY(mNumber->editor && !mFlag->editor);
+        QVERIFY(showChanges()->isChecked());
+        QTest::mouseClick(showChanges(), Qt::LeftButton);
+        QTRY_VERIFY(mFlag->editor);
+        QCOMPARE(WindowFixture::child<QLineEdit>("FindField")->text(), QString());
+        QVERIFY(!showChanges()->isChecked());
     }
 
     void aButtonThatComesLaterIsInTheTabOrder()

@@ -51,6 +51,21 @@ private Q_SLOTS:
         QVERIFY(WindowFixture::window()->isVisible());
     }
 
+    void escapeLeavesASearchFirst()
+    {
+        mFixture->manager->windowFeatures |= ResetFeature;
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QVERIFY(mFixture->openActive());
+        QTest::mouseClick(WindowFixture::child<QPushButton>("ShowChangesButton"), Qt::LeftButton);
+        QCOMPARE(WindowFixture::captions(), QStringList{"General"});
+        WindowFixture::checkBox(mFlag)->setFocus();
+        press(Qt::Key_Escape, 0);
+        QVERIFY(WindowFixture::window()->isVisible());
+        QVERIFY(!WindowFixture::child<QPushButton>("ShowChangesButton")->isChecked());
+        press(Qt::Key_Escape, 0);
+        QTRY_VERIFY(!WindowFixture::window());
+    }
+
     void escapeClosesAPopupFirst()
     {
         ConfItem *item = mFixture->manager->addConfInt32WithCombobox("Choice", {"One", "Two"},
