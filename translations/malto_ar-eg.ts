@@ -429,6 +429,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Reset all settings…</source>
         <translation>استعادة كل الإعدادات…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>المزيد</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
         <source>Reset all settings…</source>
         <translation>Alles zurücksetzen&#xa0;…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
         <source>Reset all settings…</source>
         <translation>Reset all settings…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>More</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
         <source>Reset all settings…</source>
         <translation>Restaurar todo…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

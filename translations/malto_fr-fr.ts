@@ -417,6 +417,10 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>Reset all settings…</source>
         <translation>Tout rétablir…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

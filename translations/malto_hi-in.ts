@@ -417,6 +417,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Reset all settings…</source>
         <translation>सभी पुनर्स्थापित करें…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>अधिक</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
         <source>Reset all settings…</source>
         <translation>Ripristina tutto…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -414,6 +414,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Reset all settings…</source>
         <translation>すべてデフォルトに戻す…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

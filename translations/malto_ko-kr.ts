@@ -414,6 +414,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Reset all settings…</source>
         <translation>모든 설정 복원…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

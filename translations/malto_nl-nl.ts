@@ -417,6 +417,10 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>Reset all settings…</source>
         <translation>Alles herstellen…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Meer</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -420,6 +420,10 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
         <source>Reset all settings…</source>
         <translation>Przywróć wszystko…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Więcej</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
         <source>Reset all settings…</source>
         <translation>Restaurar tudo…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mais</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -420,6 +420,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Reset all settings…</source>
         <translation>Сбросить всё…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

@@ -417,6 +417,10 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
         <source>Reset all settings…</source>
         <translation>Återställ allt…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Mer</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>

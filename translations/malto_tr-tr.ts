@@ -414,6 +414,10 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
         <source>Reset all settings…</source>
         <translation>Tüm ayarları sıfırla…</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Daha fazla</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ResetQuestion</name>
