@@ -58,6 +58,8 @@ ImportExport::ImportExport(ConfigurationWindow *window)
       mLayout(new QBoxLayout(QBoxLayout::LeftToRight, mFoot)),
       mImport(newButton("btnImport", mFoot)), mExport(newButton("btnExport", mFoot))
 {
+    // Below each other, the stretch would take the room of the list.
+    mFoot->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     mLayout->setContentsMargins(0, 0, 0, 0);
     mLayout->setSpacing(0);
     mLayout->addWidget(mImport, 0, Qt::AlignLeft);
