@@ -13,7 +13,16 @@ namespace {
 
 constexpr int sMaxNotifyDepth = 200; // as for callbacks
 
-ConfChange::State stateOf(const ConfStorage &store, const QString &key)
+QDateTime timeOf(const ConfStorage &store, const QString &key)
+{
+    const auto meta = store.mConfMetas.constFind(key);
+    return meta != store.mConfMetas.constEnd() ? meta->lastChangeTime
+                                               : store.mRemovedDynamicConfs.value(key);
+}
+
+} // namespace
+
+ConfChange::State ConfObservers::stateOf(const ConfStorage &store, const QString &key)
 {
     ConfChange::State state;
     const auto value = store.mConfValues.constFind(key);
@@ -25,15 +34,6 @@ ConfChange::State stateOf(const ConfStorage &store, const QString &key)
                       && (meta->flags & ConfStorage::FlagIsDefault);
     return state;
 }
-
-QDateTime timeOf(const ConfStorage &store, const QString &key)
-{
-    const auto meta = store.mConfMetas.constFind(key);
-    return meta != store.mConfMetas.constEnd() ? meta->lastChangeTime
-                                               : store.mRemovedDynamicConfs.value(key);
-}
-
-} // namespace
 
 int ConfObservers::add(ConfObserver observer)
 {

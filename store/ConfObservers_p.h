@@ -13,6 +13,9 @@
 class ConfObservers
 {
 public:
+    /// Returns the present state of `key` in `store`.
+    static ConfChange::State stateOf(const ConfStorage &store, const QString &key);
+
     int add(ConfObserver observer);
     void remove(int id);
     void removeAll() { mObservers.clear(); }

@@ -1,5 +1,6 @@
 #include "SettingsStep_p.h"
 
+#include "MaltoConfiguration/store/ConfObservers_p.h"
 #include "MaltoConfiguration/store/StoreObserver_p.h"
 
 #include <MaltoConfiguration/store/ConfOperation.h>
@@ -31,19 +32,6 @@ bool isReached(const ConfChange::State &current, const ConfChange::State &wanted
     const bool areDefault = current.isPresent && current.isDefault && wanted.isPresent
                             && wanted.isDefault;
     return areDefault || isEqual(current, wanted);
-}
-
-ConfChange::State stateOf(const ConfStorage &store, const QString &key)
-{
-    ConfChange::State state;
-    const auto value = store.mConfValues.constFind(key);
-    state.isPresent = value != store.mConfValues.constEnd();
-    if (state.isPresent && value->mType != ConfValue::TyNone)
-        state.value = value->toJsonValue();
-    const auto meta = store.mConfMetas.constFind(key);
-    state.isDefault = meta != store.mConfMetas.constEnd()
-                      && (meta->flags & ConfStorage::FlagIsDefault);
-    return state;
 }
 
 /// Returns the timestamp of a key or of its tombstone in the store, or null.
@@ -227,7 +215,7 @@ void SettingsStep::apply(Side from, Side to)
     }
     // A constraint may have changed a value. The way back begins with what is there now.
     for (const QString &key : keys) {
-        const State current = stateOf(*mStore, key);
+        const State current = ConfObservers::stateOf(*mStore, key);
         Entry &entry = *mEntries.find(key);
         if (current.isPresent && (entry.*to).isPresent && !isEqual(current, entry.*from))
             entry.*to = current;
@@ -249,7 +237,7 @@ QStringList SettingsStep::ownKeys(Side from, Side to)
     for (const Entry &entry : std::as_const(mEntries.list)) {
         if (mStore->isLocked(entry.key))
             continue;
-        const State current = stateOf(*mStore, entry.key);
+        const State current = ConfObservers::stateOf(*mStore, entry.key);
         const bool isDone = isReached(current, entry.*to);
         const bool isOwn = hasSameValue(current, entry.*from);
         if (isOwn && !isDone)
@@ -269,7 +257,7 @@ void SettingsStep::reach(const QStringList &keys, Side to)
         isComplete = true;
         for (const QString &key : keys) {
             const State wanted = mEntries.find(key)->*to;
-            if (isReached(stateOf(*mStore, key), wanted))
+            if (isReached(ConfObservers::stateOf(*mStore, key), wanted))
                 continue;
             isComplete = false;
             restore(key, wanted);
