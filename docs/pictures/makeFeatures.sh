@@ -24,12 +24,12 @@ xdotool windowactivate --sync "$window"
 
 # A picture has no certain moment: the window is drawn when two pictures of it are equal.
 take() {
-    local before=
-    until import -window "$window" "$work/next.png" && [ "$(md5sum <"$work/next.png")" = "$before" ]; do
-        before=$(md5sum <"$work/next.png")
+    rm -f "$work/before.ppm"
+    until import -window "$window" "$work/next.ppm" && cmp -s "$work/next.ppm" "$work/before.ppm"; do
+        mv "$work/next.ppm" "$work/before.ppm"
         sleep 0.3
     done
-    cp "$work/next.png" "$folder/$1.png"
+    convert "$work/next.ppm" "$folder/$1.png"
 }
 keys() { xdotool key --clearmodifiers "$@"; }
 

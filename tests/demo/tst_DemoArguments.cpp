@@ -179,8 +179,9 @@ void tst_DemoArguments::classicWindowIsShownOnRequest()
 void tst_DemoArguments::picturesShowTheConfiguration()
 {
     QVERIFY(write("tips.json", R"({"General.Tips": false})"));
-    QCOMPARE(run({"--pictures", "before"}).exitCode, 0);
-    QCOMPARE(run({"--pictures", "after", "--config", "tips.json"}).exitCode, 0);
+    // The modern window marks the changed page on all pages.
+    QCOMPARE(run({"--pictures", "before", "--classic"}).exitCode, 0);
+    QCOMPARE(run({"--pictures", "after", "--config", "tips.json", "--classic"}).exitCode, 0);
     QVERIFY(QImage("before/general-light.png") != QImage("after/general-light.png"));
     QCOMPARE(QImage("before/mouse-light.png"), QImage("after/mouse-light.png"));
 }

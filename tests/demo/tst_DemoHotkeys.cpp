@@ -78,7 +78,7 @@ void tst_DemoHotkeys::recordedHotkeyWorksInOtherProgramsAndAfterARestart()
         other.type({sControl, sAlt, sK});
         QTRY_COMPARE(activated.count(), 1);
         QCOMPARE(window.statusBar()->currentMessage(),
-                 QStringLiteral("Hotkey pressed: Pick a colour (Ctrl+Alt+K)"));
+                 QStringLiteral("Hotkey pressed: Pick a color (Ctrl+Alt+K)"));
         const auto *table = window.findChild<QTableView *>("boundValues");
         QCOMPARE(table->selectionModel()->selectedRows().value(0).data().toString(),
                  QStringLiteral("Hotkeys.Tools.PickColor"));
