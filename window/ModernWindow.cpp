@@ -152,6 +152,9 @@ void ModernWindow::setListWidth()
     mResetAll->setMaximumWidth(full);
     mResetAll->setVisible(!mIsNarrow);
     mMore->setVisible(mIsNarrow);
+    // Beside icons it would cover them.
+    classList()->setVerticalScrollBarPolicy(mIsNarrow ? Qt::ScrollBarAlwaysOff
+                                                      : Qt::ScrollBarAsNeeded);
     // Of another feature. Its text would widen the column.
     if (auto *changes = window()->findChild<QWidget *>(QStringLiteral("ShowChangesButton")))
         changes->setVisible(!mIsNarrow);
