@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>Restore presets</source>
-        <translation>Восстановить стандартные</translation>
+        <translation>Вернуть стандартные</translation>
     </message>
     <message>
         <source>There is no profile.
