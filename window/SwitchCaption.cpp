@@ -39,19 +39,25 @@ SwitchCaption::SwitchCaption(QCheckBox *box, QSize size, QWidget *parent)
     followState();
 }
 
+/// To be called while the check box exists.
+QCheckBox *SwitchCaption::box() const
+{
+    return static_cast<QCheckBox *>(mBox.data());
+}
+
 void SwitchCaption::followText()
 {
     if (mBox)
-        setText(withoutMark(mBox->text()));
+        setText(withoutMark(box()->text()));
 }
 
 void SwitchCaption::followState()
 {
-    setEnabled(mBox->isEnabled());
-    setToolTip(mBox->toolTip());
-    if (property(sChanged) == mBox->property(sChanged))
+    setEnabled(box()->isEnabled());
+    setToolTip(box()->toolTip());
+    if (property(sChanged) == box()->property(sChanged))
         return;
-    setProperty(sChanged, mBox->property(sChanged));
+    setProperty(sChanged, box()->property(sChanged));
     style()->unpolish(this);
     style()->polish(this);
 }
@@ -79,25 +85,25 @@ void SwitchCaption::mousePressEvent(QMouseEvent *event)
 void SwitchCaption::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && mBox) {
-        mBox->setFocus(Qt::MouseFocusReason);
-        mBox->click(); // a callback may delete this caption
+        box()->setFocus(Qt::MouseFocusReason);
+        box()->click(); // a callback may delete this caption
     }
 }
 
 void SwitchCaption::drawSwitch() const
 {
     const QThemeCtrl *const themes = QThemeCtrl::instance();
-    const bool isOn = mBox->checkState() == Qt::Checked;
+    const bool isOn = box()->checkState() == Qt::Checked;
     QColor track = themes->color(isOn ? QStringLiteral("ModernAccent")
                                       : QStringLiteral("ModernFieldLine"));
-    if (mBox->isEnabled() && mBox->underMouse())
+    if (box()->isEnabled() && box()->underMouse())
         track = themes->isDark() ? track.lighter(112) : track.darker(112);
 
-    QPainter painter(mBox);
+    QPainter painter(box());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setOpacity(mBox->isEnabled() ? 1 : sDisabledOpacity);
-    const QRectF whole(mBox->rect());
+    painter.setOpacity(box()->isEnabled() ? 1 : sDisabledOpacity);
+    const QRectF whole(box()->rect());
     painter.setBrush(track);
     painter.drawRoundedRect(whole, whole.height() / 2, whole.height() / 2);
 
@@ -105,9 +111,9 @@ void SwitchCaption::drawSwitch() const
     const double side = whole.height() - 2 * margin;
     const double way = whole.width() - 2 * margin - side;
     double moved = isOn ? way : 0;
-    if (mBox->checkState() == Qt::PartiallyChecked)
+    if (box()->checkState() == Qt::PartiallyChecked)
         moved = way / 2;
-    if (mBox->isRightToLeft())
+    if (box()->isRightToLeft())
         moved = way - moved;
     painter.setBrush(themes->color(QStringLiteral("ModernKnob")));
     painter.drawEllipse(QRectF(margin + moved, margin, side, side));

@@ -31,7 +31,10 @@ private:
     void followState();
     void drawSwitch() const;
 
-    const QPointer<QCheckBox> mBox;
+    QCheckBox *box() const;
+
+    // Not of the class: the destructor of the base class sends events, too.
+    const QPointer<QWidget> mBox;
 };
 
 } // namespace MtConf

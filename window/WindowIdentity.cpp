@@ -15,6 +15,17 @@ namespace {
 
 constexpr QSize sMinimumSize(480, 320); // pixels at 96 dots per inch
 
+/// Returns whether sizes can be computed with `geometry`, which may come from any file.
+bool isUsable(const QRect &geometry)
+{
+    constexpr int sFarthest = 1000000;
+    for (const int edge : {geometry.left(), geometry.top(), geometry.right(), geometry.bottom()}) {
+        if (edge < -sFarthest || edge > sFarthest)
+            return false;
+    }
+    return geometry.isValid();
+}
+
 } // namespace
 
 WindowIdentity::WindowIdentity(ConfigurationWindow *window) : WindowFeature(window)
@@ -36,7 +47,7 @@ void WindowIdentity::retranslate()
 void WindowIdentity::restoreGeometry()
 {
     const QRect saved = WindowMemory::instance()->geometry();
-    const QRect geometry = saved.isValid() ? QRect(saved.topLeft(), QSize(scaled(saved.width()),
+    const QRect geometry = isUsable(saved) ? QRect(saved.topLeft(), QSize(scaled(saved.width()),
                                                                           scaled(saved.height())))
                                            : window()->geometry();
     const QScreen *screen = QGuiApplication::screenAt(geometry.center());
