@@ -41,6 +41,16 @@ private Q_SLOTS:
     void modernLookHasATitleAndMarksFlags();
 
 private:
+    /// Declares switches named "Switch0" and so on.
+    void addSwitches(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            mNames.push_back(QString("Switch%1").arg(i).toUtf8());
+            mFixture->addBool(mNames.back().constData(), "", "Many");
+        }
+    }
+
+    std::vector<QByteArray> mNames; // labels outlive their items
     std::unique_ptr<FindFixture> mFixture;
     int mNumber = 5;
     QString mText;
@@ -157,8 +167,7 @@ void tst_FindResults::openedRowIsScrolledToAndMarked()
 {
     QFETCH(bool, isEnabled);
     constexpr int sMany = 60;
-    for (int i = 0; i < sMany; ++i)
-        mFixture->addBool(qPrintable(QString("Switch%1").arg(i)), "", "Many");
+    addSwitches(sMany);
     std::vector<int> numbers(1, 3);
     ConfItem *last = mFixture->manager->addConfInt32("The last one", &numbers[0], "Many", "Last");
     last->dependsOn(mFixture->tipsItem(), isEnabled);
@@ -304,8 +313,7 @@ void tst_FindResults::sameResultsKeepTheirRows()
 void tst_FindResults::fewRowsAreBuiltAtATime()
 {
     constexpr int sMany = 120;
-    for (int i = 0; i < sMany; ++i)
-        mFixture->addBool(qPrintable(QString("Switch%1").arg(i)), "", "Many");
+    addSwitches(sMany);
     QVERIFY(mFixture->openActive());
     QVERIFY(mFixture->find("switch"));
     QCOMPARE(mFixture->hint()->text(), QString("120 of 124"));
