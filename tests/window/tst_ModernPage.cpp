@@ -133,6 +133,7 @@ void tst_ModernPage::conflictOfGesturesIsSaidInWords()
     QVERIFY(words);
     QCOMPARE(words->text(), QString("Conflict with Rival"));
     QCOMPARE(words->focusPolicy(), Qt::NoFocus);
+    mHost.reset(); // before the variable
 }
 
 void tst_ModernPage::dependentRowSaysWhatItNeeds()
@@ -152,6 +153,7 @@ void tst_ModernPage::dependentRowSaysWhatItNeeds()
     QTest::mouseClick(mHost->control<QCheckBox>("Flag"), Qt::LeftButton, {}, QPoint(10, 10));
     QVERIFY(!note("Distance", sReason));
     QCOMPARE(note("Words", sReason)->text(), QString("Not with “Flag”"));
+    mHost.reset(); // before the variables
 }
 
 void tst_ModernPage::chosenEntriesAreListedAsAText()
