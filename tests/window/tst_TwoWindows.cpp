@@ -66,7 +66,8 @@ public:
             output << QJsonDocument(report()).toJson(QJsonDocument::Compact) << Qt::endl;
             if (input.readLine() != QLatin1String("again"))
                 return 0;
-            // Shows what the other program has saved.
+            // Without waiting for the file watcher.
+            store()->loadLocalConfFile();
             store()->saveToLocalConfFile();
             QCoreApplication::processEvents();
         }
