@@ -22,7 +22,7 @@ ConfAutosave::ConfAutosave(ConfStorage *store, int quietTime)
     : mStore(store), mQuietTime(quietTime), mContext(std::make_unique<QObject>()),
       mApplicationStart([this] { start(); })
 {
-    mObserver = mStore->addObserver([this](const ConfChange &) { noteChange(); });
+    mObserver = ConfObservers::of(*mStore)->addSimple([this](const ConfChange &) { noteChange(); });
 }
 
 ConfAutosave::~ConfAutosave()

@@ -18,8 +18,8 @@
 
 ConfFileSharing::ConfFileSharing(ConfStorage &store) : mStore(store)
 {
-    mObserver = store.addObserver([this](const ConfChange &change) { observe(change); });
-    mObservers = store.mObservers;
+    mObservers = ConfObservers::of(store);
+    mObserver = mObservers->addSimple([this](const ConfChange &change) { observe(change); });
     useFile(store.mLocalSaveFile); // what was loaded before from elsewhere is to be saved
 }
 

@@ -11,6 +11,7 @@
 #include "LockedConfs_p.h"
 #include "MergeTies_p.h"
 #include "PlainDump_p.h"
+#include "PlainValue_p.h"
 #include "StrictTypes_p.h"
 
 #include <QDebug>
@@ -102,6 +103,14 @@ void ConfLoad::forgetPosition()
     mNextMeta.reset();
 }
 
+/// Returns the key of the member. It is probably that of the next value, which needs no new text.
+QString ConfLoad::keyOf(const PlainMember &member) const
+{
+    const bool isNext = mNextValue && *mNextValue != mStore.mConfValues.end()
+                        && mNextValue->key() == member.nameText();
+    return isNext ? mNextValue->key() : member.key();
+}
+
 bool ConfLoad::loadText(const QByteArray &text)
 {
     constexpr qint64 sMostGrowth = 6; // of a control character, which becomes an escape
@@ -110,7 +119,7 @@ bool ConfLoad::loadText(const QByteArray &text)
     if (const auto members = readPlainDump(text, mTimes)) {
         loadKeptOfClasses(mStore);
         for (const PlainMember &member : *members)
-            load(member.key(), member);
+            load(keyOf(member), member);
         loadFormer();
         return true;
     }
@@ -307,6 +316,13 @@ template<class Member> bool ConfLoad::loadDynamic(const QString &key, const Memb
     return mergeDynamic(key, member, cls);
 }
 
+/// Returns whether nothing looks at a new value of the key before it is set and when it is set.
+bool ConfLoad::isUnwatched(const QString &key) const
+{
+    return mIsSavable && !ConfObservers::areStatesNeeded(mStore)
+           && !(mStore.mConstraints && mStore.mConstraints->contains(key));
+}
+
 template<class Member> void ConfLoad::loadStatic(const QString &key, const Member &member)
 {
     const std::optional<qint64> time = member.time();
@@ -338,6 +354,13 @@ template<class Member> void ConfLoad::loadStatic(const QString &key, const Membe
                           : mStore.mConfMetas.insert(key, ConfStorage::ConfMeta());
     if (!mIsLocal && (meta->flags & ConfStorage::FlagLocalOnly))
         return;
+    if (!meta->changedCallback && isUnwatched(key) && setPlainValue(member, &*stored)) {
+        ++mReport.taken;
+        meta->lastChangeTime = timeOfChange(time);
+        meta->flags &= ~ConfStorage::FlagIsDefault;
+        ConfObservers::tellLoaded(mStore, key, meta->lastChangeTime);
+        return;
+    }
     QJsonValue value = newValue(member);
     if (!mIsSavable && isRefused(key, value, mStore.mMaxFileSize))
         return;

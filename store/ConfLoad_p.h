@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+struct PlainMember;
+
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
 /// wins, and a tie keeps the stored one, or is decided by `ConfStorage::ResolveTies`.
 ///
@@ -107,6 +109,8 @@ private:
     bool isBeyondLimits(const QString &key);
     void refuse(const QString &key, ConfLoadReport::Reason reason);
     bool isDeclared(const QString &key) const;
+    bool isUnwatched(const QString &key) const;
+    QString keyOf(const PlainMember &member) const;
     bool hasNoRoom(const QString &name, const QJsonValue &entry);
     bool keeps(const QString &name) const;
     void keep(const QString &name, const QJsonValue &entry);

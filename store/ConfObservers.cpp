@@ -35,10 +35,41 @@ ConfChange::State ConfObservers::stateOf(const ConfStorage &store, const QString
     return state;
 }
 
+std::shared_ptr<ConfObservers> ConfObservers::of(ConfStorage &store)
+{
+    if (!store.mObservers)
+        store.mObservers = std::make_shared<ConfObservers>();
+    return store.mObservers;
+}
+
 int ConfObservers::add(ConfObserver observer)
 {
-    mObservers.append({++mLastId, std::move(observer)});
+    return add(std::move(observer), false);
+}
+
+int ConfObservers::addSimple(ConfObserver observer)
+{
+    return add(std::move(observer), true);
+}
+
+int ConfObservers::add(ConfObserver observer, bool isSimple)
+{
+    mObservers.append({++mLastId, std::move(observer), isSimple});
+    update();
     return mLastId;
+}
+
+/// Call it after each change of the list.
+void ConfObservers::update()
+{
+    mNeedsStates = !std::all_of(mObservers.cbegin(), mObservers.cend(),
+                                [](const Entry &entry) { return entry.isSimple; });
+}
+
+void ConfObservers::removeAll()
+{
+    mObservers.clear();
+    update();
 }
 
 void ConfObservers::remove(int id)
@@ -46,6 +77,7 @@ void ConfObservers::remove(int id)
     const auto isRemoved = [id](const Entry &entry) { return entry.id == id; };
     mObservers.erase(std::remove_if(mObservers.begin(), mObservers.end(), isRemoved),
                      mObservers.end());
+    update();
 }
 
 const ConfObservers::Entry *ConfObservers::find(int id) const
@@ -105,13 +137,17 @@ void ConfObservers::end()
     mCauses.removeLast();
 }
 
+/// Returns the cause of the running operation, or `cause` if it has none.
+ConfChange::Cause ConfObservers::causeOf(ConfChange::Cause cause) const
+{
+    return mCauses.isEmpty() ? cause : mCauses.last().value_or(cause);
+}
+
 std::shared_ptr<ConfChange> ConfObservers::newChange(const ConfStorage &store, const QString &key,
                                                      ConfChange::Cause cause)
 {
     const std::shared_ptr<ConfObservers> observers = store.mObservers;
-    ConfChange::Cause actualCause = cause;
-    if (!observers->mCauses.isEmpty() && observers->mCauses.last())
-        actualCause = *observers->mCauses.last();
+    const ConfChange::Cause actualCause = observers->causeOf(cause);
     observers->begin(std::nullopt);
     const auto end = [observers](ConfChange *change) {
         observers->end();
@@ -123,6 +159,21 @@ std::shared_ptr<ConfChange> ConfObservers::newChange(const ConfStorage &store, c
     change->before = stateOf(store, key);
     change->operation = observers->mLastOperation;
     return change;
+}
+
+void ConfObservers::tellLoaded(const ConfStorage &store, const QString &key, const QDateTime &time)
+{
+    const std::shared_ptr<ConfObservers> observers = store.mObservers;
+    if (!observers)
+        return;
+    ConfChange change;
+    change.key = key;
+    change.cause = observers->causeOf(ConfChange::Cause::Loaded);
+    change.time = time;
+    change.operation = observers->mLastOperation;
+    const HostCode code(observers); // as in finishChange, so that observers see the same depth
+    for (const Entry &entry : std::as_const(observers->mObservers))
+        entry.observer(change);
 }
 
 bool ConfObservers::isLoading(const ConfStorage &store)
@@ -179,9 +230,7 @@ int ConfStorage::addObserver(ConfObserver observer)
 {
     if (mMisuse)
         checkUse("addObserver");
-    if (!mObservers)
-        mObservers = std::make_shared<ConfObservers>();
-    return mObservers->add(std::move(observer));
+    return ConfObservers::of(*this)->add(std::move(observer));
 }
 
 void ConfStorage::removeObserver(int id)

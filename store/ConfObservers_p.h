@@ -13,12 +13,18 @@
 class ConfObservers
 {
 public:
+    /// Returns the observers of `store`, and creates them if there were none.
+    static std::shared_ptr<ConfObservers> of(ConfStorage &store);
+
     /// Returns the present state of `key` in `store`.
     static ConfChange::State stateOf(const ConfStorage &store, const QString &key);
 
     int add(ConfObserver observer);
+    /// The same for one of the library, which neither looks at the states of a change nor changes
+    /// the store. If there are only such, loads need not compute states and keep their position.
+    int addSimple(ConfObserver observer);
     void remove(int id);
-    void removeAll() { mObservers.clear(); }
+    void removeAll();
 
     /// Begins an operation, whose direct changes have the cause `cause`, or that of the operation
     /// around it if it is null. Each call needs one of `end`.
@@ -33,6 +39,13 @@ public:
     {
         return store.mObservers ? newChange(store, key, cause) : nullptr;
     }
+    /// Returns whether an observer may look at the states of changes, or change the store.
+    static bool areStatesNeeded(const ConfStorage &store)
+    {
+        return store.mObservers && store.mObservers->mNeedsStates;
+    }
+    /// Calls the simple observers for a loaded value, which nobody else has to hear of.
+    static void tellLoaded(const ConfStorage &store, const QString &key, const QDateTime &time);
     /// Returns how many calls of host code are nested now. An observer is one of them.
     int hostDepth() const { return mHostDepth; }
     /// Returns whether a load is running. False if nobody observes `store`.
@@ -58,8 +71,12 @@ private:
     {
         int id;
         ConfObserver observer;
+        bool isSimple;
     };
 
+    int add(ConfObserver observer, bool isSimple);
+    void update();
+    ConfChange::Cause causeOf(ConfChange::Cause cause) const;
     void beginHostCode();
     void endHostCode();
     static std::shared_ptr<ConfChange> newChange(const ConfStorage &store, const QString &key,
@@ -70,6 +87,7 @@ private:
 
     QVector<Entry> mObservers;
     int mLastId = 0;
+    bool mNeedsStates = false;
     int mNotifyDepth = 0;
     int mHostDepth = 0;
     bool mIsStopped = false;

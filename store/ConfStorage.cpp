@@ -49,7 +49,7 @@ void ConfStorage::clear()
     new (this) ConfStorage;
 }
 
-void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current)
+void ConfStorage::reserveValue(const QString &key, ConfValue &&bound, ConfValue &&current)
 {
     if (mMisuse)
         checkUse("reserveConf");
@@ -58,25 +58,27 @@ void ConfStorage::reserveValue(const QString &key, const ConfValue &bound, const
                                                          : key;
     if (mConstraints && mConfValues.contains(exactKey))
         mConstraints->set(exactKey, nullptr);
-    mConfValues[exactKey] = bound;
 
     ConfMeta meta;
     if (isDynamicWithoutPreset(key))
         meta.flags &= ~FlagIsDefault;
     const auto preset = mPresetDynamicConfs.constFind(key);
     if (preset == mPresetDynamicConfs.constEnd()) {
-        meta.defaultValue = current;
-    } else if (MtConf::jsonOperations(bound.mType)) {
-        meta.defaultValue = current;
-        meta.defaultValue.loadFromJsonValue(*preset);
-        if (meta.defaultValue != bound)
-            meta.flags &= ~FlagIsDefault;
+        meta.defaultValue = std::move(current);
     } else {
-        meta.defaultValue = ConfValue::owned(preset->toObject());
+        if (MtConf::jsonOperations(bound.mType)) {
+            meta.defaultValue = std::move(current);
+            meta.defaultValue.loadFromJsonValue(*preset);
+        } else {
+            meta.defaultValue = ConfValue::owned(preset->toObject());
+        }
         if (meta.defaultValue != bound)
             meta.flags &= ~FlagIsDefault;
     }
-    mConfMetas[exactKey] = meta;
+    // insert() because operator[] searches twice for a new key, and an empty value because a copy
+    // of a bound one asks Qt's meta-type system.
+    *mConfValues.insert(exactKey, ConfValue()) = std::move(bound);
+    mConfMetas.insert(exactKey, meta);
     if (mFileSharing)
         mFileSharing->addReserved(exactKey);
     if (isLocked(exactKey))

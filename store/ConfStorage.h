@@ -490,7 +490,7 @@ private:
     friend class ConfFileSharing;
     friend class ShadowStore;
     using ChangePtr = std::shared_ptr<ConfChange>;
-    void reserveValue(const QString &key, const ConfValue &bound, const ConfValue &current);
+    void reserveValue(const QString &key, ConfValue &&bound, ConfValue &&current);
     bool loadValue(const QString &key, const QJsonValue &json);
     void markUserChange(const QString &key, ConfValue *value, const ChangePtr &change);
     ChangePtr beginSet(const QString &key) const;

@@ -46,8 +46,7 @@ template<class T> QJsonValue toJson(const T &value)
 
 void fromJson(const QJsonValue &json, QColor &color)
 {
-    const QString text = json.toString();
-    color = text == QLatin1String("None") ? QColor() : QColor::fromRgba(text.toUInt(nullptr, 16));
+    color = readColorText(json.toString());
 }
 void fromJson(const QJsonValue &json, int &number)
 {

@@ -137,8 +137,8 @@ public:
     ConfType mType = TyNone; ///< the type of the value
 
 private:
-    ConfValue(const QVariant &value, bool isPtr, ConfType type)
-        : mValue(value), mIsPtr(isPtr), mType(type)
+    ConfValue(QVariant &&value, bool isPtr, ConfType type)
+        : mValue(std::move(value)), mIsPtr(isPtr), mType(type)
     {
     }
 

@@ -130,6 +130,51 @@ void appendObject(QByteArray &text, const QJsonObject &object)
     text += '}';
 }
 
+/// Returns the number of four hexadecimal digits, or -1.
+int numberOfDigits(const QChar *digits)
+{
+    int number = 0;
+    for (int i = 0; i < 4; ++i) {
+        const ushort digit = digits[i].unicode();
+        const ushort letter = digit | 0x20; // in lower case
+        if (digit >= '0' && digit <= '9')
+            number = 16 * number + digit - '0';
+        else if (letter >= 'a' && letter <= 'f')
+            number = 16 * number + letter - 'a' + 10;
+        else
+            return -1;
+    }
+    return number;
+}
+
+/// Sets `*character` to that of the escape whose backslash is before `*in`, and moves `*in` behind
+/// the escape. Returns false for an escape that is left to Qt's parser.
+bool unescapeOne(const QChar **in, const QChar *end, QChar *character)
+{
+    constexpr int sDigits = 4;
+    const QChar kind = *(*in)++;
+    switch (kind.unicode()) {
+    case '"':
+    case '\\':
+    case '/': *character = kind; return true;
+    case 'b': *character = QLatin1Char('\b'); return true;
+    case 'f': *character = QLatin1Char('\f'); return true;
+    case 'n': *character = QLatin1Char('\n'); return true;
+    case 'r': *character = QLatin1Char('\r'); return true;
+    case 't': *character = QLatin1Char('\t'); return true;
+    case 'u': break;
+    default: return false;
+    }
+    if (end - *in < sDigits)
+        return false;
+    const int number = numberOfDigits(*in);
+    if (number < 0 || QChar::isSurrogate(static_cast<uint>(number)))
+        return false;
+    *character = QChar(static_cast<ushort>(number));
+    *in += sDigits;
+    return true;
+}
+
 } // namespace
 
 void appendJsonString(QByteArray &text, const QString &string)
@@ -147,6 +192,26 @@ void appendJsonString(QByteArray &text, const QString &string)
         *out++ = static_cast<char>(character.unicode());
     }
     *out = '"';
+}
+
+bool unescape(QString *text)
+{
+    const auto first = text->indexOf(QLatin1Char('\\'));
+    if (first < 0)
+        return true;
+    QChar *const begin = text->data();
+    QChar *out = begin + first;
+    const QChar *const end = begin + text->size();
+    for (const QChar *in = out; in != end;) {
+        if (*in != QLatin1Char('\\')) {
+            *out++ = *in++;
+            continue;
+        }
+        if (++in == end || !unescapeOne(&in, end, out++))
+            return false;
+    }
+    text->truncate(static_cast<QString::size_type>(out - begin));
+    return true;
 }
 
 void appendJsonValue(QByteArray &text, const QJsonValue &value)

@@ -15,6 +15,10 @@ class QString;
 /// Appends `string` in quotes.
 void appendJsonString(QByteArray &text, const QString &string);
 
+/// Replaces the escapes of a JSON string in place. Returns false, with any content, for invalid
+/// escapes and for those of surrogates, which are left to Qt's parser.
+bool unescape(QString *text);
+
 /// Appends a value of any type.
 void appendJsonValue(QByteArray &text, const QJsonValue &value);
 

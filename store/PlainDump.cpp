@@ -1,45 +1,78 @@
 #include "PlainDump_p.h"
 
+#include "JsonText_p.h"
+
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace {
 
 constexpr int sMostDigits = 18;  // any number with so many digits fits into 64 bits
 constexpr int sMostLevels = 500; // fewer than QJsonDocument supports
+constexpr QLatin1String sByteOrderMark("\xef\xbb\xbf");
 
-/// Returns whether a byte of a JSON string is a whole character without an escape.
-bool isPlain(char byte)
+/// What a byte is in a JSON string.
+enum ByteKind : uchar {
+    Plain,       ///< a character without an escape
+    BeyondAscii, ///< part of a character in UTF-8
+    Backslash,
+    Quote,
+    Control ///< not allowed, and DEL, about which Qt's parser decides
+};
+
+constexpr ByteKind kindOfByte(int byte)
 {
-    return byte >= 0x20 && byte < 0x7f && byte != '"' && byte != '\\';
+    if (byte == '"')
+        return Quote;
+    if (byte == '\\')
+        return Backslash;
+    if (byte >= 0x80)
+        return BeyondAscii;
+    return byte < 0x20 || byte == 0x7f ? Control : Plain;
 }
 
-bool isBeyondAscii(char byte)
+constexpr std::array<ByteKind, 256> kindsOfBytes()
 {
-    return static_cast<uchar>(byte) >= 0x80;
+    std::array<ByteKind, 256> kinds{};
+    for (int byte = 0; byte < 256; ++byte)
+        kinds[static_cast<size_t>(byte)] = kindOfByte(byte);
+    return kinds;
 }
 
-bool isPlainOrBeyondAscii(char byte)
+ByteKind kindOf(char byte)
 {
-    return isPlain(byte) || isBeyondAscii(byte);
+    static constexpr std::array<ByteKind, 256> sKinds = kindsOfBytes();
+    return sKinds[static_cast<uchar>(byte)];
 }
 
-QString textOf(std::string_view utf8)
+/// Returns the first byte of another kind.
+const char *endOfPlain(const char *start, const char *end)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<QString::size_type>(utf8.size()));
+    while (start != end && kindOf(*start) == Plain)
+        ++start;
+    return start;
 }
 
-/// Returns whether the text is valid UTF-8. False as well for text that contains the replacement
-/// character itself: Qt's parser decides about it.
-bool isUnbroken(std::string_view utf8)
+QLatin1String latin1(std::string_view bytes)
 {
-    return std::none_of(utf8.begin(), utf8.end(), isBeyondAscii)
-           || !textOf(utf8).contains(QChar::ReplacementCharacter);
+    return QLatin1String(bytes.data(), static_cast<QString::size_type>(bytes.size()));
+}
+
+/// Returns the text of a string in JSON, or null if Qt's parser has to decide about it: if the
+/// bytes are not valid UTF-8, contain the replacement character itself or a byte order mark, or if
+/// it has unusual escapes.
+QString decoded(std::string_view json)
+{
+    QString text = QString::fromUtf8(json.data(), static_cast<QString::size_type>(json.size()));
+    if (text.contains(QChar::ReplacementCharacter) || latin1(json).startsWith(sByteOrderMark)
+        || !unescape(&text))
+        return QString();
+    return text;
 }
 
 /// Parses a text from start to end. If one function fails, the whole text is rejected.
@@ -57,7 +90,8 @@ public:
 
 private:
     bool isNext(char byte) const { return mNext != mEnd && *mNext == byte; }
-    bool takeQuoted(std::string_view *inside, bool (*isInside)(char));
+    bool takeName(std::string_view *name);
+    bool takeString(PlainMember *member);
     bool takeNumber(qint64 *number);
     bool takeSeconds(qint64 *seconds);
     bool takeValue(PlainMember *member);
@@ -79,15 +113,41 @@ bool Scanner::take(QLatin1String literal)
     return true;
 }
 
-bool Scanner::takeQuoted(std::string_view *inside, bool (*isInside)(char))
+bool Scanner::takeName(std::string_view *name)
 {
     if (!isNext('"'))
         return false;
     const char *const start = mNext + 1;
-    const char *const end = std::find_if_not(start, mEnd, isInside);
+    const char *const end = endOfPlain(start, mEnd);
     if (end == mEnd || *end != '"')
         return false;
-    *inside = std::string_view(start, static_cast<size_t>(end - start));
+    *name = std::string_view(start, static_cast<size_t>(end - start));
+    mNext = end + 1;
+    return true;
+}
+
+bool Scanner::takeString(PlainMember *member)
+{
+    if (!isNext('"'))
+        return false;
+    const char *const start = mNext + 1;
+    const char *end = endOfPlain(start, mEnd);
+    const bool isItself = end != mEnd && *end == '"'; // whether each byte is a character
+    while (end != mEnd && *end != '"') {
+        if (*end == '\\' && ++end == mEnd)
+            return false;
+        if (kindOf(*end) == Control)
+            return false;
+        end = endOfPlain(end + 1, mEnd);
+    }
+    if (end == mEnd)
+        return false;
+    member->string = std::string_view(start, static_cast<size_t>(end - start));
+    if (!isItself) {
+        member->decoded = decoded(member->string);
+        if (member->decoded.isNull())
+            return false;
+    }
     mNext = end + 1;
     return true;
 }
@@ -121,6 +181,7 @@ bool Scanner::takeValue(PlainMember *member)
         return true;
     mNext = start;
     member->string = std::string_view();
+    member->decoded = QString();
     return takeParsedValue(member);
 }
 
@@ -134,7 +195,7 @@ bool Scanner::takePlainValue(PlainMember *member)
     else if (take(QLatin1String("false")))
         member->otherValue = false;
     else
-        return takeQuoted(&member->string, isPlainOrBeyondAscii) && isUnbroken(member->string);
+        return takeString(member);
     return true;
 }
 
@@ -183,7 +244,7 @@ const char *Scanner::endOfValue() const
 
 bool Scanner::takeMember(PlainMember *member)
 {
-    if (!takeQuoted(&member->name, isPlain) || !take(QLatin1String(":{")))
+    if (!takeName(&member->name) || !take(QLatin1String(":{")))
         return false;
     member->isRemoval = take(sRemovedKey.inText());
     if (!member->isRemoval && !take(sTimeKey.inText()))
@@ -198,9 +259,9 @@ bool Scanner::takeMember(PlainMember *member)
 
 } // namespace
 
-QString PlainMember::key() const
+QString PlainMember::text() const
 {
-    return QString::fromLatin1(name.data(), static_cast<QString::size_type>(name.size()));
+    return decoded.isNull() ? QString(latin1(string)) : decoded;
 }
 
 std::optional<qint64> PlainMember::time() const
@@ -215,7 +276,7 @@ std::optional<qint64> PlainMember::removalTime() const
 
 QJsonValue PlainMember::value() const
 {
-    return string.data() ? QJsonValue(textOf(string)) : otherValue;
+    return isText() ? QJsonValue(text()) : otherValue;
 }
 
 QJsonValue PlainMember::entry() const
@@ -232,7 +293,9 @@ QJsonValue PlainMember::entry() const
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text, TimeRange times)
 {
     Scanner scanner(text, times);
+    constexpr QByteArray::size_type sUsualSize = 64; // of a member
     std::vector<PlainMember> members;
+    members.reserve(static_cast<size_t>(text.size() / sUsualSize));
     if (!scanner.take(QLatin1String("{")))
         return std::nullopt;
     do {

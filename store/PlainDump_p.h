@@ -3,6 +3,7 @@
 #include "DumpMember_p.h"
 
 #include <QJsonValue>
+#include <QLatin1String>
 #include <QString>
 
 #include <optional>
@@ -15,18 +16,25 @@ class QByteArray;
 /// `ParsedMember` and return the same.
 struct PlainMember
 {
-    QString key() const;
+    QString key() const { return nameText(); }
+    QLatin1String nameText() const
+    {
+        return QLatin1String(name.data(), static_cast<QString::size_type>(name.size()));
+    }
     /// Always true: `readPlainDump` accepts no other entries.
     bool isObject() const { return true; }
     std::optional<qint64> time() const;
     std::optional<qint64> removalTime() const;
     QJsonValue value() const;
     QJsonValue entry() const;
+    bool isText() const { return string.data() != nullptr; } ///< whether the value is a string
+    QString text() const;                                    ///< the string
 
     std::string_view name; ///< in ASCII
     qint64 seconds = 0;
     bool isRemoval = false;  ///< `seconds` are those of "d" and not of "t"
-    std::string_view string; ///< a string value without escapes in UTF-8, or else null
+    std::string_view string; ///< a string value in UTF-8, or else null
+    QString decoded;         ///< the same without escapes, if the bytes are not its characters
     QJsonValue otherValue{QJsonValue::Undefined};
 };
 
@@ -35,7 +43,7 @@ struct PlainMember
 ///
 /// Accepts text as the library writes it: compact, members in the order of their names, names of
 /// printable ASCII, times first and in range. QJsonDocument parses single values that are neither a
-/// whole number, a boolean nor a string without escapes. Any other text is refused: nothing is
+/// whole number, a boolean nor a string with usual escapes. Any other text is refused: nothing is
 /// returned, and the caller uses QJsonDocument. Both parsers accept the same texts and produce the
 /// same values.
 std::optional<std::vector<PlainMember>> readPlainDump(const QByteArray &text,

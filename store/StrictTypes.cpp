@@ -5,7 +5,6 @@
 
 #include <QDebug>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -18,24 +17,10 @@ bool isInt(const QJsonValue &json)
            && number <= std::numeric_limits<int>::max();
 }
 
-bool isColor(const QString &text)
-{
-    constexpr int sMostDigits = 8;
-    if (text == QLatin1String("None"))
-        return true;
-    const auto isHexDigit = [](QChar character) {
-        return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
-               || (character >= QLatin1Char('a') && character <= QLatin1Char('f'))
-               || (character >= QLatin1Char('A') && character <= QLatin1Char('F'));
-    };
-    return !text.isEmpty() && text.size() <= sMostDigits
-           && std::all_of(text.begin(), text.end(), isHexDigit);
-}
-
 bool isFont(const QString &text)
 {
     QFont font;
-    return !toQt5FontText(text).isNull() && readFontText(text, &font) && hasUsableSize(font);
+    return parseFontText(text, &font) && hasUsableSize(font);
 }
 
 /// The number of a text that `appendJsonValue` writes for a number that JSON does not have.
@@ -53,7 +38,7 @@ std::optional<QJsonValue> numberOf(const QString &text)
 bool fits(const QJsonValue &json, ConfValue::ConfType type)
 {
     switch (type) {
-    case ConfValue::TyQColor: return json.isString() && isColor(json.toString());
+    case ConfValue::TyQColor: return json.isString() && isColorText(json.toString());
     case ConfValue::TyInt32: return isInt(json);
     case ConfValue::TyQreal: return json.isDouble();
     case ConfValue::TyBool: return json.isBool();

@@ -84,6 +84,14 @@ bool isModifierAlone(int chord)
     return key >= Qt::Key_Shift && key <= Qt::Key_Alt;
 }
 
+bool hasModifierAlone(const QKeySequence &keys)
+{
+    bool isFound = false;
+    for (int i = 0; i < keys.count() && !isFound; ++i)
+        isFound = isModifierAlone(QtCompat::chordAt(keys, i));
+    return isFound;
+}
+
 QString chordText(int chord)
 {
     if (!isModifierAlone(chord))
@@ -155,17 +163,18 @@ int qt5Weight(int openTypeWeight)
 
 QString toQt5FontText(const QString &text)
 {
-    const QStringList fields = text.trimmed().split(QLatin1Char(','));
-    if (fields.first().isEmpty())
+    constexpr QLatin1Char sComma(',');
+    const QString fields = text.trimmed();
+    if (fields.isEmpty() || fields.startsWith(sComma))
         return QString();
-    switch (fields.size()) {
+    switch (fields.count(sComma) + 1) {
     case 1:
     case 2:
     case 10:
     case 11: return text;
-    case 9: return withPixelSize(fields).join(QLatin1Char(','));
+    case 9: return withPixelSize(fields.split(sComma)).join(sComma);
     case 16:
-    case 17: return withoutQt6Fields(fields).join(QLatin1Char(','));
+    case 17: return withoutQt6Fields(fields.split(sComma)).join(sComma);
     default: return QString();
     }
 }
@@ -184,26 +193,30 @@ QString toFontText(const QFont &font)
     return fields.join(QLatin1Char(','));
 }
 
-bool readFontText(const QString &text, QFont *font)
+bool parseFontText(const QString &text, QFont *font)
 {
     const QString qt5Text = toQt5FontText(text);
-    if (qt5Text.isNull()) {
-        if (EntryLog::permits())
-            qWarning().nospace().noquote()
-                << "QFont::fromString: Invalid description '"
-                << (text.isEmpty() ? QStringLiteral("(empty)")
-                                   : EntryLog::printable(text, Limits::sMaxLoggedLength))
-                << '\'';
+    if (qt5Text.isNull() || !font->fromString(qt5Text))
         return false;
-    }
-    if (!font->fromString(qt5Text))
-        return false;
-    const QStringList fields = qt5Text.split(QLatin1Char(','));
-    if (fields.size() >= sQt5Fields) {
-        const int weight = qBound(0, fields.at(sWeightField).toInt(), 99);
+    if (qt5Text.count(QLatin1Char(',')) + 1 >= sQt5Fields) {
+        const QString field = qt5Text.section(QLatin1Char(','), sWeightField, sWeightField);
+        const int weight = qBound(0, field.toInt(), 99);
         QtCompat::setWeight(font, weight, openTypeWeight(weight));
     }
     return true;
+}
+
+bool readFontText(const QString &text, QFont *font)
+{
+    if (parseFontText(text, font))
+        return true;
+    if (EntryLog::permits())
+        qWarning().nospace().noquote()
+            << "QFont::fromString: Invalid description '"
+            << (text.isEmpty() ? QStringLiteral("(empty)")
+                               : EntryLog::printable(text, Limits::sMaxLoggedLength))
+            << '\'';
+    return false;
 }
 
 bool hasUsableSize(const QFont &font)
@@ -219,11 +232,10 @@ bool hasUsableSize(const QFont &font)
 
 QString toKeysText(const QKeySequence &keys)
 {
-    const QVector<int> chords = chordsOf(keys);
-    if (std::none_of(chords.begin(), chords.end(), isModifierAlone))
+    if (!hasModifierAlone(keys))
         return keys.toString(QKeySequence::PortableText);
     QStringList texts;
-    for (const int chord : chords)
+    for (const int chord : chordsOf(keys))
         texts.append(chordText(chord));
     return texts.join(QLatin1String(", "));
 }
@@ -231,12 +243,31 @@ QString toKeysText(const QKeySequence &keys)
 QKeySequence readKeysText(const QString &text)
 {
     const QKeySequence keys = QKeySequence::fromString(text, QKeySequence::PortableText);
-    QVector<int> chords = chordsOf(keys);
-    if (std::none_of(chords.begin(), chords.end(), isModifierAlone))
+    if (!hasModifierAlone(keys))
         return keys;
+    QVector<int> chords = chordsOf(keys);
     std::replace_if(chords.begin(), chords.end(), isModifierAlone, int(Qt::Key_unknown));
     chords.resize(sMostChords); // the others are 0, which is no chord
     return QKeySequence(chords[0], chords[1], chords[2], chords[3]);
+}
+
+bool isColorText(const QString &text)
+{
+    constexpr int sMostDigits = 8;
+    if (text == QLatin1String("None"))
+        return true;
+    const auto isHexDigit = [](QChar character) {
+        return (character >= QLatin1Char('0') && character <= QLatin1Char('9'))
+               || (character >= QLatin1Char('a') && character <= QLatin1Char('f'))
+               || (character >= QLatin1Char('A') && character <= QLatin1Char('F'));
+    };
+    return !text.isEmpty() && text.size() <= sMostDigits
+           && std::all_of(text.begin(), text.end(), isHexDigit);
+}
+
+QColor readColorText(const QString &text)
+{
+    return text == QLatin1String("None") ? QColor() : QColor::fromRgba(text.toUInt(nullptr, 16));
 }
 
 QRgb toRgba(const QColor &color)

@@ -25,6 +25,9 @@ QString toFontText(const QFont &font);
 /// neither.
 bool readFontText(const QString &text, QFont *font);
 
+/// The same without a message.
+bool parseFontText(const QString &text, QFont *font);
+
 /// Returns whether text can be drawn in this font. QFont::fromString accepts sizes such as "inf"
 /// and a thousand million points, with which a program stalls or draws nothing.
 bool hasUsableSize(const QFont &font);
@@ -47,6 +50,13 @@ QString toKeysText(const QKeySequence &keys);
 /// Reads a portable text as Qt 5 does: a chord that ends in the name of a modifier becomes
 /// `Qt::Key_unknown`.
 QKeySequence readKeysText(const QString &text);
+
+/// Returns whether `text` is what `readColorText` reads: "None", or up to eight hexadecimal digits.
+bool isColorText(const QString &text);
+
+/// Returns the colour whose ARGB value has these hexadecimal digits, or an invalid one for "None".
+/// Any other text is read as 0.
+QColor readColorText(const QString &text);
 
 /// Returns the ARGB value of `color` as the QColor::rgba() of Qt 5 computes it. That of Qt 6
 /// computes with less precision, and so one in about a thousand colours that are defined by hue and
