@@ -24,21 +24,24 @@ set_qt_packages() {
         macos_qt=qt
         QT_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
                      qt6-translations-l10n)
+        WAYLAND_PACKAGES=(weston qt6-wayland)
         KCONFIG_PACKAGES=()
     else
         macos_qt=qt@5
         QT_PACKAGES=(qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n)
+        WAYLAND_PACKAGES=(weston qtwayland5)
         KCONFIG_PACKAGES=(libkf5config-dev)
     fi
     MACOS_PACKAGES=(cmake ninja "$macos_qt" pkgconf google-benchmark)
     BUILD_PACKAGES=(g++ cmake ninja-build pkg-config "${QT_PACKAGES[@]}"
-                    libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev)
+                    libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev libxkbcommon-dev)
+    TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
+                   x11-xkb-utils librapidcheck-dev libbenchmark-dev clang-format shellcheck
+                   dbus-daemon xdg-desktop-portal "${WAYLAND_PACKAGES[@]}")
     BENCHMARK_PACKAGES=(libbenchmark-dev python3 ${KCONFIG_PACKAGES[@]+"${KCONFIG_PACKAGES[@]}"})
 }
 
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core fonts-liberation fonts-noto-core fonts-noto-cjk)
-TEST_PACKAGES=(python3 python3-fonttools python3-jsonschema doxygen libxcb-xtest0-dev openbox x11-utils
-               x11-xkb-utils librapidcheck-dev libbenchmark-dev clang-format shellcheck)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm)
 set_qt_packages
 

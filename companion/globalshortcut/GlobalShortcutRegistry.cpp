@@ -1,8 +1,13 @@
 #include "GlobalShortcutRegistry_p.h"
 
+#include <QDynamicPropertyChangeEvent>
 #include <QGuiApplication>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QVariant>
+#include <QWindow>
 
-#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -11,7 +16,44 @@ namespace {
 // objects of this library.
 GlobalShortcutRegistry *sInstance = nullptr;
 
+constexpr const char *sRecords = "recordsHotkeys"; // property of a focus object
+
 } // namespace
+
+/// Tells that the focus object begins or ends to record without a change of the focus.
+class GlobalShortcutRegistry::RecordingWatch : public QObject
+{
+public:
+    using Changed = std::function<void(QObject *focus)>;
+
+    explicit RecordingWatch(Changed changed) : mChanged(std::move(changed)) {}
+
+    /// Watches `focus` instead of the former object; null is allowed.
+    void watch(QObject *focus)
+    {
+        if (mFocus == focus)
+            return;
+        if (mFocus)
+            mFocus->removeEventFilter(this);
+        mFocus = focus;
+        if (focus)
+            focus->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::DynamicPropertyChange
+            && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == sRecords)
+            mChanged(watched);
+        return false;
+    }
+
+private:
+    const Changed mChanged;
+    QPointer<QObject> mFocus;
+};
+
+GlobalShortcutRegistry::GlobalShortcutRegistry() = default;
 
 std::shared_ptr<GlobalShortcutRegistry> GlobalShortcutRegistry::instance()
 {
@@ -25,7 +67,7 @@ std::shared_ptr<GlobalShortcutRegistry> GlobalShortcutRegistry::instance()
 GlobalShortcutRegistry::~GlobalShortcutRegistry()
 {
     sInstance = nullptr;
-    QObject::disconnect(mApplicationGone);
+    disconnect();
 }
 
 bool GlobalShortcutRegistry::isSupported()
@@ -33,65 +75,65 @@ bool GlobalShortcutRegistry::isSupported()
     return backend().isSupported();
 }
 
-void GlobalShortcutRegistry::add(int chord, User *user)
+QString GlobalShortcutRegistry::add(const GlobalShortcutBackend::Action &action, User *user)
 {
-    Entry &entry = mEntries[chord];
-    entry.users.append(user);
-    if (!entry.held.isEmpty())
-        return;
-    take(chord, entry);
-    if (!entry.held.isEmpty())
-        announce(entry, user);
+    GlobalShortcutBackend &system = backend();
+    GlobalShortcutBackend::Action unique = action;
+    while (mEntries.count(unique.id) > 0)
+        unique.id = action.id + QLatin1Char('-') + QString::number(++mDuplicates);
+    mEntries[unique.id] = {unique, {}, user};
+    const QScopedValueRollback<const User *> caller(mCaller, user);
+    system.add(unique);
+    return unique.id;
 }
 
-void GlobalShortcutRegistry::remove(int chord, User *user)
+void GlobalShortcutRegistry::change(const GlobalShortcutBackend::Action &action)
 {
-    const auto found = mEntries.find(chord);
+    GlobalShortcutBackend &system = backend();
+    Entry &entry = mEntries[action.id];
+    if (entry.action.chord != action.chord)
+        entry.result = {};
+    entry.action = action;
+    const QScopedValueRollback<const User *> caller(mCaller, entry.user);
+    system.change(action);
+}
+
+void GlobalShortcutRegistry::remove(const QString &id)
+{
+    mEntries.erase(id);
+    if (mBackend)
+        mBackend->remove(id);
+}
+
+GlobalShortcutBackend::Result GlobalShortcutRegistry::result(const QString &id) const
+{
+    const auto found = mEntries.find(id);
+    return found == mEntries.end() ? GlobalShortcutBackend::Result() : found->second.result;
+}
+
+void GlobalShortcutRegistry::resultChanged(const QString &id,
+                                           const GlobalShortcutBackend::Result &result)
+{
+    const auto found = mEntries.find(id);
     if (found == mEntries.end())
         return;
-    Entry &entry = found->second;
-    entry.users.removeOne(user);
-    if (!entry.users.isEmpty())
+    found->second.result = result;
+    User *const user = found->second.user;
+    if (user != mCaller)
+        QMetaObject::invokeMethod(
+            user, [user] { user->resultChanged(); }, Qt::QueuedConnection);
+}
+
+void GlobalShortcutRegistry::activated(const QString &id, const QString &activationToken)
+{
+    const auto found = mEntries.find(id);
+    if (found == mEntries.end())
         return;
-    giveBack(entry);
-    mEntries.erase(found);
-}
-
-bool GlobalShortcutRegistry::isRegistered(int chord) const
-{
-    const auto found = mEntries.find(chord);
-    return found != mEntries.end() && !found->second.held.isEmpty();
-}
-
-void GlobalShortcutRegistry::keyPressed(quint32 key, quint32 modifiers)
-{
-    const auto isPressed = [=](const KeyCombination &held) { return held.matches(key, modifiers); };
-    for (const auto &[chord, entry] : mEntries) {
-        if (!std::any_of(entry.held.cbegin(), entry.held.cend(), isPressed))
-            continue;
-        // Queued, so that a receiver may delete anything, and so that a deleted user is not called.
-        for (User *user : entry.users) {
-            const auto tell = [user, pressed = chord] { user->pressed(pressed); };
-            QMetaObject::invokeMethod(user, tell, Qt::QueuedConnection);
-        }
-    }
-}
-
-void GlobalShortcutRegistry::keyboardChanged()
-{
-    std::map<int, bool> before;
-    // First release all outdated combinations: the new ones may overlap them.
-    for (auto &[chord, entry] : mEntries) {
-        before[chord] = !entry.held.isEmpty();
-        if (entry.held != backend().combinations(chord))
-            giveBack(entry);
-    }
-    for (auto &[chord, entry] : mEntries) {
-        if (entry.held.isEmpty())
-            take(chord, entry);
-        if (before[chord] == entry.held.isEmpty())
-            announce(entry);
-    }
+    // Queued, so that a receiver may delete anything, and so that a deleted user is not called.
+    User *const user = found->second.user;
+    const int chord = found->second.action.chord;
+    QMetaObject::invokeMethod(
+        user, [=] { user->pressed(chord, activationToken); }, Qt::QueuedConnection);
 }
 
 GlobalShortcutBackend &GlobalShortcutRegistry::backend()
@@ -103,52 +145,50 @@ GlobalShortcutBackend &GlobalShortcutRegistry::backend()
         return mNoBackend;
     mApplicationGone = QObject::connect(qApp, &QObject::destroyed, qApp,
                                         [this] { applicationGone(); });
+    mFocusChanged = QObject::connect(qApp, &QGuiApplication::focusObjectChanged, qApp,
+                                     [this](QObject *focus) { focusChanged(focus); });
+    mWatch = std::make_unique<RecordingWatch>([this](QObject *focus) { focusChanged(focus); });
     mBackend = GlobalShortcutBackend::create(*this);
+    focusChanged(QGuiApplication::focusObject());
+    // What was requested with an earlier application object, or without one for windows.
+    for (const auto &[id, entry] : mEntries)
+        mBackend->add(entry.action);
     return *mBackend;
+}
+
+void GlobalShortcutRegistry::focusChanged(QObject *focus)
+{
+    QObject::disconnect(mWindowChanged);
+    mWatch->watch(focus);
+    const bool isRecording = focus && focus->property(sRecords).toBool();
+    // Qt 6 does not tell that a window loses the focus because it is closed.
+    if (const QWindow *window = QGuiApplication::focusWindow(); window && isRecording)
+        mWindowChanged = QObject::connect(window, &QWindow::visibleChanged, qApp,
+                                          [this](bool isVisible) { windowChanged(isVisible); });
+    mBackend->suspend(isRecording);
+}
+
+// A window that is shown again need not get the focus.
+void GlobalShortcutRegistry::windowChanged(bool isVisible)
+{
+    mWatch->watch(nullptr);
+    if (isVisible)
+        focusChanged(QGuiApplication::focusObject());
+    else
+        mBackend->suspend(false);
 }
 
 void GlobalShortcutRegistry::applicationGone()
 {
-    QObject::disconnect(mApplicationGone);
-    for (auto &[chord, entry] : mEntries)
-        giveBack(entry);
+    disconnect();
     mBackend.reset();
+    for (auto &[id, entry] : mEntries)
+        entry.result = {QxtGlobalShortcut::NoBackend, QString()};
 }
 
-// Different chords may need the same combination, for example "Ctrl+!" and "Ctrl+Shift+1".
-bool GlobalShortcutRegistry::isHeld(const KeyCombination &combination) const
+void GlobalShortcutRegistry::disconnect()
 {
-    return std::any_of(mEntries.cbegin(), mEntries.cend(), [&combination](const auto &item) {
-        return item.second.held.contains(combination);
-    });
-}
-
-void GlobalShortcutRegistry::take(int chord, Entry &entry)
-{
-    const QVector<KeyCombination> wanted = backend().combinations(chord);
-    for (const KeyCombination &combination : wanted) {
-        if (!isHeld(combination) && !backend().grab(combination)) {
-            giveBack(entry);
-            return;
-        }
-        entry.held.append(combination);
-    }
-}
-
-void GlobalShortcutRegistry::giveBack(Entry &entry)
-{
-    const QVector<KeyCombination> given = std::exchange(entry.held, {});
-    for (const KeyCombination &combination : given) {
-        if (!isHeld(combination))
-            backend().ungrab(combination);
-    }
-}
-
-void GlobalShortcutRegistry::announce(const Entry &entry, const User *except)
-{
-    for (User *user : entry.users) {
-        if (user != except)
-            QMetaObject::invokeMethod(
-                user, [user] { user->registrationChanged(); }, Qt::QueuedConnection);
-    }
+    for (const auto &connection : {mFocusChanged, mWindowChanged, mApplicationGone})
+        QObject::disconnect(connection);
+    mWatch.reset();
 }

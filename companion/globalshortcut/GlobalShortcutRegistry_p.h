@@ -4,63 +4,75 @@
 #include "NullShortcutBackend_p.h"
 
 #include <QObject>
-#include <QVector>
 
 #include <map>
 #include <memory>
 
-/// All requested chords, each registered with the system once. Shared: the last owner deletes it.
-/// GUI thread only.
+/// All requested hotkeys of the process, each an action of the system's backend. Shared: the last
+/// owner deletes it. GUI thread only.
+///
+/// While the focus object has the property "recordsHotkeys" with the value true, the
+/// backend is suspended.
 class GlobalShortcutRegistry final : private GlobalShortcutBackend::Listener,
                                      public std::enable_shared_from_this<GlobalShortcutRegistry>
 {
 public:
-    /// Requests chords. The virtual functions are called from the event loop, never from `add` or
-    /// `remove`.
+    /// Requests an action. The virtual functions are called from the event loop, never from `add`,
+    /// `change` or `remove`.
     class User : public QObject
     {
     public:
         using QObject::QObject;
-        /// Called after `chord` was pressed, if this user had requested it at that time.
-        virtual void pressed(int chord) = 0;
-        /// Called after `isRegistered` has changed, unless by a call of this user.
-        virtual void registrationChanged() = 0;
+        /// Called after `chord`, the preferred keys at that time, was pressed.
+        virtual void pressed(int chord, const QString &activationToken) = 0;
+        /// Called after `result` has changed, unless by a call of this user.
+        virtual void resultChanged() = 0;
     };
 
     /// Returns the registry of the process; creates it if there is none.
     static std::shared_ptr<GlobalShortcutRegistry> instance();
 
-    GlobalShortcutRegistry() = default;
+    GlobalShortcutRegistry();
     ~GlobalShortcutRegistry();
     Q_DISABLE_COPY(GlobalShortcutRegistry)
 
-    /// Returns whether chords can be registered at all.
+    /// Returns whether actions can be registered at all.
     bool isSupported();
-    /// Adds a user of `chord` and tries to register the chord if it is not registered.
-    void add(int chord, User *user);
-    /// Removes a user of `chord` and releases the chord with the last one.
-    void remove(int chord, User *user);
-    /// Returns whether `chord` is registered.
-    bool isRegistered(int chord) const;
+    /// Registers an action of `user` and returns its id: the one in `action`, with a number if
+    /// another action has the same.
+    QString add(const GlobalShortcutBackend::Action &action, User *user);
+    /// Replaces the description and the keys of the action with this id, or tries again to register
+    /// it if it has failed.
+    void change(const GlobalShortcutBackend::Action &action);
+    /// Releases an action.
+    void remove(const QString &id);
+    /// Returns the state of a registered action.
+    GlobalShortcutBackend::Result result(const QString &id) const;
 
 private:
+    class RecordingWatch;
     struct Entry
     {
-        QVector<KeyCombination> held; // all combinations of the chord, or none
-        QVector<User *> users;
+        GlobalShortcutBackend::Action action;
+        GlobalShortcutBackend::Result result;
+        User *user = nullptr;
     };
 
-    void keyPressed(quint32 key, quint32 modifiers) override;
-    void keyboardChanged() override;
+    void resultChanged(const QString &id, const GlobalShortcutBackend::Result &result) override;
+    void activated(const QString &id, const QString &activationToken) override;
     GlobalShortcutBackend &backend();
+    void focusChanged(QObject *focus);
+    void windowChanged(bool isVisible);
     void applicationGone();
-    bool isHeld(const KeyCombination &combination) const;
-    void take(int chord, Entry &entry);
-    void giveBack(Entry &entry);
-    static void announce(const Entry &entry, const User *except = nullptr);
+    void disconnect();
 
-    std::map<int, Entry> mEntries;
-    NullShortcutBackend mNoBackend;
+    std::map<QString, Entry> mEntries; // by id
+    const User *mCaller = nullptr;     // reads its result itself
+    int mDuplicates = 0;               // of ids
+    NullShortcutBackend mNoBackend{*this};
     std::unique_ptr<GlobalShortcutBackend> mBackend;
+    std::unique_ptr<RecordingWatch> mWatch; // exists with the backend
+    QMetaObject::Connection mFocusChanged;
+    QMetaObject::Connection mWindowChanged; // of the field that records
     QMetaObject::Connection mApplicationGone;
 };

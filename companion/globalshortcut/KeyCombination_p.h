@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include <tuple>
+
 /// A key of the keyboard with modifiers, in the system's own codes, as a backend registers it.
 struct KeyCombination
 {
@@ -20,5 +22,10 @@ struct KeyCombination
         return key == other.key && modifiers == other.modifiers && ignored == other.ignored;
     }
     bool operator!=(const KeyCombination &other) const { return !(*this == other); }
+    bool operator<(const KeyCombination &other) const
+    {
+        return std::tie(key, modifiers, ignored)
+               < std::tie(other.key, other.modifiers, other.ignored);
+    }
 };
 Q_DECLARE_TYPEINFO(KeyCombination, Q_PRIMITIVE_TYPE);

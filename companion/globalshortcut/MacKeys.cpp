@@ -1,8 +1,11 @@
 #include "MacKeys_p.h"
 
 #include "Chord_p.h"
+#include "MacLayout_p.h"
 
 #include <Carbon/Carbon.h>
+
+#include <QChar>
 
 #include <algorithm>
 #include <iterator>
@@ -16,75 +19,8 @@ struct KeyRow
     quint32 shift; // needed to type the symbol
 };
 
-constexpr KeyRow sMainKeys[] = {
-    {Qt::Key_A, kVK_ANSI_A, 0},
-    {Qt::Key_B, kVK_ANSI_B, 0},
-    {Qt::Key_C, kVK_ANSI_C, 0},
-    {Qt::Key_D, kVK_ANSI_D, 0},
-    {Qt::Key_E, kVK_ANSI_E, 0},
-    {Qt::Key_F, kVK_ANSI_F, 0},
-    {Qt::Key_G, kVK_ANSI_G, 0},
-    {Qt::Key_H, kVK_ANSI_H, 0},
-    {Qt::Key_I, kVK_ANSI_I, 0},
-    {Qt::Key_J, kVK_ANSI_J, 0},
-    {Qt::Key_K, kVK_ANSI_K, 0},
-    {Qt::Key_L, kVK_ANSI_L, 0},
-    {Qt::Key_M, kVK_ANSI_M, 0},
-    {Qt::Key_N, kVK_ANSI_N, 0},
-    {Qt::Key_O, kVK_ANSI_O, 0},
-    {Qt::Key_P, kVK_ANSI_P, 0},
-    {Qt::Key_Q, kVK_ANSI_Q, 0},
-    {Qt::Key_R, kVK_ANSI_R, 0},
-    {Qt::Key_S, kVK_ANSI_S, 0},
-    {Qt::Key_T, kVK_ANSI_T, 0},
-    {Qt::Key_U, kVK_ANSI_U, 0},
-    {Qt::Key_V, kVK_ANSI_V, 0},
-    {Qt::Key_W, kVK_ANSI_W, 0},
-    {Qt::Key_X, kVK_ANSI_X, 0},
-    {Qt::Key_Y, kVK_ANSI_Y, 0},
-    {Qt::Key_Z, kVK_ANSI_Z, 0},
-    {Qt::Key_0, kVK_ANSI_0, 0},
-    {Qt::Key_1, kVK_ANSI_1, 0},
-    {Qt::Key_2, kVK_ANSI_2, 0},
-    {Qt::Key_3, kVK_ANSI_3, 0},
-    {Qt::Key_4, kVK_ANSI_4, 0},
-    {Qt::Key_5, kVK_ANSI_5, 0},
-    {Qt::Key_6, kVK_ANSI_6, 0},
-    {Qt::Key_7, kVK_ANSI_7, 0},
-    {Qt::Key_8, kVK_ANSI_8, 0},
-    {Qt::Key_9, kVK_ANSI_9, 0},
-    {Qt::Key_Minus, kVK_ANSI_Minus, 0},
-    {Qt::Key_Equal, kVK_ANSI_Equal, 0},
-    {Qt::Key_BracketLeft, kVK_ANSI_LeftBracket, 0},
-    {Qt::Key_BracketRight, kVK_ANSI_RightBracket, 0},
-    {Qt::Key_Backslash, kVK_ANSI_Backslash, 0},
-    {Qt::Key_Semicolon, kVK_ANSI_Semicolon, 0},
-    {Qt::Key_Apostrophe, kVK_ANSI_Quote, 0},
-    {Qt::Key_QuoteLeft, kVK_ANSI_Grave, 0},
-    {Qt::Key_Comma, kVK_ANSI_Comma, 0},
-    {Qt::Key_Period, kVK_ANSI_Period, 0},
-    {Qt::Key_Slash, kVK_ANSI_Slash, 0},
-    {Qt::Key_Exclam, kVK_ANSI_1, shiftKey},
-    {Qt::Key_At, kVK_ANSI_2, shiftKey},
-    {Qt::Key_NumberSign, kVK_ANSI_3, shiftKey},
-    {Qt::Key_Dollar, kVK_ANSI_4, shiftKey},
-    {Qt::Key_Percent, kVK_ANSI_5, shiftKey},
-    {Qt::Key_AsciiCircum, kVK_ANSI_6, shiftKey},
-    {Qt::Key_Ampersand, kVK_ANSI_7, shiftKey},
-    {Qt::Key_Asterisk, kVK_ANSI_8, shiftKey},
-    {Qt::Key_ParenLeft, kVK_ANSI_9, shiftKey},
-    {Qt::Key_ParenRight, kVK_ANSI_0, shiftKey},
-    {Qt::Key_Underscore, kVK_ANSI_Minus, shiftKey},
-    {Qt::Key_Plus, kVK_ANSI_Equal, shiftKey},
-    {Qt::Key_BraceLeft, kVK_ANSI_LeftBracket, shiftKey},
-    {Qt::Key_BraceRight, kVK_ANSI_RightBracket, shiftKey},
-    {Qt::Key_Bar, kVK_ANSI_Backslash, shiftKey},
-    {Qt::Key_Colon, kVK_ANSI_Semicolon, shiftKey},
-    {Qt::Key_QuoteDbl, kVK_ANSI_Quote, shiftKey},
-    {Qt::Key_AsciiTilde, kVK_ANSI_Grave, shiftKey},
-    {Qt::Key_Less, kVK_ANSI_Comma, shiftKey},
-    {Qt::Key_Greater, kVK_ANSI_Period, shiftKey},
-    {Qt::Key_Question, kVK_ANSI_Slash, shiftKey},
+/// The same keys in every layout.
+constexpr KeyRow sFixedKeys[] = {
     {Qt::Key_Space, kVK_Space, 0},
     {Qt::Key_Return, kVK_Return, 0},
     {Qt::Key_Enter, kVK_ANSI_KeypadEnter, 0},
@@ -147,6 +83,11 @@ constexpr KeyRow sKeypadKeys[] = {
     {Qt::Key_Clear, kVK_ANSI_KeypadClear, 0},
     {Qt::Key_Enter, kVK_ANSI_KeypadEnter, 0},
     {Qt::Key_Return, kVK_ANSI_KeypadEnter, 0},
+    // Qt reports the arrow keys of the main block with the modifier of the keypad.
+    {Qt::Key_Left, kVK_LeftArrow, 0},
+    {Qt::Key_Right, kVK_RightArrow, 0},
+    {Qt::Key_Up, kVK_UpArrow, 0},
+    {Qt::Key_Down, kVK_DownArrow, 0},
 };
 
 template<size_t size> const KeyRow *lookUp(const KeyRow (&table)[size], int key)
@@ -171,20 +112,79 @@ quint32 carbonModifiers(Qt::KeyboardModifiers held, MacModifierNames names)
     return modifiers;
 }
 
+bool isCharacter(int key)
+{
+    return key > Qt::Key_Space && key <= 0x10ffff;
+}
+
+quint32 modifiersOfLevel(size_t level)
+{
+    return (level & MacLayout::sShift ? shiftKey : 0)
+           | (level & MacLayout::sOption ? optionKey : 0);
+}
+
+/// Returns the keys that type `character` with the fewest modifiers of these levels. Command is not
+/// among their modifiers.
+QVector<KeyCombination> findInLevels(uint character, const MacLayout &layout, size_t firstLevel)
+{
+    QVector<KeyCombination> found;
+    for (size_t level = firstLevel; level < firstLevel + 4 && found.isEmpty(); ++level) {
+        for (size_t code = 0; code < layout.keys.size(); ++code) {
+            if (layout.keys[code][level] == character)
+                found.append({static_cast<quint32>(code), modifiersOfLevel(level), 0});
+        }
+    }
+    return found;
+}
+
+QVector<KeyCombination> findCharacter(int key, const MacLayout &layout, bool withCommand)
+{
+    // Some keyboards have only the capital of a letter.
+    for (const uint character :
+         {QChar::toLower(static_cast<uint>(key)), QChar::toUpper(static_cast<uint>(key))}) {
+        // Some layouts type other letters while Command is held, for example Latin ones.
+        QVector<KeyCombination> found;
+        if (withCommand)
+            found = findInLevels(character, layout, MacLayout::sCommand);
+        if (found.isEmpty())
+            found = findInLevels(character, layout, 0);
+        if (!found.isEmpty())
+            return found;
+    }
+    return {};
+}
+
+bool hasLatinLetters(const MacLayout &layout)
+{
+    return !findInLevels('a', layout, 0).isEmpty();
+}
+
+QVector<KeyCombination> findKey(int key, Qt::KeyboardModifiers held, const MacLayout &layout,
+                                bool withCommand)
+{
+    const KeyRow *row = held & Qt::KeypadModifier ? lookUp(sKeypadKeys, key)
+                                                  : lookUp(sFixedKeys, key);
+    if (row)
+        return {{row->code, row->shift, 0}};
+    if (held & Qt::KeypadModifier || !isCharacter(key))
+        return {};
+    const QVector<KeyCombination> found = findCharacter(key, layout, withCommand);
+    if (found.isEmpty() && !hasLatinLetters(layout))
+        return findCharacter(key, macAnsiLayout(), withCommand);
+    return found;
+}
+
 } // namespace
 
-QVector<KeyCombination> macKeyCombinations(int chord, MacModifierNames names)
+QVector<KeyCombination> macKeyCombinations(int chord, MacModifierNames names,
+                                           const MacLayout &layout)
 {
     const Qt::KeyboardModifiers held = modifiersOf(chord);
     if (held & Qt::GroupSwitchModifier)
         return {};
-    const int key = keyOf(chord);
-    // Chords recorded by other means than GetKeySequence() may have the keypad's modifier on an
-    // arrow key, as Qt reports it on macOS.
-    const KeyRow *row = held & Qt::KeypadModifier ? lookUp(sKeypadKeys, key) : nullptr;
-    if (!row)
-        row = lookUp(sMainKeys, key);
-    if (!row)
-        return {};
-    return {{row->code, carbonModifiers(held, names) | row->shift, 0}};
+    const quint32 modifiers = carbonModifiers(held, names);
+    QVector<KeyCombination> found = findKey(keyOf(chord), held, layout, modifiers & cmdKey);
+    for (KeyCombination &combination : found)
+        combination.modifiers |= modifiers;
+    return found;
 }

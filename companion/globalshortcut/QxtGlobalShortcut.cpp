@@ -4,7 +4,9 @@
 #include "GlobalShortcutRegistry_p.h"
 #include "QtCompat_p.h"
 
+#include <QAtomicInt>
 #include <QCoreApplication>
+#include <QPointer>
 #include <QThread>
 
 #include <utility>
@@ -30,7 +32,14 @@ bool namesAKey(int chord)
 class QxtGlobalShortcut::Private : public GlobalShortcutRegistry::User
 {
 public:
-    explicit Private(QxtGlobalShortcut *owner) : q(owner) {}
+    explicit Private(QxtGlobalShortcut *owner) : q(owner)
+    {
+        // Qt 5 reads the property as a number until the type is registered.
+        qRegisterMetaType<Failure>();
+        static QAtomicInt sNumber;
+        generatedId = QStringLiteral("shortcut-%1").arg(++sNumber);
+        id = generatedId;
+    }
     ~Private() override { giveBack(); }
     Q_DISABLE_COPY(Private)
 
@@ -41,62 +50,129 @@ public:
         return application && QThread::currentThread() == application->thread();
     }
 
-    bool isValid() const { return mRegistry && mRegistry->isRegistered(mChord); }
+    bool isValid() const { return mRegistry && failure() == NoFailure; }
+
+    Failure failure() const
+    {
+        return mRegistry ? mRegistry->result(mAction.id).failure : mUnregistered;
+    }
 
     void apply()
     {
-        if (enabled && isValid() && shortcut == QKeySequence(mChord))
+        mUnregistered = reasonNotToRegister();
+        if (!enabled || mUnregistered != NoFailure) {
+            giveBack();
             return;
-        // Keep the registry alive: a new one would connect to the system again.
-        const auto registry = mRegistry;
-        giveBack();
-        if (!enabled || shortcut.count() != 1 || !isGuiThread())
+        }
+        mAction.chord = QtCompat::chordAt(shortcut, 0);
+        if (mRegistry) {
+            mRegistry->change(mAction);
             return;
-        const int chord = QtCompat::chordAt(shortcut, 0);
-        if (!namesAKey(chord))
-            return;
-        mChord = chord;
+        }
         mRegistry = GlobalShortcutRegistry::instance();
-        mRegistry->add(mChord, this);
+        mAction.id = id;
+        mAction.id = mRegistry->add(mAction, this);
     }
 
-    // Returns the value that isValid() has before the signal, because a receiver may delete this
+    void setId(const QString &wanted)
+    {
+        id = wanted;
+        if (!mRegistry)
+            return;
+        // Released afterwards, so that no other program can take the keys in between.
+        const QString released = std::exchange(mAction.id, wanted);
+        mAction.id = mRegistry->add(mAction, this);
+        mRegistry->remove(released);
+    }
+
+    void setDescription(const QString &text)
+    {
+        mAction.description = text;
+        // A failed registration is not retried for a text.
+        if (isValid() || failure() == Pending)
+            mRegistry->change(mAction);
+    }
+
+    QString description() const { return mAction.description; }
+
+    QString trigger() const
+    {
+        const QString granted = mRegistry ? mRegistry->result(mAction.id).trigger : QString();
+        return granted.isEmpty() ? shortcut.toString(QKeySequence::NativeText) : granted;
+    }
+
+    // Returns the value that isValid() has before the signals, because a receiver may delete this
     // object.
     bool announce()
     {
         const bool valid = isValid();
-        if (mAnnouncedEnabled != enabled || mAnnouncedValid != valid) {
-            mAnnouncedEnabled = enabled;
-            mAnnouncedValid = valid;
+        const QPointer<Private> self(this);
+        // One by one: a receiver may change the hotkey, which announces the rest.
+        if (mTold.enabled != enabled || mTold.valid != valid) {
+            mTold.enabled = enabled;
+            mTold.valid = valid;
             Q_EMIT q->enabledChanged();
+        }
+        if (self && mTold.failure != failure()) {
+            mTold.failure = failure();
+            Q_EMIT q->failureChanged();
+        }
+        if (self && mTold.trigger != trigger()) {
+            mTold.trigger = trigger();
+            Q_EMIT q->triggerChanged();
         }
         return valid;
     }
 
-    void pressed(int chord) override
+    void pressed(int chord, const QString &token) override
     {
         // The hotkey may have been disabled or changed after the key was pressed.
-        if (isValid() && chord == mChord)
-            Q_EMIT q->activated();
+        if (!isValid() || chord != mAction.chord)
+            return;
+        activationToken = token;
+        Q_EMIT q->activated();
     }
 
-    void registrationChanged() override { announce(); }
+    void resultChanged() override { announce(); }
 
     QKeySequence shortcut;
     bool enabled = true;
+    QString generatedId;
+    QString id;
+    QString activationToken;
 
 private:
+    // What the receivers of the signals know.
+    struct Told
+    {
+        bool enabled = true;
+        bool valid = false;
+        Failure failure = Empty;
+        QString trigger;
+    };
+
     void giveBack()
     {
         if (const auto registry = std::exchange(mRegistry, nullptr))
-            registry->remove(mChord, this);
+            registry->remove(mAction.id);
+    }
+
+    Failure reasonNotToRegister() const
+    {
+        if (!enabled)
+            return NoFailure;
+        if (shortcut.isEmpty())
+            return Empty;
+        if (shortcut.count() != 1 || !namesAKey(QtCompat::chordAt(shortcut, 0)))
+            return NotAChord;
+        return isGuiThread() ? NoFailure : NoBackend;
     }
 
     QxtGlobalShortcut *const q;
     std::shared_ptr<GlobalShortcutRegistry> mRegistry;
-    int mChord = 0;
-    bool mAnnouncedEnabled = true;
-    bool mAnnouncedValid = false;
+    GlobalShortcutBackend::Action mAction;
+    Failure mUnregistered = Empty; // failure() while there is no registry
+    Told mTold;
 };
 
 QxtGlobalShortcut::QxtGlobalShortcut(QObject *parent)
@@ -137,6 +213,48 @@ bool QxtGlobalShortcut::isEnabled() const
 bool QxtGlobalShortcut::isValid() const
 {
     return d->isValid();
+}
+
+QxtGlobalShortcut::Failure QxtGlobalShortcut::failure() const
+{
+    return d->failure();
+}
+
+QString QxtGlobalShortcut::trigger() const
+{
+    return d->trigger();
+}
+
+QString QxtGlobalShortcut::activationToken() const
+{
+    return d->activationToken;
+}
+
+QString QxtGlobalShortcut::id() const
+{
+    return d->id;
+}
+
+void QxtGlobalShortcut::setId(const QString &id)
+{
+    const QString wanted = id.isEmpty() ? d->generatedId : id;
+    if (d->id == wanted)
+        return;
+    d->setId(wanted);
+    d->announce();
+}
+
+QString QxtGlobalShortcut::description() const
+{
+    return d->description();
+}
+
+void QxtGlobalShortcut::setDescription(const QString &description)
+{
+    if (d->description() == description)
+        return;
+    d->setDescription(description);
+    d->announce();
 }
 
 void QxtGlobalShortcut::setEnabled(bool enabled)

@@ -4,7 +4,6 @@
 #include "X11OldKeySymbols_p.h"
 
 #include <X11/XF86keysym.h>
-#include <X11/keysym.h>
 
 #include <algorithm>
 #include <iterator>
@@ -60,6 +59,10 @@ constexpr X11KeyRow sSpecialKeys[] = {
     {Qt::Key_MediaRecord, XF86XK_AudioRecord},
     {Qt::Key_AudioRewind, XF86XK_AudioRewind},
     {Qt::Key_AudioForward, XF86XK_AudioForward},
+    {Qt::Key_AudioRepeat, XF86XK_AudioRepeat},
+    {Qt::Key_AudioRandomPlay, XF86XK_AudioRandomPlay},
+    {Qt::Key_AudioCycleTrack, XF86XK_AudioCycleTrack},
+    {Qt::Key_Subtitle, XF86XK_Subtitle},
     {Qt::Key_HomePage, XF86XK_HomePage},
     {Qt::Key_Favorites, XF86XK_Favorites},
     {Qt::Key_Search, XF86XK_Search},
@@ -153,6 +156,11 @@ QVector<xcb_keysym_t> characterSymbols(int key)
            + lookUp(sX11OldSymbols, static_cast<int>(lower));
 }
 
+bool isCharacter(int key)
+{
+    return (key >= 0x20 && key <= 0x7e) || (key >= 0xa0 && key <= 0x10ffff);
+}
+
 } // namespace
 
 QVector<xcb_keysym_t> x11KeySymbols(int chord)
@@ -163,7 +171,7 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
             return {static_cast<xcb_keysym_t>(XK_KP_0 + key - Qt::Key_0)};
         return lookUp(sKeypadKeys, key);
     }
-    if ((key >= 0x20 && key <= 0x7e) || (key >= 0xa0 && key <= 0x10ffff))
+    if (isCharacter(key))
         return characterSymbols(key);
     if (key >= Qt::Key_F1 && key <= Qt::Key_F35)
         return {static_cast<xcb_keysym_t>(XK_F1 + key - Qt::Key_F1)};
@@ -171,4 +179,22 @@ QVector<xcb_keysym_t> x11KeySymbols(int chord)
     if (key >= Qt::Key_Multi_key && key <= Qt::Key_Hangul_Special)
         return {0xff00 | static_cast<xcb_keysym_t>(key & 0xff)};
     return lookUp(sSpecialKeys, key);
+}
+
+QVector<xcb_keysym_t> x11CapitalSymbols(int chord)
+{
+    const int key = keyOf(chord);
+    if (modifiersOf(chord) & Qt::KeypadModifier || !isCharacter(key))
+        return {};
+    const uint capital = QChar::toUpper(static_cast<uint>(key));
+    if (capital == QChar::toLower(static_cast<uint>(key)))
+        return {};
+    QVector<xcb_keysym_t> symbols{capital <= 0xff ? capital : 0x01000000 | capital};
+    // Of the symbols older than Unicode, only keyboards with Greek capitals lack the small letters.
+    const QVector<xcb_keysym_t> smallSymbols = x11KeySymbols(chord);
+    for (const xcb_keysym_t symbol : smallSymbols) {
+        if (symbol >= XK_Greek_alpha && symbol <= XK_Greek_omega)
+            symbols.append(symbol - XK_Greek_alpha + XK_Greek_ALPHA);
+    }
+    return symbols;
 }

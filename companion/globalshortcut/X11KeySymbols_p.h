@@ -9,3 +9,5 @@
 /// the lower case. There are several if X has several keysyms for one symbol, and none for a
 /// modifier key and for a key without a keysym.
 QVector<xcb_keysym_t> x11KeySymbols(int chord);
+/// Returns the keysyms of the capital of the letter of `chord`; none if it is not a letter.
+QVector<xcb_keysym_t> x11CapitalSymbols(int chord);

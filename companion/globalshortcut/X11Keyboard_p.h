@@ -1,22 +1,19 @@
 #pragma once
 
 #include "KeyCombination_p.h"
+#include "X11SymbolTable_p.h"
 
-#include <xcb/xcb_keysyms.h>
+#include <xcb/xcb.h>
 
 #include <QVector>
 
 /// The current keyboard mapping of an X server: the symbols of the keys and the meaning of the
-/// eight modifiers.
+/// eight modifiers. It is empty before the first `load`.
 class X11Keyboard
 {
 public:
-    /// The mapping is empty before the first `load`.
-    X11Keyboard() = default;
-    ~X11Keyboard();
-    Q_DISABLE_COPY(X11Keyboard)
-
-    /// Reads the keyboard mapping from the server.
+    /// Reads the keyboard mapping from the server. If the client did not start XKB, symbols behind
+    /// AltGr are missing.
     void load(xcb_connection_t *connection);
     /// Returns all combinations that type `chord`, a Qt::Key with Qt::KeyboardModifiers, with Caps
     /// Lock and Num Lock ignored; empty if this keyboard cannot type it.
@@ -26,13 +23,11 @@ private:
     void loadModifiers(xcb_connection_t *connection);
     quint32 modifierOf(xcb_keysym_t symbol) const;
     bool findModifiers(int chord, quint32 *modifiers) const;
-    QVector<KeyCombination> findInGroup(int group, const QVector<xcb_keysym_t> &symbols,
-                                        quint32 modifiers) const;
+    QVector<KeyCombination> find(const QVector<xcb_keysym_t> &symbols, quint32 modifiers) const;
+    QVector<KeyCombination> findInGroup(int group, const QVector<xcb_keysym_t> &symbols) const;
 
-    xcb_key_symbols_t *mSymbols = nullptr;
-    xcb_keycode_t mFirstKey = 1;
-    xcb_keycode_t mLastKey = 0;
-    QVector<xcb_keysym_t> mModifierSymbols[8];
+    X11SymbolTable mSymbols;
+    QVector<quint8> mModifiersOfKeys; // a bit mask for each key code
     quint32 mAlt = 0;
     quint32 mMeta = 0;
     quint32 mIgnored = 0;

@@ -1,6 +1,6 @@
 #include "NullShortcutBackend_p.h"
 
-std::unique_ptr<GlobalShortcutBackend> GlobalShortcutBackend::create(Listener &)
+std::unique_ptr<GlobalShortcutBackend> GlobalShortcutBackend::create(Listener &listener)
 {
-    return std::make_unique<NullShortcutBackend>();
+    return std::make_unique<NullShortcutBackend>(listener);
 }

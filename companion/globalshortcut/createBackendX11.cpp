@@ -1,16 +1,19 @@
+#include "KeyGrabBackend_p.h"
 #include "NullShortcutBackend_p.h"
-#include "X11ShortcutBackend_p.h"
+#include "X11KeyGrabber_p.h"
 
 #include <QGuiApplication>
 
 std::unique_ptr<GlobalShortcutBackend> GlobalShortcutBackend::create(Listener &listener)
 {
-    // Under Wayland there may be an X server too, but it receives keys only while one of its
-    // windows has the focus.
+    // On Wayland there may be an X server too, but it receives keys only while one of its windows
+    // has the focus.
     if (QGuiApplication::platformName() == QLatin1String("xcb")) {
-        auto backend = std::make_unique<X11ShortcutBackend>(listener);
+        auto backend = std::make_unique<KeyGrabBackend>(listener, [](KeyGrabber::Listener &keys) {
+            return std::make_unique<X11KeyGrabber>(keys);
+        });
         if (backend->isSupported())
             return backend;
     }
-    return std::make_unique<NullShortcutBackend>();
+    return std::make_unique<NullShortcutBackend>(listener);
 }

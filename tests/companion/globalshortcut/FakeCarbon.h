@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MacLayout_p.h"
+
 #include <Carbon/Carbon.h>
 
 #include <memory>
@@ -18,6 +20,10 @@ public:
 
     static FakeCarbon &instance();
 
+    /// Chooses another keyboard layout, null for an input method without one, and tells the
+    /// observer.
+    void choose(const MacLayout *layout);
+
     /// Sends a hotkey event to the installed handler; returns noErr if the handler accepts it.
     OSStatus press(EventHotKeyID id) const;
     /// Presses a registered hotkey; returns eventNotHandledErr if there is none.
@@ -29,4 +35,10 @@ public:
     void *handlerData = nullptr;
     bool refusesHandlers = false;
     std::vector<HotKey> occupied; ///< registered by other programs; their ids do not matter
+
+    const MacLayout *layout = nullptr;         ///< of the current input source; null: it has none
+    const MacLayout *asciiLayout = nullptr;    ///< of the source that types ASCII
+    int inputSources = 0;                      ///< copied and not yet released
+    CFNotificationCallback observer = nullptr; ///< of the current input source
+    const void *observerData = nullptr;
 };

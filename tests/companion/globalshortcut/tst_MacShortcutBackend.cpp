@@ -1,6 +1,8 @@
 #include <QxtGlobalShortcut>
 
 #include "FakeCarbon.h"
+#include "MacKeyboard_p.h"
+#include "MacLayouts.h"
 #include "support/TestMain.h"
 
 namespace {
@@ -28,6 +30,11 @@ private Q_SLOTS:
     void handlerMayDeleteShortcuts();
     void eventsOfOtherHotKeysAreNotHandled();
     void withoutAnEventHandlerNothingIsSupported();
+    void keysFollowTheKeyboardLayout();
+    void sameLayoutOfAnotherInputSourceChangesNothing();
+    void keyThatTheLayoutLacksReturnsWithTheLayout();
+    void inputMethodWithoutALayoutUsesTheOneThatTypesAscii();
+    void keysOfEveryLayoutAreThoseOfAllKeyboards();
 
 private:
     FakeCarbon &mCarbon = FakeCarbon::instance();
@@ -39,6 +46,10 @@ void tst_MacShortcutBackend::cleanup()
     QVERIFY(mCarbon.hotKeys.empty());
     QVERIFY(!mCarbon.handler);
     QCOMPARE(mCarbon.handlerFunctions, 0);
+    QVERIFY(!mCarbon.observer);
+    QCOMPARE(mCarbon.inputSources, 0);
+    mCarbon.layout = nullptr;
+    mCarbon.asciiLayout = nullptr;
     mCarbon.refusesHandlers = false;
     mCarbon.occupied.clear();
 }
@@ -149,6 +160,78 @@ void tst_MacShortcutBackend::withoutAnEventHandlerNothingIsSupported()
     QxtGlobalShortcut shortcut(mKeys);
     QVERIFY(!shortcut.isValid());
     QVERIFY(mCarbon.hotKeys.empty());
+}
+
+void tst_MacShortcutBackend::keysFollowTheKeyboardLayout()
+{
+    const MacLayout azerty = azertyLayout();
+    const MacLayout qwertz = qwertzLayout();
+    mCarbon.layout = &azerty;
+    QxtGlobalShortcut shortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_Z));
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    QSignalSpy activations(&shortcut, &QxtGlobalShortcut::activated);
+    QCOMPARE(mCarbon.press(0x0d, sCommand), OSStatus(noErr));
+    QTRY_COMPARE(activations.count(), 1);
+
+    mCarbon.choose(&qwertz);
+    QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
+    QCOMPARE(mCarbon.press(0x0d, sCommand), OSStatus(eventNotHandledErr));
+    QCOMPARE(mCarbon.press(0x10, sCommand), OSStatus(noErr));
+    QTRY_COMPARE(activations.count(), 2);
+    QCOMPARE(changes.count(), 0);
+}
+
+void tst_MacShortcutBackend::sameLayoutOfAnotherInputSourceChangesNothing()
+{
+    const MacLayout azerty = azertyLayout();
+    const MacLayout copy = azerty;
+    mCarbon.layout = &azerty;
+    QxtGlobalShortcut shortcut(mKeys);
+    const FakeCarbon::HotKey *hotKey = mCarbon.hotKeys.front().get();
+    mCarbon.choose(&copy);
+    QCOMPARE(mCarbon.hotKeys.front().get(), hotKey);
+}
+
+void tst_MacShortcutBackend::keyThatTheLayoutLacksReturnsWithTheLayout()
+{
+    const MacLayout qwertz = qwertzLayout();
+    const MacLayout russian = russianLayout();
+    mCarbon.layout = &russian;
+    QxtGlobalShortcut shortcut(QKeySequence(int(Qt::META) + Qt::Key_Udiaeresis));
+    QSignalSpy changes(&shortcut, &QxtGlobalShortcut::enabledChanged);
+    QVERIFY(!shortcut.isValid());
+    mCarbon.choose(&qwertz);
+    QVERIFY(shortcut.isValid());
+    QTRY_COMPARE(changes.count(), 1);
+    mCarbon.choose(&russian);
+    QVERIFY(!shortcut.isValid());
+    QTRY_COMPARE(changes.count(), 2);
+}
+
+void tst_MacShortcutBackend::inputMethodWithoutALayoutUsesTheOneThatTypesAscii()
+{
+    const MacLayout dvorak = dvorakLayout();
+    mCarbon.asciiLayout = &dvorak;
+    QxtGlobalShortcut shortcut(mKeys);
+    QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
+    QCOMPARE(mCarbon.hotKeys.front()->code, UInt32(0x09));
+}
+
+void tst_MacShortcutBackend::keysOfEveryLayoutAreThoseOfAllKeyboards()
+{
+    // The system reports characters of the keypad and of keys such as Return, too. The last one
+    // here is a character beyond 16 bits.
+    MacLayout layout = qwertzLayout();
+    layout.keys[0x41][0] = '.';
+    layout.keys[0x24][0] = 0xd;
+    layout.keys[0x7b][0] = 0x1c;
+    layout.keys[0x0a][0] = 0x1f600;
+    mCarbon.layout = &layout;
+    QxtGlobalShortcut period(QKeySequence(Qt::Key_Period));
+    QCOMPARE(mCarbon.hotKeys.size(), size_t(1));
+    QCOMPARE(mCarbon.hotKeys.front()->code, UInt32(0x2f));
+    const MacKeyboard keyboard([] {});
+    QCOMPARE(keyboard.layout().keys[0x0a][0], 0x1f600U);
 }
 
 int main(int argc, char **argv)

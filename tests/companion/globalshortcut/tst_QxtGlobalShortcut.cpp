@@ -79,13 +79,16 @@ void tst_QxtGlobalShortcut::disablingAndEnablingEmitOnce()
 
 void tst_QxtGlobalShortcut::unusualShortcutsAreKeptAndNotValid_data()
 {
+    using Failure = QxtGlobalShortcut::Failure;
     QTest::addColumn<QKeySequence>("keys");
-    QTest::newRow("empty") << QKeySequence();
-    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
-    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_K,
-                                               int(Qt::CTRL) + Qt::Key_L);
-    QTest::newRow("fourChords") << QKeySequence(1, 2, 3, 4);
-    QTest::newRow("allBits") << QKeySequence(-1);
+    QTest::addColumn<Failure>("failure");
+    QTest::newRow("empty") << QKeySequence() << Failure::Empty;
+    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown) << Failure::NotAChord;
+    QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_K, int(Qt::CTRL) + Qt::Key_L)
+                               << Failure::NotAChord;
+    QTest::newRow("fourChords") << QKeySequence(1, 2, 3, 4) << Failure::NotAChord;
+    QTest::newRow("allBits") << QKeySequence(-1) << Failure::NotAChord;
+    QTest::newRow("oneKey") << QKeySequence(Qt::Key_F9) << Failure::NoBackend;
 }
 
 void tst_QxtGlobalShortcut::unusualShortcutsAreKeptAndNotValid()
@@ -95,6 +98,7 @@ void tst_QxtGlobalShortcut::unusualShortcutsAreKeptAndNotValid()
     QVERIFY(!shortcut.setShortcut(keys));
     QCOMPARE(shortcut.shortcut(), keys);
     QVERIFY(!shortcut.isValid());
+    QTEST(shortcut.failure(), "failure");
 }
 
 void tst_QxtGlobalShortcut::receiverOfEnabledChangedMayDeleteTheShortcut()

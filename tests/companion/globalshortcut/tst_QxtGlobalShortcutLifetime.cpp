@@ -17,6 +17,8 @@ private Q_SLOTS:
     void shortcutOlderThanTheApplicationRegistersWhenSetAgain();
     void destroyingTheApplicationUnregisters();
     void nextApplicationRegistersAgain();
+    void nextApplicationRegistersAllWithTheFirst();
+    void applicationMayBeDestroyedWhileAFieldRecords();
 
 private:
     static std::unique_ptr<QGuiApplication> makeApplication();
@@ -54,6 +56,7 @@ void tst_QxtGlobalShortcutLifetime::withoutApplicationNothingIsRegistered()
     QxtGlobalShortcut shortcut(mKeys);
     QVERIFY(shortcut.isEnabled());
     QVERIFY(!shortcut.isValid());
+    QCOMPARE(shortcut.failure(), QxtGlobalShortcut::NoBackend);
     shortcut.setDisabled();
     shortcut.setEnabled();
     QVERIFY(!shortcut.isValid());
@@ -75,6 +78,7 @@ void tst_QxtGlobalShortcutLifetime::destroyingTheApplicationUnregisters()
     QCOMPARE(shortcut->isValid(), isWorkingPlatform());
     QSignalSpy changes(&other, &QxtGlobalShortcut::enabledChanged);
     application.reset();
+    QCOMPARE(other.failure(), QxtGlobalShortcut::NoBackend);
     QVERIFY(!shortcut->isValid());
     QVERIFY(!other.isValid());
     QCOMPARE(changes.count(), 0);
@@ -91,6 +95,35 @@ void tst_QxtGlobalShortcutLifetime::nextApplicationRegistersAgain()
     application = makeApplication();
     QCOMPARE(shortcut.setShortcut(mKeys), isWorkingPlatform());
     QCOMPARE(shortcut.isValid(), isWorkingPlatform());
+}
+
+void tst_QxtGlobalShortcutLifetime::nextApplicationRegistersAllWithTheFirst()
+{
+    auto application = makeApplication();
+    QxtGlobalShortcut older(mKeys);
+    application.reset();
+    application = makeApplication();
+    QVERIFY(!older.isValid());
+    QSignalSpy changes(&older, &QxtGlobalShortcut::enabledChanged);
+    QxtGlobalShortcut newer(QKeySequence(QStringLiteral("Ctrl+Alt+F8")));
+    QCOMPARE(newer.isValid(), isWorkingPlatform());
+    QCOMPARE(older.isValid(), isWorkingPlatform());
+    QCoreApplication::processEvents();
+    QCOMPARE(changes.count(), 0); // the end of the first application was not announced
+}
+
+void tst_QxtGlobalShortcutLifetime::applicationMayBeDestroyedWhileAFieldRecords()
+{
+    QObject field;
+    field.setProperty("recordsHotkeys", true);
+    auto application = makeApplication();
+    QxtGlobalShortcut shortcut(mKeys);
+    Q_EMIT application->focusObjectChanged(&field);
+    QCOMPARE(shortcut.isValid(), isWorkingPlatform());
+    application.reset();
+    QVERIFY(!shortcut.isValid());
+    application = makeApplication();
+    QCOMPARE(shortcut.setShortcut(mKeys), isWorkingPlatform());
 }
 
 int main(int argc, char **argv)

@@ -241,6 +241,7 @@ void tst_QxtGlobalShortcutX11::partlyOccupiedKeyIsReleasedCompletely()
     QVERIFY(mClient->grab(key, XCB_MOD_MASK_2));
     QxtGlobalShortcut shortcut(mKeys);
     QVERIFY(!shortcut.isValid());
+    QCOMPARE(shortcut.failure(), QxtGlobalShortcut::Taken);
     QVERIFY(canGrabF9());
 }
 
@@ -378,18 +379,24 @@ void tst_QxtGlobalShortcutX11::anotherThreadRegistersNothing()
 
 void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid_data()
 {
+    using Failure = QxtGlobalShortcut::Failure;
     QTest::addColumn<QKeySequence>("keys");
-    QTest::newRow("empty") << QKeySequence();
-    QTest::newRow("zeroKey") << QKeySequence(int(Qt::CTRL));
-    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown);
+    QTest::addColumn<Failure>("failure");
+    QTest::newRow("empty") << QKeySequence() << Failure::Empty;
+    QTest::newRow("zeroKey") << QKeySequence(int(Qt::CTRL)) << Failure::NotAChord;
+    QTest::newRow("unknownKey") << QKeySequence(Qt::Key_unknown) << Failure::NotAChord;
     QTest::newRow("twoChords") << QKeySequence(int(Qt::CTRL) + Qt::Key_F9,
-                                               int(Qt::CTRL) + Qt::Key_F7);
-    QTest::newRow("modifierAlone") << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift);
-    QTest::newRow("modifierWithoutState") << QKeySequence(Qt::Key_Shift);
-    QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9);
-    QTest::newRow("keyMissingOnThisKeyboard") << QKeySequence(0x0424);
-    QTest::newRow("keyMissingOnTheKeypad") << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A);
-    QTest::newRow("allBits") << QKeySequence(-1);
+                                               int(Qt::CTRL) + Qt::Key_F7)
+                               << Failure::NotAChord;
+    QTest::newRow("modifierAlone")
+        << QKeySequence(int(Qt::SHIFT) + Qt::Key_Shift) << Failure::NotAChord;
+    QTest::newRow("modifierWithoutState") << QKeySequence(Qt::Key_Shift) << Failure::NotAChord;
+    QTest::newRow("groupSwitch") << QKeySequence(int(Qt::GroupSwitchModifier) + Qt::Key_F9)
+                                 << Failure::NotOnKeyboard;
+    QTest::newRow("keyMissingOnThisKeyboard") << QKeySequence(0x0424) << Failure::NotOnKeyboard;
+    QTest::newRow("keyMissingOnTheKeypad")
+        << QKeySequence(int(Qt::KeypadModifier) + Qt::Key_A) << Failure::NotOnKeyboard;
+    QTest::newRow("allBits") << QKeySequence(-1) << Failure::NotAChord;
 }
 
 void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid()
@@ -402,6 +409,7 @@ void tst_QxtGlobalShortcutX11::impossibleShortcutsAreNotValid()
     QVERIFY(!shortcut.isValid());
     QVERIFY(shortcut.isEnabled());
     QCOMPARE(changes.count(), 1);
+    QTEST(shortcut.failure(), "failure");
 }
 
 int main(int argc, char **argv)

@@ -9,6 +9,8 @@ class tst_X11KeySymbols : public QObject
 private Q_SLOTS:
     void keyHasItsSymbol_data();
     void keyHasItsSymbol();
+    void capitalHasItsSymbol_data();
+    void capitalHasItsSymbol();
     void unknownKeyHasNoSymbol_data();
     void unknownKeyHasNoSymbol();
 };
@@ -43,6 +45,10 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("turkishLegacyKeysym", 0x011e, 0x2bb);
     row("hebrewLegacyKeysym", 0x05d0, 0xce0);
     row("euro", 0x20ac, 0x010020ac);
+    row("euroLegacyKeysym", 0x20ac, 0x20ac);
+    row("quotationMarkLegacyKeysym", 0x201e, 0xafe);
+    row("arrowLegacyKeysym", 0x2192, 0x8fd);
+    row("ligatureLegacyKeysym", 0x0152, 0x13bd);
     row("beyondTheBasicPlane", 0x1f600, 0x0101f600);
     row("f1", Qt::Key_F1, 0xffbe);
     row("f12", Qt::Key_F12, 0xffc9);
@@ -70,6 +76,7 @@ void tst_X11KeySymbols::keyHasItsSymbol_data()
     row("mute", Qt::Key_VolumeMute, 0x1008ff12);
     row("mediaPlay", Qt::Key_MediaPlay, 0x1008ff14);
     row("mediaNext", Qt::Key_MediaNext, 0x1008ff17);
+    row("cycleTrack", Qt::Key_AudioCycleTrack, 0x1008ff9b);
     row("mail", Qt::Key_LaunchMail, 0x1008ff19);
     row("launchKeysAreOffsetByTwo", Qt::Key_Launch4, 0x1008ff42);
     row("lastLaunchKey", Qt::Key_LaunchH, 0x1008ff4f);
@@ -81,6 +88,26 @@ void tst_X11KeySymbols::keyHasItsSymbol()
     QFETCH(int, chord);
     QFETCH(quint32, symbol);
     QVERIFY(x11KeySymbols(chord).contains(symbol));
+}
+
+void tst_X11KeySymbols::capitalHasItsSymbol_data()
+{
+    QTest::addColumn<int>("chord");
+    QTest::addColumn<QVector<xcb_keysym_t>>("symbols");
+    using Symbols = QVector<xcb_keysym_t>;
+    QTest::newRow("latin") << int(Qt::CTRL) + Qt::Key_A << Symbols{0x41};
+    QTest::newRow("greek") << 0x03a9 << Symbols{0x010003a9, 0x7d9};
+    QTest::newRow("cyrillic") << 0x0424 << Symbols{0x01000424};
+    QTest::newRow("letterWithoutCapital") << int(Qt::Key_ssharp) << Symbols();
+    QTest::newRow("digit") << int(Qt::Key_1) << Symbols();
+    QTest::newRow("functionKey") << int(Qt::Key_F1) << Symbols();
+    QTest::newRow("keypad") << int(Qt::KeypadModifier) + Qt::Key_A << Symbols();
+}
+
+void tst_X11KeySymbols::capitalHasItsSymbol()
+{
+    QFETCH(int, chord);
+    QTEST(x11CapitalSymbols(chord), "symbols");
 }
 
 void tst_X11KeySymbols::unknownKeyHasNoSymbol_data()

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+using UInt8 = std::uint8_t;
+using UInt16 = std::uint16_t;
 using UInt32 = std::uint32_t;
 using OSStatus = std::int32_t;
 using OSType = std::uint32_t;
@@ -110,7 +112,10 @@ enum {
     kVK_ANSI_Keypad6 = 0x58,
     kVK_ANSI_Keypad7 = 0x59,
     kVK_ANSI_Keypad8 = 0x5B,
-    kVK_ANSI_Keypad9 = 0x5C
+    kVK_ANSI_Keypad9 = 0x5C,
+    kVK_ISO_Section = 0x0A,
+    kVK_JIS_Yen = 0x5D,
+    kVK_JIS_Underscore = 0x5E
 };
 
 enum {
@@ -163,3 +168,44 @@ OSStatus UnregisterEventHotKey(EventHotKeyRef hotKey);
 OSStatus GetEventParameter(EventRef event, EventParamName name, EventParamType desiredType,
                            EventParamType *actualType, ByteCount size, ByteCount *actualSize,
                            void *data);
+
+using CFIndex = long;
+using CFTypeRef = const void *;
+using CFStringRef = const struct OpaqueCFString *;
+using CFDataRef = const struct OpaqueCFData *;
+using CFDictionaryRef = const struct OpaqueCFDictionary *;
+using CFNotificationCenterRef = struct OpaqueCFNotificationCenter *;
+using CFNotificationName = CFStringRef;
+using CFNotificationCallback = void (*)(CFNotificationCenterRef, void *observer, CFNotificationName,
+                                        const void *object, CFDictionaryRef);
+using CFNotificationSuspensionBehavior = CFIndex;
+
+enum : CFIndex { CFNotificationSuspensionBehaviorDeliverImmediately = 4 };
+
+void CFRelease(CFTypeRef object);
+const UInt8 *CFDataGetBytePtr(CFDataRef data);
+CFNotificationCenterRef CFNotificationCenterGetDistributedCenter();
+void CFNotificationCenterAddObserver(CFNotificationCenterRef center, const void *observer,
+                                     CFNotificationCallback callback, CFStringRef name,
+                                     const void *object,
+                                     CFNotificationSuspensionBehavior behaviour);
+void CFNotificationCenterRemoveEveryObserver(CFNotificationCenterRef center, const void *observer);
+
+using UniChar = UInt16;
+using UniCharCount = unsigned long;
+using TISInputSourceRef = struct OpaqueTISInputSource *;
+struct UCKeyboardLayout;
+
+enum { kUCKeyActionDown = 0 };
+enum : OptionBits { kUCKeyTranslateNoDeadKeysMask = 1 };
+
+extern const CFStringRef kTISPropertyUnicodeKeyLayoutData;
+extern const CFStringRef kTISNotifySelectedKeyboardInputSourceChanged;
+
+TISInputSourceRef TISCopyCurrentKeyboardLayoutInputSource();
+TISInputSourceRef TISCopyCurrentASCIICapableKeyboardLayoutInputSource();
+void *TISGetInputSourceProperty(TISInputSourceRef source, CFStringRef property);
+UInt8 LMGetKbdType();
+OSStatus UCKeyTranslate(const UCKeyboardLayout *layout, UInt16 code, UInt16 action,
+                        UInt32 modifiers, UInt32 keyboardType, OptionBits options, UInt32 *deadKeys,
+                        UniCharCount size, UniCharCount *length, UniChar *text);

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "GlobalShortcutBackend_p.h"
+#include "KeyGrabber_p.h"
 #include "X11Keyboard_p.h"
 
 #include <xcb/xcb.h>
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 
@@ -16,13 +17,13 @@ class QSocketNotifier;
 ///
 /// Qt's connection is not used because it ends with the application object, because its settings
 /// belong to Qt and because it is accessible with private headers only.
-class X11ShortcutBackend : public GlobalShortcutBackend
+class X11KeyGrabber : public KeyGrabber
 {
 public:
     /// Connects to the display of the environment variable DISPLAY.
-    explicit X11ShortcutBackend(Listener &listener);
-    ~X11ShortcutBackend() override;
-    Q_DISABLE_COPY(X11ShortcutBackend)
+    explicit X11KeyGrabber(Listener &listener);
+    ~X11KeyGrabber() override;
+    Q_DISABLE_COPY(X11KeyGrabber)
 
     bool isSupported() const override;
     QVector<KeyCombination> combinations(int chord) const override;
@@ -35,6 +36,8 @@ private:
     bool handleEvent(const xcb_generic_event_t &event);
     void handleKeyPress(const xcb_key_press_event_t &event);
     void readEventsLater();
+    bool isDown(quint32 key) const;
+    void forgetReleasedKeys();
 
     Listener &mListener;
     xcb_connection_t *const mConnection;
@@ -44,4 +47,6 @@ private:
     QVector<xcb_window_t> mRoots;
     int mFirstXkbEvent = -1;
     xcb_keycode_t mHeldKey = 0;
+    QVector<quint32> mKeysDownBefore; // pressed before they were grabbed
+    QTimer mReleaseTimer;
 };

@@ -1,18 +1,19 @@
-#include "X11ShortcutBackend_p.h"
+#include "X11KeyGrabber_p.h"
+
+#include "Xkb_p.h"
 
 #include <QScopedPointer>
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <utility>
-
-// This C header has a member whose name is a C++ keyword.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace {
 
 template<typename T> using XcbPointer = QScopedPointer<T, QScopedPointerPodDeleter>;
+
+/// In milliseconds: less than a user needs to press a key again.
+constexpr int sReleaseInterval = 20;
 
 /// Returns the modifiers of `combination` with every subset of its ignored modifiers.
 QVector<quint16> modifierStates(const KeyCombination &combination)
@@ -28,7 +29,7 @@ QVector<quint16> modifierStates(const KeyCombination &combination)
 
 } // namespace
 
-X11ShortcutBackend::X11ShortcutBackend(Listener &listener)
+X11KeyGrabber::X11KeyGrabber(Listener &listener)
     : mListener(listener), mConnection(xcb_connect(nullptr, nullptr))
 {
     if (!isSupported())
@@ -42,10 +43,12 @@ X11ShortcutBackend::X11ShortcutBackend(Listener &listener)
                                                   QSocketNotifier::Read);
     QObject::connect(mNotifier.get(), &QSocketNotifier::activated, &mContext,
                      [this] { readEvents(); });
+    mReleaseTimer.setInterval(sReleaseInterval);
+    QObject::connect(&mReleaseTimer, &QTimer::timeout, &mContext, [this] { forgetReleasedKeys(); });
     readEventsLater();
 }
 
-X11ShortcutBackend::~X11ShortcutBackend()
+X11KeyGrabber::~X11KeyGrabber()
 {
     mNotifier.reset();
     xcb_disconnect(mConnection);
@@ -53,7 +56,7 @@ X11ShortcutBackend::~X11ShortcutBackend()
 
 // With XKB the server reports every change of the keyboard mapping, and key repeat consists of
 // presses without releases between them.
-void X11ShortcutBackend::startXkb()
+void X11KeyGrabber::startXkb()
 {
     const XcbPointer<xcb_xkb_use_extension_reply_t> use(xcb_xkb_use_extension_reply(
         mConnection,
@@ -75,18 +78,24 @@ void X11ShortcutBackend::startXkb()
         nullptr));
 }
 
-bool X11ShortcutBackend::isSupported() const
+bool X11KeyGrabber::isSupported() const
 {
     return !xcb_connection_has_error(mConnection);
 }
 
-QVector<KeyCombination> X11ShortcutBackend::combinations(int chord) const
+QVector<KeyCombination> X11KeyGrabber::combinations(int chord) const
 {
     return isSupported() ? mKeyboard.combinations(chord) : QVector<KeyCombination>();
 }
 
-bool X11ShortcutBackend::grab(const KeyCombination &combination)
+bool X11KeyGrabber::grab(const KeyCombination &combination)
 {
+    // A key that is held when it is grabbed, because a field has just recorded it, repeats into the
+    // grab. The server reports its release only after that, so it is polled.
+    if (isDown(combination.key)) {
+        mKeysDownBefore.append(combination.key);
+        mReleaseTimer.start();
+    }
     const QVector<quint16> states = modifierStates(combination);
     QVector<xcb_void_cookie_t> requests;
     for (const xcb_window_t root : std::as_const(mRoots)) {
@@ -106,7 +115,7 @@ bool X11ShortcutBackend::grab(const KeyCombination &combination)
     return granted;
 }
 
-void X11ShortcutBackend::ungrab(const KeyCombination &combination)
+void X11KeyGrabber::ungrab(const KeyCombination &combination)
 {
     const QVector<quint16> states = modifierStates(combination);
     for (const xcb_window_t root : std::as_const(mRoots)) {
@@ -119,14 +128,32 @@ void X11ShortcutBackend::ungrab(const KeyCombination &combination)
     readEventsLater();
 }
 
+bool X11KeyGrabber::isDown(quint32 key) const
+{
+    const XcbPointer<xcb_query_keymap_reply_t> keymap(
+        xcb_query_keymap_reply(mConnection, xcb_query_keymap(mConnection), nullptr));
+    return keymap && (keymap->keys[key / 8] >> key % 8 & 1) != 0;
+}
+
+void X11KeyGrabber::forgetReleasedKeys()
+{
+    const auto isReleased = [this](quint32 key) { return !isDown(key); };
+    mKeysDownBefore.erase(
+        std::remove_if(mKeysDownBefore.begin(), mKeysDownBefore.end(), isReleased),
+        mKeysDownBefore.end());
+    if (mKeysDownBefore.isEmpty())
+        mReleaseTimer.stop();
+    readEventsLater();
+}
+
 // Waiting for a reply also reads events from the socket, which the notifier then does not report.
-void X11ShortcutBackend::readEventsLater()
+void X11KeyGrabber::readEventsLater()
 {
     QMetaObject::invokeMethod(
         &mContext, [this] { readEvents(); }, Qt::QueuedConnection);
 }
 
-void X11ShortcutBackend::readEvents()
+void X11KeyGrabber::readEvents()
 {
     bool keyboardChanged = false;
     while (const XcbPointer<xcb_generic_event_t> event{xcb_poll_for_event(mConnection)})
@@ -142,7 +169,7 @@ void X11ShortcutBackend::readEvents()
 }
 
 // Returns whether the event reports a new keyboard mapping.
-bool X11ShortcutBackend::handleEvent(const xcb_generic_event_t &event)
+bool X11KeyGrabber::handleEvent(const xcb_generic_event_t &event)
 {
     const int type = event.response_type & 0x7f;
     if (type == XCB_KEY_PRESS) {
@@ -151,6 +178,7 @@ bool X11ShortcutBackend::handleEvent(const xcb_generic_event_t &event)
         const auto &release = reinterpret_cast<const xcb_key_release_event_t &>(event);
         if (release.detail == mHeldKey)
             mHeldKey = 0;
+        mKeysDownBefore.removeAll(release.detail);
     } else if (type == XCB_MAPPING_NOTIFY) {
         const auto &mapping = reinterpret_cast<const xcb_mapping_notify_event_t &>(event);
         return mapping.request != XCB_MAPPING_POINTER;
@@ -158,9 +186,9 @@ bool X11ShortcutBackend::handleEvent(const xcb_generic_event_t &event)
     return type == mFirstXkbEvent;
 }
 
-void X11ShortcutBackend::handleKeyPress(const xcb_key_press_event_t &event)
+void X11KeyGrabber::handleKeyPress(const xcb_key_press_event_t &event)
 {
-    if (event.detail == mHeldKey)
+    if (event.detail == mHeldKey || mKeysDownBefore.contains(event.detail))
         return;
     mHeldKey = event.detail;
     // The bits above the eight modifiers are pointer buttons and the keyboard layout.

@@ -1,4 +1,4 @@
-#include "MacShortcutBackend_p.h"
+#include "MacKeyGrabber_p.h"
 
 #include "MacKeys_p.h"
 
@@ -17,8 +17,9 @@ UInt32 hotKeyNumber(const KeyCombination &combination)
 
 } // namespace
 
-MacShortcutBackend::MacShortcutBackend(Listener &listener)
-    : mListener(listener), mHandlerFunction(NewEventHandlerUPP(&MacShortcutBackend::handleEvent))
+MacKeyGrabber::MacKeyGrabber(Listener &listener)
+    : mListener(listener), mKeyboard([this] { mListener.keyboardChanged(); }),
+      mHandlerFunction(NewEventHandlerUPP(&MacKeyGrabber::handleEvent))
 {
     const EventTypeSpec pressed{kEventClassKeyboard, kEventHotKeyPressed};
     if (InstallEventHandler(GetApplicationEventTarget(), mHandlerFunction, 1, &pressed, this,
@@ -27,7 +28,7 @@ MacShortcutBackend::MacShortcutBackend(Listener &listener)
         mHandler = nullptr;
 }
 
-MacShortcutBackend::~MacShortcutBackend()
+MacKeyGrabber::~MacKeyGrabber()
 {
     for (const auto &[number, hotKey] : mHotKeys)
         UnregisterEventHotKey(hotKey);
@@ -36,19 +37,20 @@ MacShortcutBackend::~MacShortcutBackend()
     DisposeEventHandlerUPP(mHandlerFunction);
 }
 
-bool MacShortcutBackend::isSupported() const
+bool MacKeyGrabber::isSupported() const
 {
     return mHandler != nullptr;
 }
 
-QVector<KeyCombination> MacShortcutBackend::combinations(int chord) const
+QVector<KeyCombination> MacKeyGrabber::combinations(int chord) const
 {
     const bool asOnKeys = QCoreApplication::testAttribute(Qt::AA_MacDontSwapCtrlAndMeta);
     return macKeyCombinations(chord,
-                              asOnKeys ? MacModifierNames::AsOnKeys : MacModifierNames::Swapped);
+                              asOnKeys ? MacModifierNames::AsOnKeys : MacModifierNames::Swapped,
+                              mKeyboard.layout());
 }
 
-bool MacShortcutBackend::grab(const KeyCombination &combination)
+bool MacKeyGrabber::grab(const KeyCombination &combination)
 {
     if (!isSupported())
         return false;
@@ -63,7 +65,7 @@ bool MacShortcutBackend::grab(const KeyCombination &combination)
     return true;
 }
 
-void MacShortcutBackend::ungrab(const KeyCombination &combination)
+void MacKeyGrabber::ungrab(const KeyCombination &combination)
 {
     const auto found = mHotKeys.find(hotKeyNumber(combination));
     if (found == mHotKeys.end())
@@ -72,13 +74,13 @@ void MacShortcutBackend::ungrab(const KeyCombination &combination)
     mHotKeys.erase(found);
 }
 
-OSStatus MacShortcutBackend::handleEvent(EventHandlerCallRef, EventRef event, void *backend)
+OSStatus MacKeyGrabber::handleEvent(EventHandlerCallRef, EventRef event, void *grabber)
 {
     EventHotKeyID id{};
     const OSStatus status = GetEventParameter(event, kEventParamDirectObject, typeEventHotKeyID,
                                               nullptr, sizeof(id), nullptr, &id);
     if (status != noErr || id.signature != sHotKeySignature)
         return eventNotHandledErr;
-    static_cast<MacShortcutBackend *>(backend)->mListener.keyPressed(id.id >> 16, id.id & 0xffff);
+    static_cast<MacKeyGrabber *>(grabber)->mListener.keyPressed(id.id >> 16, id.id & 0xffff);
     return noErr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "GlobalShortcutBackend_p.h"
+#include "KeyGrabber_p.h"
+#include "MacKeyboard_p.h"
 
 #include <Carbon/Carbon.h>
 
@@ -8,13 +9,13 @@
 #include <utility>
 
 /// Registers hotkeys with Carbon's hotkey functions, for macOS.
-class MacShortcutBackend : public GlobalShortcutBackend
+class MacKeyGrabber : public KeyGrabber
 {
 public:
     /// Installs an event handler for hotkeys in the application.
-    explicit MacShortcutBackend(Listener &listener);
-    ~MacShortcutBackend() override;
-    Q_DISABLE_COPY(MacShortcutBackend)
+    explicit MacKeyGrabber(Listener &listener);
+    ~MacKeyGrabber() override;
+    Q_DISABLE_COPY(MacKeyGrabber)
 
     bool isSupported() const override;
     QVector<KeyCombination> combinations(int chord) const override;
@@ -22,9 +23,10 @@ public:
     void ungrab(const KeyCombination &combination) override;
 
 private:
-    static OSStatus handleEvent(EventHandlerCallRef next, EventRef event, void *backend);
+    static OSStatus handleEvent(EventHandlerCallRef next, EventRef event, void *grabber);
 
     Listener &mListener;
+    MacKeyboard mKeyboard;
     EventHandlerUPP mHandlerFunction = nullptr;
     EventHandlerRef mHandler = nullptr;
     std::map<UInt32, EventHotKeyRef> mHotKeys; // by hotKeyNumber()
