@@ -4,6 +4,7 @@
 #include <QStylePainter>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QtMath>
 
 namespace MtConf {
 
@@ -11,53 +12,76 @@ namespace {
 
 constexpr int sUnlimited = QWIDGETSIZE_MAX;
 
-/// Returns the metrics of the caption while its value differs from the default value. Captions
-/// reserve this width, so that the fields beside them keep their place.
-QFontMetrics boldMetrics(const QWidget *caption)
-{
-    QFont font = caption->font();
-    font.setBold(true);
-    return QFontMetrics(font);
-}
-
-int widthOfLine(const QFontMetrics &metrics, const QString &text)
-{
-    return metrics.boundingRect(0, 0, sUnlimited, sUnlimited, Qt::TextExpandTabs, text).width();
-}
-
-int longestWord(const QFontMetrics &metrics, const QString &text)
-{
-    int longest = 0;
-    const QStringList words = text.split(QLatin1Char(' '));
-    for (const QString &word : words)
-        longest = qMax(longest, metrics.horizontalAdvance(word));
-    return longest;
-}
-
 } // namespace
 
-CaptionLabel::CaptionLabel(const QString &text, QWidget *parent) : QLabel(text, parent)
+WrappedLabel::WrappedLabel(const QString &text, QWidget *parent) : QLabel(text, parent)
 {
     setWordWrap(true);
+}
+
+int WrappedLabel::heightForWidth(int width) const
+{
+    Unwrapped &known = mUnwrapped;
+    if (known.leastWidth < 0 || known.text != text() || known.font != font()
+        || known.margins != contentsMargins()) {
+        known = {text(), font(), contentsMargins(), sUnlimited, QLabel::heightForWidth(sUnlimited)};
+    }
+    if (width >= known.leastWidth)
+        return known.height;
+    const int height = QLabel::heightForWidth(width);
+    // A label that is wider is not higher.
+    if (height == known.height)
+        known.leastWidth = width;
+    return height;
+}
+
+CaptionWidths::Widths::Widths(const QFont &font, const QString &text)
+{
+    QString lines = text;
+    lines.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(lines, font);
+    layout.beginLayout();
+    for (QTextLine next = layout.createLine(); next.isValid();)
+        next = layout.createLine();
+    layout.endLayout();
+    line = qCeil(layout.maximumWidth());
+    word = qCeil(layout.minimumWidth());
+}
+
+void CaptionWidths::measure(const QWidget *caption, const QString &text)
+{
+    if (mText == text && mFont == caption->font())
+        return;
+    mText = text;
+    mFont = caption->font();
+    mNormal = Widths(mFont, text);
+    QFont bold = mFont;
+    bold.setBold(true);
+    mBold = Widths(bold, text);
+}
+
+const CaptionWidths &CaptionLabel::widths() const
+{
+    ensurePolished();
+    mWidths.measure(this, text());
+    return mWidths;
+}
+
+QSize CaptionLabel::sizeForText(int width) const
+{
+    const QMargins margins = contentsMargins();
+    return {width + margins.left() + margins.right(), heightForWidth(sUnlimited)};
 }
 
 QSize CaptionLabel::sizeHint() const
 {
     // The size hint of a text that can be wrapped has several lines.
-    const QSize hint = QLabel::sizeHint();
-    if (Qt::mightBeRichText(text()))
-        return hint;
-    const QMargins margins = contentsMargins();
-    const int width = qMax(widthOfLine(fontMetrics(), text()),
-                           widthOfLine(boldMetrics(this), text()));
-    return {width + margins.left() + margins.right(), heightForWidth(sUnlimited)};
+    return Qt::mightBeRichText(text()) ? QLabel::sizeHint() : sizeForText(widths().line());
 }
 
 QSize CaptionLabel::minimumSizeHint() const
 {
-    const int normal = longestWord(fontMetrics(), text());
-    const int bold = longestWord(boldMetrics(this), text());
-    return QLabel::minimumSizeHint() + QSize(qMax(0, bold - normal), 0);
+    return Qt::mightBeRichText(text()) ? QLabel::minimumSizeHint() : sizeForText(widths().word());
 }
 
 CaptionCheckBox::CaptionCheckBox(const QString &text, QWidget *parent) : QCheckBox(text, parent)
@@ -68,24 +92,27 @@ CaptionCheckBox::CaptionCheckBox(const QString &text, QWidget *parent) : QCheckB
     setSizePolicy(policy);
 }
 
+const CaptionWidths &CaptionCheckBox::widths() const
+{
+    mWidths.measure(this, text());
+    return mWidths;
+}
+
 QSize CaptionCheckBox::sizeHint() const
 {
-    const int normal = widthOfLine(fontMetrics(), text());
-    const int bold = widthOfLine(boldMetrics(this), text());
-    return QCheckBox::sizeHint() + QSize(qMax(0, bold - normal), 0);
+    const QSize hint = QCheckBox::sizeHint(); // before the font is used: it polishes
+    return hint + QSize(widths().moreInBold(), 0);
 }
 
 QSize CaptionCheckBox::minimumSizeHint() const
 {
-    const int word = qMax(longestWord(fontMetrics(), text()),
-                          longestWord(boldMetrics(this), text()));
     const QSize hint = sizeHint();
-    return {qMin(hint.width(), widthBesideText() + word), hint.height()};
+    return {qMin(hint.width(), widthBesideText() + widths().word()), hint.height()};
 }
 
 bool CaptionCheckBox::hasHeightForWidth() const
 {
-    return true;
+    return minimumSize() != maximumSize();
 }
 
 int CaptionCheckBox::heightForWidth(int width) const

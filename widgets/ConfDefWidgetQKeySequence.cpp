@@ -18,12 +18,66 @@ QString shortcutKey()
     return QStringLiteral("Shortcut");
 }
 
+/// Why a hotkey is not registered.
+struct Reason
+{
+    const char *failure; ///< name of the value of the hotkey's property "failure"
+    const char *words;   ///< for the user, not translated
+    bool isWorthARetry;  ///< whether the same keys may be registered later
+};
+
+constexpr Reason sUnknownReason = {
+    "",
+    QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "Another program may use this hotkey."),
+    true};
+
+constexpr Reason sReasons[] = {
+    {"Pending",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "The desktop has not answered yet."),
+     false},
+    {"Empty",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "The hotkey has not been set up yet."),
+     true},
+    {"NotAChord",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence",
+                       "A global hotkey is one key, alone or with modifiers."),
+     false},
+    {"NotOnKeyboard",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "This keyboard does not have the key."),
+     false},
+    {"Taken",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "Another program uses this hotkey."),
+     true},
+    {"Refused",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence",
+                       "The hotkey was refused by you or by the desktop."),
+     true},
+    {"NoBackend",
+     QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence",
+                       "Global hotkeys are not available on this system."),
+     false},
+};
+
+/// Returns why `hotkey` is not registered. Only the companion library adds the property to the
+/// class.
+const Reason &reasonOf(const QxtGlobalShortcut *hotkey)
+{
+    const QString failure = hotkey->property("failure").toString();
+    for (const Reason &reason : sReasons) {
+        if (failure == QLatin1String(reason.failure))
+            return reason;
+    }
+    return sUnknownReason;
+}
+
 } // namespace
+
+bool ConfDefWidgetQKeySequence::sTellsReasons = false;
 
 ConfDefWidgetQKeySequence::ConfDefWidgetQKeySequence(ConfItem *item, QWidget *parent)
     : ConfigItemWidget(item, parent),
       mKeySequenceEdit(new KeySequenceEdit(readValue<QKeySequence>(), this)),
-      mStateButton(new QPushButton(this))
+      mStateButton(new QPushButton(this)), mTellsReasons(sTellsReasons)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -72,7 +126,7 @@ void ConfDefWidgetQKeySequence::onKeySequenceChanged(QKeySequence sequence)
     if (!hotkey || hotkey->shortcut() == sequence)
         return;
     const QPointer<ConfDefWidgetQKeySequence> self(this);
-    hotkey->setShortcut(sequence);
+    registerKeys(hotkey, sequence);
     // Both calls run code of the host, which may delete the editor.
     if (!self || !storeValue(sequence))
         return;
@@ -94,7 +148,14 @@ void ConfDefWidgetQKeySequence::refreshState()
     } else if (!hotkey->isEnabled()) {
         showState(sDisabledGlyph, QStringLiteral("120, 129, 130"), tr("Disabled."));
     } else if (hotkey->isValid()) {
-        showState(sCorrectGlyph, QStringLiteral("103, 194, 58"), tr("Setup success."));
+        const QString other = mTellsReasons ? otherTriggerText(hotkey) : QString();
+        showState(sCorrectGlyph, QStringLiteral("103, 194, 58"),
+                  other.isEmpty() ? tr("Setup success.") : other);
+    } else if (const Reason &reason = reasonOf(hotkey); mTellsReasons) {
+        canTryAgain = reason.isWorthARetry;
+        const QString words = tr(reason.words);
+        showState(sWarningGlyph, red,
+                  canTryAgain ? words + QLatin1Char('\n') + tr("Click to try again.") : words);
     } else {
         showState(sWarningGlyph, red,
                   tr("Setup failed, the hotkey may be occupied. Click to try setup again."));
@@ -115,18 +176,47 @@ ConfigItemWidget::Status ConfDefWidgetQKeySequence::status()
     if (!hotkey->isEnabled()) {
         status.text = tr("Disabled.");
     } else if (!hotkey->isValid()) {
-        status.text = tr("Another program may use this hotkey.");
-        status.actionText = tr("Try again");
-        status.action = [this] { registerAgain(); };
+        const Reason &reason = reasonOf(hotkey);
+        status.text = tr(reason.words);
+        if (reason.isWorthARetry) {
+            status.actionText = tr("Try again");
+            status.action = [this] { registerAgain(); };
+        }
+    } else {
+        status.text = otherTriggerText(hotkey);
     }
     return status;
+}
+
+// Returns which keys the desktop has assigned instead of those of `hotkey`; empty if it has not.
+QString ConfDefWidgetQKeySequence::otherTriggerText(const QxtGlobalShortcut *hotkey)
+{
+    const QString trigger = hotkey->property("trigger").toString();
+    const QString keys = hotkey->shortcut().toString(QKeySequence::NativeText);
+    // Desktops have their own forms for the same keys, such as "Press Ctrl+Alt+k".
+    const bool isSame = (QLatin1Char(' ') + trigger)
+                            .endsWith(QLatin1Char(' ') + keys, Qt::CaseInsensitive);
+    return trigger.isEmpty() || isSame ? QString() : tr("Assigned by the desktop: %1").arg(trigger);
+}
+
+// Sets keys that the user has chosen. On desktops that ask the user, the text says what they do.
+void ConfDefWidgetQKeySequence::registerKeys(QxtGlobalShortcut *hotkey,
+                                             const QKeySequence &sequence)
+{
+    const QPointer<QxtGlobalShortcut> target(hotkey);
+    constexpr const char *description = "description";
+    const QVariant current = hotkey->property(description);
+    if (current.isValid() && current.toString().isEmpty())
+        hotkey->setProperty(description, translatedText());
+    if (target) // its signals call the host
+        hotkey->setShortcut(sequence);
 }
 
 void ConfDefWidgetQKeySequence::registerAgain()
 {
     const QPointer<ConfDefWidgetQKeySequence> self(this);
     if (QxtGlobalShortcut *const hotkey = shortcut())
-        hotkey->setShortcut(readValue<QKeySequence>());
+        registerKeys(hotkey, readValue<QKeySequence>());
     if (self)
         refreshState();
 }
@@ -154,8 +244,12 @@ void ConfDefWidgetQKeySequence::showNoState()
 void ConfDefWidgetQKeySequence::setHotKeyAgain()
 {
     const QxtGlobalShortcut *const hotkey = shortcut();
-    if (hotkey && !hotkey->isValid())
-        loadConf();
+    if (!hotkey || hotkey->isValid())
+        return;
+    const QPointer<ConfDefWidgetQKeySequence> self(this);
+    loadConf(); // sets nothing if the field shows the stored hotkey
+    if (self && mTellsReasons && hotkey == shortcut() && !hotkey->isValid())
+        registerAgain();
 }
 
 void ConfDefWidgetQKeySequence::changeEvent(QEvent *event)
@@ -184,6 +278,11 @@ void ConfDefWidgetQKeySequence::watchShortcut(QxtGlobalShortcut *shortcut)
         return;
     connect(shortcut, &QxtGlobalShortcut::enabledChanged, this,
             &ConfDefWidgetQKeySequence::refreshState);
+    // By name: another implementation of the class may lack these signals.
+    for (const char *signal : {SIGNAL(failureChanged()), SIGNAL(triggerChanged())}) {
+        if (shortcut->metaObject()->indexOfSignal(signal + 1) >= 0)
+            connect(shortcut, signal, this, SLOT(refreshState()));
+    }
     connect(shortcut, &QObject::destroyed, this, &ConfDefWidgetQKeySequence::forgetShortcut);
 }
 

@@ -21,6 +21,9 @@ namespace MtConf {
 /// The host may delete or replace the shortcut while the editor exists. If the shortcut is deleted,
 /// the editor sets the property to an invalid QVariant, so that no dangling pointer remains.
 ///
+/// When the user records a hotkey, the caption of the item becomes the description of a global
+/// shortcut that has the property "description" and no description yet.
+///
 /// @see MtConfManage::addConfQKeySequence, KeySequenceEdit
 /// @since 0.1
 class MALTO_EXPORT ConfDefWidgetQKeySequence : public ConfigItemWidget
@@ -38,8 +41,16 @@ public:
     /// Sets the stored hotkey in the field. If the field showed another one, the field emits
     /// `sigKeySequenceChanged`, which calls `onKeySequenceChanged`.
     void loadConf() override;
-    /// Returns whether the hotkey could not be registered, or is disabled.
+    /// Returns why the hotkey is not registered, that it is disabled, or which keys the desktop has
+    /// assigned instead of it.
     Status status() override;
+
+    /// Whether editors that are created from now on tell more than that the setup failed: the tool
+    /// tip of the button tells why, or which keys the desktop has assigned instead, and
+    /// `setHotKeyAgain` registers the same keys again. The button is enabled only if that may help.
+    /// False by default. The reasons come from the properties "failure" and "trigger" of the global
+    /// shortcut; one without these properties has no other reason than another program.
+    static bool sTellsReasons;
 
 public Q_SLOTS:
     /// Sets `sequence` in the global shortcut and stores it. Does nothing if there is no global
@@ -48,7 +59,8 @@ public Q_SLOTS:
     /// Shows the state of the stored hotkey on the button: not set, failed, registered or disabled.
     /// Without a global shortcut an empty hotkey is shown as not set, and any other has no state.
     void refreshState();
-    /// Calls `loadConf` if the global shortcut is not valid.
+    /// Calls `loadConf` if the global shortcut is not valid. That does not change a global shortcut
+    /// that has the stored hotkey already; with `sTellsReasons` it is set again.
     void setHotKeyAgain();
 
 protected:
@@ -59,12 +71,15 @@ private:
     QxtGlobalShortcut *shortcut();
     void watchShortcut(QxtGlobalShortcut *shortcut);
     void forgetShortcut(const QObject *destroyed);
+    static QString otherTriggerText(const QxtGlobalShortcut *hotkey);
+    void registerKeys(QxtGlobalShortcut *hotkey, const QKeySequence &sequence);
     void registerAgain();
     void showState(const QChar &glyph, const QString &color, const QString &toolTip);
     void showNoState();
 
     KeySequenceEdit *mKeySequenceEdit = nullptr;
     QPushButton *mStateButton = nullptr;
+    bool mTellsReasons = false;
     QPointer<QxtGlobalShortcut> mShortcut;
 };
 

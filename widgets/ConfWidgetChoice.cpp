@@ -7,7 +7,6 @@
 #include <MaltoConfiguration/widgets/MultiSelectComboBox.h>
 
 #include <QHBoxLayout>
-#include <QListView>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -28,9 +27,7 @@ ConfWidgetChoice::ConfWidgetChoice(ConfItem *item, QWidget *parent)
                 &ConfWidgetChoice::onChecksChanged);
     } else {
         mComboBox = new ComboboxDisableWheel(this);
-        // Style sheets apply to the rows of this view, not to those of the default view.
-        mComboBox->setView(new QListView(mComboBox));
-        new RoundedPopup(mComboBox);
+        RoundedPopup::addList(mComboBox);
         connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &ConfWidgetChoice::onSelected);
     }

@@ -12,7 +12,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QListView>
 #include <QSignalBlocker>
 #include <QTranslator>
 
@@ -66,9 +65,7 @@ ConfWidgetLanguage::ConfWidgetLanguage(ConfItem *item, QWidget *parent)
 {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    // Style sheets apply to the rows of this view, not to those of the default view.
-    mComboBox->setView(new QListView(mComboBox));
-    new RoundedPopup(mComboBox);
+    RoundedPopup::addList(mComboBox);
     mComboBox->addItems(displayNames());
     layout->addWidget(mComboBox);
     connect(mComboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

@@ -2,6 +2,7 @@
 
 #include "CheckedFlags_p.h"
 #include "EditorTexts_p.h"
+#include "GestureConflict_p.h"
 #include "Glyphs_p.h"
 #include "RoundedPopup_p.h"
 
@@ -13,7 +14,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListView>
+#include <QOperatingSystemVersion>
 #include <QStyle>
 
 #include <algorithm>
@@ -54,26 +55,38 @@ constexpr MouseAction sActions[] = {
 struct Modifier
 {
     const char *symbol;
+    const char *name; // outside of macOS
     Qt::KeyboardModifier flag;
 };
 
-constexpr Modifier sModifiers[] = {{"⇧", Qt::ShiftModifier},
-                                   {"⌘", Qt::ControlModifier},
-                                   {"⌥", Qt::AltModifier},
-                                   {"⌃", Qt::MetaModifier}};
+constexpr Modifier sModifiers[] = {
+    {"⇧", QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Shift"), Qt::ShiftModifier},
+    {"⌘", QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Ctrl"), Qt::ControlModifier},
+    {"⌥", QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Alt"), Qt::AltModifier},
+    {"⌃", QT_TRANSLATE_NOOP("MtConf::ConfWidgetMouseAction", "Super"), Qt::MetaModifier}};
 
-/// Returns `value` with both bits of a click and its double click if it has one of them: a double
-/// click starts with a click, so the two are in conflict.
-int conflictKey(int value)
+bool areModifiersNamed()
 {
-    for (const int clickAndDoubleClick : {3, 12, 48}) {
-        if (value & clickAndDoubleClick)
-            value |= clickAndDoubleClick;
-    }
-    return value;
+    return ConfWidgetMouseAction::sNamesModifiers
+           && QOperatingSystemVersion::currentType() != QOperatingSystemVersion::MacOS;
+}
+
+QString modifierText(const Modifier &modifier)
+{
+    return areModifiersNamed() ? ConfWidgetMouseAction::tr(modifier.name)
+                               : QString::fromUtf8(modifier.symbol);
 }
 
 } // namespace
+
+int gestureConflictKey(int gesture)
+{
+    for (const int clickAndDoubleClick : {3, 12, 48}) {
+        if (gesture & clickAndDoubleClick)
+            gesture |= clickAndDoubleClick;
+    }
+    return gesture & sActionBits ? gesture : 0;
+}
 
 QString mouseActionText(int value)
 {
@@ -82,26 +95,29 @@ QString mouseActionText(int value)
         [value](const MouseAction &listed) { return listed.value == (value & sActionBits); });
     if (action == std::end(sActions))
         return QString();
-    QString symbols;
+    const QString plus = QStringLiteral(" + ");
+    QStringList modifiers;
     for (const Modifier &modifier : sModifiers) {
-        if (value & modifier.flag)
-            symbols += QString::fromUtf8(modifier.symbol);
+        if (value & static_cast<int>(modifier.flag))
+            modifiers.append(modifierText(modifier));
     }
     const QString text = ConfWidgetMouseAction::tr(action->text);
-    return symbols.isEmpty() ? text : symbols + QLatin1String(" + ") + text;
+    return modifiers.isEmpty()
+               ? text
+               : modifiers.join(areModifiersNamed() ? plus : QString()) + plus + text;
 }
 
 QList<ConfWidgetMouseAction *> ConfWidgetMouseAction::sConflictList;
+bool ConfWidgetMouseAction::sTellsBothSides = false;
+bool ConfWidgetMouseAction::sNamesModifiers = false;
 
 ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, int kind)
     : ConfigItemWidget(item, parent), mModifierBox(new MultiSelectComboBox(this)),
       mActionBox(new ComboboxDisableWheel(this)), mStateLabel(new QLabel(this))
 {
     for (const Modifier &modifier : sModifiers)
-        mModifierBox->addItem(QString::fromUtf8(modifier.symbol), static_cast<int>(modifier.flag));
-    // Style sheets apply to the rows of this view, not to those of the default view.
-    mActionBox->setView(new QListView(mActionBox));
-    new RoundedPopup(mActionBox);
+        mModifierBox->addItem(modifierText(modifier), static_cast<int>(modifier.flag));
+    RoundedPopup::addList(mActionBox);
     addActions(kind);
     auto *plus = new QLabel(QStringLiteral("+"), this);
     plus->setAlignment(Qt::AlignCenter);
@@ -129,7 +145,10 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent, in
     connect(mModifierBox, &MultiSelectComboBox::selectionChanged, this,
             &ConfWidgetMouseAction::onCurrentIndexChanged);
     sConflictList.append(this);
-    refreshConflictState();
+    if (sTellsBothSides)
+        refreshAllConflictState();
+    else
+        refreshConflictState();
 }
 
 ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent)
@@ -141,6 +160,8 @@ ConfWidgetMouseAction::ConfWidgetMouseAction(ConfItem *item, QWidget *parent)
 ConfWidgetMouseAction::~ConfWidgetMouseAction()
 {
     sConflictList.removeAll(this);
+    if (sTellsBothSides)
+        refreshAllConflictState();
 }
 
 ConfigItemWidget *ConfWidgetMouseAction::CreatConfWidget(ConfItem *item, QWidget *parent)
@@ -159,6 +180,7 @@ void ConfWidgetMouseAction::addActions(int kind)
 void ConfWidgetMouseAction::loadConf()
 {
     const int stored = readValue<int>();
+    const bool wasLoading = std::exchange(mIsLoading, true);
     // Each change of a control stores what the controls show at that moment; the last one stores
     // the value read here. Each of them may run a callback that deletes the editor.
     const QPointer<ConfWidgetMouseAction> self(this);
@@ -169,8 +191,10 @@ void ConfWidgetMouseAction::loadConf()
         return;
     mCurrentValue = stored;
     mActionBox->setCurrentIndex(mActionBox->findData(stored & sActionBits, Qt::UserRole));
-    if (self)
-        refreshLabelState();
+    if (!self)
+        return;
+    mIsLoading = wasLoading;
+    refreshLabelState();
 }
 
 void ConfWidgetMouseAction::onCurrentIndexChanged()
@@ -179,10 +203,21 @@ void ConfWidgetMouseAction::onCurrentIndexChanged()
     mCurrentValue = value;
     // A left click without modifiers would intercept every click in the host. It is shown as an
     // error and the stored value is kept.
-    if (value == sLeftClick || storeValue(value))
+    if (value == sLeftClick || (isAcceptedByFilter(value) && storeValue(value)))
         refreshLabelState();
     // Update the other editors even if a callback has deleted this one.
     refreshAllConflictState();
+}
+
+/// Returns false also if the filter has deleted the editor.
+bool ConfWidgetMouseAction::isAcceptedByFilter(int gesture)
+{
+    // What is loaded was not chosen by the user.
+    if (!gestureFilter || mIsLoading || gesture == readValue<int>())
+        return true;
+    const auto filter = gestureFilter; // a copy: the host may replace it in the call
+    const QPointer<ConfWidgetMouseAction> self(this);
+    return filter(gesture) && self;
 }
 
 void ConfWidgetMouseAction::refreshConflictState()
@@ -193,9 +228,9 @@ void ConfWidgetMouseAction::refreshConflictState()
                   QObject::tr("Cannot set left-click separately"));
     } else if ((mCurrentValue & sActionBits) == 0) {
         showState(QStringLiteral("NoneIcon"), sDisabledGlyph, QObject::tr("No set"));
-    } else if (const ConfWidgetMouseAction *other = firstConflict()) {
+    } else if (const QString other = conflict(); !other.isEmpty()) {
         showState(QStringLiteral("WarningIcon"), sWarningGlyph,
-                  QObject::tr("Conflict with %1").arg(other->translatedText()));
+                  QObject::tr("Conflict with %1").arg(other));
     } else {
         showState(QStringLiteral("CorrectIcon"), sCorrectGlyph, QString());
     }
@@ -211,20 +246,28 @@ ConfigItemWidget::Status ConfWidgetMouseAction::status()
         status.text = QObject::tr("Cannot set left-click separately");
     else if ((mCurrentValue & sActionBits) == 0)
         return status;
-    else if (const ConfWidgetMouseAction *other = firstConflict())
-        status.text = QObject::tr("Conflict with %1").arg(other->translatedText());
+    else if (const QString other = conflict(); !other.isEmpty())
+        status.text = QObject::tr("Conflict with %1").arg(other);
     return status;
+}
+
+/// Returns the name of what is in conflict with the shown gesture; empty if nothing is.
+QString ConfWidgetMouseAction::conflict() const
+{
+    if (conflictName)
+        return conflictName(mCurrentValue);
+    const ConfWidgetMouseAction *const other = firstConflict();
+    return other ? other->translatedText() : QString();
 }
 
 const ConfWidgetMouseAction *ConfWidgetMouseAction::firstConflict() const
 {
-    const int key = conflictKey(mCurrentValue);
+    const int key = gestureConflictKey(mCurrentValue);
     for (const ConfWidgetMouseAction *other : std::as_const(sConflictList)) {
         if (other == this)
             continue;
         // The stored value counts: the controls may show a left click that is not stored.
-        const int otherKey = conflictKey(other->readValue<int>());
-        if ((otherKey & sActionBits) != 0 && otherKey == key)
+        if (key != 0 && gestureConflictKey(other->readValue<int>()) == key)
             return other;
     }
     return nullptr;
@@ -241,8 +284,11 @@ void ConfWidgetMouseAction::showState(const QString &styleClass, const QChar &gl
 {
     // Each state has its own glyph, so a label with the right glyph is not updated. If a conflict
     // changes to another item, the tool tip therefore still names the first one.
-    if (mStateLabel->text() == glyph)
+    if (mStateLabel->text() == glyph) {
+        if (sTellsBothSides || conflictName)
+            mStateLabel->setToolTip(toolTip);
         return;
+    }
     mStateLabel->setProperty("class", styleClass);
     mStateLabel->setText(glyph);
     mStateLabel->setToolTip(toolTip);
@@ -255,6 +301,8 @@ void ConfWidgetMouseAction::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         mModifierBox->setAccessibleName(translatedText());
         mActionBox->setAccessibleName(translatedText());
+        for (int i = 0; areModifiersNamed() && i < mModifierBox->count(); ++i)
+            mModifierBox->setItemText(i, modifierText(sModifiers[i]));
         for (const MouseAction &action : sActions) {
             const int index = mActionBox->findData(action.value, Qt::UserRole);
             if (index >= 0)

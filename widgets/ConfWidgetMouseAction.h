@@ -3,6 +3,9 @@
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 
 #include <QList>
+#include <QString>
+
+#include <functional>
 
 class ComboboxDisableWheel;
 class MultiSelectComboBox;
@@ -51,6 +54,23 @@ public:
     /// Updates the state icons of all live editors.
     static void refreshAllConflictState();
 
+    /// Called before a gesture that the user has chosen is stored, if set. If it returns false, the
+    /// controls show the gesture and the store keeps its value. The filter may delete the editor.
+    std::function<bool(int gesture)> gestureFilter;
+    /// Returns what else uses a gesture, in words; empty if nothing does. If it is set, the state
+    /// goes by it and not by the other live editors.
+    std::function<QString(int gesture)> conflictName;
+
+    /// Whether editors that are created from now on tell conflicts on both sides: the other editors
+    /// are updated when one is constructed or destroyed, and the tool tip names the present
+    /// conflict. Without it only the editor that was constructed later tells it until one of them
+    /// changes. False by default.
+    static bool sTellsBothSides;
+    /// Whether modifiers have names in editors that are created from now on, such as "Ctrl" and
+    /// "Shift", instead of glyphs. Without effect on macOS, where users know the glyphs. False by
+    /// default.
+    static bool sNamesModifiers;
+
     /// All live editors in the order of their construction.
     static QList<ConfWidgetMouseAction *> sConflictList;
 
@@ -65,10 +85,13 @@ protected:
 
 private:
     void addActions(int kind);
+    bool isAcceptedByFilter(int gesture);
+    QString conflict() const;
     const ConfWidgetMouseAction *firstConflict() const;
     void showState(const QString &styleClass, const QChar &glyph, const QString &toolTip);
 
     int mCurrentValue = 0;
+    bool mIsLoading = false;
     MultiSelectComboBox *mModifierBox = nullptr;
     ComboboxDisableWheel *mActionBox = nullptr;
     QLabel *mStateLabel = nullptr;

@@ -91,13 +91,18 @@ void KeySequenceEdit::setKeySequence(QKeySequence sequence)
 {
     if (sequence == mKeySequence)
         return;
-    if (!allowSimpleHotkey && isSimple(sequence)) {
+    if (!accepts(sequence)) {
         refuse(sequence);
         return;
     }
     mKeySequence = sequence;
     showSequence();
     Q_EMIT sigKeySequenceChanged(sequence);
+}
+
+bool KeySequenceEdit::accepts(const QKeySequence &sequence) const
+{
+    return allowSimpleHotkey || !isSimple(sequence);
 }
 
 void KeySequenceEdit::cleanSetting()
@@ -116,6 +121,17 @@ bool KeySequenceEdit::event(QEvent *event)
         // Record keys that are shortcuts of the window instead of activating the shortcut.
         event->accept();
         return true;
+    }
+    if (event->type() == QEvent::Hide) {
+        // Qt leaves the focus in a hidden field if no other widget can take it, and it would
+        // record.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (hasFocus() && !isVisible() && window()->isVisible())
+                    clearFocus();
+            },
+            Qt::QueuedConnection);
     }
     if (event->type() == QEvent::KeyPress && isEnabled()) {
         // QWidget::event() would move the focus on Tab with Meta, so bypass it.

@@ -16,11 +16,15 @@
 /// it. Keys without a name, such as AltGr, are ignored, because they cannot be saved. The Super key
 /// is recorded as Meta.
 ///
+/// The property "recordsHotkeys" suspends the `QxtGlobalShortcut` objects of the program while the
+/// field has the focus, so that their hotkeys are recorded too and not activated.
+///
 /// @see MtConf::ConfDefWidgetQKeySequence
 /// @since 0.1
 class MALTO_EXPORT KeySequenceEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool recordsHotkeys READ recordsHotkeys CONSTANT)
 public:
     /// Creates a field that shows `sequence`, even if it is a simple hotkey. Emits nothing.
     explicit KeySequenceEdit(QKeySequence sequence, QWidget *parent = nullptr);
@@ -30,8 +34,15 @@ public:
     /// "Num " for "Num+".
     static QString QKeySeqToStr(const QKeySequence &sequence);
 
+    /// Returns whether `setKeySequence` accepts `sequence`: false for a simple hotkey that is not
+    /// allowed.
+    bool accepts(const QKeySequence &sequence) const;
+
     /// Returns the recorded hotkey; empty if there is none.
     QKeySequence keySequence() const { return mKeySequence; }
+
+    /// Returns true.
+    bool recordsHotkeys() const { return true; }
 
     /// Whether simple hotkeys are accepted: a single key without a modifier that is needed for
     /// typing (Escape to Delete, arrow and page keys, modifier and lock keys, printable ASCII).

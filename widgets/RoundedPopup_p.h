@@ -16,6 +16,9 @@ public:
     /// Rounds the list of `box`, which owns the object.
     explicit RoundedPopup(QComboBox *box);
 
+    /// Gives `box` a list with rounded corners, whose rows a style sheet can style.
+    static void addList(QComboBox *box);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QKeySequence>
+#include <QList>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QSize>
 #include <QVariant>
 
@@ -28,6 +31,18 @@ inline bool isEqual(const QVariant &a, const QVariant &b)
 inline QPointF positionOf(const QMouseEvent &event)
 {
     return event.localPos();
+}
+
+/// Returns the position of the mouse on the screen.
+inline QPointF globalPositionOf(const QMouseEvent &event)
+{
+    return event.screenPos();
+}
+
+/// Returns all key sequences of the shortcut. In Qt 5 it has one.
+inline QList<QKeySequence> keysOf(const QShortcut &shortcut)
+{
+    return {shortcut.key()};
 }
 
 } // namespace QtCompat

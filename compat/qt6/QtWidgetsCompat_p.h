@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QKeySequence>
+#include <QList>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QSize>
 #include <QVariant>
 
@@ -26,6 +29,18 @@ inline bool isEqual(const QVariant &a, QVariant b)
 inline QPointF positionOf(const QMouseEvent &event)
 {
     return event.position();
+}
+
+/// Returns the position of the mouse on the screen.
+inline QPointF globalPositionOf(const QMouseEvent &event)
+{
+    return event.globalPosition();
+}
+
+/// Returns all key sequences of the shortcut.
+inline QList<QKeySequence> keysOf(const QShortcut &shortcut)
+{
+    return shortcut.keys();
 }
 
 } // namespace QtCompat

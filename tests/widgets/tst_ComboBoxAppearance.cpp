@@ -38,6 +38,7 @@ private Q_SLOTS:
     void textOfCheckBoxesHasTheSizeOfTheClosedText();
     void rowsHaveTheColoursOfThePanel_data() { textsBeginAtTheSamePlace_data(); }
     void rowsHaveTheColoursOfThePanel();
+    void listThatIsCreatedBeforeTheSheetHasOneFrame();
     void longestTextFitsIntoTheMinimumWidth_data() { textsBeginAtTheSamePlace_data(); }
     void longestTextFitsIntoTheMinimumWidth();
     void multiSelectBoxHasTheFillOfOthers();
@@ -201,6 +202,18 @@ void tst_ComboBoxAppearance::rowsHaveTheColoursOfThePanel()
         }
         box->view()->window()->hide();
     }
+}
+
+void tst_ComboBoxAppearance::listThatIsCreatedBeforeTheSheetHasOneFrame()
+{
+    applySheets(mWindow.get(), QThemeCtrl::Theme::Light, 1);
+    mWindow->show();
+    auto *box = new MultiSelectComboBox(mWindow.get());
+    box->addItems({sText, "H"});
+    box->show();
+    QVERIFY(openList(box));
+    const QWidget *popup = box->view()->window();
+    QCOMPARE(box->view()->geometry(), popup->rect());
 }
 
 void tst_ComboBoxAppearance::longestTextFitsIntoTheMinimumWidth()

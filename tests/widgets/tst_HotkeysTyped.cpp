@@ -39,9 +39,10 @@ private Q_SLOTS:
     void loneModifierIsRecordedOnRelease();
     void twoModifiersAreNotRecorded();
     void tabMovesTheFocusToTheOtherField();
-    void recordedHotkeyWorksAtOnce();
-    void clearedHotkeyIsFreeAtOnce();
+    void recordedHotkeyWorksAfterTheFieldLosesTheFocus();
+    void clearedHotkeyIsFree();
     void hotkeyOfAnotherProgramFails();
+    void failedHotkeyIsRegisteredByAClick();
 
 private:
     std::unique_ptr<XClient> mClient;
@@ -181,28 +182,32 @@ void tst_HotkeysTyped::tabMovesTheFocusToTheOtherField()
     QCOMPARE(mField->text(), QString());
 }
 
-void tst_HotkeysTyped::recordedHotkeyWorksAtOnce()
+void tst_HotkeysTyped::recordedHotkeyWorksAfterTheFieldLosesTheFocus()
 {
     QSignalSpy activations(mShortcut.get(), &QxtGlobalShortcut::activated);
     mClient->type({sControlL, sF9});
     QTRY_COMPARE(mValue, QKeySequence("Ctrl+F9"));
     QVERIFY(mShortcut->isValid());
     QCOMPARE(mButton->toolTip(), QString("Setup success."));
-    QCOMPARE(activations.count(), 0);
+    mOther->setFocus();
     mClient->type({sControlL, sF9});
     QTRY_COMPARE(activations.count(), 1);
     QCOMPARE(mField->text(), QString("Ctrl+F9"));
     // Record another hotkey in its place.
+    mField->setFocus();
     mClient->type({sAltL, sF9});
     QTRY_COMPARE(mValue, QKeySequence("Alt+F9"));
+    mOther->setFocus();
     QVERIFY(mClient->canGrab(mClient->keyOf(sF9), XCB_MOD_MASK_CONTROL));
+    QVERIFY(!mClient->canGrab(mClient->keyOf(sF9), XCB_MOD_MASK_1));
     QCOMPARE(activations.count(), 1);
 }
 
-void tst_HotkeysTyped::clearedHotkeyIsFreeAtOnce()
+void tst_HotkeysTyped::clearedHotkeyIsFree()
 {
     mClient->type({sControlL, sF9});
     QTRY_VERIFY(mShortcut->isValid());
+    mOther->setFocus();
     QVERIFY(!mClient->canGrab(mClient->keyOf(sF9), XCB_MOD_MASK_CONTROL));
     mField->cleanSetting();
     QVERIFY(mClient->canGrab(mClient->keyOf(sF9), XCB_MOD_MASK_CONTROL));
@@ -225,6 +230,25 @@ void tst_HotkeysTyped::hotkeyOfAnotherProgramFails()
     QVERIFY(mShortcut->setShortcut(mValue));
     QCOMPARE(mButton->toolTip(), QString("Setup success."));
     QVERIFY(!mButton->isEnabled());
+}
+
+void tst_HotkeysTyped::failedHotkeyIsRegisteredByAClick()
+{
+    delete mEditor;
+    MtConf::ConfDefWidgetQKeySequence::sTellsReasons = true;
+    makeEditor();
+    MtConf::ConfDefWidgetQKeySequence::sTellsReasons = false;
+    const xcb_keycode_t key = mClient->keyOf(sF9);
+    QVERIFY(mClient->grab(key, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK));
+    mClient->type({sControlL, sF9});
+    QTRY_COMPARE(mValue, QKeySequence("Ctrl+F9"));
+    QCOMPARE(mButton->toolTip(), QString("Another program uses this hotkey.\nClick to try again."));
+    QTest::mouseClick(mButton, Qt::LeftButton);
+    QVERIFY(!mShortcut->isValid());
+    mClient->ungrab(key, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_LOCK);
+    QTest::mouseClick(mButton, Qt::LeftButton);
+    QVERIFY(mShortcut->isValid());
+    QCOMPARE(mButton->toolTip(), QString("Setup success."));
 }
 
 int main(int argc, char **argv)

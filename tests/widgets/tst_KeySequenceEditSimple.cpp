@@ -21,6 +21,7 @@ private Q_SLOTS:
     void simpleKeysAreAcceptedIfAllowed();
     void severalChordsAreNeverSimple();
     void emptySequenceIsNeverSimple();
+    void fieldTellsWhatItAccepts();
 
     void rejectionIsShownInAMessageBox();
     void fieldMayBeDeletedWhileTheMessageBoxIsOpen();
@@ -146,6 +147,16 @@ void tst_KeySequenceEditSimple::emptySequenceIsNeverSimple()
     mField->setKeySequence(QKeySequence());
     QCOMPARE(mField->text(), QString());
     QCOMPARE(boxes.count, 0);
+}
+
+void tst_KeySequenceEditSimple::fieldTellsWhatItAccepts()
+{
+    KeySequenceEdit edit{QKeySequence()};
+    QVERIFY(edit.accepts(QKeySequence("A")));
+    edit.allowSimpleHotkey = false;
+    QVERIFY(!edit.accepts(QKeySequence("A")));
+    QVERIFY(edit.accepts(QKeySequence("Ctrl+A")));
+    QVERIFY(edit.accepts(QKeySequence()));
 }
 
 void tst_KeySequenceEditSimple::rejectionIsShownInAMessageBox()
