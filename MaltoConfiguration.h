@@ -3,6 +3,8 @@
 /// Everything that a host uses: the store, the manager with its items, the editors and the settings
 /// window.
 
+#include <MaltoConfiguration/inputs/GestureRecognizer.h>
+#include <MaltoConfiguration/inputs/InputRegistry.h>
 #include <MaltoConfiguration/manage/ConfItem.h>
 #include <MaltoConfiguration/manage/MajorConfItem.h>
 #include <MaltoConfiguration/manage/MtConfManage.h>

@@ -88,6 +88,7 @@ ConfItem *MtConfManage::addConfShortcut(const char *text, QKeySequence *value, Q
 {
     ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
                              ConfWidgetShortcut::CreatConfWidget);
+    item->properties[QStringLiteral("Malto.InProgram")] = true;
     if (action)
         ShortcutBinding::bind(item->getFullName(), action,
                               [action](const QKeySequence &keys) { action->setShortcut(keys); });
@@ -100,6 +101,7 @@ ConfItem *MtConfManage::addConfShortcut(const char *text, QKeySequence *value, Q
 {
     ConfItem *item = addConf(text, value, majorName, name, subName, WidgetCreator(),
                              ConfWidgetShortcut::CreatConfWidget);
+    item->properties[QStringLiteral("Malto.InProgram")] = true;
     if (shortcut)
         ShortcutBinding::bind(item->getFullName(), shortcut,
                               [shortcut](const QKeySequence &keys) { shortcut->setKey(keys); });

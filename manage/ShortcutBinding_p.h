@@ -22,9 +22,13 @@ public:
 
     ~ShortcutBinding() override;
 
+    /// Returns the key that `target` is bound to; empty if there is none.
+    static QString keyOf(const QObject *target);
+
 private:
     ShortcutBinding(const QString &key, QObject *target, const Setter &setter);
 
+    const QString mKey;
     int mObserver = 0;
 };
 

@@ -1,15 +1,16 @@
 # Fails if a file includes a header of a higher folder:
-#   store <- manage <- widgets <- manage/MtConfManageDeclare*.cpp <- window
+#   store <- manage <- widgets <- manage/MtConfManageDeclare*.cpp <- inputs <- window
 # A companion includes nothing but the private headers in MaltoFiles/.
 
-set(forbidden_store "MaltoConfiguration/(manage|widgets|window)/|OrvUtils/|QIconfont/|<Q(Widget|Application|Label)>")
-set(forbidden_manage "MaltoConfiguration/(widgets|window)/")
-set(forbidden_widgets "MaltoConfiguration/(manage/MtConfManage|window)")
+set(forbidden_store "MaltoConfiguration/(manage|widgets|inputs|window)/|OrvUtils/|QIconfont/|<Q(Widget|Application|Label)>")
+set(forbidden_manage "MaltoConfiguration/(widgets|inputs|window)/")
+set(forbidden_widgets "MaltoConfiguration/(manage/MtConfManage|inputs|window)")
+set(forbidden_inputs "MaltoConfiguration/window/")
 set(forbidden_window "")
 set(forbidden_companion "MaltoConfiguration/")
 
 set(failed FALSE)
-foreach(folder store manage widgets window companion)
+foreach(folder store manage widgets inputs window companion)
     file(GLOB_RECURSE files ${SOURCE_DIR}/${folder}/*.h ${SOURCE_DIR}/${folder}/*.cpp
          ${SOURCE_DIR}/${folder}/*.mm)
     foreach(file IN LISTS files)
