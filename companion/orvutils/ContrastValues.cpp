@@ -26,6 +26,14 @@ double contrastRatio(const QColor &one, const QColor &other)
     return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
 }
 
+/// Returns `ground` with `percent` of `text`.
+QColor mixed(const QColor &ground, const QColor &text, int percent)
+{
+    const auto part = [percent](int from, int to) { return from + (to - from) * percent / 100; };
+    return {part(ground.red(), text.red()), part(ground.green(), text.green()),
+            part(ground.blue(), text.blue())};
+}
+
 } // namespace
 
 bool isOfHighContrast(const QPalette &palette)
@@ -69,12 +77,16 @@ QMap<QString, QString> contrastThemeValues(const QPalette &palette)
         {QStringLiteral("ModernGround"), ground},
         {QStringLiteral("ModernPanel"), ground},
         {QStringLiteral("ModernLine"), text},
-        {QStringLiteral("ModernHover"), ground},
+        {QStringLiteral("ModernHover"), mixed(window, windowText, 20).name()},
         {QStringLiteral("ModernText"), text},
         {QStringLiteral("ModernSecondary"), text},
+        // Not that of a value, but readable: 7 to 1 on white.
+        {QStringLiteral("ModernPlaceholder"), mixed(window, windowText, 65).name()},
         {QStringLiteral("ModernFaint"), faint},
         {QStringLiteral("ModernField"), ground},
         {QStringLiteral("ModernFieldLine"), text},
+        {QStringLiteral("ModernDisabledLine"), faint},
+        {QStringLiteral("ModernArrows"), isDark ? QStringLiteral("light") : QStringLiteral("dark")},
         {QStringLiteral("ModernAccent"), highlight.name()},
         {QStringLiteral("ModernOnAccent"), highlighted.name()},
         {QStringLiteral("ModernKnob"), ground},

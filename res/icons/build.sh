@@ -21,5 +21,11 @@ marks() { # <colour> <suffix>
 
 marks "$white" ''
 marks '#0f1114' -dark # on a light accent
-draw arrow-down "$grey" 'polyline 14,24 32,42 50,24'
-draw arrow-up "$grey" 'polyline 14,40 32,22 50,40'
+arrows() { # <colour> <suffix>
+    draw "arrow-down$2" "$1" 'polyline 14,24 32,42 50,24'
+    draw "arrow-up$2" "$1" 'polyline 14,40 32,22 50,40'
+}
+
+arrows "$grey" ''
+arrows '#d5d9e0' -light # of the modern look
+arrows '#3a404a' -dark
