@@ -136,4 +136,9 @@ void ClassicPageBuilder::addUnderCaption(const PageRow &row, QWidget *widget)
     texts->addWidget(widget);
 }
 
+void ClassicPageBuilder::addBelow(const PageRow &row, QWidget *widget)
+{
+    addUnderCaption(row, widget);
+}
+
 } // namespace MtConf

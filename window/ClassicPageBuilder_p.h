@@ -25,6 +25,7 @@ public:
     void endGroup() override;
     void addAtEnd(const PageRow &row, QWidget *widget) override;
     void addUnderCaption(const PageRow &row, QWidget *widget) override;
+    void addBelow(const PageRow &row, QWidget *widget) override;
 
 private:
     void keepEndFree(int gridRow);

@@ -1,10 +1,10 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
-#include "ChangedItems_p.h"
 #include "ClassicPageBuilder_p.h"
 #include "DialogDress_p.h"
 #include "MaltoConfiguration/widgets/HostCode_p.h"
-#include "ModernPageBuilder_p.h"
+#include "MaltoConfiguration/window/modern/ModernPageBuilder_p.h"
+#include "MaltoConfiguration/window/rows/ChangedItems_p.h"
 #include "ResetQuestion_p.h"
 #include "WindowFeature_p.h"
 #include "ui_ConfigurationWindow.h"

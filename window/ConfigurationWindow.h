@@ -177,6 +177,7 @@ private:
     void endPage();
     void describePage();
     void orderTabs();
+    void orderTabsOfColumn();
     int startRow() const;
     void addFeatures();
     void tellFeatures(void (WindowFeature::*happened)());

@@ -214,6 +214,26 @@ void ConfigurationWindow::orderTabs()
     }
     setTabOrder(last, mUi->btnRestoreDefault);
     setTabOrder(mUi->btnRestoreDefault, mUi->btnRestoreAllDefault);
+    if (!mFeatures.isEmpty())
+        orderTabsOfColumn();
+}
+
+/// Orders what features have added beside the page as it is laid out, before the page.
+void ConfigurationWindow::orderTabsOfColumn()
+{
+    QList<QWidget *> stops;
+    for (int i = 0; i < mUi->verticalLayout_3->count(); ++i) {
+        QWidget *const widget = mUi->verticalLayout_3->itemAt(i)->widget();
+        if (!widget || widget == mUi->btnRestoreAllDefault)
+            continue;
+        if (widget->focusPolicy() != Qt::NoFocus)
+            stops.append(widget);
+        else
+            stops.append(widget->findChildren<QWidget *>());
+    }
+    stops.append(mUi->scrollArea);
+    for (int i = 1; i < stops.size(); ++i)
+        setTabOrder(stops.at(i - 1), stops.at(i));
 }
 
 void ConfigurationWindow::clearConfigItem()

@@ -34,9 +34,13 @@ int scaled(double pixels, double scale)
     return qMax(1, qRound(pixels * scale));
 }
 
-/// Returns the part of `widget` that users see as the widget.
-QRect visiblePart(const QWidget *widget)
+/// Returns the part of `widget` that users see as the widget. `margin` is the width of the ring
+/// with its gap.
+QRect visiblePart(const QWidget *widget, int margin)
 {
+    // The window would cut a ring around it.
+    if (widget->property("RingInside").toBool())
+        return widget->rect().adjusted(margin, margin, -margin, -margin);
     // These are as wide as their column, and empty behind the text.
     if (qobject_cast<const QCheckBox *>(widget) || qobject_cast<const QRadioButton *>(widget)) {
         QSize size = widget->sizeHint();
@@ -90,7 +94,7 @@ public:
         const double scale = scaleOf(frame);
         const int margin = pixelMetric(PM_FocusFrameHMargin, option, frame);
         const int width = scaled(sWidth, scale);
-        const QRectF outer = visiblePart(frame->widget()).translated(margin, margin);
+        const QRectF outer = visiblePart(frame->widget(), margin).translated(margin, margin);
         const double beyond = margin - width / 2.0;
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(QPen(QThemeCtrl::instance()->color(mColor), width));

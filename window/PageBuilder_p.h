@@ -35,6 +35,8 @@ public:
     virtual void addAtEnd(const PageRow &row, QWidget *widget) = 0;
     /// Adds `widget`, a text, under the caption of a row.
     virtual void addUnderCaption(const PageRow &row, QWidget *widget) = 0;
+    /// Adds `widget` below the caption and the editor of a row, as wide as both.
+    virtual void addBelow(const PageRow &row, QWidget *widget) = 0;
 };
 
 } // namespace MtConf

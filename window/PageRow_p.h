@@ -8,6 +8,10 @@
 
 namespace MtConf {
 
+/// The property of a widget in a row that belongs to neither editor nor caption: the key of the
+/// row.
+inline constexpr char sRowKey[] = "RowKey";
+
 /// One row of a page: an item with the widgets that show it. Each pointer may be null: editors
 /// without a caption or a message, and widgets that a host has deleted.
 struct PageRow

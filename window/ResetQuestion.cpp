@@ -48,6 +48,7 @@ bool askToReset(QWidget *window, ResetScope scope, const QStringList &captions)
 {
     const QPointer<QWidget> self(window);
     const QPointer<QMessageBox> box(new QMessageBox(window));
+    box->setObjectName(QStringLiteral("ResetQuestion"));
     box->setWindowTitle(window->windowTitle());
     box->setTextFormat(Qt::PlainText);
     box->setText(Texts::question(scope, static_cast<int>(captions.size())));

@@ -6,6 +6,8 @@
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
+#include <algorithm>
+
 namespace MtConf {
 
 WindowFeature::WindowFeature(ConfigurationWindow *window) : QObject(window), mWindow(window) {}
@@ -75,6 +77,31 @@ bool WindowFeature::commitEditors()
 const QList<PageRow> &WindowFeature::rows() const
 {
     return mWindow->mRows;
+}
+
+const PageRow *WindowFeature::rowOf(const QObject *widget) const
+{
+    const auto *const found = qobject_cast<const QWidget *>(widget);
+    for (const PageRow &row : rows()) {
+        // The control of a caption, such as a switch, may be inside of it.
+        if (found && row.editor
+            && (row.caption == found || row.editor->label() == found
+                || row.editor->isAncestorOf(found)))
+            return &row;
+    }
+    return nullptr;
+}
+
+const PageRow *WindowFeature::focusedRow() const
+{
+    const QWidget *const focused = window()->focusWidget();
+    if (const PageRow *const row = rowOf(focused))
+        return row;
+    const QString key = focused ? focused->property(sRowKey).toString() : QString();
+    const auto found = std::find_if(rows().cbegin(), rows().cend(), [&key](const PageRow &row) {
+        return !key.isEmpty() && row.key == key;
+    });
+    return found != rows().cend() ? &*found : nullptr;
 }
 
 PageBuilder *WindowFeature::builder() const

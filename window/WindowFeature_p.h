@@ -69,6 +69,11 @@ protected:
     bool commitEditors();
     /// The rows of the shown page.
     const QList<PageRow> &rows() const;
+    /// Returns the row with the control or the caption `widget`, which may be null. Null if there
+    /// is none.
+    const PageRow *rowOf(const QObject *widget) const;
+    /// Returns the row whose control, caption or button has the keyboard focus, or null.
+    const PageRow *focusedRow() const;
     PageBuilder *builder() const;
     /// The scale of the window in pixels per point.
     double scale() const;

@@ -4,10 +4,13 @@
 
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QIcon>
 #include <QListView>
+#include <QMargins>
 #include <QScreen>
+#include <QStyle>
+#include <QWindow>
 
 namespace MtConf {
 
@@ -24,6 +27,23 @@ bool isUsable(const QRect &geometry)
             return false;
     }
     return geometry.isValid();
+}
+
+/// Returns the margins of the frame that the window will probably have: the largest that a window
+/// of this program has, and a title bar if none is shown yet.
+QMargins expectedFrame()
+{
+    QMargins frame(0, QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (const QWindow *window : windows) {
+        if (!window->isVisible() || window->type() != Qt::Window)
+            continue;
+        const QMargins margins = window->frameMargins();
+        frame = QMargins(qMax(frame.left(), margins.left()), qMax(frame.top(), margins.top()),
+                         qMax(frame.right(), margins.right()),
+                         qMax(frame.bottom(), margins.bottom()));
+    }
+    return frame;
 }
 
 } // namespace
@@ -53,7 +73,7 @@ void WindowIdentity::restoreGeometry()
     const QScreen *screen = QGuiApplication::screenAt(geometry.center());
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    const QRect available = screen->availableGeometry();
+    const QRect available = screen->availableGeometry().marginsRemoved(expectedFrame());
     const QSize smallest(scaled(sMinimumSize.width()), scaled(sMinimumSize.height()));
     window()->setMinimumSize(smallest.boundedTo(available.size()));
     const QSize size = geometry.size().boundedTo(available.size());

@@ -60,13 +60,17 @@ void WindowKeys::close()
 void WindowKeys::showPageAfter(int step)
 {
     const int count = classList()->model()->rowCount();
-    int row = classList()->currentIndex().row();
+    const int current = classList()->currentIndex().row();
+    int row = current;
     for (int i = 0; i < count; ++i) {
         row = (row + step + count) % count;
-        if (!classList()->isRowHidden(row)) {
+        if (classList()->isRowHidden(row))
+            continue;
+        if (row == current && showsItems()) // all results are on the current page
+            rebuildPage();
+        else
             classList()->setCurrentIndex(classList()->model()->index(row, 0));
-            return;
-        }
+        return;
     }
 }
 
@@ -74,15 +78,8 @@ void WindowKeys::showHelp()
 {
     if (!manager() || !manager()->helpHook)
         return;
-    const QWidget *const focused = window()->focusWidget();
-    QString key = window()->currentClass();
-    for (const PageRow &row : rows()) {
-        const bool hasFocus = focused
-                              && (focused == row.caption
-                                  || (row.editor && row.editor->isAncestorOf(focused)));
-        if (hasFocus)
-            key = row.key;
-    }
+    const PageRow *const row = focusedRow();
+    const QString key = row ? row->key : window()->currentClass();
     const auto hook = manager()->helpHook; // a copy: the host may replace it in the call
     const HostCodeScope scope(hostCode());
     hook(key);

@@ -1,5 +1,5 @@
 #include "FaultInjection.h"
-#include "MaltoConfiguration/window/SettingsFile_p.h"
+#include "MaltoConfiguration/window/transfer/SettingsFile_p.h"
 #include "support/CleanStore.h"
 #include "support/FileText.h"
 #include "support/LogCapture.h"

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void doubleClickOnAFlagStays();
     void openedRowIsScrolledToAndMarked_data();
     void openedRowIsScrolledToAndMarked();
+    void markCoversTheNotesOfARow();
     void arrowKeysLeadToTheResults();
     void nothingFoundIsSaid();
     void hitsAreMarked_data();
@@ -194,6 +195,27 @@ void tst_FindResults::openedRowIsScrolledToAndMarked()
     QVERIFY(!mark->isVisible());
     QTRY_VERIFY(!mFixture->child<QWidget>("FindRowMark"));
     clearStore(); // before the numbers are gone
+}
+
+void tst_FindResults::markCoversTheNotesOfARow()
+{
+    mFixture->manager->windowLook = MtConf::ModernLook;
+    mFixture->manager->windowFeatures |= MtConf::DetailsFeature;
+    static const QByteArray sHelp = QByteArray("Long help ").repeated(60);
+    mFixture->hotkeysItem()->setHelp(sHelp.constData());
+    QVERIFY(mFixture->openActive());
+    QVERIFY(mFixture->find("hotkeys work"));
+    QTest::keyClick(mFixture->field(), Qt::Key_Return);
+    QTRY_VERIFY(mFixture->child<QWidget>("FindRowMark"));
+    QCoreApplication::processEvents();
+    const auto *mark = mFixture->child<QWidget>("FindRowMark");
+    const QWidget *row = mark->parentWidget();
+    const QList<QLabel *> texts = row->findChildren<QLabel *>();
+    QVERIFY(texts.size() >= 2);
+    for (const QLabel *text : texts) {
+        const QRect rect(text->mapTo(row, QPoint()), text->size());
+        QVERIFY2(!text->isVisible() || mark->geometry().contains(rect), qPrintable(text->text()));
+    }
 }
 
 void tst_FindResults::arrowKeysLeadToTheResults()
@@ -445,10 +467,14 @@ void tst_FindResults::modernLookHasATitleAndMarksFlags()
     const auto *help = mFixture->child<QLabel>("FindHelp");
     QCOMPARE(title->text(), QString("General"));
     QVERIFY(!help->isVisible());
+    const auto *state = mFixture->child<QLabel>("ModernPageState");
+    mFixture->store()->set("General.Show tips", false);
+    QTRY_VERIFY(state->isVisible());
 
     QVERIFY(mFixture->find("window"));
     QCOMPARE(title->text(), QString("Results"));
     QVERIFY(help->isVisible());
+    QVERIFY(!state->isVisible()); // it is that of the page
     mFixture->store()->set("System.Hotkeys work", false);
     QCoreApplication::processEvents();
     QVERIFY(help->isVisible());

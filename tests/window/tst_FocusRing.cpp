@@ -28,6 +28,7 @@ private Q_SLOTS:
     void dialogsOfTheWindowHaveARing();
     void nestedSheetsHaveOneRing();
     void ringOfTheModernLookHasItsAccent();
+    void ringOfThePageIsInsideIt();
     void clickOnAClassMovesNothing();
 
 private:
@@ -218,6 +219,28 @@ void tst_FocusRing::ringOfTheModernLookHasItsAccent()
     const QList<QColor> colors = fromTheLeft(ring(), 0, width());
     for (const QColor &color : colors)
         QCOMPARE(color, accent);
+}
+
+void tst_FocusRing::ringOfThePageIsInsideIt()
+{
+    mFixture->declare();
+    mFixture->manager->windowLook = MtConf::ModernLook;
+    mFixture->manager->ShowWindow("Edit");
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+    auto *area = WindowFixture::child<QScrollArea>("scrollArea");
+    area->setFocus();
+    QTRY_COMPARE(ringedWidget(), static_cast<QWidget *>(area));
+    const QImage picture = window()->grab().toImage();
+    const QPoint middle = area->mapTo(window(), area->rect().center());
+    const QPoint first = area->mapTo(window(), QPoint());
+    const QPoint last = area->mapTo(window(), area->rect().bottomRight());
+    const QColor accent = QThemeCtrl::instance()->color("ModernAccent");
+    const int inset = qRound(width() / 2. / window()->devicePixelRatioF());
+    for (const QPoint edge :
+         {QPoint(first.x() + inset, middle.y()), QPoint(last.x() - inset, middle.y()),
+          QPoint(middle.x(), first.y() + inset), QPoint(middle.x(), last.y() - inset)})
+        QCOMPARE(picture.pixelColor(edge * picture.devicePixelRatio()), accent);
 }
 
 void tst_FocusRing::clickOnAClassMovesNothing()

@@ -1,4 +1,4 @@
-#include "MaltoConfiguration/window/HotkeyItems_p.h"
+#include "MaltoConfiguration/window/history/HotkeyItems_p.h"
 #include "support/CleanStore.h"
 #include "support/TestMain.h"
 

@@ -1,4 +1,5 @@
-#include "MaltoConfiguration/window/ImportDialog_p.h"
+#include "MaltoConfiguration/window/rows/ValueInWords_p.h"
+#include "MaltoConfiguration/window/transfer/ImportDialog_p.h"
 #include "support/CleanStore.h"
 #include "support/Entries.h"
 #include "support/LogCapture.h"
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void longValuesAreShortened();
     void textsAreNotMarkup();
     void screenReadersGetWholeRows();
+    void captionsHaveTheRoomThatValuesLeave();
     void layoutFollowsTheDirection();
     void valuesKeepTheirOwnDirection();
 
@@ -340,6 +342,19 @@ void tst_ImportDialog::screenReadersGetWholeRows()
     for (int i = 0; i < view->childCount(); ++i)
         names.append(view->child(i)->text(QAccessible::Name));
     QVERIFY2(names.contains("Delay, here: 3 s, in the file: 8 s"), qPrintable(names.join('|')));
+}
+
+void tst_ImportDialog::captionsHaveTheRoomThatValuesLeave()
+{
+    const QString caption = QString("Long caption ").repeated(4);
+    const QString value(500, 'x');
+    QVERIFY(open({{"A", "Page", caption, "1", "2", {}, {}}}));
+    const QHeaderView *header = tree()->header();
+    QVERIFY(tree()->fontMetrics().horizontalAdvance(caption) < header->sectionSize(0) - 40);
+    QCOMPARE(header->length(), tree()->viewport()->width());
+    QVERIFY(open({{"A", "Page", caption, value, value, {}, {}}}));
+    QVERIFY(tree()->header()->sectionSize(0) > 200);
+    QCOMPARE(tree()->header()->length(), tree()->viewport()->width());
 }
 
 void tst_ImportDialog::layoutFollowsTheDirection()

@@ -1,5 +1,5 @@
-#include "MaltoConfiguration/window/ImportDialog_p.h"
-#include "MaltoConfiguration/window/SettingsHistory_p.h"
+#include "MaltoConfiguration/window/history/SettingsHistory_p.h"
+#include "MaltoConfiguration/window/transfer/ImportDialog_p.h"
 #include "support/Entries.h"
 #include "support/FileText.h"
 #include "support/LogCapture.h"
@@ -11,6 +11,8 @@
 #include <QHelpEvent>
 #include <QJsonDocument>
 #include <QLineEdit>
+#include <QScreen>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QToolTip>
 #include <QTranslator>
@@ -96,10 +98,10 @@ private Q_SLOTS:
     {
         mFixture = std::make_unique<WindowFixture>();
         mFixture->manager->windowFeatures = MtConf::ImportExportFeature;
-        mFixture->manager->addConfInt32("Delay", &mDelay, "Capture", "Delay");
-        mFixture->manager->addConfBool("Sound", &mSound, "Capture", "Sound");
         mDelay = 3;
         mSound = true;
+        mFixture->manager->addConfInt32("Delay", &mDelay, "Capture", "Delay");
+        mFixture->manager->addConfBool("Sound", &mSound, "Capture", "Sound");
     }
     void cleanup()
     {
@@ -121,6 +123,8 @@ private Q_SLOTS:
     void damagedFileIsSaid();
     void importedHotkeyIsRegistered();
     void importIsOneStepOfTheHistory();
+    void whatThePageStoresInAnswerIsUndoneWithTheImport();
+    void previewFitsTheScreen();
     void importedValuesCountAsChangedHere();
     void fileOfTheFirstMachineIsImportedOnTheSecond();
     void windowMayBeDeletedInEachDialog_data();
@@ -363,6 +367,38 @@ void tst_ImportExport::importIsOneStepOfTheHistory()
     history->redo();
     QCOMPARE(mDelay, 8);
     QCOMPARE(mSound, false);
+}
+
+void tst_ImportExport::whatThePageStoresInAnswerIsUndoneWithTheImport()
+{
+    writeFile(sFile, R"({"Capture.Delay": {"t": 100, "v": 4000},
+                         "Capture.Sound": {"t": 100, "v": false}})");
+    mFixture->manager->windowFeatures |= MtConf::UndoFeature;
+    QVERIFY(mFixture->open());
+    auto *history = WindowFixture::window()->findChild<SettingsHistory *>();
+    const QSignalSpy recorded(history, &SettingsHistory::recorded);
+    QVERIFY(click("btnImport", {choose(sFile), accept}));
+    QCOMPARE(mDelay, 99); // the largest number of the field
+    QVERIFY(history->canUndo());
+    QCOMPARE(recorded.size(), 1);
+    QCOMPARE(recorded.at(0).at(1).toStringList(), QStringList({"Capture.Delay", "Capture.Sound"}));
+    history->undo();
+    QCOMPARE(mDelay, 3);
+    QCOMPARE(mSound, true);
+    QVERIFY(!history->canUndo());
+}
+
+void tst_ImportExport::previewFitsTheScreen()
+{
+    writeFile(sFile, R"({"Capture.Delay": {"t": 100, "v": 8}})");
+    QVERIFY(mFixture->open());
+    QRect shown;
+    QVERIFY(click("btnImport", {choose(sFile), [&](QWidget *dialog) {
+                                    shown = dialog->frameGeometry();
+                                    reject(dialog);
+                                }}));
+    // At double size the screen of the test is narrower than the buttons.
+    QVERIFY(shown.height() <= QGuiApplication::primaryScreen()->availableSize().height());
 }
 
 void tst_ImportExport::importedValuesCountAsChangedHere()

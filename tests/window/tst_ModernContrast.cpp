@@ -2,7 +2,11 @@
 #include "support/Contrast.h"
 #include "support/TestMain.h"
 
-#include <QScrollArea>
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
 
 namespace {
 
@@ -102,6 +106,16 @@ private Q_SLOTS:
     void linesOfFieldsAreVisible();
     void iconsOfClassesAreVisible_data() { addLooks(); }
     void iconsOfClassesAreVisible();
+    void arrowsOfFieldsAreVisible_data() { addLooks(); }
+    void arrowsOfFieldsAreVisible();
+    void placeholdersHaveEnoughContrast_data() { addLooks(); }
+    void placeholdersHaveEnoughContrast();
+    void pressedButtonsAreReadable_data() { addLooks(); }
+    void pressedButtonsAreReadable();
+    void selectionOfAListIsVisibleWithoutTheFocus_data() { addLooks(); }
+    void selectionOfAListIsVisibleWithoutTheFocus();
+    void whatInformsInAMenuHasEnoughContrast_data() { addLooks(); }
+    void whatInformsInAMenuHasEnoughContrast();
 
 private:
     void open();
@@ -120,6 +134,7 @@ void tst_ModernContrast::open()
 {
     mHost = std::make_unique<LifetimeFixture>();
     mHost->manager->windowLook = MtConf::ModernLook;
+    mHost->manager->windowFeatures = MtConf::FindFeature;
     mHost->flag = false;
     QMap<QString, QChar> icons{{"Edit", QChar(0xe800)}, {"Other", QChar(0xe801)}};
     mHost->manager->setIconMap(icons);
@@ -146,13 +161,15 @@ void tst_ModernContrast::coloursHaveEnoughContrast_data()
                 }
             }
         };
+        add({"ModernPlaceholder"}, {"ModernGround", "ModernPanel", "ModernField"}, 4.5);
         add({"ModernText", "ModernSecondary"},
             {"ModernGround", "ModernPanel", "ModernField", "ModernHover", "ModernHit"}, 4.5);
         add({"ModernAccent", "ModernWarning", "ModernError", "ModernGood"},
             {"ModernGround", "ModernPanel"}, 4.5); // links and words
         add({"ModernOnAccent"}, {"ModernAccent"}, 4.5);
         add({"ModernOnError"}, {"ModernError"}, 4.5);
-        add({"ModernPanel"}, {"ModernText"}, 4.5); // inverse bars
+        add({"ModernPanel"}, {"ModernText"}, 4.5);                 // inverse bars
+        add({"ModernHover"}, {"ModernPanel", "ModernField"}, 1.1); // an area
         add({"ModernFieldLine"}, {"ModernGround", "ModernPanel", "ModernField"}, 3);
         add({"ModernAccent"}, {"ModernField"}, 3);
         add({"ModernKnob"}, {"ModernAccent", "ModernFieldLine"}, 3);
@@ -229,6 +246,88 @@ void tst_ModernContrast::iconsOfClassesAreVisible()
     for (int row = 0; row < 2; ++row) { // one of them is selected
         QVERIFY2(drawnContrast(grabbedRow(row, 32)) >= 3, QByteArray::number(row));
     }
+}
+
+void tst_ModernContrast::arrowsOfFieldsAreVisible()
+{
+    QFETCH(const int, look);
+    select(look);
+    open();
+    const bool isHigh = QThemeCtrl::instance()->isHighContrast();
+    for (const char *name : {"Number", "Text"}) {
+        auto *editor = mHost->manager->getItemByName("Edit", name, "")->editor;
+        const QWidget *field = editor->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        const QImage image = mHost->window()->grab().toImage();
+        const QRect whole(field->mapTo(mHost->window(), QPoint()), field->size());
+        const int inset = 3; // the line of the field
+        const QRect arrows(whole.right() - 22, whole.top() + inset, 20 - inset,
+                           whole.height() - 2 * inset);
+        QVERIFY2(drawnContrast(image.copy(arrows)) >= (isHigh ? 4.5 : 3), name);
+    }
+}
+
+void tst_ModernContrast::placeholdersHaveEnoughContrast()
+{
+    QFETCH(const int, look);
+    // Each look replaces the colours of the one before.
+    open();
+    select(look);
+    const QColor ground = QThemeCtrl::instance()->color("ModernField");
+    const QList<QLineEdit *> edits = mHost->window()->findChildren<QLineEdit *>();
+    int count = 0;
+    for (const QLineEdit *edit : edits) {
+        if (qobject_cast<const QAbstractSpinBox *>(edit->parent()) || !edit->isVisible())
+            continue;
+        const QColor color = edit->palette().color(QPalette::PlaceholderText);
+        QCOMPARE(color.alpha(), 255);
+        QVERIFY2(contrast(color, ground) >= 4.5, qPrintable(edit->objectName()));
+        // It does not look like a value.
+        QVERIFY(contrast(color, QThemeCtrl::instance()->color("ModernText")) >= 1.5);
+        ++count;
+    }
+    QVERIFY(count >= 3); // Find, a hotkey, several choices
+}
+
+void tst_ModernContrast::pressedButtonsAreReadable()
+{
+    QFETCH(const int, look);
+    select(look);
+    open();
+    auto *button = mHost->control<QPushButton>("Font");
+    button->setDown(true);
+    QVERIFY(drawnContrast(grabbed(button).copy(3, 3, button->width() - 6, button->height() - 6))
+            >= 4.5);
+}
+
+void tst_ModernContrast::selectionOfAListIsVisibleWithoutTheFocus()
+{
+    QFETCH(const int, look);
+    select(look);
+    open();
+    auto *list = new QListWidget(mHost->window());
+    list->addItems({"one", "two"});
+    list->resize(200, 100);
+    list->setCurrentRow(1);
+    list->show();
+    const QRect row = list->visualItemRect(list->item(1));
+    const QImage image = grabbed(list->viewport());
+    // The line around it, where there is no text.
+    const QColor line = image.pixelColor(row.center().x(), row.bottom());
+    const QColor field = QThemeCtrl::instance()->color("ModernField");
+    QVERIFY(contrast(line, field) >= 3);
+}
+
+void tst_ModernContrast::whatInformsInAMenuHasEnoughContrast()
+{
+    QFETCH(const int, look);
+    select(look);
+    open();
+    QMenu menu(mHost->window());
+    menu.addAction("Default: 3")->setEnabled(false);
+    menu.popup(mHost->window()->pos());
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    const QRect entry = menu.actionGeometry(menu.actions().first());
+    QVERIFY(drawnContrast(menu.grab(entry).toImage()) >= 4.5);
 }
 
 int main(int argc, char **argv)

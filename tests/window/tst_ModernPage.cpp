@@ -1,4 +1,5 @@
 #include "LifetimeFixture.h"
+#include "support/TableTranslator.h"
 #include "support/TestMain.h"
 
 #include <QComboBox>
@@ -12,6 +13,15 @@ constexpr char sReason[] = "RowReason";
 
 } // namespace
 
+/// A hotkey that another program has registered, on every platform.
+class TakenHotkey : public QxtGlobalShortcut
+{
+    Q_OBJECT
+    Q_PROPERTY(QxtGlobalShortcut::Failure failure READ failure)
+public:
+    Failure failure() const { return Taken; }
+};
+
 /// What pages of the modern look say and ask.
 class tst_ModernPage : public QObject
 {
@@ -22,6 +32,7 @@ private Q_SLOTS:
     void cleanup();
 
     void failedHotkeyIsSaidInWordsAndRegisteredAgain();
+    void hotkeyThatCannotBeRegisteredAgainHasNoLink();
     void emptyHotkeyNeedsNoWords();
     void conflictOfGesturesIsSaidInWords();
     void dependentRowSaysWhatItNeeds();
@@ -29,6 +40,7 @@ private Q_SLOTS:
     void restoringAPageNamesWhatGoes();
     void restoringAllCountsAllPages();
     void questionWithoutChangesHasNoCount();
+    void questionShowsItsWholeText();
     void customPageHasATitleAndIsResetByTheHost();
     void customPageWithoutAResetHasNoButton();
     void classWithoutARestoreButtonHasNone();
@@ -90,27 +102,37 @@ void tst_ModernPage::open(const QString &page)
 
 void tst_ModernPage::failedHotkeyIsSaidInWordsAndRegisteredAgain()
 {
-    // Without an X server nothing can be registered. With one, an unknown key cannot.
-    mHost->key = QKeySequence(Qt::CTRL | Qt::Key_LaunchH);
-    mHost->shortcut.setShortcut(mHost->key);
-    QVERIFY(!mHost->shortcut.isValid());
+    TakenHotkey hotkey;
+    item("Key")->properties["Shortcut"] = QVariant::fromValue<QxtGlobalShortcut *>(&hotkey);
+    mHost->key = QKeySequence("Ctrl+K, Ctrl+L"); // no system registers two chords
+    hotkey.setShortcut(mHost->key);
     open("Edit");
     QLabel *words = note("Key", sWarning);
     QVERIFY(words);
-    QVERIFY(words->text().startsWith("Another program may use this hotkey. <a href"));
-    QCOMPARE(words->accessibleName(), QString("Another program may use this hotkey. Try again"));
+    QVERIFY(words->text().startsWith("Another program uses this hotkey. <a href"));
+    QCOMPARE(words->accessibleName(), QString("Another program uses this hotkey. Try again"));
     QVERIFY(!mHost->control<QPushButton>("Key")->isVisible());
     QVERIFY(words->focusPolicy() & Qt::TabFocus);
 
-    QSignalSpy spy(&mHost->shortcut, &QxtGlobalShortcut::enabledChanged);
-    mHost->shortcut.setEnabled(false);
+    hotkey.setEnabled(false);
     QCOMPARE(note("Key", sWarning)->text(), QString("Disabled."));
-    mHost->shortcut.setEnabled(true);
-    mHost->shortcut.setShortcut(QKeySequence());
+    hotkey.setEnabled(true);
+    hotkey.setShortcut(QKeySequence());
     QTest::keyClick(words, Qt::Key_Tab); // selects the link
     words->setFocus();
     Q_EMIT words->linkActivated("#");
-    QCOMPARE(mHost->shortcut.shortcut(), mHost->key);
+    QCOMPARE(hotkey.shortcut(), mHost->key);
+}
+
+void tst_ModernPage::hotkeyThatCannotBeRegisteredAgainHasNoLink()
+{
+    mHost->key = QKeySequence("Ctrl+K, Ctrl+L");
+    mHost->shortcut.setShortcut(mHost->key);
+    open("Edit");
+    QLabel *words = note("Key", sWarning);
+    QVERIFY(words);
+    QCOMPARE(words->text(), QString("A global hotkey is one key, alone or with modifiers."));
+    QCOMPARE(words->focusPolicy(), Qt::NoFocus);
 }
 
 void tst_ModernPage::emptyHotkeyNeedsNoWords()
@@ -226,6 +248,25 @@ void tst_ModernPage::questionWithoutChangesHasNoCount()
             QTest::keyClick(box, Qt::Key_Return);
         }));
     QCOMPARE(question, QString("Reset this page?"));
+}
+
+void tst_ModernPage::questionShowsItsWholeText()
+{
+    // As long as in German.
+    const TableTranslator translator(
+        {{"Reset this page?", "4 Einstellungen auf allen Seiten zurücksetzen?"}});
+    open("Other");
+    mHost->manager->restoreAllDefault();
+    int missing = 0;
+    QVERIFY(
+        WindowFixture::clickAndAnswer(WindowFixture::restorePageButton(), [&](QMessageBox *box) {
+            const auto *label = box->findChild<QLabel *>("qt_msgbox_label");
+            const int width = label->wordWrap() ? label->minimumSizeHint().width()
+                                                : label->sizeHint().width();
+            missing = width - label->width();
+            QTest::keyClick(box, Qt::Key_Return);
+        }));
+    QVERIFY2(missing <= 0, qPrintable(QString::number(missing)));
 }
 
 void tst_ModernPage::customPageHasATitleAndIsResetByTheHost()

@@ -115,6 +115,15 @@ private Q_SLOTS:
         QVERIFY(toolTip(mNumber->editor).contains("Changed on "));
     }
 
+    void timesKeepTheirDirectionInALayoutFromRightToLeft()
+    {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(mFixture->open());
+        WindowFixture::store()->set(mNumber->getFullName(), 7);
+        QTRY_VERIFY(toolTip(mNumber->editor).contains("Changed on \u2068"));
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
     void lockedRowsAreDisabledAndSaySo()
     {
         WindowFixture::store()->lockConf(mNumber->getFullName(), 9);

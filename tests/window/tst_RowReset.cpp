@@ -9,6 +9,8 @@
 #include <QSpinBox>
 #include <QToolButton>
 
+#include <array>
+
 using namespace MtConf;
 
 /// Resetting one row, and the marks of what has changed.
@@ -138,6 +140,53 @@ private Q_SLOTS:
         QVERIFY(WindowFixture::classList()->grab().toImage() != before);
     }
 
+    void marksOfClassesFollowEachChange()
+    {
+        mOther->flags |= ItemIsFiltered;
+        mFixture->manager->itemFilter = [this](const ConfItem &) { return mDelay < 9; };
+        QVERIFY(mFixture->openActive());
+        const auto marks = [] {
+            constexpr int sChangedRole = Qt::UserRole + 2;
+            const QAbstractItemModel *model = WindowFixture::classList()->model();
+            return QList<bool>{model->index(0, 0).data(sChangedRole).toBool(),
+                               model->index(1, 0).data(sChangedRole).toBool()};
+        };
+        WindowFixture::store()->set(mOther->getFullName(), false);
+        QTRY_COMPARE(marks(), (QList<bool>{false, true}));
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QTRY_COMPARE(marks(), (QList<bool>{true, true}));
+        WindowFixture::store()->set(mNumber->getFullName(), 9); // the filter hides the other item
+        QTRY_COMPARE(marks(), (QList<bool>{true, false}));
+        mFlag->restoreDefault();
+        QCoreApplication::processEvents();
+        QCOMPARE(marks(), (QList<bool>{true, false})); // the number
+        mNumber->restoreDefault();
+        QTRY_COMPARE(marks(), (QList<bool>{false, true}));
+        mOther->restoreDefault();
+        QTRY_COMPARE(marks(), (QList<bool>{false, false}));
+    }
+
+    void marksOfClassesFollowManyChanges()
+    {
+        constexpr int sCount = 250;
+        std::array<bool, sCount> values{};
+        for (int i = 0; i < sCount; ++i)
+            mFixture->manager->addConfBool("Many", &values.at(i), "Many", QString::number(i));
+        QVERIFY(mFixture->openActive());
+        constexpr int sChangedRole = Qt::UserRole + 2;
+        const QModelIndex index = WindowFixture::classList()->model()->index(2, 0);
+        const QModelIndex other = index.siblingAtRow(1);
+        for (int i = sCount; i > 0; --i)
+            WindowFixture::store()->set(QStringLiteral("Many.%1").arg(i - 1), true);
+        WindowFixture::store()->set(mOther->getFullName(), false);
+        QTRY_VERIFY(index.data(sChangedRole).toBool());
+        QVERIFY(other.data(sChangedRole).toBool());
+        for (int i = 0; i < sCount; ++i)
+            WindowFixture::store()->setToDefault(QStringLiteral("Many.%1").arg(i), true);
+        QTRY_VERIFY(!index.data(sChangedRole).toBool());
+        mFixture.reset(); // before the values
+    }
+
     void customPagesSayWhetherTheyHaveChanged()
     {
         bool isChanged = false;
@@ -168,6 +217,37 @@ private Q_SLOTS:
         WindowFixture::clickClass(1);
         QVERIFY(!showChanges()->isChecked());
         QCOMPARE(WindowFixture::captions(), QStringList{"Other"});
+    }
+
+    void theMarkOfANarrowClassIsBesideItsIcon()
+    {
+        mFixture->manager->windowLook = ModernLook;
+        QMap<QString, QChar> icons{{"General", QChar(0xe800)}, {"Other", QChar(0xe800)}};
+        mFixture->manager->setIconMap(icons);
+        QVERIFY(mFixture->openActive());
+        WindowFixture::window()->resize(690, 500);
+        auto *list = WindowFixture::classList();
+        QTRY_COMPARE(list->property("narrow").toString(), QString("1"));
+        const auto row = [list] {
+            const QRect place = list->visualRect(list->model()->index(1, 0));
+            return list->viewport()->grab(place).toImage();
+        };
+        const QImage before = row();
+        WindowFixture::store()->set(mOther->getFullName(), false);
+        QTRY_VERIFY(row() != before);
+        // The pixels of the icon are as before.
+        const QImage after = row();
+        const QColor ground = before.pixelColor(0, 0);
+        int count = 0;
+        for (int y = 0; y < before.height(); ++y) {
+            for (int x = 0; x < before.width(); ++x) {
+                if (before.pixelColor(x, y) == ground)
+                    continue;
+                ++count;
+                QCOMPARE(after.pixelColor(x, y), before.pixelColor(x, y));
+            }
+        }
+        QVERIFY(count > 20);
     }
 
     void aNarrowModernWindowOffersItsButtonsInAMenu()

@@ -1,4 +1,4 @@
-#include "MaltoConfiguration/window/SettingsFile_p.h"
+#include "MaltoConfiguration/window/transfer/SettingsFile_p.h"
 #include "support/CleanStore.h"
 #include "support/Entries.h"
 #include "support/FileText.h"
@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <functional>
 #include <memory>
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void failedExportIsSaidAndKeepsTheFile();
     void proposedNameIsThatOfTheHost_data();
     void proposedNameIsThatOfTheHost();
+    void proposedNameIsTranslated();
     void damagedFilesAreSaidInWords_data();
     void damagedFilesAreSaidInWords();
     void readableFilesHaveNoError_data();
@@ -221,6 +223,26 @@ void tst_SettingsFile::proposedNameIsThatOfTheHost()
     QFETCH(QString, host);
     QGuiApplication::setApplicationDisplayName(host);
     QTEST(SettingsFile::proposedName(), "name");
+    QGuiApplication::setApplicationDisplayName(QString());
+}
+
+void tst_SettingsFile::proposedNameIsTranslated()
+{
+    class French : public QTranslator
+    {
+    public:
+        QString translate(const char *context, const char *source, const char *, int) const override
+        {
+            const bool isName = QLatin1String(context) == QLatin1String("MtConf::SettingsFile")
+                                && QLatin1String(source) == QLatin1String("%1 settings");
+            return isName ? QStringLiteral("Réglages de %1") : QString();
+        }
+        bool isEmpty() const override { return false; }
+    };
+    French french;
+    QVERIFY(QCoreApplication::installTranslator(&french));
+    QGuiApplication::setApplicationDisplayName("Screen Tool");
+    QCOMPARE(SettingsFile::proposedName(), QString::fromUtf8("Réglages de Screen Tool.json"));
     QGuiApplication::setApplicationDisplayName(QString());
 }
 

@@ -1,6 +1,6 @@
 #include "HistoryHost.h"
 
-#include "MaltoConfiguration/window/SettingsHistory_p.h"
+#include "MaltoConfiguration/window/history/SettingsHistory_p.h"
 
 #include "support/TestMain.h"
 

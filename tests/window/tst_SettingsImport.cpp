@@ -1,5 +1,5 @@
-#include "MaltoConfiguration/window/SettingsFile_p.h"
-#include "MaltoConfiguration/window/SettingsImport_p.h"
+#include "MaltoConfiguration/window/transfer/SettingsFile_p.h"
+#include "MaltoConfiguration/window/transfer/SettingsImport_p.h"
 #include "support/CleanStore.h"
 #include "support/Entries.h"
 #include "support/FileText.h"

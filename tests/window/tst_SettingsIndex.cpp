@@ -2,8 +2,8 @@
 #include "support/TableTranslator.h"
 #include "support/TestMain.h"
 
-#include "MaltoConfiguration/window/FoldedText_p.h"
-#include "MaltoConfiguration/window/SettingsIndex_p.h"
+#include "MaltoConfiguration/window/find/FoldedText_p.h"
+#include "MaltoConfiguration/window/find/SettingsIndex_p.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
 
@@ -36,6 +36,7 @@ private Q_SLOTS:
     void textsAreFoundInBothLanguages();
     void captionsComeFirst();
     void wordStartsComeFirst();
+    void wholeWordsComeFirst();
     void changedSettingsAreFound();
     void changedSubItemsAreFound();
     void hotkeysAreFound();
@@ -272,6 +273,14 @@ void tst_SettingsIndex::wordStartsComeFirst()
     addFlag("Repeat", "Class", "A");
     addFlag("To eat", "Class", "B");
     QCOMPARE(found("eat"), (QStringList{"Class.B", "Class.A"}));
+}
+
+void tst_SettingsIndex::wholeWordsComeFirst()
+{
+    addFlag("Capture the windows", "Class", "A");
+    addFlag("Capture a window", "Class", "B");
+    QCOMPARE(found("capture window"), (QStringList{"Class.B", "Class.A"}));
+    QCOMPARE(found("capture windo"), (QStringList{"Class.A", "Class.B"}));
 }
 
 void tst_SettingsIndex::changedSettingsAreFound()

@@ -1,4 +1,4 @@
-#include "MaltoConfiguration/window/UndoBar_p.h"
+#include "MaltoConfiguration/window/history/UndoBar_p.h"
 
 #include "support/Contrast.h"
 #include "support/TestMain.h"
@@ -28,6 +28,7 @@ private Q_SLOTS:
     void barIsHiddenUntilItHasAText();
     void barIsAtTheBottomInTheMiddle_data();
     void barIsAtTheBottomInTheMiddle();
+    void barIsMirroredWithTheDirection();
     void barFollowsTheSizeOfTheWindow();
     void longTextIsCutAndReadWhole();
     void buttonHidesTheBarAndAsks();
@@ -105,6 +106,18 @@ void tst_UndoBar::barIsAtTheBottomInTheMiddle()
         QCOMPARE(text < button()->x(), direction == Qt::LeftToRight);
         QVERIFY(mBar->rect().contains(button()->geometry()));
     }
+}
+
+void tst_UndoBar::barIsMirroredWithTheDirection()
+{
+    mBar->showText("Restored 12 settings.");
+    const auto *label = mBar->findChild<QLabel *>();
+    const QRect text = label->geometry();
+    const QRect undo = button()->geometry();
+    mWindow->setLayoutDirection(Qt::RightToLeft);
+    mBar->layout()->activate();
+    QCOMPARE(mBar->width() - 1 - label->geometry().right(), text.left());
+    QCOMPARE(button()->geometry().left(), mBar->width() - 1 - undo.right());
 }
 
 void tst_UndoBar::barFollowsTheSizeOfTheWindow()

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void hotkeyIsRegisteredAgain();
     void restoredPageIsOneStep();
     void restoredSettingsAreOneStep();
+    void tabReachesTheBarBehindTheLastButton();
     void barStaysUntilTheNextEdit();
     void barKeepsWhatIsTyped();
     void barUndoesNoNewerStep();
@@ -301,6 +302,23 @@ void tst_UndoInWindow::restoredSettingsAreOneStep()
     QCOMPARE(value(0), false);
     QCOMPARE(mTextValue, QString("one"));
     QCOMPARE(mKeyValue, QKeySequence("F5"));
+}
+
+void tst_UndoInWindow::tabReachesTheBarBehindTheLastButton()
+{
+    // Features that add widgets to the column, which begin the tab order.
+    QVERIFY(mFixture->close());
+    mFixture->manager->windowFeatures = MtConf::AllWindowFeatures;
+    open();
+    click(mFlag);
+    click(mOther);
+    QPushButton *const all = WindowFixture::restoreAllButton();
+    QVERIFY(WindowFixture::clickAndAnswer(all, QMessageBox::Yes));
+    QTRY_VERIFY(bar()->isVisible());
+    activate();
+    all->setFocus();
+    QTest::keyClick(all, Qt::Key_Tab);
+    QVERIFY(bar()->isAncestorOf(QApplication::focusWidget()));
 }
 
 void tst_UndoInWindow::barStaysUntilTheNextEdit()

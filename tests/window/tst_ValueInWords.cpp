@@ -1,4 +1,4 @@
-#include "MaltoConfiguration/window/ValueInWords_p.h"
+#include "MaltoConfiguration/window/rows/ValueInWords_p.h"
 #include "support/CleanStore.h"
 #include "support/SettingTypes.h"
 #include "support/TestMain.h"
@@ -230,6 +230,7 @@ void tst_ValueInWords::wordsAreTranslated()
     QCOMPARE(valueInWords(*flag, true), QString("de Yes"));
     QCOMPARE(valueInWords(*choice(host), 20), QString("de Large"));
     QCOMPARE(valueInWords(*mouseAction(host), 4), QString("de Right Click"));
+    QCOMPARE(valueInWords(*choice(host)->setMultiSelect(), 30), QString("de Smallde , de Large"));
     const ConfItem *minutes = host.manager.addConfDuration("M", &host.minutes, "Page", "M");
     QCOMPARE(valueInWords(*minutes, 5), QString("5de  min"));
     // As it is when its editor exists.

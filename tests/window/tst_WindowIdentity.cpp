@@ -104,6 +104,17 @@ private Q_SLOTS:
             available.adjusted(0, 0, sFrame, sFrame).contains(WindowFixture::window()->geometry()));
     }
 
+    void theFrameFitsTheScreen()
+    {
+        QWidget program; // its frame tells how large that of the settings window will be
+        program.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&program));
+        WindowFixture::store()->set("Malto.Window.Geometry", QRect(0, 0, 20000, 20000));
+        QVERIFY(mFixture->open());
+        const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+        QVERIFY(available.contains(WindowFixture::window()->frameGeometry()));
+    }
+
     void noSheetIsReadFromTheWorkingDirectory()
     {
         QVERIFY(QDir().mkpath("res/qss"));

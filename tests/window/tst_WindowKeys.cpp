@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QScrollArea>
 #include <QxtGlobalShortcut>
 
 using namespace MtConf;
@@ -100,6 +102,23 @@ private Q_SLOTS:
         mFixture.reset(); // before the hotkey
     }
 
+    void tabFollowsTheColumnOfClassesAndThenThePage()
+    {
+        mFixture->manager->windowLook = ModernLook;
+        mFixture->manager->windowFeatures = AllWindowFeatures;
+        mFlag->setHelp("Loud");
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QVERIFY(mFixture->openActive());
+        QTRY_VERIFY(WindowFixture::child<QPushButton>("ShowChangesButton")->isEnabled());
+        WindowFixture::child<QLineEdit>("FindField")->setFocus();
+        for (const char *name :
+             {"configList", "btnImport", "btnExport", "ShowChangesButton", "scrollArea", "",
+              "ResetButton", "btnRestoreDefault", "btnRestoreAllDefault", "FindField"}) {
+            press(Qt::Key_Tab, 0);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
+    }
+
     void ctrlTabWalksThroughThePages()
     {
         QVERIFY(mFixture->openActive());
@@ -111,6 +130,22 @@ private Q_SLOTS:
         WindowFixture::classList()->setRowHidden(2, false);
         press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(WindowFixture::window()->currentClass(), QString("Third"));
+    }
+
+    void ctrlTabLeavesResultsThatAreAllOnThePage()
+    {
+        mFixture->manager->windowFeatures |= FindFeature;
+        QVERIFY(mFixture->openActive());
+        auto *field = WindowFixture::child<QLineEdit>("FindField");
+        field->setFocus();
+        QTest::keyClicks(field, "sound");
+        QTRY_VERIFY(WindowFixture::classList()->isRowHidden(1));
+        QTRY_COMPARE(WindowFixture::child<QScrollArea>("scrollArea")->accessibleName(),
+                     QString("Results"));
+        press(Qt::Key_Tab, Qt::ControlModifier);
+        QTRY_COMPARE(field->text(), QString());
+        QCOMPARE(WindowFixture::window()->currentClass(), QString("General"));
+        QVERIFY(!WindowFixture::classList()->isRowHidden(1));
     }
 
     void withoutClassesNothingHappens()
@@ -171,6 +206,20 @@ private Q_SLOTS:
         WindowFixture::checkBox(mFlag)->setFocus();
         press(Qt::Key_F1, 0);
         QCOMPARE(asked, (QStringList{"General", "General.Sound"}));
+    }
+
+    void f1OnAResetButtonIsForItsRow()
+    {
+        QString asked;
+        mFixture->manager->helpHook = [&](const QString &key) { asked = key; };
+        mFixture->manager->windowFeatures |= ResetFeature;
+        WindowFixture::store()->set(mFlag->getFullName(), false);
+        QVERIFY(mFixture->openActive());
+        auto *button = WindowFixture::child<QAbstractButton>("ResetButton");
+        QVERIFY(button);
+        button->setFocus();
+        press(Qt::Key_F1, 0);
+        QCOMPARE(asked, QString("General.Sound"));
     }
 
     void theHelpMayCloseTheWindow()
