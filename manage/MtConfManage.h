@@ -35,7 +35,9 @@ enum WindowFeatureFlag : quint32 {
     LivePagesFeature = 0x20,    ///< open pages follow the store
     NavigationFeature = 0x40,   ///< keys for closing, for the next page and for help
     HostNameFeature = 0x80,     ///< the host's title and icon, and the geometry in the store
-    AllWindowFeatures = 0xff    ///< all of them
+    /// says which keys and gestures are used twice, and offers to replace or swap them
+    InputConflictsFeature = 0x100,
+    AllWindowFeatures = 0x1ff ///< all of them
 };
 
 /// How the settings window looks.

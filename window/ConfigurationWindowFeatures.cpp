@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
 #include "MaltoConfiguration/manage/WindowMemory_p.h"
+#include "MaltoConfiguration/window/conflicts/InputConflicts_p.h"
 #include "MaltoConfiguration/window/find/SettingsFind_p.h"
 #include "MaltoConfiguration/window/history/HistoryFeature_p.h"
 #include "MaltoConfiguration/window/modern/ModernWindow_p.h"
@@ -40,6 +41,8 @@ void ConfigurationWindow::addFeatures()
         mFeatures.append(new ImportExport(this));
     if (features & LivePagesFeature)
         mFeatures.append(new LivePages(this));
+    if (features & InputConflictsFeature)
+        mFeatures.append(new InputConflicts(this));
     if (features & UndoFeature)
         mFeatures.append(new HistoryFeature(this));
     tellFeatures(&WindowFeature::sheetApplied);
