@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>إعادة المحاولة</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>لم تستجب بيئة سطح المكتب بعد.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>لم يتم تعيين الاختصار بعد.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>الاختصار العام مفتاح واحد، بمفرده أو مع مفاتيح التعديل.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>لا يوجد هذا المفتاح على لوحة المفاتيح هذه.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>هذا الاختصار مستخدم في برنامج آخر.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>تم رفض الاختصار من قِبلك أو من قِبل بيئة سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>الاختصارات العامة غير متاحة على هذا النظام.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>انقر لإعادة المحاولة.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>عيّنت بيئة سطح المكتب: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>سحب بالزر الأوسط</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -405,6 +457,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>يُستخدم %1 في: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>مستخدم أيضًا في: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>المفاتيح %1 ضرورية للكتابة والتحرير.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>استبدال</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>تبديل</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>الاحتفاظ بكليهما</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>اختصار آخر في هذا البرنامج</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -417,6 +510,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>، </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>بلا مفتاح تعديل</translation>
     </message>
 </context>
 <context>
@@ -597,6 +694,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>لا يحتوي الملف «%1» على إعدادات.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>إعدادات %1</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
         <source>Try again</source>
         <translation>Erneut versuchen</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>Die Desktopumgebung hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Das Tastenkürzel ist noch nicht eingerichtet.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Ein globales Tastenkürzel besteht aus einer Taste, allein oder mit Zusatztasten.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Diese Tastatur hat die Taste nicht.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Ein anderes Programm verwendet dieses Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Das Tastenkürzel wurde von Ihnen oder von der Desktopumgebung abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Globale Tastenkürzel sind auf diesem System nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Klicken Sie, um es erneut zu versuchen.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Von der Desktopumgebung zugewiesen: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     <message>
         <source>Middle Drag</source>
         <translation>Ziehen Mitte</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 wird verwendet von: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Auch verwendet von: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 wird zum Schreiben und Bearbeiten benötigt.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Tauschen</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>ein anderes Tastenkürzel dieses Programms</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Keine Zusatztaste</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Wenn Sie einfache Tastenkürzel benötigen, öffnen Sie die Einstellungsseite [S
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Die Datei „%1“ enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Einstellungen von %1</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
         <source>Try again</source>
         <translation>Try again</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>The desktop has not answered yet.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>The hotkey has not been set up yet.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>A global hotkey is one key, alone or with modifiers.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>This keyboard does not have the key.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Another program uses this hotkey.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>The hotkey was refused by you or by the desktop.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Global hotkeys are not available on this system.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Click to try again.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Assigned by the desktop: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     <message>
         <source>Middle Drag</source>
         <translation>Middle drag</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 is used by: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Also used by: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 is needed for typing and editing.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Swap</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Keep both</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>another shortcut of this program</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>No modifier key</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ If you need simple shortcuts, go to the [System] settings page and tick [Allow s
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>The file ‘%1’ does not contain settings.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 settings</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
         <source>Try again</source>
         <translation>Reintentar</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>El entorno de escritorio aún no ha respondido.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>El atajo aún no se ha configurado.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Un atajo global es una sola tecla, con o sin modificadores.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Este teclado no tiene esa tecla.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Otro programa usa este atajo.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>El atajo fue rechazado por usted o por el entorno de escritorio.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Los atajos globales no están disponibles en este sistema.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Haga clic para volver a intentarlo.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Asignado por el entorno de escritorio: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     <message>
         <source>Middle Drag</source>
         <translation>Arrastre central</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 se usa en: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>También se usa en: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>Se necesita %1 para escribir y editar.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Intercambiar</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Mantener ambos</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>otro atajo de este programa</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Sin modificador</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Si necesita atajos sencillos, vaya a la página de ajustes [Sistema] y marque [P
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>El archivo «%1» no contiene ajustes.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Ajustes de %1</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>Try again</source>
         <translation>Réessayer</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>L’environnement de bureau n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Le raccourci n’est pas encore configuré.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Un raccourci global est une seule touche, avec ou sans modificateurs.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Ce clavier n’a pas cette touche.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Un autre programme utilise ce raccourci.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Le raccourci a été refusé par vous ou par l’environnement de bureau.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Les raccourcis globaux ne sont pas disponibles sur ce système.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Cliquez pour réessayer.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Attribué par l’environnement de bureau&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     <message>
         <source>Middle Drag</source>
         <translation>Glisser (central)</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 est utilisé par&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Également utilisé par&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 est nécessaire pour saisir et modifier du texte.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Échanger</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>un autre raccourci de ce programme</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Aucun modificateur</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Si vous avez besoin de raccourcis simples, ouvrez la page de réglages [Système
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» ne contient pas de réglages.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Réglages de %1</translation>
     </message>
 </context>
 <context>

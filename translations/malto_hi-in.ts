@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>फिर से प्रयास करें</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>डेस्कटॉप परिवेश ने अभी तक उत्तर नहीं दिया है।</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>शॉर्टकट कुंजी अभी तक सेट नहीं हुई है।</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>वैश्विक शॉर्टकट कुंजी एक ही कुंजी होती है, अकेली या संशोधक कुंजियों के साथ।</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>इस कीबोर्ड पर यह कुंजी नहीं है।</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>कोई दूसरा प्रोग्राम इस शॉर्टकट कुंजी का उपयोग कर रहा है।</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>शॉर्टकट कुंजी को आपने या डेस्कटॉप परिवेश ने अस्वीकार कर दिया।</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>इस सिस्टम पर वैश्विक शॉर्टकट कुंजियाँ उपलब्ध नहीं हैं।</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>फिर से प्रयास करने के लिए क्लिक करें।</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>डेस्कटॉप परिवेश द्वारा निर्धारित: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>मध्य बटन से खींचना</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 का उपयोग यहाँ हो रहा है: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>इसका उपयोग यहाँ भी होता है: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>टाइप और संपादन करने के लिए %1 आवश्यक है।</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>बदलें</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>अदला-बदली करें</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>दोनों रखें</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>रद्द करें</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>इस प्रोग्राम की कोई दूसरी शॉर्टकट कुंजी</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>कोई संशोधक कुंजी नहीं</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>फ़ाइल “%1” में सेटिंग नहीं हैं।</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 सेटिंग</translation>
     </message>
 </context>
 <context>

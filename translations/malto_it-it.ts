@@ -70,6 +70,42 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
         <source>Try again</source>
         <translation>Riprova</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>L’ambiente desktop non ha ancora risposto.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>La scorciatoia non è ancora stata impostata.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Una scorciatoia globale è un solo tasto, con o senza modificatori.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Questa tastiera non ha quel tasto.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Un altro programma usa questa scorciatoia.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>La scorciatoia è stata rifiutata da te o dall’ambiente desktop.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Le scorciatoie globali non sono disponibili su questo sistema.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Fai clic per riprovare.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Assegnata dall’ambiente desktop: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     <message>
         <source>Middle Drag</source>
         <translation>Trascina (centrale)</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 è utilizzata da: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Utilizzata anche da: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 serve per scrivere e modificare il testo.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Scambia</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Mantieni entrambe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>un’altra scorciatoia di questo programma</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Nessun modificatore</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Se ti servono scorciatoie semplici, vai alla pagina delle impostazioni [Sistema]
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Il file “%1” non contiene impostazioni.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Impostazioni di %1</translation>
     </message>
 </context>
 <context>

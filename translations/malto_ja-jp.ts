@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>再試行</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>デスクトップ環境からまだ応答がありません。</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>ショートカットキーはまだ設定されていません。</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>グローバルショートカットキーは 1 つのキーです。修飾キーと組み合わせることもできます。</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>このキーボードにそのキーはありません。</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>ほかのプログラムがこのショートカットキーを使用しています。</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>ショートカットキーは、ユーザーまたはデスクトップ環境によって拒否されました。</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>このシステムではグローバルショートカットキーを使用できません。</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>クリックすると再試行します。</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>デスクトップ環境による割り当て: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>中ドラッグ</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -390,6 +442,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 は次で使用されています: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>次でも使用されています: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 は文字の入力や編集に必要です。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>入れ替え</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>両方を残す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>このプログラムの別のショートカットキー</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -402,6 +495,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>、</translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>修飾キーなし</translation>
     </message>
 </context>
 <context>
@@ -567,6 +664,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>ファイル「%1」に設定は含まれていません。</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 の設定</translation>
     </message>
 </context>
 <context>

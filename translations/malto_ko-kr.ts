@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>다시 시도</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>데스크톱 환경이 아직 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>단축키가 아직 설정되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>전역 단축키는 키 하나로 지정하며, 보조 키와 함께 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>이 키보드에는 해당 키가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>다른 프로그램에서 이 단축키를 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>사용자 또는 데스크톱 환경에서 단축키를 거부했습니다.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>이 시스템에서는 전역 단축키를 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>다시 시도하려면 클릭하세요.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>데스크톱 환경에서 할당함: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>가운데 드래그</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -390,6 +442,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1을(를) 사용하는 항목: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>다음에서도 사용 중: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1은(는) 입력과 편집에 필요합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>대체</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>맞바꾸기</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>둘 다 유지</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>이 프로그램의 다른 단축키</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -402,6 +495,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>보조 키 없음</translation>
     </message>
 </context>
 <context>
@@ -567,6 +664,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>‘%1’ 파일에 설정이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 설정</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>Try again</source>
         <translation>Opnieuw proberen</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>De bureaubladomgeving heeft nog niet geantwoord.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>De sneltoets is nog niet ingesteld.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Een globale sneltoets is één toets, met of zonder modificatietoetsen.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Dit toetsenbord heeft die toets niet.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Een ander programma gebruikt deze sneltoets.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>De sneltoets is door u of door de bureaubladomgeving geweigerd.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Globale sneltoetsen zijn op dit systeem niet beschikbaar.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Klik om het opnieuw te proberen.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Toegewezen door de bureaubladomgeving: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     <message>
         <source>Middle Drag</source>
         <translation>Slepen midden</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 wordt gebruikt door: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Ook gebruikt door: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 is nodig om te typen en te bewerken.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Omwisselen</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behouden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>een andere sneltoets van dit programma</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Geen modificatietoets</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Als u eenvoudige sneltoetsen nodig hebt, gaat u naar de instellingenpagina [Syst
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Het bestand ‘%1’ bevat geen instellingen.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Instellingen van %1</translation>
     </message>
 </context>
 <context>

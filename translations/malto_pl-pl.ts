@@ -70,6 +70,42 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
         <source>Try again</source>
         <translation>Spróbuj ponownie</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>Środowisko pulpitu jeszcze nie odpowiedziało.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Skrót nie został jeszcze ustawiony.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Skrót globalny to jeden klawisz, sam lub z modyfikatorami.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Ta klawiatura nie ma tego klawisza.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Tego skrótu używa inny program.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Skrót został odrzucony przez Ciebie lub przez środowisko pulpitu.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Skróty globalne nie są dostępne w tym systemie.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Kliknij, aby spróbować ponownie.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Przypisany przez środowisko pulpitu: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     <message>
         <source>Middle Drag</source>
         <translation>Ciągnięcie środkowym</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -396,6 +448,47 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>Z %1 korzysta już: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Używany także przez: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 jest potrzebne do pisania i edycji.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Zastąp</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Zamień miejscami</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Zachowaj oba</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>inny skrót tego programu</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -408,6 +501,10 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Bez modyfikatora</translation>
     </message>
 </context>
 <context>
@@ -579,6 +676,11 @@ Jeśli potrzebujesz prostych skrótów, przejdź na stronę ustawień [System] i
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Plik „%1” nie zawiera ustawień.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Ustawienia %1</translation>
     </message>
 </context>
 <context>

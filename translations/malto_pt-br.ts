@@ -70,6 +70,42 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
         <source>Try again</source>
         <translation>Tentar novamente</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>O ambiente de desktop ainda não respondeu.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>O atalho ainda não foi configurado.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Um atalho global é uma única tecla, com ou sem modificadores.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Este teclado não tem essa tecla.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Outro programa está usando este atalho.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>O atalho foi recusado por você ou pelo ambiente de desktop.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Os atalhos globais não estão disponíveis neste sistema.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Clique para tentar novamente.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Atribuído pelo ambiente de desktop: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     <message>
         <source>Middle Drag</source>
         <translation>Arraste do meio</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 está em uso por: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Também em uso por: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 é necessário para digitar e editar.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Trocar</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Manter os dois</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>outro atalho deste programa</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Nenhum modificador</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Se precisar de atalhos simples, acesse a página de configurações [Sistema] e 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>O arquivo “%1” não contém configurações.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Configurações do %1</translation>
     </message>
 </context>
 <context>

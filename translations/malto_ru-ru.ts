@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>Повторить</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>Среда рабочего стола пока не ответила.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Сочетание клавиш ещё не назначено.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Глобальное сочетание — это одна клавиша, отдельно или с модификаторами.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>На этой клавиатуре нет такой клавиши.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Это сочетание использует другая программа.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Сочетание клавиш отклонено вами или средой рабочего стола.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Глобальные сочетания клавиш недоступны в этой системе.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Нажмите, чтобы повторить попытку.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Назначено средой рабочего стола: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>Тянуть средней</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -396,6 +448,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 уже используется здесь: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Используется также здесь: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 требуется для набора и правки текста.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Поменять местами</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Оставить оба</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>другое сочетание клавиш этой программы</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -408,6 +501,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Без модификатора</translation>
     </message>
 </context>
 <context>
@@ -579,6 +676,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Файл «%1» не содержит настроек.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Настройки %1</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
         <source>Try again</source>
         <translation>Försök igen</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>Skrivbordsmiljön har inte svarat ännu.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Kortkommandot har inte ställts in ännu.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Ett globalt kortkommando är en enda tangent, med eller utan modifierare.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Det här tangentbordet har inte den tangenten.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Ett annat program använder kortkommandot.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Kortkommandot avvisades av dig eller av skrivbordsmiljön.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Globala kortkommandon är inte tillgängliga på det här systemet.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Klicka för att försöka igen.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Tilldelat av skrivbordsmiljön: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     <message>
         <source>Middle Drag</source>
         <translation>Mittendrag</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -393,6 +445,47 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 används av: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Används även av: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1 behövs för att skriva och redigera.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Ersätt</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Byt plats</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Behåll båda</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>ett annat kortkommando i det här programmet</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -405,6 +498,10 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Ingen modifierare</translation>
     </message>
 </context>
 <context>
@@ -573,6 +670,11 @@ Om du behöver enkla kortkommandon går du till inställningssidan [System] och 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>Filen ”%1” innehåller inga inställningar.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>Inställningar för %1</translation>
     </message>
 </context>
 <context>

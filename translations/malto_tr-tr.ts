@@ -70,6 +70,42 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
         <source>Try again</source>
         <translation>Yeniden dene</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>Masaüstü ortamı henüz yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>Kısayol tuşu henüz ayarlanmadı.</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>Genel kısayol tuşu, tek başına veya değiştirici tuşlarla birlikte tek bir tuştur.</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>Bu klavyede bu tuş yok.</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>Bu kısayol tuşunu başka bir program kullanıyor.</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>Kısayol tuşu sizin veya masaüstü ortamının tarafından reddedildi.</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>Genel kısayol tuşları bu sistemde kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>Yeniden denemek için tıklayın.</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>Masaüstü ortamının atadığı: %1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     <message>
         <source>Middle Drag</source>
         <translation>Orta sürükleme</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -390,6 +442,47 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 şurada kullanılıyor: %2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>Şurada da kullanılıyor: %1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>%1, yazmak ve düzenlemek için gereklidir.</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>Değiştir</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Takas et</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>İkisini de koru</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>bu programın başka bir kısayol tuşu</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -402,6 +495,10 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>, </translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>Değiştirici tuş yok</translation>
     </message>
 </context>
 <context>
@@ -567,6 +664,11 @@ Basit kısayol tuşları ayarlamanız gerekiyorsa [Sistem] ayarları sayfasına 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>“%1” dosyası ayar içermiyor.</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 ayarları</translation>
     </message>
 </context>
 <context>

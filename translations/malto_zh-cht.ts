@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>重試</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>桌面環境尚未回應。</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>此快速鍵尚未設定。</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>全域快速鍵只能是一個按鍵，可單獨使用或搭配修飾鍵。</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>此鍵盤沒有該按鍵。</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>其他程式正在使用此快速鍵。</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>您或桌面環境拒絕了此快速鍵。</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>全域快速鍵在此系統上無法使用。</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>按一下即可重試。</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>桌面環境指派的快速鍵：%1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>中鍵拖曳</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -390,6 +442,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 已用於：%2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>也用於：%1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>輸入與編輯時需要使用 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>取代</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>交換</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>兩者皆保留</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>此程式的其他快速鍵</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -402,6 +495,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>、</translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>無修飾鍵</translation>
     </message>
 </context>
 <context>
@@ -567,6 +664,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>檔案「%1」不含設定。</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 設定</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,42 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>Try again</source>
         <translation>重试</translation>
     </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>桌面环境尚未回应。</translation>
+    </message>
+    <message>
+        <source>The hotkey has not been set up yet.</source>
+        <translation>该快捷键尚未设置。</translation>
+    </message>
+    <message>
+        <source>A global hotkey is one key, alone or with modifiers.</source>
+        <translation>全局快捷键只能是一个键，可单独使用或搭配修饰键。</translation>
+    </message>
+    <message>
+        <source>This keyboard does not have the key.</source>
+        <translation>此键盘没有该键。</translation>
+    </message>
+    <message>
+        <source>Another program uses this hotkey.</source>
+        <translation>其他程序正在使用此快捷键。</translation>
+    </message>
+    <message>
+        <source>The hotkey was refused by you or by the desktop.</source>
+        <translation>您或桌面环境拒绝了此快捷键。</translation>
+    </message>
+    <message>
+        <source>Global hotkeys are not available on this system.</source>
+        <translation>全局快捷键在此系统上不可用。</translation>
+    </message>
+    <message>
+        <source>Click to try again.</source>
+        <translation>点击可重试。</translation>
+    </message>
+    <message>
+        <source>Assigned by the desktop: %1</source>
+        <translation>桌面环境分配的快捷键：%1</translation>
+    </message>
 </context>
 <context>
     <name>MtConf::ConfWidgetDateTime</name>
@@ -138,6 +174,22 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>Middle Drag</source>
         <translation>中键拖动</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
@@ -390,6 +442,47 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     </message>
 </context>
 <context>
+    <name>MtConf::InputConflicts</name>
+    <message>
+        <source>%1 is used by: %2</source>
+        <translation>%1 已用于：%2</translation>
+    </message>
+    <message>
+        <source>Also used by: %1</source>
+        <translation>也用于：%1</translation>
+    </message>
+    <message>
+        <source>%1 is needed for typing and editing.</source>
+        <translation>输入和编辑时需要使用 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputOffer</name>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>交换</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>都保留</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>MtConf::InputRegistry</name>
+    <message>
+        <source>another shortcut of this program</source>
+        <translation>本程序的其他快捷键</translation>
+    </message>
+</context>
+<context>
     <name>MtConf::LivePages</name>
     <message>
         <source>Changed elsewhere meanwhile. What you type replaces it.</source>
@@ -402,6 +495,10 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
         <source>, </source>
         <comment>between the chosen entries</comment>
         <translation>、</translation>
+    </message>
+    <message>
+        <source>No modifier key</source>
+        <translation>无修饰键</translation>
     </message>
 </context>
 <context>
@@ -567,6 +664,11 @@ If you need to set simple shortcuts, go to the [System] Settings page and check 
     <message>
         <source>The file &quot;%1&quot; does not contain settings.</source>
         <translation>文件“%1”不包含设置。</translation>
+    </message>
+    <message>
+        <source>%1 settings</source>
+        <comment>name of a file</comment>
+        <translation>%1 设置</translation>
     </message>
 </context>
 <context>

@@ -45,5 +45,5 @@ if [ "${1-}" = --host ]; then
 else
     files=("$@")
     [ $# -gt 0 ] || files=("$root"/translations/malto_*.ts)
-    update "$root"/{store,manage,widgets,window,companion} -ts ${files[@]+"${files[@]}"}
+    update "$root"/{store,manage,widgets,inputs,window,companion} -ts ${files[@]+"${files[@]}"}
 fi

@@ -82,12 +82,16 @@ bool isForOneNumber(const QString &language, int form)
 bool isTrulyIdentical(const QString &file, const Message &message)
 {
     static const QSet<QString> identical{
-        " d",         " h",      " min",   " ms",           " px",      " s",
-        "%1, %2 px",  "%1 pt",   "%1 px",  "&File",         "&HTML:",   ", ",
-        "Cache (MB)", "Capture", "Color",  "Distance (px)", "Font",     "Format",
-        "General",    "Host",    "Image",  "Logo",          "Mouse",    "Name",
-        "No",         "OK",      "Output", "Port",          "Position", "Quorvi Capture",
-        "System",     "Updates", "Zoom",   "page",
+        " d",      " h",         " min",      " ms",
+        " px",     " s",         "%1, %2 px", "%1 pt",
+        "%1 px",   "&File",      "&HTML:",    ", ",
+        "Alt",     "Cache (MB)", "Capture",   "Color",
+        "Ctrl",    "Distance",   "Font",      "Format",
+        "General", "Host",       "Image",     "Logo",
+        "Mouse",   "Name",       "No",        "OK",
+        "Output",  "Port",       "Position",  "Quorvi Capture",
+        "Shift",   "Super",      "System",    "Updates",
+        "Zoom",    "page",
     };
     return file.endsWith(QLatin1String("en-gb.ts")) || identical.contains(message.source);
 }
