@@ -89,6 +89,8 @@ void addOptions(QCommandLineParser *parser)
         {QStringLiteral("theme"),
          QStringLiteral("Choose and keep the theme <name>: light, dark or system."),
          QStringLiteral("name")},
+        {QStringLiteral("high-contrast"),
+         QStringLiteral("Show the settings window in the colours of high contrast.")},
         {QStringLiteral("language"),
          QStringLiteral("Choose and keep the language <code>, such as de-de."),
          QStringLiteral("code")},
@@ -155,6 +157,7 @@ DemoArguments::Outcome DemoArguments::parse(const QStringList &commandLine)
         return Outcome::Failed;
 
     isClassic = given("classic");
+    hasHighContrast = given("high-contrast");
     occupied = given("occupied");
     keyToHold = parser.value(KeyHolder::option());
     if (!keyToHold.isEmpty())

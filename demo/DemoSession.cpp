@@ -5,6 +5,8 @@
 #include "declareSettings.h"
 
 #include <MaltoConfiguration/manage/MtConfManage.h>
+#include <MaltoConfiguration/widgets/ConfDefWidgetQKeySequence.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/ConfigItemWidget.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
@@ -39,6 +41,9 @@ DemoSession::DemoSession(const QString &localFile, Look look)
         mManager->windowFeatures = MtConf::AllWindowFeatures;
         mManager->windowLook = MtConf::ModernLook;
     }
+    MtConf::ConfDefWidgetQKeySequence::sTellsReasons = look == Look::Modern;
+    MtConf::ConfWidgetMouseAction::sNamesModifiers = look == Look::Modern;
+    MtConf::ConfWidgetMouseAction::sTellsBothSides = look == Look::Modern;
     declareSettings(*mManager, mSettings, mActions);
     addPages();
     addCallbacks();
@@ -126,6 +131,7 @@ void DemoSession::addHotkeyCallbacks()
             continue;
         const QString key = declared.getFullName();
         const char *const label = declared.displayText;
+        shortcut->setId(key);
         declared.setConfChangedCallback([shortcut](const QString &, const ConfValue *value) {
             shortcut->setShortcut(value->get<QKeySequence>());
         });
@@ -137,9 +143,11 @@ void DemoSession::addHotkeyCallbacks()
 void DemoSession::registerHotkeys()
 {
     for (const MtConf::ConfItem &declared : std::as_const(mManager->items)) {
-        if (QxtGlobalShortcut *shortcut = shortcutOf(declared))
-            shortcut->setShortcut(
-                ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
+        QxtGlobalShortcut *shortcut = shortcutOf(declared);
+        if (!shortcut)
+            continue;
+        shortcut->setDescription(QCoreApplication::translate("QObject", declared.displayText));
+        shortcut->setShortcut(ConfStorage::instance()->get<QKeySequence>(declared.getFullName()));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "LogPane.h"
 #include "designScale.h"
 
+#include <MaltoConfiguration/inputs/InputRegistry.h>
 #include <MaltoConfiguration/manage/MtConfManage.h>
 #include <MaltoConfiguration/window/ConfigurationWindow.h>
 
@@ -37,6 +38,9 @@ MainWindow::MainWindow(DemoSession &session, const MessageLog &log)
     setWindowIcon(QIcon(QStringLiteral(":/icon/AppIcon")));
     buildCentre();
     buildMenu();
+    // The settings window then tells which hotkeys this window's menus use.
+    auto *const inputs = new MtConf::InputRegistry(&session.manager());
+    inputs->addActions(this);
     retranslate();
     applySheet();
     onSettingsChanged();

@@ -56,7 +56,6 @@ QSpinBox *makeSideBox(QWidget *parent)
     auto *box = new QSpinBoxDisableWheel(parent);
     box->setFocusPolicy(Qt::StrongFocus);
     box->setRange(1, sLargestSide);
-    box->setSuffix(QStringLiteral(" px"));
     return box;
 }
 
@@ -230,6 +229,8 @@ void ProfilesPage::retranslate()
     mWidthLabel->setText(tr("Width"));
     mHeightLabel->setText(tr("Height"));
     mColorLabel->setText(tr("Frame"));
+    for (QSpinBox *side : {mWidth, mHeight})
+        side->setSuffix(QObject::tr(" px"));
     mPointer->setText(tr("Include the mouse pointer"));
 }
 

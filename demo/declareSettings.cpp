@@ -133,8 +133,9 @@ void Declare::appearance(MtConfManage &m, Settings &s)
 
     const QString selection = "Selection"_s;
     m.addConfQColor(QT_TR_NOOP("Frame"), &s.frameColor, page, selection, "FrameColor"_s);
-    addNumber(m, QT_TR_NOOP("Width of the frame (px)"), &s.frameWidth, {1, 20}, page, selection,
-              "FrameWidth"_s);
+    addNumber(m, QT_TR_NOOP("Width of the frame"), &s.frameWidth, {1, 20}, page, selection,
+              "FrameWidth"_s)
+        ->setSuffix(QT_TR_NOOP(" px"));
     m.addConfQColor(QT_TR_NOOP("Shade outside"), &s.shadeColor, page, selection, "ShadeColor"_s);
 
     const QString magnifier = "Magnifier"_s;
@@ -151,7 +152,8 @@ void Declare::appearance(MtConfManage &m, Settings &s)
 void Declare::capture(MtConfManage &m, Settings &s)
 {
     const QString page = "Capture"_s;
-    addNumber(m, QT_TR_NOOP("Delay before a capture (s)"), &s.delay, {0, 60}, page, "Delay"_s);
+    addNumber(m, QT_TR_NOOP("Delay before a capture"), &s.delay, {0, 60}, page, "Delay"_s)
+        ->setSuffix(QT_TR_NOOP(" s"));
     m.addConfBool(QT_TR_NOOP("Count down on the screen"), &s.countdown, page, "Countdown"_s);
     m.addConfBool(QT_TR_NOOP("Include the mouse pointer"), &s.includePointer, page, "Pointer"_s);
     m.addConfBool(QT_TR_NOOP("Include the shadow of windows"), &s.includeShadow, page, "Shadow"_s);
@@ -167,8 +169,8 @@ void Declare::capture(MtConfManage &m, Settings &s)
          QT_TR_NOOP("Last selection")},
         {0x1, 0x2, 0x4, 0x8}, &s.snapTargets, page, snapping, "Targets"_s);
     targets->properties.insert("MultiSelect"_s, true);
-    addNumber(m, QT_TR_NOOP("Distance (px)"), &s.snapDistance, {0, 50}, page, snapping,
-              "Distance"_s);
+    addNumber(m, QT_TR_NOOP("Distance"), &s.snapDistance, {0, 50}, page, snapping, "Distance"_s)
+        ->setSuffix(QT_TR_NOOP(" px"));
 }
 
 void Declare::hotkeys(MtConfManage &m, Settings &s, const ProgramActions &actions)
@@ -176,7 +178,8 @@ void Declare::hotkeys(MtConfManage &m, Settings &s, const ProgramActions &action
     const QString page = "Hotkeys"_s;
     m.addConfBool(QT_TR_NOOP("Hotkeys in full-screen applications"), &s.hotkeysInFullScreen, page,
                   "FullScreen"_s);
-    addNumber(m, QT_TR_NOOP("Repeat delay (ms)"), &s.repeatDelay, {0, 2000}, page, "RepeatDelay"_s);
+    addNumber(m, QT_TR_NOOP("Repeat delay"), &s.repeatDelay, {0, 2000}, page, "RepeatDelay"_s)
+        ->setSuffix(QT_TR_NOOP(" ms"));
 
     const auto add = [&m, &s, &page](const char *text, QKeySequence *value, const QString &group,
                                      const QString &name) {
@@ -211,8 +214,9 @@ void Declare::mouse(MtConfManage &m, Settings &s)
     m.addConfBool(QT_TR_NOOP("Double-click to finish"), &s.doubleClickFinishes, page,
                   "DoubleClickFinishes"_s);
     m.addConfBool(QT_TR_NOOP("Invert the wheel"), &s.invertWheel, page, "InvertWheel"_s);
-    addNumber(m, QT_TR_NOOP("Movement that begins a drag (px)"), &s.dragThreshold, {1, 40}, page,
-              "DragThreshold"_s);
+    addNumber(m, QT_TR_NOOP("Movement that begins a drag"), &s.dragThreshold, {1, 40}, page,
+              "DragThreshold"_s)
+        ->setSuffix(QT_TR_NOOP(" px"));
 
     constexpr int sWheel = 0;
     constexpr int sClicks = 1;
@@ -236,8 +240,9 @@ void Declare::output(MtConfManage &m, Settings &s)
     const QString image = "Image"_s;
     m.addConfStrWithCombobox(QT_TR_NOOP("Format"), {"PNG"_s, "JPEG"_s, "WebP"_s, "BMP"_s},
                              &s.format, page, image, "Format"_s);
-    addNumber(m, QT_TR_NOOP("Quality (%)"), &s.quality, {1, 100}, page, image, "Quality"_s);
-    addNumber(m, QT_TR_NOOP("Size (%)"), &s.scale, {10, 400}, page, image, "Scale"_s);
+    addNumber(m, QT_TR_NOOP("Quality"), &s.quality, {1, 100}, page, image, "Quality"_s)
+        ->setSuffix(" %");
+    addNumber(m, QT_TR_NOOP("Size"), &s.scale, {10, 400}, page, image, "Scale"_s)->setSuffix(" %");
 
     // An editor of the program: it also edits the sub-item.
     ConfItem *watermark = m.addConfQString(QT_TR_NOOP("Watermark"), &s.watermark, page, image,

@@ -7,6 +7,8 @@
 
 #include <MaltoConfiguration/store/ConfStorage.h>
 
+#include <OrvUtils/QThemeCtrl.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -102,6 +104,8 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     if (outcome == DemoArguments::Outcome::HoldKey)
         return KeyHolder::run(arguments.keyToHold);
+    if (arguments.hasHighContrast)
+        QThemeCtrl::instance()->setContrast(QThemeCtrl::Contrast::High);
     std::unique_ptr<KeyHolder> holder;
     if (arguments.occupied) {
         holder = std::make_unique<KeyHolder>(QCoreApplication::applicationFilePath(),

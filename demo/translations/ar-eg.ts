@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>الإطار</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>عرض الإطار (بكسل)</translation>
+        <source>Width of the frame</source>
+        <translation>عرض الإطار</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>الخط</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>المهلة قبل الالتقاط (ثانية)</translation>
+        <source>Delay before a capture</source>
+        <translation>المهلة قبل الالتقاط</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>آخر تحديد</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>المسافة (بكسل)</translation>
+        <source>Distance</source>
+        <translation>المسافة</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>الاختصارات في تطبيقات ملء الشاشة</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>مهلة التكرار (مللي ثانية)</translation>
+        <source>Repeat delay</source>
+        <translation>مهلة التكرار</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>عكس اتجاه عجلة التمرير</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>مسافة بدء السحب (بكسل)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>مسافة بدء السحب</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>التنسيق</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>الجودة (%)</translation>
+        <source>Quality</source>
+        <translation>الجودة</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>الحجم (%)</translation>
+        <source>Size</source>
+        <translation>الحجم</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> بكسل</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> ثانية</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> مللي ثانية</translation>
     </message>
     <message>
         <source>Follow the system</source>

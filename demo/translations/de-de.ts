@@ -368,8 +368,8 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Rahmen</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Rahmenbreite (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Rahmenbreite</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Schrift</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Verzögerung vor einer Aufnahme (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Verzögerung vor einer Aufnahme</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Letzte Auswahl</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Abstand (px)</translation>
+        <source>Distance</source>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Tastenkürzel in Vollbildprogrammen</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Wiederholungsverzögerung (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Wiederholungsverzögerung</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Mausrad umkehren</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Bewegung, ab der gezogen wird (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Bewegung, ab der gezogen wird</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
         <translation>Format</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Qualität (%)</translation>
+        <source>Quality</source>
+        <translation>Qualität</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Größe (%)</translation>
+        <source>Size</source>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Fügen Sie eines hinzu, oder stellen Sie die Vorgaben wieder her.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

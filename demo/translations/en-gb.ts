@@ -368,8 +368,8 @@ Add one, or restore the presets.</translation>
         <translation>Frame</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Frame width (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Frame width</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</translation>
         <translation>Font</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Delay before a capture (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Delay before a capture</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</translation>
         <translation>Last selection</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Distance (px)</translation>
+        <source>Distance</source>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Hotkeys in full-screen applications</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Repeat delay (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Repeat delay</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</translation>
         <translation>Invert the wheel</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Movement that begins a drag (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Movement that begins a drag</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</translation>
         <translation>Format</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Quality (%)</translation>
+        <source>Quality</source>
+        <translation>Quality</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Size (%)</translation>
+        <source>Size</source>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

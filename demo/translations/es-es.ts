@@ -368,8 +368,8 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Marco</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Grosor del marco (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Grosor del marco</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Tipo de letra</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Espera antes de una captura (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Espera antes de una captura</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Última selección</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Distancia (px)</translation>
+        <source>Distance</source>
+        <translation>Distancia</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Atajos en aplicaciones a pantalla completa</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Espera antes de repetir (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Espera antes de repetir</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Invertir la rueda</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Movimiento para empezar a arrastrar (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Movimiento para empezar a arrastrar</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Añada uno o restaure los predefinidos.</translation>
         <translation>Formato</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Calidad (%)</translation>
+        <source>Quality</source>
+        <translation>Calidad</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Tamaño (%)</translation>
+        <source>Size</source>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Añada uno o restaure los predefinidos.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

@@ -368,8 +368,8 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Cadre</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Épaisseur du cadre (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Épaisseur du cadre</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Police</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Délai avant une capture (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Délai avant une capture</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Dernière sélection</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Distance (px)</translation>
+        <source>Distance</source>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Raccourcis dans les apps en plein écran</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Délai de répétition (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Délai de répétition</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Inverser la molette</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Mouvement avant de glisser (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Mouvement avant de glisser</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
         <translation>Format</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Qualité (%)</translation>
+        <source>Quality</source>
+        <translation>Qualité</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Taille (%)</translation>
+        <source>Size</source>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Ajoutez-en un ou rétablissez les profils prédéfinis.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>फ़्रेम</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>फ़्रेम की मोटाई (px)</translation>
+        <source>Width of the frame</source>
+        <translation>फ़्रेम की मोटाई</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>फ़ॉन्ट</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>कैप्चर से पहले विलंब (से.)</translation>
+        <source>Delay before a capture</source>
+        <translation>कैप्चर से पहले विलंब</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>पिछला चयन</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>दूरी (px)</translation>
+        <source>Distance</source>
+        <translation>दूरी</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>पूर्ण-स्क्रीन ऐप में शॉर्टकट कुंजियाँ</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>दोहराव में विलंब (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>दोहराव में विलंब</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>व्हील की दिशा उलटें</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>खींचना शुरू होने की दूरी (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>खींचना शुरू होने की दूरी</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>फ़ॉर्मेट</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>गुणवत्ता (%)</translation>
+        <source>Quality</source>
+        <translation>गुणवत्ता</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>आकार (%)</translation>
+        <source>Size</source>
+        <translation>आकार</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> से.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

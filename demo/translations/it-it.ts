@@ -368,8 +368,8 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Cornice</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Spessore della cornice (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Spessore della cornice</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Font</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Attesa prima di una cattura (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Attesa prima di una cattura</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Ultima selezione</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Distanza (px)</translation>
+        <source>Distance</source>
+        <translation>Distanza</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Scorciatoie nelle app a tutto schermo</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Ritardo di ripetizione (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Ritardo di ripetizione</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Inverti la rotellina</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Movimento che avvia il trascinamento (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Movimento che avvia il trascinamento</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Aggiungine uno o ripristina i predefiniti.</translation>
         <translation>Formato</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Qualità (%)</translation>
+        <source>Quality</source>
+        <translation>Qualità</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Dimensioni (%)</translation>
+        <source>Size</source>
+        <translation>Dimensioni</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Aggiungine uno o ripristina i predefiniti.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

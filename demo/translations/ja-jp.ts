@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>枠</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>枠の太さ (px)</translation>
+        <source>Width of the frame</source>
+        <translation>枠の太さ</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>フォント</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>キャプチャまでの時間（秒）</translation>
+        <source>Delay before a capture</source>
+        <translation>キャプチャまでの時間</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>前回の選択範囲</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>距離 (px)</translation>
+        <source>Distance</source>
+        <translation>距離</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>フルスクリーン時もショートカットキーを使う</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>リピートまでの時間 (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>リピートまでの時間</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>ホイールを反転</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>ドラッグ開始の移動量 (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>ドラッグ開始の移動量</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>フォーマット</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>品質 (%)</translation>
+        <source>Quality</source>
+        <translation>品質</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>サイズ (%)</translation>
+        <source>Size</source>
+        <translation>サイズ</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

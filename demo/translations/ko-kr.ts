@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>테두리</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>테두리 두께(px)</translation>
+        <source>Width of the frame</source>
+        <translation>테두리 두께</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>서체</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>캡처 전 지연(초)</translation>
+        <source>Delay before a capture</source>
+        <translation>캡처 전 지연</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>마지막 선택 영역</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>거리(px)</translation>
+        <source>Distance</source>
+        <translation>거리</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>전체 화면 앱에서 단축키 사용</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>반복 지연(ms)</translation>
+        <source>Repeat delay</source>
+        <translation>반복 지연</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>휠 방향 반전</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>드래그 시작 거리(px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>드래그 시작 거리</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>포맷</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>품질(%)</translation>
+        <source>Quality</source>
+        <translation>품질</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>크기(%)</translation>
+        <source>Size</source>
+        <translation>크기</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation>px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation>ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

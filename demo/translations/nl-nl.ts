@@ -368,8 +368,8 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Kader</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Kaderdikte (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Kaderdikte</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Lettertype</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Wachttijd voor een opname (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Wachttijd voor een opname</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Laatste selectie</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Afstand (px)</translation>
+        <source>Distance</source>
+        <translation>Afstand</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Sneltoetsen in schermvullende apps</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Herhalingsvertraging (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Herhalingsvertraging</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Richting muiswiel omkeren</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Beweging tot slepen begint (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Beweging tot slepen begint</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
         <translation>Formaat</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Kwaliteit (%)</translation>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Grootte (%)</translation>
+        <source>Size</source>
+        <translation>Grootte</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Voeg er een toe of herstel de meegeleverde profielen.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

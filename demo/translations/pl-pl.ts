@@ -368,8 +368,8 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Ramka</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Grubość ramki (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Grubość ramki</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Czcionka</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Opóźnienie przed zrzutem (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Opóźnienie przed zrzutem</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Ostatnie zaznaczenie</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Odległość (px)</translation>
+        <source>Distance</source>
+        <translation>Odległość</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Skróty w aplikacjach pełnoekranowych</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Opóźnienie powtarzania (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Opóźnienie powtarzania</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Odwróć kierunek kółka myszy</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Ruch rozpoczynający przeciąganie (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Ruch rozpoczynający przeciąganie</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Dodaj profil lub przywróć wbudowane.</translation>
         <translation>Format</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Jakość (%)</translation>
+        <source>Quality</source>
+        <translation>Jakość</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Rozmiar (%)</translation>
+        <source>Size</source>
+        <translation>Rozmiar</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Dodaj profil lub przywróć wbudowane.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

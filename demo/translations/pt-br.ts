@@ -368,8 +368,8 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Moldura</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Espessura da moldura (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Espessura da moldura</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Fonte</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Espera antes de uma captura (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Espera antes de uma captura</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Última seleção</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Distância (px)</translation>
+        <source>Distance</source>
+        <translation>Distância</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Atalhos em aplicativos em tela cheia</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Atraso de repetição (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Atraso de repetição</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Inverter a roda do mouse</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Movimento para começar a arrastar (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Movimento para começar a arrastar</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Adicione um ou restaure os predefinidos.</translation>
         <translation>Formato</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Qualidade (%)</translation>
+        <source>Quality</source>
+        <translation>Qualidade</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Tamanho (%)</translation>
+        <source>Size</source>
+        <translation>Tamanho</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Adicione um ou restaure os predefinidos.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

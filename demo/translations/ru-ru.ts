@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>Рамка</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Толщина рамки (пикс.)</translation>
+        <source>Width of the frame</source>
+        <translation>Толщина рамки</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>Шрифт</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Задержка перед захватом (с)</translation>
+        <source>Delay before a capture</source>
+        <translation>Задержка перед захватом</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>Последнее выделение</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Расстояние (пикс.)</translation>
+        <source>Distance</source>
+        <translation>Расстояние</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Сочетания в полноэкранном режиме</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Задержка повтора (мс)</translation>
+        <source>Repeat delay</source>
+        <translation>Задержка повтора</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>Обратное направление колеса</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Сдвиг для начала перетаскивания (пикс.)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Сдвиг для начала перетаскивания</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>Формат</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Качество (%)</translation>
+        <source>Quality</source>
+        <translation>Качество</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Размер (%)</translation>
+        <source>Size</source>
+        <translation>Размер</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> пикс.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> с</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> мс</translation>
     </message>
     <message>
         <source>Follow the system</source>

@@ -368,8 +368,8 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Ram</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Ramens bredd (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Ramens bredd</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Typsnitt</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Fördröjning före en skärmbild (s)</translation>
+        <source>Delay before a capture</source>
+        <translation>Fördröjning före en skärmbild</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Senaste markering</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Avstånd (px)</translation>
+        <source>Distance</source>
+        <translation>Avstånd</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Kortkommandon i helskärmsappar</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Repetitionsfördröjning (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Repetitionsfördröjning</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Omvänt mushjul</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Rörelse innan dragning börjar (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Rörelse innan dragning börjar</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Lägg till en eller återställ de förinställda.</translation>
         <translation>Format</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Kvalitet (%)</translation>
+        <source>Quality</source>
+        <translation>Kvalitet</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Storlek (%)</translation>
+        <source>Size</source>
+        <translation>Storlek</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Lägg till en eller återställ de förinställda.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

@@ -368,8 +368,8 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Çerçeve</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>Çerçeve kalınlığı (px)</translation>
+        <source>Width of the frame</source>
+        <translation>Çerçeve kalınlığı</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Yazı tipi</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>Yakalamadan önce bekleme (sn)</translation>
+        <source>Delay before a capture</source>
+        <translation>Yakalamadan önce bekleme</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Son seçim</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>Uzaklık (px)</translation>
+        <source>Distance</source>
+        <translation>Uzaklık</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>Tam ekran uygulamalarda kısayollar</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>Yineleme gecikmesi (ms)</translation>
+        <source>Repeat delay</source>
+        <translation>Yineleme gecikmesi</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Tekerlek yönünü ters çevir</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>Sürüklemeyi başlatan hareket (px)</translation>
+        <source>Movement that begins a drag</source>
+        <translation>Sürüklemeyi başlatan hareket</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
         <translation>Biçim</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>Kalite (%)</translation>
+        <source>Quality</source>
+        <translation>Kalite</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>Boyut (%)</translation>
+        <source>Size</source>
+        <translation>Boyut</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Bir profil ekleyin ya da hazır profilleri geri yükleyin.</translation>
     <message>
         <source> px</source>
         <translation> px</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> sn</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Follow the system</source>

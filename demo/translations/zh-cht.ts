@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>邊框</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>邊框寬度（像素）</translation>
+        <source>Width of the frame</source>
+        <translation>邊框寬度</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>字型</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>擷取前延遲（秒）</translation>
+        <source>Delay before a capture</source>
+        <translation>擷取前延遲</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>上次的選取範圍</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>距離（像素）</translation>
+        <source>Distance</source>
+        <translation>距離</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>全螢幕應用程式中的快速鍵</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>重複延遲（毫秒）</translation>
+        <source>Repeat delay</source>
+        <translation>重複延遲</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>反轉滾輪方向</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>開始拖曳的移動距離（像素）</translation>
+        <source>Movement that begins a drag</source>
+        <translation>開始拖曳的移動距離</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>格式</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>品質（%）</translation>
+        <source>Quality</source>
+        <translation>品質</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>大小（%）</translation>
+        <source>Size</source>
+        <translation>大小</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> 像素</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
     </message>
     <message>
         <source>Follow the system</source>

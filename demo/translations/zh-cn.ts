@@ -368,8 +368,8 @@ Add one, or restore the presets.</source>
         <translation>边框</translation>
     </message>
     <message>
-        <source>Width of the frame (px)</source>
-        <translation>边框宽度（像素）</translation>
+        <source>Width of the frame</source>
+        <translation>边框宽度</translation>
     </message>
     <message>
         <source>Shade outside</source>
@@ -392,8 +392,8 @@ Add one, or restore the presets.</source>
         <translation>字体</translation>
     </message>
     <message>
-        <source>Delay before a capture (s)</source>
-        <translation>截图前延迟（秒）</translation>
+        <source>Delay before a capture</source>
+        <translation>截图前延迟</translation>
     </message>
     <message>
         <source>Count down on the screen</source>
@@ -436,16 +436,16 @@ Add one, or restore the presets.</source>
         <translation>上次选区</translation>
     </message>
     <message>
-        <source>Distance (px)</source>
-        <translation>距离（像素）</translation>
+        <source>Distance</source>
+        <translation>距离</translation>
     </message>
     <message>
         <source>Hotkeys in full-screen applications</source>
         <translation>在全屏应用中启用快捷键</translation>
     </message>
     <message>
-        <source>Repeat delay (ms)</source>
-        <translation>重复延迟（毫秒）</translation>
+        <source>Repeat delay</source>
+        <translation>重复延迟</translation>
     </message>
     <message>
         <source>Capture an area</source>
@@ -472,8 +472,8 @@ Add one, or restore the presets.</source>
         <translation>反转滚轮方向</translation>
     </message>
     <message>
-        <source>Movement that begins a drag (px)</source>
-        <translation>开始拖动的移动距离（像素）</translation>
+        <source>Movement that begins a drag</source>
+        <translation>开始拖动的移动距离</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -512,12 +512,12 @@ Add one, or restore the presets.</source>
         <translation>格式</translation>
     </message>
     <message>
-        <source>Quality (%)</source>
-        <translation>质量（%）</translation>
+        <source>Quality</source>
+        <translation>质量</translation>
     </message>
     <message>
-        <source>Size (%)</source>
-        <translation>大小（%）</translation>
+        <source>Size</source>
+        <translation>大小</translation>
     </message>
     <message>
         <source>Watermark</source>
@@ -682,6 +682,14 @@ Add one, or restore the presets.</source>
     <message>
         <source> px</source>
         <translation> 像素</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> 毫秒</translation>
     </message>
     <message>
         <source>Follow the system</source>

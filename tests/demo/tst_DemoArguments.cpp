@@ -17,6 +17,7 @@ private Q_SLOTS:
     void picturesWriteNothingButPictures();
     void picturesAreScaled();
     void classicWindowIsShownOnRequest();
+    void highContrastIsShownOnRequest();
     void picturesShowTheConfiguration();
     void picturesShowTheLanguage();
     void occupiedFailsOnAPlatformWithoutHotkeys();
@@ -55,8 +56,9 @@ void tst_DemoArguments::helpListsEveryOption()
     const Run help = run({"--help"});
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(help.errors, QString());
-    for (const char *option : {"--local-file", "--config", "--page", "--theme", "--language",
-                               "--scale", "--classic", "--pictures", "--occupied", "--help"})
+    for (const char *option :
+         {"--local-file", "--config", "--page", "--theme", "--language", "--scale", "--classic",
+          "--high-contrast", "--pictures", "--occupied", "--help"})
         QVERIFY2(help.output.contains(QLatin1String(option)), option);
     QVERIFY(!help.output.contains("--hold-key"));
 }
@@ -174,6 +176,17 @@ void tst_DemoArguments::classicWindowIsShownOnRequest()
     const QImage picture("classic/mouse-light.png");
     QVERIFY(picture.width() >= 1024); // 768 points, at 96 dots per inch or 100 with Qt 5
     QCOMPARE(picture.pixelColor(picture.width() - 2, 2).name(), QString("#f2f3f5"));
+}
+
+void tst_DemoArguments::highContrastIsShownOnRequest()
+{
+    QCOMPARE(run({"--pictures", "contrast", "--high-contrast"}).exitCode, 0);
+    const auto ground = [](const QString &file) {
+        const QImage picture(file);
+        return picture.pixelColor(picture.width() - 2, 2).name();
+    };
+    QCOMPARE(ground("contrast/mouse-light.png"), QString("#ffffff"));
+    QCOMPARE(ground("contrast/mouse-dark.png"), QString("#000000"));
 }
 
 void tst_DemoArguments::picturesShowTheConfiguration()

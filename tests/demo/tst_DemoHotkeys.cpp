@@ -120,6 +120,7 @@ void tst_DemoHotkeys::hotkeyOfAnotherProgramIsShownAsFailedUntilItEnds()
     QSignalSpy activated(shortcut(demo, "Capture", "Window"), &QxtGlobalShortcut::activated);
     XClient other;
     other.takeFocus();
+    QTRY_VERIFY(!QApplication::activeWindow());
     other.type({sF7});
     other.type({sControl, sAlt, sW});
     QTRY_COMPARE(activated.count(), 1);

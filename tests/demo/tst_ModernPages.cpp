@@ -3,7 +3,9 @@
 #include "support/TestMain.h"
 
 #include <MaltoConfiguration/widgets/ConfWidgetLanguage.h>
+#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 
+#include <QComboBox>
 #include <QLabel>
 #include <QScrollArea>
 
@@ -15,12 +17,15 @@ class tst_ModernPages : public QObject
 private Q_SLOTS:
     void initTestCase();
     void cleanup() { MtConf::ConfWidgetLanguage::installTranslator("en-us"); }
-    void noPageScrollsSideways_data();
+    void noPageScrollsSideways_data() { addLanguages(); }
     void noPageScrollsSideways();
     void editorsOfAPageEndInOneColumn();
+    void actionsOfGesturesBeginInOneColumn_data() { addLanguages(); }
+    void actionsOfGesturesBeginInOneColumn();
     void pagesOfTheProgramHaveOneTitle();
 
 private:
+    static void addLanguages();
     static int px(double pixels)
     {
         return qRound(pixels * qEnvironmentVariableIntValue("QT_FONT_DPI") / 96);
@@ -41,7 +46,7 @@ void tst_ModernPages::initTestCase()
     MtConf::ConfWidgetLanguage::sLanguageQtPath = "/../../Resources/language_qt/";
 }
 
-void tst_ModernPages::noPageScrollsSideways_data()
+void tst_ModernPages::addLanguages()
 {
     QTest::addColumn<QString>("language");
     for (const char *code :
@@ -91,6 +96,30 @@ void tst_ModernPages::editorsOfAPageEndInOneColumn()
         }
         QVERIFY2(ends.size() <= 1, qPrintable(page));
     }
+}
+
+void tst_ModernPages::actionsOfGesturesBeginInOneColumn()
+{
+    QFETCH(const QString, language);
+    mDemo.start(QString(), DemoSession::Look::Modern);
+    mDemo.session->chooseLanguage(language);
+    QVERIFY(mDemo.open("Mouse"));
+    mDemo.window()->resize(px(980), px(690));
+    settle();
+    QSet<int> begins;
+    int count = 0;
+    const QList<MtConf::ConfItem *> items = mDemo.session->manager().getConfItemList("Mouse");
+    for (const MtConf::ConfItem *item : items) {
+        if (!dynamic_cast<MtConf::ConfWidgetMouseAction *>(item->editor))
+            continue;
+        const QList<QComboBox *> boxes = item->editor->findChildren<QComboBox *>();
+        QCOMPARE(boxes.size(), 2);
+        const QComboBox *action = boxes.last();
+        begins.insert(action->mapTo(mDemo.window(), QPoint()).x());
+        ++count;
+    }
+    QVERIFY(count >= 8);
+    QCOMPARE(begins.size(), 1);
 }
 
 void tst_ModernPages::pagesOfTheProgramHaveOneTitle()

@@ -1,0 +1,224 @@
+#include "DemoFixture.h"
+#include "demo/declareSettings.h"
+#include "support/LogCapture.h"
+#include "support/TestMain.h"
+#include "support/XPointer.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QScreen>
+#include <QScrollArea>
+#include <QWindow>
+
+Q_DECLARE_METATYPE(DemoSession::Look)
+
+/// The settings window on a Wayland compositor, where a program can neither place a window nor keep
+/// it above others. A breach of the protocol ends the program, and Qt warns of what it cannot do.
+class tst_WaylandWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void everyPageOpensItsListsAndDialogs_data();
+    void everyPageOpensItsListsAndDialogs();
+    void menusOfRowsOpen();
+    void theCompositorDecidesTheGeometry();
+    void stayingOnTopIsAskedForInVain();
+    void listsAndDialogsWereOpened();
+    void aListOpensWithTheMouse_data();
+    void aListOpensWithTheMouse();
+
+private:
+    static void settle()
+    {
+        for (int i = 0; i < 4; ++i)
+            QCoreApplication::processEvents();
+    }
+    void openLists();
+    void openDialogs();
+    /// Moves the mouse there, which the compositor tells the program once it shows the window.
+    bool isUnderPointer(const QWidget *widget) const
+    {
+        mMouse->moveTo(widget->mapTo(widget->window(), widget->rect().center()));
+        return widget->underMouse();
+    }
+    static bool isShown(const QWidget *widget)
+    {
+        return widget->isVisible() && widget->windowHandle() && widget->windowHandle()->isExposed();
+    }
+
+    std::unique_ptr<DemoFixture> mDemo;
+    std::unique_ptr<LogCapture> mLog;
+    std::unique_ptr<XPointer> mMouse; // of the compositor, which is a window on an X server
+    int mLists = 0;
+    int mDialogs = 0;
+};
+
+void tst_WaylandWindow::initTestCase()
+{
+    if (!QGuiApplication::platformName().startsWith("wayland"))
+        QSKIP("needs a Wayland compositor");
+    mMouse = std::make_unique<XPointer>();
+}
+
+void tst_WaylandWindow::init()
+{
+    mLog = std::make_unique<LogCapture>();
+    mDemo = std::make_unique<DemoFixture>();
+}
+
+void tst_WaylandWindow::cleanup()
+{
+    mDemo.reset();
+    const QStringList warnings = LogCapture::texts(QtWarningMsg) + LogCapture::texts(QtCriticalMsg);
+    mLog.reset();
+    QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
+}
+
+void tst_WaylandWindow::everyPageOpensItsListsAndDialogs_data()
+{
+    QTest::addColumn<DemoSession::Look>("look");
+    QTest::addColumn<QString>("page");
+    const QStringList pages = pageNames();
+    for (const QString &page : pages) {
+        QTest::newRow(qPrintable("classic: " + page)) << DemoSession::Look::Classic << page;
+        QTest::newRow(qPrintable("modern: " + page)) << DemoSession::Look::Modern << page;
+    }
+}
+
+void tst_WaylandWindow::everyPageOpensItsListsAndDialogs()
+{
+    QFETCH(const DemoSession::Look, look);
+    QFETCH(const QString, page);
+    mDemo->start(QString(), look);
+    QVERIFY(mDemo->open(page));
+    QVERIFY(isShown(mDemo->window()));
+    const QString folder = qEnvironmentVariable("MALTO_PICTURES");
+    if (!folder.isEmpty())
+        mDemo->window()->grab().save(QString("%1/%2.png").arg(folder, QTest::currentDataTag()));
+    openLists();
+    openDialogs();
+}
+
+void tst_WaylandWindow::openLists()
+{
+    auto *area = DemoFixture::child<QScrollArea>("scrollArea");
+    const QList<QComboBox *> boxes = area->findChildren<QComboBox *>();
+    for (QComboBox *box : boxes) {
+        if (!box->isVisible() || !box->isEnabled())
+            continue;
+        area->ensureWidgetVisible(box);
+        box->showPopup();
+        settle(); // the compositor may close the list again: there was no input
+        mLists += box->view()->isVisible();
+        box->hidePopup();
+        settle();
+    }
+}
+
+void tst_WaylandWindow::openDialogs()
+{
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [this] {
+        QWidget *top = QApplication::activePopupWidget();
+        if (!top)
+            top = QApplication::activeModalWidget();
+        if (top && isShown(top)) {
+            ++mDialogs;
+            top->close();
+        }
+    });
+    closer.start(5);
+    const QList<QAbstractButton *> found = mDemo->window()->findChildren<QAbstractButton *>();
+    const QList<QPointer<QAbstractButton>> buttons(found.cbegin(), found.cend());
+    for (const QPointer<QAbstractButton> &button : buttons) {
+        if (!button || !button->isVisible() || !button->isEnabled() || button->isCheckable())
+            continue;
+        button->click();
+        QTRY_VERIFY(!QApplication::activeModalWidget() && !QApplication::activePopupWidget());
+    }
+}
+
+void tst_WaylandWindow::menusOfRowsOpen()
+{
+    mDemo->start(QString(), DemoSession::Look::Modern);
+    QVERIFY(mDemo->open("General"));
+    auto *field = mDemo->window()->findChild<QSpinBox *>();
+    QVERIFY(field);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, field->rect().center(),
+                            field->mapToGlobal(field->rect().center()));
+    QTimer::singleShot(0, this, [&] {
+        QTRY_VERIFY(QApplication::activePopupWidget()
+                    && isShown(QApplication::activePopupWidget()));
+        QApplication::activePopupWidget()->close();
+    });
+    QCoreApplication::sendEvent(field, &event);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_WaylandWindow::theCompositorDecidesTheGeometry()
+{
+    mDemo->start(QString(), DemoSession::Look::Modern);
+    QVERIFY(mDemo->open("General"));
+    const QSize size = mDemo->window()->screen()->size();
+    QTRY_COMPARE(mDemo->window()->size(), size);
+    mDemo->window()->setGeometry(4000, 4000, 1111, 777); // outside of the screen
+    QVERIFY(DemoFixture::close());
+    QVERIFY(mDemo->open("General"));
+    QTRY_COMPARE(mDemo->window()->size(), size);
+}
+
+void tst_WaylandWindow::stayingOnTopIsAskedForInVain()
+{
+    mDemo->start(QString(), DemoSession::Look::Modern);
+    QVERIFY(mDemo->open("General"));
+    for (const bool on : {true, false}) {
+        MtConf::setStaysOnTopHint(on);
+        QTRY_VERIFY(isShown(mDemo->window()));
+    }
+}
+
+void tst_WaylandWindow::listsAndDialogsWereOpened()
+{
+    QVERIFY2(mLists > 30 && mDialogs > 30,
+             qPrintable(QString("%1 lists, %2 dialogs").arg(mLists).arg(mDialogs)));
+}
+
+void tst_WaylandWindow::aListOpensWithTheMouse_data()
+{
+    QTest::addColumn<DemoSession::Look>("look");
+    QTest::newRow("classic") << DemoSession::Look::Classic;
+    QTest::newRow("modern") << DemoSession::Look::Modern;
+}
+
+// Only after input the compositor shows a list as a popup of the window.
+void tst_WaylandWindow::aListOpensWithTheMouse()
+{
+    QFETCH(const DemoSession::Look, look);
+    mDemo->start(QString(), look);
+    QVERIFY(mDemo->open("Mouse"));
+    QTRY_COMPARE(mDemo->window()->size(), mDemo->window()->screen()->size());
+    auto *area = DemoFixture::child<QScrollArea>("scrollArea");
+    auto *box = area->findChild<QComboBox *>();
+    QTRY_VERIFY(isUnderPointer(box));
+    // The compositor opens a list for the last input only, which a release would be by then.
+    mMouse->press();
+    QTRY_VERIFY(box->view()->isVisible());
+    QTRY_VERIFY(isShown(box->view()->window()));
+    mMouse->release();
+    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons());
+    // A press beside the list closes it.
+    mMouse->click(box->window()->rect().bottomRight() - QPoint(20, 20));
+    QTRY_VERIFY(!box->view()->isVisible());
+}
+
+int main(int argc, char **argv)
+{
+    return runTest<tst_WaylandWindow>(argc, argv);
+}
+
+#include "tst_WaylandWindow.moc"
