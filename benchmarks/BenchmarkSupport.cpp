@@ -5,6 +5,17 @@
 #include <random>
 #include <string>
 
+namespace {
+
+/// Returns the time of an iteration, divided by `count`.
+benchmark::Counter timePer(double count)
+{
+    using Counter = benchmark::Counter;
+    return Counter(count, Counter::kIsIterationInvariantRate | Counter::kInvert);
+}
+
+} // namespace
+
 QVector<SettingName> settingNames(int count)
 {
     const QStringList classes{QStringLiteral("General"), QStringLiteral("Capture"),
@@ -64,9 +75,12 @@ int sizeOf(const benchmark::State &state)
 
 void countEntries(benchmark::State &state)
 {
-    using Counter = benchmark::Counter;
-    state.counters["per_entry"] = Counter(sizeOf(state),
-                                          Counter::kIsIterationInvariantRate | Counter::kInvert);
+    state.counters["per_entry"] = timePer(sizeOf(state));
+}
+
+void countIterations(benchmark::State &state)
+{
+    state.counters["per_iteration"] = timePer(1);
 }
 
 void countBytes(benchmark::State &state, qint64 bytes)

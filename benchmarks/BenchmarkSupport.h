@@ -41,6 +41,9 @@ int sizeOf(const benchmark::State &state);
 /// Reports the time per entry. One iteration handles as many entries as the size of the benchmark.
 void countEntries(benchmark::State &state);
 
+/// Reports the time per iteration.
+void countIterations(benchmark::State &state);
+
 /// Returns the number of bytes in use on the heap of the process.
 qint64 heapBytes();
 

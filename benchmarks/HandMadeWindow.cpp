@@ -45,12 +45,33 @@ void HandMadeWindow::showPage(const QString &caption, int count)
         delete item->widget();
         delete item;
     }
-    auto *title = new QLabel(caption, mUi->gboxConfigBoard);
-    title->setProperty("ClassLabel", QStringLiteral("normal"));
-    mUi->layoutConfigItem->addWidget(title);
-
-    auto *box = new QGroupBox(mUi->gboxConfigBoard);
+    addTitle(caption);
+    auto *box = new QGroupBox(board());
     box->setObjectName(QStringLiteral("ConfigGroupBox"));
+    addRows(box, count);
+    addToPage(box);
+    mUi->layoutConfigItem->addStretch();
+}
+
+QWidget *HandMadeWindow::board() const
+{
+    return mUi->gboxConfigBoard;
+}
+
+void HandMadeWindow::addToPage(QWidget *widget)
+{
+    mUi->layoutConfigItem->addWidget(widget);
+}
+
+void HandMadeWindow::addTitle(const QString &caption)
+{
+    auto *title = new QLabel(caption, board());
+    title->setProperty("ClassLabel", QStringLiteral("normal"));
+    addToPage(title);
+}
+
+void HandMadeWindow::addRows(QGroupBox *box, int count)
+{
     auto *grid = new QGridLayout(box);
     grid->setContentsMargins(sSpacing, sSpacing, sSpacing, sSpacing);
     grid->setSpacing(sSpacing);
@@ -64,52 +85,63 @@ void HandMadeWindow::showPage(const QString &caption, int count)
         line->setFrameShadow(QFrame::Sunken);
         grid->addWidget(line, grid->rowCount(), 0, 1, 2);
     }
-    mUi->layoutConfigItem->addWidget(box);
-    mUi->layoutConfigItem->addStretch();
 }
 
 void HandMadeWindow::addRow(QGroupBox *box, QGridLayout *grid, int i)
 {
     const int row = grid->rowCount();
     if (i % 3 == 0) {
-        auto *check = new QCheckBox(QObject::tr("Show border"), box);
-        check->setProperty("changed", QStringLiteral("0"));
-        mTexts.push_back([check] { check->setText(QObject::tr("Show border")); });
+        QCheckBox *check = makeCheckBox(box);
         grid->addWidget(new QFrame(box), row, 1);
         grid->addWidget(check, row, 0);
-    } else if (i % 3 == 1) {
-        QFrame *editor = makeEditor(box);
-        auto *spin = new QSpinBoxDisableWheel(editor);
-        spin->setFixedWidth(sSpinBoxWidth);
-        editor->layout()->addWidget(spin);
-        editor->layout()->setAlignment(Qt::AlignLeft);
-        grid->addWidget(editor, row, 1);
-        addCaption(box, grid, row, "Width of the border");
-    } else {
-        QFrame *editor = makeEditor(box);
-        auto *combo = new ComboboxDisableWheel(editor);
-        combo->setView(new QListView(combo));
-        combo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
-        for (const char *text : {"Small", "Medium", "Large"})
-            combo->addItem(QObject::tr(text));
-        mTexts.push_back([combo] {
-            combo->setItemText(0, QObject::tr("Small"));
-            combo->setItemText(1, QObject::tr("Medium"));
-            combo->setItemText(2, QObject::tr("Large"));
-        });
-        editor->layout()->addWidget(combo);
-        grid->addWidget(editor, row, 1);
-        addCaption(box, grid, row, "Size of the magnifier");
+        return;
     }
+    QFrame *editor = makeEditor(box);
+    editor->layout()->addWidget(makeField(editor, i));
+    if (i % 3 == 1)
+        editor->layout()->setAlignment(Qt::AlignLeft);
+    grid->addWidget(editor, row, 1);
+    grid->addWidget(makeCaption(box, i), row, 0);
 }
 
-void HandMadeWindow::addCaption(QGroupBox *box, QGridLayout *grid, int row, const char *text)
+QCheckBox *HandMadeWindow::makeCheckBox(QWidget *parent)
 {
-    auto *label = new QLabel(QObject::tr(text), box);
+    auto *check = new QCheckBox(QObject::tr("Show border"), parent);
+    check->setProperty("changed", QStringLiteral("0"));
+    mTexts.push_back([check] { check->setText(QObject::tr("Show border")); });
+    return check;
+}
+
+QWidget *HandMadeWindow::makeField(QWidget *parent, int i)
+{
+    if (i % 3 == 1) {
+        auto *spin = new QSpinBoxDisableWheel(parent);
+        spin->setFixedWidth(sSpinBoxWidth);
+        return spin;
+    }
+    auto *combo = new ComboboxDisableWheel(parent);
+    combo->setView(new QListView(combo));
+    combo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    for (const char *text : {"Small", "Medium", "Large"})
+        combo->addItem(QObject::tr(text));
+    mTexts.push_back([combo] {
+        combo->setItemText(0, QObject::tr("Small"));
+        combo->setItemText(1, QObject::tr("Medium"));
+        combo->setItemText(2, QObject::tr("Large"));
+    });
+    return combo;
+}
+
+QLabel *HandMadeWindow::makeCaption(QWidget *parent, int i)
+{
+    static constexpr const char *sCaptions[] = {"Show border", "Width of the border",
+                                                "Size of the magnifier"};
+    const char *text = sCaptions[i % 3];
+    auto *label = new QLabel(QObject::tr(text), parent);
     label->setProperty("ConfigItemWidgetLabel", QStringLiteral("1"));
     label->setProperty("changed", QStringLiteral("0"));
     mTexts.push_back([label, text] { label->setText(QObject::tr(text)); });
-    grid->addWidget(label, row, 0);
+    return label;
 }
 
 void HandMadeWindow::changeEvent(QEvent *event)

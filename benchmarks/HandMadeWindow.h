@@ -6,8 +6,11 @@
 #include <memory>
 #include <vector>
 
+class QCheckBox;
+class QFrame;
 class QGridLayout;
 class QGroupBox;
+class QLabel;
 class QStandardItemModel;
 class Ui_ConfigurationWindow;
 
@@ -26,9 +29,20 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
 
+    /// Adds what is above the rows.
+    virtual void addTitle(const QString &caption);
+    /// Adds `count` rows to an empty box.
+    virtual void addRows(QGroupBox *box, int count);
+
+    QWidget *board() const;
+    void addToPage(QWidget *widget);
+    QCheckBox *makeCheckBox(QWidget *parent);
+    /// Returns a spin box or, for every third row, a combo box.
+    QWidget *makeField(QWidget *parent, int i);
+    QLabel *makeCaption(QWidget *parent, int i);
+
 private:
     void addRow(QGroupBox *box, QGridLayout *grid, int i);
-    void addCaption(QGroupBox *box, QGridLayout *grid, int row, const char *text);
 
     const std::unique_ptr<Ui_ConfigurationWindow> mUi;
     QStandardItemModel *mClasses;

@@ -1,4 +1,5 @@
 #include "BenchmarkSupport.h"
+#include "ProgramSettings.h"
 #include "benchmarks.h"
 
 #include <KConfig>
@@ -110,6 +111,92 @@ private:
     std::unique_ptr<Entries> mEntries;
 };
 
+/// Hotkeys are usual as texts: the library has no form of its own for them.
+template<class T> T readEntry(const KConfigGroup &group, const QString &name, const T &current)
+{
+    return group.readEntry(name, current);
+}
+QKeySequence readEntry(const KConfigGroup &group, const QString &name, const QKeySequence &current)
+{
+    const QString text = group.readEntry(name, QString());
+    return text.isNull() ? current : QKeySequence(text, QKeySequence::PortableText);
+}
+
+template<class T> void writeEntry(KConfigGroup &group, const QString &name, const T &value)
+{
+    group.writeEntry(name, value);
+}
+void writeEntry(KConfigGroup &group, const QString &name, const QKeySequence &value)
+{
+    group.writeEntry(name, value.toString(QKeySequence::PortableText));
+}
+
+/// A program with KConfig.
+class ConfigProgram
+{
+public:
+    static void write(const ProgramSettings &settings, const QString &path)
+    {
+        ConfigProgram program(settings, path);
+        program.start();
+        for (int i = 0; i < settings.names.size(); ++i)
+            program.edit(i, settings.saved);
+        program.save();
+    }
+
+    ConfigProgram(const ProgramSettings &settings, QString path)
+        : mSettings(settings), mVariables(settings.defaults), mPath(std::move(path))
+    {
+        for (const SettingName &name : settings.names)
+            mNames.push_back(name.inner());
+    }
+
+    void start()
+    {
+        mConfig = std::make_unique<KConfig>(mPath, KConfig::SimpleConfig);
+        for (size_t i = 0; i < mNames.size(); ++i) {
+            const QString &className = mSettings.names.at(static_cast<int>(i)).className;
+            if (i == 0 || mGroups.back().name() != className)
+                mGroups.push_back(mConfig->group(className));
+            mGroupOf.push_back(mGroups.size() - 1);
+            const auto readInto = [&](auto &variable) {
+                variable = readEntry(mGroups.back(), mNames[i], variable);
+            };
+            std::visit(readInto, mVariables[i]);
+        }
+    }
+    const std::vector<Variable> &variables() const { return mVariables; }
+
+    Variable read(int i) const
+    {
+        const auto index = static_cast<size_t>(i);
+        return std::visit(
+            [&](const auto &variable) -> Variable {
+                return readEntry(mGroups[mGroupOf[index]], mNames[index], variable);
+            },
+            mVariables[index]);
+    }
+    void edit(int i, const std::vector<Variable> &values)
+    {
+        const auto index = static_cast<size_t>(i);
+        const auto write = [&](const auto &value) {
+            writeEntry(mGroups[mGroupOf[index]], mNames[index], value);
+        };
+        std::visit(write, values[index]);
+    }
+    void save() { mConfig->sync(); }
+    bool isSaved() const { return !mConfig->isDirty(); }
+
+private:
+    const ProgramSettings &mSettings;
+    std::vector<QString> mNames; // within the groups
+    std::vector<Variable> mVariables;
+    const QString mPath;
+    std::unique_ptr<KConfig> mConfig;
+    std::vector<KConfigGroup> mGroups;
+    std::vector<size_t> mGroupOf;
+};
+
 void configMemory(benchmark::State &state)
 {
     const QTemporaryDir folder;
@@ -135,4 +222,5 @@ void addKConfigBenchmarks()
     addBenchmark("loadLocalFile", "KConfig", benchLoad<ConfigFile>);
     addBenchmark("saveLocalFile", "KConfig", benchSave<ConfigFile>);
     addBenchmark("memory", "KConfig", configMemory);
+    addProgramBenchmarks<ConfigProgram>("KConfig");
 }

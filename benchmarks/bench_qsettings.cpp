@@ -1,4 +1,5 @@
 #include "BenchmarkSupport.h"
+#include "ProgramSettings.h"
 #include "benchmarks.h"
 
 #include <QSettings>
@@ -77,6 +78,64 @@ private:
     std::unique_ptr<QSettings> mSettings;
 };
 
+/// A program with QSettings.
+class SettingsProgram
+{
+public:
+    static void write(const ProgramSettings &settings, const QString &path)
+    {
+        SettingsProgram program(settings, path);
+        program.start();
+        for (int i = 0; i < settings.names.size(); ++i)
+            program.edit(i, settings.saved);
+        program.save();
+    }
+
+    SettingsProgram(const ProgramSettings &settings, QString path)
+        : mKeys(groupedKeys(settings.names)), mVariables(settings.defaults), mPath(std::move(path))
+    {
+    }
+
+    void start()
+    {
+        mSettings = std::make_unique<QSettings>(mPath, QSettings::IniFormat);
+        for (size_t i = 0; i < mKeys.size(); ++i) {
+            const auto readInto = [&](auto &variable) { readValue(mKeys[i], &variable); };
+            std::visit(readInto, mVariables[i]);
+        }
+    }
+    const std::vector<Variable> &variables() const { return mVariables; }
+
+    Variable read(int i) const
+    {
+        const auto index = static_cast<size_t>(i);
+        Variable value = mVariables[index];
+        std::visit([&](auto &variable) { readValue(mKeys[index], &variable); }, value);
+        return value;
+    }
+    void edit(int i, const std::vector<Variable> &values)
+    {
+        const auto index = static_cast<size_t>(i);
+        std::visit([&](const auto &value) { mSettings->setValue(mKeys[index], value); },
+                   values[index]);
+    }
+    void save() { mSettings->sync(); }
+    bool isSaved() const { return mSettings->status() == QSettings::NoError; }
+
+private:
+    template<class T> void readValue(const QString &key, T *variable) const
+    {
+        const QVariant value = mSettings->value(key);
+        if (value.isValid())
+            *variable = value.value<T>();
+    }
+
+    const std::vector<QString> mKeys;
+    std::vector<Variable> mVariables;
+    const QString mPath;
+    std::unique_ptr<QSettings> mSettings;
+};
+
 } // namespace
 
 void addQSettingsBenchmarks()
@@ -87,4 +146,5 @@ void addQSettingsBenchmarks()
     addBenchmark("setInt", "QSettings", benchWrite<SettingsStore<int>>);
     addBenchmark("loadLocalFile", "QSettings", benchLoad<SettingsFile>);
     addBenchmark("saveLocalFile", "QSettings", benchSave<SettingsFile>);
+    addProgramBenchmarks<SettingsProgram>("QSettings");
 }

@@ -1,4 +1,5 @@
 #include "BenchmarkSupport.h"
+#include "HandMadeModernWindow.h"
 #include "HandMadeWindow.h"
 #include "benchmarks.h"
 #include "support/CleanStore.h"
@@ -133,9 +134,11 @@ public:
 class BareWindow
 {
 public:
-    explicit BareWindow(int count) : mCount(count)
+    virtual ~BareWindow() = default;
+    Q_DISABLE_COPY(BareWindow)
+    explicit BareWindow(int count) : BareWindow(count, LibraryWindow(0)) {}
+    BareWindow(int count, LibraryWindow &&model) : mCount(count)
     {
-        LibraryWindow model(0);
         model.open();
         mGeometry = LibraryWindow::widget()->geometry();
         for (const auto theme : {QThemeCtrl::Theme::Dark, QThemeCtrl::Theme::Light}) {
@@ -146,8 +149,7 @@ public:
 
     void open()
     {
-        mWindow = std::make_unique<HandMadeWindow>(QStringList{pageName(), emptyPageName()},
-                                                   mSheets.last());
+        mWindow = makeWindow({pageName(), emptyPageName()}, mSheets.last());
         mWindow->setGeometry(mGeometry);
         showPage();
         mWindow->show();
@@ -163,11 +165,32 @@ public:
 
     QWidget *widget() const { return mWindow.get(); }
 
+protected:
+    virtual std::unique_ptr<HandMadeWindow> makeWindow(const QStringList &classes,
+                                                       const QString &sheet) const
+    {
+        return std::make_unique<HandMadeWindow>(classes, sheet);
+    }
+
 private:
     int mCount;
     QRect mGeometry;
     QMap<int, QString> mSheets;
     std::unique_ptr<HandMadeWindow> mWindow;
+};
+
+/// The same window in the modern look without the library.
+class BareModernWindow : public BareWindow
+{
+public:
+    explicit BareModernWindow(int count) : BareWindow(count, ModernWindow(0)) {}
+
+protected:
+    std::unique_ptr<HandMadeWindow> makeWindow(const QStringList &classes,
+                                               const QString &sheet) const override
+    {
+        return std::make_unique<HandMadeModernWindow>(classes, sheet);
+    }
 };
 
 int controlsOf(QWidget *window)
@@ -346,11 +369,13 @@ template<class Window> void switchTheme(benchmark::State &state)
 void addWindowBenchmarks()
 {
     addBenchmark("firstShowing", "library", firstShowing<LibraryWindow>, {20});
-    addBenchmark("firstShowing", "modern", firstShowing<ModernWindow>, {20});
     addBenchmark("firstShowing", "bare", firstShowing<BareWindow>, {20});
+    addBenchmark("firstShowingModern", "library", firstShowing<ModernWindow>, {20});
+    addBenchmark("firstShowingModern", "bare", firstShowing<BareModernWindow>, {20});
     addBenchmark("switchPage", "library", switchPage<LibraryWindow>, {20, 200, 1000});
-    addBenchmark("switchPage", "modern", switchPage<ModernWindow>, {20, 200, 1000});
     addBenchmark("switchPage", "bare", switchPage<BareWindow>, {20, 200, 1000});
+    addBenchmark("switchPageModern", "library", switchPage<ModernWindow>, {20, 200, 1000});
+    addBenchmark("switchPageModern", "bare", switchPage<BareModernWindow>, {20, 200, 1000});
     addBenchmark("typeIntoFind", "library", typeIntoFind, {100, 10000});
     addBenchmark("typeIntoFind", "bare", buildPage, {100, 10000});
     addBenchmark("switchLanguage", "library", switchLanguage<LibraryWindow>, {20, 200});

@@ -5,6 +5,7 @@
 void addStoreBenchmarks();
 void addFileBenchmarks();
 void addManagerBenchmarks();
+void addProgramBenchmarks();
 void addWindowBenchmarks();
 
 void addQSettingsBenchmarks();

@@ -19,6 +19,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QApplication application(argc, argv);
 
+    addProgramBenchmarks();
     addStoreBenchmarks();
     addFileBenchmarks();
     addQSettingsBenchmarks();

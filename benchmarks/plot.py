@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Plots the cost per entry against the number of entries. Needs python3-matplotlib.
+"""Plots the costs against the number of entries. Needs python3-matplotlib.
 
     plot.py <results.json> <picture.svg>
 """
@@ -28,7 +28,8 @@ def draw(axes, work, sizes):
                   if who in costs]
         if points:
             axes.plot(*zip(*points), label=who, markersize=4, **look)
-    axes.set_title(work, fontsize=10)
+    is_whole = next(iter(sizes.values()))["library"][0] == "whole"
+    axes.set_title(f"{work} (whole)" if is_whole else work, fontsize=10)
     axes.set_xscale("log")
     axes.set_yscale("log")
     axes.grid(True, which="both", alpha=0.2)
@@ -39,7 +40,7 @@ def main(results, picture):
     plt.rcParams["svg.hashsalt"] = "performance"
     plt.rcParams["svg.fonttype"] = "none"
     works = {work: sizes for work, sizes in read_medians(results).items()
-             if len(sizes) > 2 and next(iter(sizes.values()))["library"][0] == "time"
+             if len(sizes) > 2 and next(iter(sizes.values()))["library"][0] != "bytes"
              and work != "readVariable"}
     rows = -(-len(works) // COLUMNS)
     figure, grid = plt.subplots(rows, COLUMNS, figsize=(3.2 * COLUMNS, 2.8 * rows), squeeze=False)
@@ -49,7 +50,7 @@ def main(results, picture):
     for axes in cells[len(works):]:
         axes.axis("off")
     figure.supxlabel("entries", fontsize=10)
-    figure.supylabel("nanoseconds per entry", fontsize=10)
+    figure.supylabel("nanoseconds, per entry or of the whole", fontsize=10)
     handles = {label: handle for axes in cells[:len(works)]
                for handle, label in zip(*axes.get_legend_handles_labels())}
     figure.legend(handles.values(), handles.keys(), loc="upper center", ncol=len(handles),

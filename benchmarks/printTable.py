@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Prints the results of the benchmarks: the cost per entry of the library, the bare cost, the costs
-of the peers, and the ratios. If the cost per entry is the same in all rows of a work, it does not
-depend on the number of settings.
+"""Prints the results of the benchmarks: the cost of the library, the bare cost, the costs of the
+peers, and the ratios. The cost is that of one entry, or of all entries of a program. If the cost per
+entry is the same in all rows of a work, it does not depend on the number of settings.
 
     printTable.py <results.json>
 """
@@ -54,6 +54,6 @@ def print_table(works):
 
 if len(sys.argv) != 2:
     sys.exit(__doc__)
-print("Processor time per entry, medians. \"times bare\" is library / bare. \"times library\" is\n"
-      "peer / library; above 1 the library is faster.\n")
+print("Processor time per entry, and of all entries for a program, medians. \"times bare\" is\n"
+      "library / bare. \"times library\" is peer / library; above 1 the library is faster.\n")
 print_table(read_medians(sys.argv[1]))
