@@ -29,6 +29,6 @@ for frame in en-us/mouse-light en-us/mouse-dark de-de/mouse-dark zh-cn/mouse-dar
              ar-eg/mouse-light; do
     frames+=("$work/$frame.png")
 done
-convert -delay 140 -loop 0 ${frames[@]+"${frames[@]}"} -resize 760x -gravity north -extent 760x700 \
+convert -delay 140 -loop 0 ${frames[@]+"${frames[@]}"} -resize 760x -gravity north -extent 760x535 \
     +dither -colors 128 -layers OptimizePlus docs/pictures/window.gif
 ls -l docs/pictures/window*

@@ -10,7 +10,7 @@ import sys
 
 root = pathlib.Path(sys.argv[1])
 logged = set()
-for folder in ["store", "manage", "widgets", "window", "companion"]:
+for folder in ["store", "manage", "widgets", "inputs", "window", "companion"]:
     for source in [*root.glob(f"{folder}/**/*.cpp"), *root.glob(f"{folder}/**/*.h")]:
         text = source.read_text(encoding="utf-8")
         for level, message in re.findall(
