@@ -98,17 +98,17 @@ void ConfFileSharing::setText(const QByteArray &text, std::optional<bool> isObje
 
 /// Returns the text of the file. If the file is damaged, returns what was last read or written,
 /// with the entries of the backup or the journal that are newer: the backup lacks the last save.
-QByteArray ConfFileSharing::read(LocalFile *file)
+DumpText ConfFileSharing::read(LocalFile *file)
 {
-    const QByteArray text = file->read();
+    DumpText dump = file->read();
     if (!file->isDamaged() || !mIsRead)
-        return text;
+        return dump;
     findMembers();
     if (!*mIsObject)
-        return text;
-    const bool isObject = QJsonDocument::fromJson(text).isObject();
-    const auto members = isObject ? splitMembers(text) : std::nullopt;
-    return members ? EntryTexts::newestOf(*mMembers, *members, timeRange()) : mText;
+        return dump;
+    const bool isObject = QJsonDocument::fromJson(dump.text).isObject();
+    const auto members = isObject ? splitMembers(dump.text) : std::nullopt;
+    return {members ? EntryTexts::newestOf(*mMembers, *members, timeRange()) : mText, std::nullopt};
 }
 
 /// Compares `text` with the text that was last read or written, and keeps its members, or none if
@@ -203,10 +203,10 @@ bool ConfFileSharing::save()
         return false;
     }
     LocalFile file(mStore);
-    const QByteArray text = read(&file);
+    const DumpText dump = read(&file);
     bool isSaved = false;
     if (file.isComplete()) {
-        take(text);
+        take(dump.text);
         isSaved = write(&file);
     } else {
         qCritical() << "ConfStorage::saveToLocalConfFile() file could not be loaded: " << mPath;
@@ -255,20 +255,21 @@ void ConfFileSharing::loadFile()
     }
     LocalFile file(mStore);
     // Without the right to create the lock, nothing may be written either.
-    const QByteArray text = locked == FileLock::Result::Locked ? read(&file) : file.peek();
+    const DumpText dump = locked == FileLock::Result::Locked ? read(&file)
+                                                             : DumpText{file.peek(), std::nullopt};
     const bool isFirst = !mIsRead && mTouched.isEmpty();
     mNeedsRepair = file.isDamaged();
     if (isFirst) {
-        setText(text, std::nullopt);
+        setText(dump.text, std::nullopt);
         mIsRead = file.isComplete();
     } else if (file.isComplete()) {
-        take(text);
+        take(dump.text);
         yieldToNewer();
         collectUnloaded();
     }
     lock.unlock();
     if (isFirst)
-        loadWhole();
+        loadWhole(dump);
     else
         loadForeign();
     if (file.isDamaged())
@@ -276,10 +277,10 @@ void ConfFileSharing::loadFile()
 }
 
 /// Loads the text without comparing it with a previous one.
-void ConfFileSharing::loadWhole()
+void ConfFileSharing::loadWhole(const DumpText &dump)
 {
     const QScopedValueRollback<int> depth(mMergeDepth, mObservers->hostDepth());
-    ConfLoad(mStore, ConfStorage::LoadLocal).loadFile(mPath, mText);
+    ConfLoad(mStore, ConfStorage::LoadLocal).loadFile(mPath, dump);
 }
 
 /// Takes the entries of the file that touched ones yield to.

@@ -16,6 +16,7 @@
 
 class ConfDump;
 class LocalFile;
+struct DumpText;
 
 /// The local file of a store when other programs change it, too.
 ///
@@ -72,9 +73,9 @@ private:
     void observe(const ConfChange &change);
     void useFile(const QString &path);
     void loadFile();
-    void loadWhole();
+    void loadWhole(const DumpText &dump);
     void setText(const QByteArray &text, std::optional<bool> isObject);
-    QByteArray read(LocalFile *file);
+    DumpText read(LocalFile *file);
     void take(const QByteArray &text);
     void findMembers();
     bool write(LocalFile *file);

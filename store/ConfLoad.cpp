@@ -111,21 +111,22 @@ QString ConfLoad::keyOf(const PlainMember &member) const
     return isNext ? mNextValue->key() : member.key();
 }
 
-bool ConfLoad::loadText(const QByteArray &text)
+bool ConfLoad::loadText(const DumpText &dump)
 {
     constexpr qint64 sMostGrowth = 6; // of a control character, which becomes an escape
     mIsReported = true;
-    mIsSavable = sMostGrowth * text.size() <= mStore.mMaxFileSize;
-    if (const auto members = readPlainDump(text, mTimes)) {
-        loadKeptOfClasses(mStore);
-        for (const PlainMember &member : *members)
-            load(keyOf(member), member);
-        loadFormer();
+    mIsSavable = sMostGrowth * dump.text.size() <= mStore.mMaxFileSize;
+    if (dump.members) {
+        loadMembers(*dump.members);
         return true;
     }
-    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (const auto members = readPlainDump(dump.text, mTimes)) {
+        loadMembers(*members);
+        return true;
+    }
+    const QJsonDocument document = QJsonDocument::fromJson(dump.text);
     if (!document.isObject()) {
-        mReport.isDamaged = !text.isEmpty();
+        mReport.isDamaged = !dump.text.isEmpty();
         return false;
     }
     loadObject(document.object());
@@ -138,10 +139,18 @@ void ConfLoad::setFile(const QString &path)
     mReport.file = path;
 }
 
-void ConfLoad::loadFile(const QString &path, const QByteArray &text)
+void ConfLoad::loadFile(const QString &path, const DumpText &dump)
 {
     setFile(path);
-    loadText(text);
+    loadText(dump);
+}
+
+void ConfLoad::loadMembers(const std::vector<PlainMember> &members)
+{
+    loadKeptOfClasses(mStore);
+    for (const PlainMember &member : members)
+        load(keyOf(member), member);
+    loadFormer();
 }
 
 void ConfLoad::loadObject(const QJsonObject &object)

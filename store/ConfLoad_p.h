@@ -11,6 +11,7 @@
 #include <optional>
 #include <vector>
 
+struct DumpText;
 struct PlainMember;
 
 /// Merges the members of a dump into a store, one after the other: for each key the newer change
@@ -31,12 +32,12 @@ public:
     ~ConfLoad();
     Q_DISABLE_COPY(ConfLoad)
 
-    /// Returns whether `text` is a JSON object; nothing else is loaded.
-    bool loadText(const QByteArray &text);
+    /// Returns whether the text is a JSON object; nothing else is loaded.
+    bool loadText(const DumpText &dump);
     /// Reports the load as that of the file at `path`.
     void setFile(const QString &path);
-    /// Loads `text`, the content of the file at `path`.
-    void loadFile(const QString &path, const QByteArray &text);
+    /// Loads the content of the file at `path`.
+    void loadFile(const QString &path, const DumpText &dump);
     void loadObject(const QJsonObject &object);
     void loadMember(const QString &key, const QJsonValue &entry);
     /// Merges a member whose key belongs to `cls`. Returns false if it must be loaded like a member
@@ -85,6 +86,7 @@ private:
         return value;
     }
 
+    void loadMembers(const std::vector<PlainMember> &members);
     template<class Member> void load(QString key, const Member &member);
     template<class Member> void loadCurrent(const QString &key, const Member &member);
     template<class Member> void loadLocked(const QString &key, const Member &member);

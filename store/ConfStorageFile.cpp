@@ -63,9 +63,9 @@ void ConfStorage::loadLocalConfFile()
     }
     const ConfOperation operation(this, ConfChange::Cause::Loaded);
     LocalFile file(*this);
-    const QByteArray text = file.read();
+    const DumpText dump = file.read();
     mUnloadedFile = file.isComplete() ? QString() : mLocalSaveFile;
-    ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
+    ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, dump);
     if (file.isDamaged())
         reportDamage(file.damagedCopy());
     loadPresetDynamicConf();
@@ -97,10 +97,10 @@ void ConfStorage::reloadChangedFile()
         updateSharedFile();
         return;
     }
-    const QByteArray text = LocalFile(*this).readIfWhole();
-    if (text.isEmpty() || mFileWatch->isNoted(text))
+    const DumpText dump = LocalFile(*this).readIfWhole();
+    if (dump.text.isEmpty() || mFileWatch->isNoted(dump.text))
         return;
-    mFileWatch->note(text);
+    mFileWatch->note(dump.text);
     bool isChanged = mChanged;
     const int observer = addObserver([&isChanged](const ConfChange &change) {
         isChanged |= change.cause != ConfChange::Cause::Loaded;
@@ -108,7 +108,7 @@ void ConfStorage::reloadChangedFile()
     const std::shared_ptr<ConfObservers> observers = mObservers;
     {
         const ConfOperation operation(this, ConfChange::Cause::Loaded);
-        ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, text);
+        ConfLoad(*this, LoadLocal).loadFile(mLocalSaveFile, dump);
     }
     if (mObservers != observers)
         return; // a callback has cleared the store

@@ -6,6 +6,7 @@
 #include "ConfObservers_p.h"
 #include "ConfVersions_p.h"
 #include "EntryLog_p.h"
+#include "PlainDump_p.h"
 #include "StrictTypes_p.h"
 
 #include <QDebug>
@@ -35,7 +36,7 @@ int ConfStorage::loadConf(const QJsonObject &conf, LoadConfType type)
 bool ConfStorage::loadConf(const QString &json, LoadConfType type)
 {
     const EntryLog log;
-    const bool isObject = ConfLoad(*this, type).loadText(json.toUtf8());
+    const bool isObject = ConfLoad(*this, type).loadText({json.toUtf8(), std::nullopt});
     if (!isObject)
         qCritical() << "ConfStorage::importConf() parse json failed";
     return isObject;

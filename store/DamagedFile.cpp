@@ -73,10 +73,15 @@ QString createCopy(PosixFile *copy, const QString &path)
 
 } // namespace
 
-bool DamagedFile::isDamaged(const QByteArray &text)
+bool DamagedFile::isDamaged(const DumpText &dump)
 {
     // The parser of the library is faster, but accepts only texts as the library writes them.
-    return !text.isEmpty() && !readPlainDump(text) && !QJsonDocument::fromJson(text).isObject();
+    return !dump.text.isEmpty() && !dump.members && !QJsonDocument::fromJson(dump.text).isObject();
+}
+
+bool DamagedFile::isDamaged(const QByteArray &text)
+{
+    return isDamaged(DumpText{text, readPlainDump(text)});
 }
 
 bool DamagedFile::isRestOf(const QByteArray &text, const QByteArray &saved)

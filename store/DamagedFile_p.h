@@ -2,11 +2,14 @@
 
 #include "PosixFile_p.h"
 
+struct DumpText;
+
 /// Copies of a local file that cannot be parsed, beside the file.
 namespace DamagedFile {
 
-/// Returns whether `text`, the content of a local file, contains something and is not a JSON
+/// Returns whether the text, the content of a local file, contains something and is not a JSON
 /// object.
+bool isDamaged(const DumpText &dump);
 bool isDamaged(const QByteArray &text);
 
 /// Returns whether `text` is what an interrupted save of `saved` left: a part of it, or all of it

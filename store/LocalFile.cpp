@@ -28,7 +28,7 @@ LocalFile::LocalFile(const ConfStorage &store)
 {
 }
 
-QByteArray LocalFile::read()
+DumpText LocalFile::read()
 {
     const bool keepsDamaged = mOptions & ConfStorage::KeepDamagedFiles;
     bool isKept = true;
@@ -46,30 +46,39 @@ QByteArray LocalFile::read()
     mContent = loaded.text;
     logLoad(loaded, file);
     const bool isWhole = mIsComplete && loaded.file == PosixFile::Status::Done;
-    return keepsDamaged && isWhole ? readRepaired(file.file(), loaded.text) : loaded.text;
+    if (keepsDamaged && isWhole)
+        return readRepaired(file.file(), loaded.text);
+    return {loaded.text, std::nullopt};
 }
 
-QByteArray LocalFile::readIfWhole() const
+DumpText LocalFile::readIfWhole() const
 {
-    const QByteArray text = PosixFile::read(mPath, mLimit).bytes;
-    return DamagedFile::isDamaged(text) ? QByteArray() : text;
+    const DumpText dump = parsed(PosixFile::read(mPath, mLimit).bytes);
+    return DamagedFile::isDamaged(dump) ? DumpText() : dump;
+}
+
+DumpText LocalFile::parsed(const QByteArray &text) const
+{
+    const bool isLong = mOptions & ConfStorage::LongTimes;
+    return {text, readPlainDump(text, isLong ? TimeRange::Long : TimeRange::Until2038)};
 }
 
 /// Returns `text`, the content of `file`, or the content of the backup if it is damaged.
-QByteArray LocalFile::readRepaired(const PosixFile &file, const QByteArray &text)
+DumpText LocalFile::readRepaired(const PosixFile &file, const QByteArray &text)
 {
-    const bool isDamaged = DamagedFile::isDamaged(text);
+    DumpText dump = parsed(text);
+    const bool isDamaged = DamagedFile::isDamaged(dump);
     if (!isDamaged && !text.isEmpty())
-        return text;
+        return dump;
     const FileBackup backup(file);
     const QByteArray saved = backup.read(mLimit);
     if (isDamaged)
         mIsComplete = keepCopy(text, file);
     if (saved.isEmpty())
-        return text;
+        return dump;
     mIsDamaged = true;
     qWarning() << "ConfStorage::loadLocalConfFile() loaded from backup: " << backup.path();
-    return saved;
+    return {saved, std::nullopt};
 }
 
 /// Copies the damaged `text` of `file` aside. Returns whether the file may be overwritten now.

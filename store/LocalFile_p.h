@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PlainDump_p.h"
 #include "SafeFile_p.h"
 
 #include <MaltoConfiguration/store/ConfStorage.h>
@@ -17,15 +18,16 @@ public:
     explicit LocalFile(const ConfStorage &store);
 
     /// Returns the text of the file, or of its journal if a save was interrupted. Empty if there is
-    /// no file, or if it could not be read.
-    QByteArray read();
+    /// no file, or if it could not be read. It has members if it was parsed, to know whether the
+    /// file is damaged.
+    DumpText read();
 
     /// Returns the same while another program may be writing the file. Changes no file.
     QByteArray peek();
 
     /// Returns the text of the file if it is a JSON object, and otherwise an empty text: another
     /// program may be writing it. Changes and logs nothing.
-    QByteArray readIfWhole() const;
+    DumpText readIfWhole() const;
 
     /// Returns whether the last call of `read` could read everything that exists. Otherwise a save
     /// could overwrite settings that were not loaded.
@@ -47,7 +49,8 @@ public:
     bool write(const std::function<QByteArray()> &compose);
 
 private:
-    QByteArray readRepaired(const PosixFile &file, const QByteArray &text);
+    DumpText parsed(const QByteArray &text) const;
+    DumpText readRepaired(const PosixFile &file, const QByteArray &text);
     bool keepCopy(const QByteArray &text, const PosixFile &file);
     bool prepareOverwriting();
     void logLoad(const SafeFile::Loaded &loaded, const SafeFile &file) const;

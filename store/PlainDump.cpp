@@ -2,7 +2,6 @@
 
 #include "JsonText_p.h"
 
-#include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -2,6 +2,7 @@
 
 #include "DumpMember_p.h"
 
+#include <QByteArray>
 #include <QJsonValue>
 #include <QLatin1String>
 #include <QString>
@@ -9,8 +10,6 @@
 #include <optional>
 #include <string_view>
 #include <vector>
-
-class QByteArray;
 
 /// A member of a dump, in the text of the dump, which must outlive it. Its functions are those of
 /// `ParsedMember` and return the same.
@@ -36,6 +35,14 @@ struct PlainMember
     std::string_view string; ///< a string value in UTF-8, or else null
     QString decoded;         ///< the same without escapes, if the bytes are not its characters
     QJsonValue otherValue{QJsonValue::Undefined};
+};
+
+/// The text of a dump, and its members if `readPlainDump` has returned them, which need not be
+/// parsed again.
+struct DumpText
+{
+    QByteArray text;
+    std::optional<std::vector<PlainMember>> members;
 };
 
 /// Parses the text of a dump without a QJsonDocument, whose construction takes most of the time of
