@@ -22,7 +22,8 @@ DependencyNote::DependencyNote(ConfItem *item, ConfigItemWidget *editor, Find fi
 
 bool DependencyNote::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == mEditor && event->type() == QEvent::EnabledChange)
+    // The type first: comparing a pointer to a widget that is being deleted casts it.
+    if (event->type() == QEvent::EnabledChange && watched == mEditor)
         refresh();
     return QLabel::eventFilter(watched, event);
 }
