@@ -40,12 +40,7 @@ private:
     }
     void openLists();
     void openDialogs();
-    /// Moves the mouse there, which the compositor tells the program once it shows the window.
-    bool isUnderPointer(const QWidget *widget) const
-    {
-        mMouse->moveTo(widget->mapTo(widget->window(), widget->rect().center()));
-        return widget->underMouse();
-    }
+    void openWithMouse(const QComboBox *box) const;
     static bool isShown(const QWidget *widget)
     {
         return widget->isVisible() && widget->windowHandle() && widget->windowHandle()->isExposed();
@@ -188,6 +183,25 @@ void tst_WaylandWindow::listsAndDialogsWereOpened()
              qPrintable(QString("%1 lists, %2 dialogs").arg(mLists).arg(mDialogs)));
 }
 
+/// Clicks where the compositor shows the box. It drops input while it changes the size of a window.
+void tst_WaylandWindow::openWithMouse(const QComboBox *box) const
+{
+    constexpr int sTries = 3;
+    const auto isUnderMouse = [this, box] {
+        mMouse->moveTo(box->mapTo(box->window(), box->rect().center()));
+        return box->underMouse();
+    };
+    const QWidget *const list = box->view()->window();
+    const auto isListShown = [list] { return isShown(list); };
+    for (int i = 0; i < sTries; ++i) {
+        QVERIFY(QTest::qWaitFor(isUnderMouse));
+        mMouse->press();
+        mMouse->release();
+        if (QTest::qWaitFor(isListShown))
+            return;
+    }
+}
+
 void tst_WaylandWindow::aListOpensWithTheMouse_data()
 {
     QTest::addColumn<DemoSession::Look>("look");
@@ -204,13 +218,8 @@ void tst_WaylandWindow::aListOpensWithTheMouse()
     QTRY_COMPARE(mDemo->window()->size(), mDemo->window()->screen()->size());
     auto *area = DemoFixture::child<QScrollArea>("scrollArea");
     auto *box = area->findChild<QComboBox *>();
-    QTRY_VERIFY(isUnderPointer(box));
-    // The compositor opens a list for the last input only, which a release would be by then.
-    mMouse->press();
-    QTRY_VERIFY(box->view()->isVisible());
-    QTRY_VERIFY(isShown(box->view()->window()));
-    mMouse->release();
-    QTRY_COMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons());
+    openWithMouse(box);
+    QVERIFY(isShown(box->view()->window()));
     // A press beside the list closes it.
     mMouse->click(box->window()->rect().bottomRight() - QPoint(20, 20));
     QTRY_VERIFY(!box->view()->isVisible());
