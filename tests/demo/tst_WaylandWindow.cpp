@@ -2,6 +2,7 @@
 #include "demo/declareSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
+#include "support/WaylandFrames.h"
 #include "support/XPointer.h"
 
 #include <QComboBox>
@@ -68,6 +69,8 @@ void tst_WaylandWindow::init()
 
 void tst_WaylandWindow::cleanup()
 {
+    if (DemoFixture::window())
+        awaitFrames(DemoFixture::window());
     mDemo.reset();
     const QStringList warnings = LogCapture::texts(QtWarningMsg) + LogCapture::texts(QtCriticalMsg);
     mLog.reset();
@@ -110,6 +113,7 @@ void tst_WaylandWindow::openLists()
         box->showPopup();
         settle(); // the compositor may close the list again: there was no input
         mLists += box->view()->isVisible();
+        awaitFrames(box->view()->window());
         box->hidePopup();
         settle();
     }
@@ -119,13 +123,15 @@ void tst_WaylandWindow::openDialogs()
 {
     QTimer closer;
     connect(&closer, &QTimer::timeout, this, [this] {
-        QWidget *top = QApplication::activePopupWidget();
+        QPointer<QWidget> top = QApplication::activePopupWidget();
         if (!top)
             top = QApplication::activeModalWidget();
-        if (top && isShown(top)) {
-            ++mDialogs;
+        if (!top || !isShown(top))
+            return;
+        ++mDialogs;
+        awaitFrames(top);
+        if (top)
             top->close();
-        }
     });
     closer.start(5);
     const QList<QAbstractButton *> found = mDemo->window()->findChildren<QAbstractButton *>();
@@ -149,6 +155,7 @@ void tst_WaylandWindow::menusOfRowsOpen()
     QTimer::singleShot(0, this, [&] {
         QTRY_VERIFY(QApplication::activePopupWidget()
                     && isShown(QApplication::activePopupWidget()));
+        awaitFrames(QApplication::activePopupWidget());
         QApplication::activePopupWidget()->close();
     });
     QCoreApplication::sendEvent(field, &event);
@@ -162,6 +169,7 @@ void tst_WaylandWindow::theCompositorDecidesTheGeometry()
     const QSize size = mDemo->window()->screen()->size();
     QTRY_COMPARE(mDemo->window()->size(), size);
     mDemo->window()->setGeometry(4000, 4000, 1111, 777); // outside of the screen
+    awaitFrames(mDemo->window());
     QVERIFY(DemoFixture::close());
     QVERIFY(mDemo->open("General"));
     QTRY_COMPARE(mDemo->window()->size(), size);
@@ -172,6 +180,7 @@ void tst_WaylandWindow::stayingOnTopIsAskedForInVain()
     mDemo->start(QString(), DemoSession::Look::Modern);
     QVERIFY(mDemo->open("General"));
     for (const bool on : {true, false}) {
+        awaitFrames(mDemo->window()); // changing the hint hides the window
         MtConf::setStaysOnTopHint(on);
         QTRY_VERIFY(isShown(mDemo->window()));
     }
@@ -221,6 +230,7 @@ void tst_WaylandWindow::aListOpensWithTheMouse()
     openWithMouse(box);
     QVERIFY(isShown(box->view()->window()));
     // A press beside the list closes it.
+    awaitFrames(box->view()->window());
     mMouse->click(box->window()->rect().bottomRight() - QPoint(20, 20));
     QTRY_VERIFY(!box->view()->isVisible());
 }
