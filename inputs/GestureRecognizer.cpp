@@ -41,6 +41,12 @@ bool isAncestor(const QObject *ancestor, const QObject *object)
     return widget && child && widget != child && widget->isAncestorOf(child);
 }
 
+/// Qt's platforms turn the wheel to the side while Alt is pressed.
+QPoint uprightDelta(const QPoint &delta, Qt::KeyboardModifiers modifiers)
+{
+    return modifiers & Qt::AltModifier && delta.y() == 0 ? delta.transposed() : delta;
+}
+
 } // namespace
 
 /// What the recognizer has seen so far. Each function that handles an event changes the state
@@ -229,8 +235,8 @@ bool GestureRecognizer::Private::wheel(QObject *receiver, const QWheelEvent &eve
     gesture.value = WheelGesture | modifiers;
     gesture.begin = gesture.position = event.position();
     gesture.globalBegin = gesture.globalPosition = event.globalPosition();
-    gesture.angleDelta = event.angleDelta();
-    gesture.pixelDelta = event.pixelDelta();
+    gesture.angleDelta = uprightDelta(event.angleDelta(), event.modifiers());
+    gesture.pixelDelta = uprightDelta(event.pixelDelta(), event.modifiers());
     gesture.receiver = receiver;
     return !reportWaitingClick() || report(gesture);
 }

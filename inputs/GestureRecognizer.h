@@ -51,7 +51,7 @@ struct MouseGesture
     QPointF position;           ///< where the pointer is now, in the coordinates of `receiver`
     QPointF globalBegin;        ///< where the button was pressed, on the screen
     QPointF globalPosition;     ///< where the pointer is now, on the screen
-    QPoint angleDelta;          ///< of the wheel, in eighths of a degree; see QWheelEvent
+    QPoint angleDelta;          ///< of the wheel, in eighths of a degree; vertical also with Alt
     QPoint pixelDelta;          ///< of the wheel, in pixels; null where the platform has none
     QPointer<QObject> receiver; ///< received the event; null if it was passed to `feed`
 };

@@ -1,6 +1,7 @@
 #include <MaltoConfiguration/inputs/GestureRecognizer.h>
 
 #include "support/TestMain.h"
+#include "support/XClient.h"
 #include "support/XPointer.h"
 
 #include <QMenu>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void clicksAndDoubleClicksAreRecognized();
     void dragLeavesTheWindow();
     void menuThatOpensEndsTheGesture();
+    void wheelTurnsTheSameWithEveryModifier_data();
+    void wheelTurnsTheSameWithEveryModifier();
 
 private:
     QPoint at(int x, int y) const { return mWindow->mapToGlobal(QPoint(x, y)); }
@@ -116,6 +119,34 @@ void tst_GestureRecognizerX11::menuThatOpensEndsTheGesture()
     const auto click = mRecognized->first().first().value<MouseGesture>();
     QCOMPARE(click.begin, QPointF(150, 50));
     QCOMPARE(finished.count(), 0);
+}
+
+void tst_GestureRecognizerX11::wheelTurnsTheSameWithEveryModifier_data()
+{
+    QTest::addColumn<uint>("keysym");
+    QTest::addColumn<Qt::KeyboardModifier>("modifier");
+    QTest::newRow("none") << 0U << Qt::NoModifier;
+    QTest::newRow("Shift") << 0xffe1U << Qt::ShiftModifier;
+    QTest::newRow("Ctrl") << 0xffe3U << Qt::ControlModifier;
+    QTest::newRow("Alt") << 0xffe9U << Qt::AltModifier;
+    QTest::newRow("Super") << 0xffebU << Qt::MetaModifier;
+}
+
+void tst_GestureRecognizerX11::wheelTurnsTheSameWithEveryModifier()
+{
+    QFETCH(const uint, keysym);
+    QFETCH(const Qt::KeyboardModifier, modifier);
+    XClient keyboard;
+    const xcb_keycode_t key = keysym ? keyboard.keyOf(keysym) : xcb_keycode_t(0);
+    mPointer->moveTo(at(50, 50));
+    if (key)
+        keyboard.send(key, true);
+    mPointer->turnWheelUp();
+    if (key)
+        keyboard.send(key, false);
+    QTRY_COMPARE(values(), QList<int>{int(WheelGesture) | int(modifier)});
+    const auto turn = mRecognized->first().first().value<MouseGesture>();
+    QCOMPARE(turn.angleDelta, QPoint(0, QWheelEvent::DefaultDeltasPerStep));
 }
 
 int main(int argc, char **argv)

@@ -27,6 +27,12 @@ public:
     void press() const { send(XCB_BUTTON_PRESS, sLeftButton); }
     /// Releases the left button.
     void release() const { send(XCB_BUTTON_RELEASE, sLeftButton); }
+    /// Turns the wheel up by one notch at the current position.
+    void turnWheelUp() const
+    {
+        send(XCB_BUTTON_PRESS, sWheelUp);
+        send(XCB_BUTTON_RELEASE, sWheelUp);
+    }
     /// Moves, presses and releases.
     void click(const QPoint &global) const
     {
@@ -37,6 +43,7 @@ public:
 
 private:
     static constexpr uint8_t sLeftButton = 1;
+    static constexpr uint8_t sWheelUp = 4;
 
     /// Returns after the server has processed the event. The program receives it the next time it
     /// runs its event loop.
