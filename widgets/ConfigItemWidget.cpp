@@ -204,6 +204,8 @@ void ConfigItemWidget::showMessage(const QString &text)
 bool ConfigItemWidget::isAccepted(const QJsonValue &value)
 {
     const auto validator = mItem->validator; // a copy: the host may replace it in the call
+    if (!validator || mIsRefreshing)
+        return true;
     const Writing writing(this);
     const QString reason = validator(value);
     if (writing.hasEditor())

@@ -129,6 +129,12 @@ protected:
         return ConfStorage::instance()->get<T>(mItem->getFullName());
     }
 
+    /// Returns whether the validator of the item accepts `value`, and shows under the row why not.
+    /// True without a validator and during `refresh`. Returns false if the validator has deleted
+    /// this editor; the caller must then return without using it. The functions that store a value
+    /// call it themselves.
+    bool isAccepted(const QJsonValue &value);
+
     /// Stores `value` if it differs from the stored value. Returns false if it does not differ, if
     /// the validator of the item or the store does not accept it, during `refresh`, or if a
     /// callback has deleted this editor; the caller must then return without using it.
@@ -193,7 +199,6 @@ private:
     friend class RowDependency;
 
     static void logNoItem();
-    bool isAccepted(const QJsonValue &value);
     bool hasConstraint() const;
     bool isStored(const QJsonValue &value);
     void updateToolTips();

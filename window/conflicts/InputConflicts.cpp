@@ -153,7 +153,10 @@ void InputConflicts::ask(const PageRow &row)
     builder()->addBelow(row, mOffer);
     if (QWidget *const control = controlOf(row))
         mOffer->followInTabOrder(control);
+    const QPointer<InputConflicts> self(this);
     showQuestion();
+    if (!self || !mOffer) // a validator has shown another page, or destroyed the window
+        return;
     mOffer->show();
     // Its place is known after the next layout.
     QTimer::singleShot(0, mOffer, [this] { scrollArea()->ensureWidgetVisible(mOffer); });
@@ -165,15 +168,24 @@ void InputConflicts::showQuestion()
     const QPointer<InputConflicts> self(this);
     const HostCodeScope scope(hostCode());
     const bool canReplace = canChangeOthers(emptyInput(mQuestion.wanted));
-    const bool canSwap = self && mQuestion.uses.size() == 1
-                         && mQuestion.former != emptyInput(mQuestion.former)
-                         && canChangeOthers(mQuestion.former);
+    const bool canSwap = self && isWorthASwap() && canChangeOthers(mQuestion.former);
     if (!self || !mOffer)
         return;
     mOffer->setOffered(Answer::Replace, canReplace);
     mOffer->setOffered(Answer::Swap, canSwap);
     mOffer->setText(
         tr("%1 is used by: %2").arg(inputInWords(mQuestion.wanted), namesOfUses(mQuestion.uses)));
+}
+
+/// Returns whether the only other one could use the former value, and the two would no longer be in
+/// conflict.
+bool InputConflicts::isWorthASwap() const
+{
+    if (!mRegistry || mQuestion.uses.size() != 1)
+        return false;
+    const InputSetting row{mQuestion.wanted, mRegistry->isGlobal(mQuestion.key)};
+    const InputSetting other{mQuestion.former, mRegistry->isGlobal(mQuestion.uses.first().key)};
+    return hasEffect(other) && !doConflict(row, other);
 }
 
 /// Returns whether all who use the value are settings that accept `value`.

@@ -46,6 +46,7 @@ private:
     bool mayTake(const QString &key, const InputValue &wanted);
     void ask(const PageRow &row);
     void showQuestion();
+    bool isWorthASwap() const;
     bool canChangeOthers(const InputValue &value) const;
     void closeOffer();
     void withdrawOffer();

@@ -1,6 +1,8 @@
 #include "InputValue_p.h"
 
+#include "MaltoConfiguration/inputs/InputChords_p.h"
 #include "MaltoConfiguration/widgets/EditorTexts_p.h"
+#include "MaltoConfiguration/widgets/GestureConflict_p.h"
 #include "MaltoConfiguration/window/rows/ValueInWords_p.h"
 #include "QtCompat_p.h"
 
@@ -55,6 +57,23 @@ QString namesOfUses(const QList<InputUse> &uses)
     if (uses.size() > names.size())
         names.append(QStringLiteral("…"));
     return names.join(listSeparator());
+}
+
+bool hasEffect(const InputSetting &setting)
+{
+    return doConflict(setting, setting);
+}
+
+bool doConflict(const InputSetting &a, const InputSetting &b)
+{
+    if (const int *const gesture = std::get_if<int>(&a.value)) {
+        const int conflictKey = gestureConflictKey(*gesture);
+        return conflictKey != 0 && conflictKey == gestureConflictKey(std::get<int>(b.value));
+    }
+    const auto keysOf = [](const InputSetting &setting) {
+        return InputKeys{chordsOf(std::get<QKeySequence>(setting.value)), setting.isGlobal};
+    };
+    return doMeet(keysOf(a), keysOf(b));
 }
 
 QList<InputUse> conflictsWith(const InputRegistry &registry, const QString &key,

@@ -27,6 +27,18 @@ QString inputInWords(const InputValue &value);
 /// Returns the names of the first uses, as a list in one line.
 QString namesOfUses(const QList<InputUse> &uses);
 
+/// A value and the kind of setting that has it.
+struct InputSetting
+{
+    InputValue value;
+    bool isGlobal = false; ///< whether it is a hotkey
+};
+
+/// Returns whether a setting can do something with its value: keys that can be registered, or a
+/// gesture with an action.
+bool hasEffect(const InputSetting &setting);
+/// Returns whether the values of two settings that work in the same window are in conflict.
+bool doConflict(const InputSetting &a, const InputSetting &b);
 /// Returns what would be in conflict with the setting `key` if it had the value `value`.
 QList<InputUse> conflictsWith(const InputRegistry &registry, const QString &key,
                               const InputValue &value);
