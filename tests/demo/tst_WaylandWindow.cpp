@@ -3,13 +3,19 @@
 #include "support/LogCapture.h"
 #include "support/TestMain.h"
 #include "support/WaylandFrames.h"
+#include "support/XClient.h"
 #include "support/XPointer.h"
+#include "support/XScreen.h"
+
+#include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
 #include <QComboBox>
 #include <QDialog>
 #include <QScreen>
 #include <QScrollArea>
 #include <QWindow>
+
+#include <limits>
 
 Q_DECLARE_METATYPE(DemoSession::Look)
 
@@ -32,6 +38,7 @@ private Q_SLOTS:
     void listsAndDialogsWereOpened();
     void aListOpensWithTheMouse_data();
     void aListOpensWithTheMouse();
+    void hotkeyIsRecorded();
 
 private:
     static void settle()
@@ -39,6 +46,8 @@ private:
         for (int i = 0; i < 4; ++i)
             QCoreApplication::processEvents();
     }
+    void verifyPicture();
+    static int differingPixels(const QImage &a, const QImage &b);
     void openLists();
     void openDialogs();
     void openWithMouse(const QComboBox *box) const;
@@ -95,11 +104,37 @@ void tst_WaylandWindow::everyPageOpensItsListsAndDialogs()
     mDemo->start(QString(), look);
     QVERIFY(mDemo->open(page));
     QVERIFY(isShown(mDemo->window()));
-    const QString folder = qEnvironmentVariable("MALTO_PICTURES");
-    if (!folder.isEmpty())
-        mDemo->window()->grab().save(QString("%1/%2.png").arg(folder, QTest::currentDataTag()));
+    verifyPicture();
     openLists();
     openDialogs();
+}
+
+/// Waits until the compositor shows the window as it is drawn, and saves the picture.
+void tst_WaylandWindow::verifyPicture()
+{
+    QWidget *const window = mDemo->window();
+    QTRY_COMPARE(window->size(), window->screen()->size());
+    QImage shown;
+    const auto isShownAsDrawn = [&] {
+        shown = pictureOfScreen(window->rect());
+        return differingPixels(shown, window->grab().toImage()) < 1000; // such as the mouse pointer
+    };
+    QVERIFY(QTest::qWaitFor(isShownAsDrawn));
+    const QString name = QString(QTest::currentDataTag()).replace(": ", "-");
+    QVERIFY(QDir().mkpath(PICTURES_FOLDER));
+    QVERIFY(shown.save(QString(PICTURES_FOLDER "/%1.png").arg(name)));
+}
+
+int tst_WaylandWindow::differingPixels(const QImage &a, const QImage &b)
+{
+    if (a.size() != b.size())
+        return std::numeric_limits<int>::max();
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            count += a.pixel(x, y) != b.pixel(x, y);
+    }
+    return count;
 }
 
 void tst_WaylandWindow::openLists()
@@ -233,6 +268,28 @@ void tst_WaylandWindow::aListOpensWithTheMouse()
     awaitFrames(box->view()->window());
     mMouse->click(box->window()->rect().bottomRight() - QPoint(20, 20));
     QTRY_VERIFY(!box->view()->isVisible());
+}
+
+void tst_WaylandWindow::hotkeyIsRecorded()
+{
+    constexpr xcb_keysym_t control = 0xffe3;
+    constexpr xcb_keysym_t alt = 0xffe9;
+    mDemo->start();
+    QVERIFY(mDemo->open("Hotkeys"));
+    QTRY_COMPARE(mDemo->window()->size(), mDemo->window()->screen()->size());
+    QWidget *const editor = mDemo->editor("Hotkeys", "Tools", "PickColor");
+    auto *const field = mDemo->control<KeySequenceEdit>(editor);
+    const QPoint place = field->mapTo(field->window(), field->rect().center());
+    const auto hasFocus = [&] {
+        mMouse->click(place);
+        return field->hasFocus();
+    };
+    QVERIFY(QTest::qWaitFor(hasFocus));
+    XClient keyboard;
+    keyboard.type({control, alt, 'k'});
+    QTRY_COMPARE(mDemo->settings().pickColor, QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_K));
+    QCOMPARE(mDemo->control<QPushButton>(editor)->toolTip(),
+             "Setup failed, the hotkey may be occupied. Click to try setup again.");
 }
 
 int main(int argc, char **argv)

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Runs a program on a Wayland compositor that is a window of the X server in DISPLAY, whose keyboard
 # and mouse it has: Qt 6.4 crashes on a compositor without any. Each window of the program covers the
-# whole compositor, so that it is known where to click. Linux only.
+# whole compositor, so that it is known where to click. There is no session bus, whose portal would
+# ask the user of this machine for hotkeys. Linux only.
 #   withWayland.sh <weston> <program> [<argument>...]
 set -euo pipefail
 weston=$1
@@ -17,4 +18,4 @@ until [ -S "$folder/compositor" ]; do
     kill -0 "$compositor" 2>/dev/null || { cat "$folder/log"; exit 1; }
     sleep 0.05
 done
-WAYLAND_DISPLAY=compositor QT_QPA_PLATFORM=wayland "$@"
+WAYLAND_DISPLAY=compositor QT_QPA_PLATFORM=wayland DBUS_SESSION_BUS_ADDRESS="unix:path=$folder/no-bus" "$@"
