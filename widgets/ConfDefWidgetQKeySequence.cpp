@@ -24,6 +24,7 @@ struct Reason
     const char *failure; ///< name of the value of the hotkey's property "failure"
     const char *words;   ///< for the user, not translated
     bool isWorthARetry;  ///< whether the same keys may be registered later
+    bool isError = true;
 };
 
 constexpr Reason sUnknownReason = {
@@ -34,7 +35,7 @@ constexpr Reason sUnknownReason = {
 constexpr Reason sReasons[] = {
     {"Pending",
      QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "The desktop has not answered yet."),
-     false},
+     false, false},
     {"Empty",
      QT_TRANSLATE_NOOP("MtConf::ConfDefWidgetQKeySequence", "The hotkey has not been set up yet."),
      true},
@@ -148,14 +149,18 @@ void ConfDefWidgetQKeySequence::refreshState()
     if (!mItem->properties.contains(shortcutKey()))
         return;
     const QString red = QStringLiteral("245, 108, 108");
+    const QString grey = QStringLiteral("120, 129, 130");
     const QxtGlobalShortcut *const hotkey = shortcut();
     bool canTryAgain = false;
     if (readValue<QKeySequence>().isEmpty()) {
-        showState(sWarningGlyph, red, tr("Not set"));
+        if (mTellsReasons) // nothing is wrong
+            showState(sDisabledGlyph, grey, tr("Not set"));
+        else
+            showState(sWarningGlyph, red, tr("Not set"));
     } else if (!hotkey) {
         showNoState();
     } else if (!hotkey->isEnabled()) {
-        showState(sDisabledGlyph, QStringLiteral("120, 129, 130"), tr("Disabled."));
+        showState(sDisabledGlyph, grey, tr("Disabled."));
     } else if (hotkey->isValid()) {
         const QString other = mTellsReasons ? otherTriggerText(hotkey) : QString();
         showState(sCorrectGlyph, QStringLiteral("103, 194, 58"),
@@ -163,7 +168,7 @@ void ConfDefWidgetQKeySequence::refreshState()
     } else if (const Reason &reason = reasonOf(hotkey); mTellsReasons) {
         canTryAgain = reason.isWorthARetry;
         const QString words = tr(reason.words);
-        showState(sWarningGlyph, red,
+        showState(reason.isError ? sWarningGlyph : sDisabledGlyph, reason.isError ? red : grey,
                   canTryAgain ? words + QLatin1Char('\n') + tr("Click to try again.") : words);
     } else {
         showState(sWarningGlyph, red,

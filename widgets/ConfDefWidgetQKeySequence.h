@@ -48,8 +48,9 @@ public:
     /// Whether editors that are created from now on tell more than that the setup failed: the tool
     /// tip of the button tells why, or which keys the desktop has assigned instead, and
     /// `setHotKeyAgain` registers the same keys again. The button is enabled only if that may help.
-    /// False by default. The reasons come from the properties "failure" and "trigger" of the global
-    /// shortcut; one without these properties has no other reason than another program.
+    /// A hotkey that is not set, or that the desktop has not answered yet, is not shown as an
+    /// error. False by default. The reasons come from the properties "failure" and "trigger" of the
+    /// global shortcut; one without these properties has no other reason than another program.
     static bool sTellsReasons;
 
 public Q_SLOTS:

@@ -46,8 +46,8 @@ public:
 
     /// Returns whether hotkeys can be registered at all: on an X server (Qt platform "xcb") and on
     /// macOS, unless the library was built with MALTO_GLOBAL_HOTKEYS=OFF. On Wayland true until the
-    /// desktop turns out to have no hotkeys, unless it was built without its backend. False without
-    /// an application object.
+    /// desktop, which is asked when the first hotkey is set, turns out to have no hotkeys, unless
+    /// it was built without its backend. False without an application object.
     static bool isSupported();
 
     /// Why a hotkey is not registered.

@@ -23,6 +23,7 @@ private Q_SLOTS:
 
     void reasonIsTheToolTipIfTheHostAsks_data() { addFailures(); }
     void reasonIsTheToolTipIfTheHostAsks();
+    void emptyHotkeyIsNoErrorIfTheHostAsks();
     void toolTipIsTheSameForAllFailuresOtherwise_data() { addFailures(); }
     void toolTipIsTheSameForAllFailuresOtherwise();
     void statusTellsTheReason_data() { addFailures(); }
@@ -36,6 +37,9 @@ private Q_SLOTS:
     void otherTriggerIsShown();
 
 private:
+    static constexpr ushort sWarning = 0xe71b;
+    static constexpr ushort sNeutral = 0xe63a;
+
     static void addFailures();
     void makeFailedHotkey();
 
@@ -98,7 +102,20 @@ void tst_ConfDefWidgetQKeySequenceReasons::reasonIsTheToolTipIfTheHostAsks()
     QCOMPARE(mButton->toolTip(), canTryAgain ? text + "\nClick to try again." : text);
     QCOMPARE(mButton->accessibleName(), mButton->toolTip());
     QCOMPARE(mButton->isEnabled(), canTryAgain);
-    QCOMPARE(mButton->text(), QString(QChar(0xe71b)));
+    const bool isError = failure != QxtGlobalShortcut::Pending;
+    QCOMPARE(mButton->text(), QString(QChar(isError ? sWarning : sNeutral)));
+    QCOMPARE(mButton->styleSheet().contains("color: rgb(245, 108, 108)"), isError);
+}
+
+void tst_ConfDefWidgetQKeySequenceReasons::emptyHotkeyIsNoErrorIfTheHostAsks()
+{
+    for (const bool asks : {false, true}) {
+        ConfDefWidgetQKeySequence::sTellsReasons = asks;
+        makeEditor();
+        QCOMPARE(mButton->toolTip(), QString("Not set"));
+        QCOMPARE(mButton->text(), QString(QChar(asks ? sNeutral : sWarning)));
+        QCOMPARE(mButton->styleSheet().contains("color: rgb(245, 108, 108)"), !asks);
+    }
 }
 
 void tst_ConfDefWidgetQKeySequenceReasons::toolTipIsTheSameForAllFailuresOtherwise()
