@@ -19,6 +19,7 @@ private Q_SLOTS:
     void theDesktopChoosesTheKeys();
     void theUserRefuses();
     void theDesktopHasNoHotkeys();
+    void thereIsNoSessionBus();
     void thePortalIsRestarted();
 
 private:
@@ -93,6 +94,12 @@ void tst_HotkeyTrayWayland::theDesktopHasNoHotkeys()
 {
     mDesktop->hideHotkeys();
     start();
+    QVERIFY(mTray->prints("This desktop has no hotkeys. Click the icon in the tray."));
+}
+
+void tst_HotkeyTrayWayland::thereIsNoSessionBus()
+{
+    mTray = std::make_unique<HotkeyTray>(QProcessEnvironment::systemEnvironment());
     QVERIFY(mTray->prints("This desktop has no hotkeys. Click the icon in the tray."));
 }
 

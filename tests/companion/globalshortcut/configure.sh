@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# Configures the project on a system on which pkg-config finds no package.
+# Configures the project without what global hotkeys need.
 #   configure.sh <case> <source of the project> <work folder> <Qt: 5|6> <compiler>
 set -euo pipefail
 case=$1 project=$2 work=$3 qt_major=$4 compiler=$5
-export PKG_CONFIG_LIBDIR=/nonexistent PKG_CONFIG_PATH=
 
 rm -rf "$work"
 mkdir -p "$work"
@@ -13,8 +12,12 @@ configure() { # [<option>...]
         -DMALTO_BUILD_BENCHMARKS=OFF "$@" 2>&1 | tee "$work/log"
 }
 
+# As on a system on which pkg-config finds no package.
+hide_packages() { export PKG_CONFIG_LIBDIR=/nonexistent PKG_CONFIG_PATH=; }
+
 case $case in
 missingPackagesEndTheConfiguration)
+    hide_packages
     if configure; then
         echo "the configuration did not end"
         exit 1
@@ -27,12 +30,21 @@ missingPackagesEndTheConfiguration)
     done
     ;;
 noPackagesAreNeededWithoutHotkeys)
+    hide_packages
     configure -DMALTO_GLOBAL_HOTKEYS=OFF
     ninja -C "$work" -n QxtGlobalShortcut > "$work/build"
     grep createBackendNull "$work/build"
     if grep X11 "$work/build"; then
         exit 1
     fi
+    ;;
+portalCanBeLeftOut)
+    configure -DMALTO_PORTAL_HOTKEYS=OFF
+    ninja -C "$work" -t commands QxtGlobalShortcut > "$work/build"
+    if grep -e PortalSession -e DBus "$work/build"; then
+        exit 1
+    fi
+    ninja -C "$work" "$(grep -o '[^ ]*createPortalBackendNull.cpp.o' "$work/build" | head -n 1)"
     ;;
 *)
     echo "unknown case: $case"
