@@ -14,7 +14,8 @@ mkdir -p "$work"
 build() { # <source folder> [<option>...]
     local source=$1
     shift
-    cmake -G Ninja -S "$source" -B "$work/build" -DCMAKE_BUILD_TYPE=Debug "$@"
+    # Nobody debugs it, and it is built faster without debug information.
+    cmake -G Ninja -S "$source" -B "$work/build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g0 "$@"
     cmake --build "$work/build"
 }
 # The package must work after it was moved.

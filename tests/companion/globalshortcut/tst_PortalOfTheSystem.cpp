@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aChangeClosesTheSession();
     void theDesktopClosesTheSession();
     void theDesktopCrashesDuringTheDialog();
+    void aDesktopThatCrashedBindsAgainAfterAChange();
     void thePortalIsStartedAgain();
     void aDesktopThatIsNotRunningRefuses();
     void aDesktopMayHaveNoHotkeys();
@@ -145,6 +146,20 @@ void tst_PortalOfTheSystem::theDesktopCrashesDuringTheDialog()
     mDesktop->start();
     m->backend->change({"area", "Capture an area", PortalFixture::sKeys});
     QTRY_COMPARE(m->failure("area"), Failure::NoFailure);
+}
+
+// The portal does not tell that the desktop behind it has crashed.
+void tst_PortalOfTheSystem::aDesktopThatCrashedBindsAgainAfterAChange()
+{
+    start();
+    QTRY_COMPARE(m->failure("area"), Failure::NoFailure);
+    mDesktop->crash();
+    mDesktop->start();
+    m->backend->change({"area", "Capture an area", PortalFixture::sKeys | Qt::SHIFT});
+    QTRY_COMPARE(mDesktop->calls.count("BindShortcuts"), 2);
+    QTRY_COMPARE(m->failure("area"), Failure::NoFailure);
+    mDesktop->activate("area");
+    QTRY_COMPARE(m->recorder.activations.size(), 1);
 }
 
 void tst_PortalOfTheSystem::thePortalIsStartedAgain()
