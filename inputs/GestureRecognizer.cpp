@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <optional>
 #include <utility>
@@ -41,10 +42,12 @@ bool isAncestor(const QObject *ancestor, const QObject *object)
     return widget && child && widget != child && widget->isAncestorOf(child);
 }
 
-/// Qt's platforms turn the wheel to the side while Alt is pressed.
-QPoint uprightDelta(const QPoint &delta, Qt::KeyboardModifiers modifiers)
+/// Returns whether the wheel was turned up or down but has a delta to the side: most platforms of
+/// Qt exchange the axes while Alt is pressed.
+bool isTransposed(const QWheelEvent &event)
 {
-    return modifiers & Qt::AltModifier && delta.y() == 0 ? delta.transposed() : delta;
+    const QPoint delta = event.angleDelta().isNull() ? event.pixelDelta() : event.angleDelta();
+    return event.modifiers() & Qt::AltModifier && std::abs(delta.x()) > std::abs(delta.y());
 }
 
 } // namespace
@@ -235,8 +238,9 @@ bool GestureRecognizer::Private::wheel(QObject *receiver, const QWheelEvent &eve
     gesture.value = WheelGesture | modifiers;
     gesture.begin = gesture.position = event.position();
     gesture.globalBegin = gesture.globalPosition = event.globalPosition();
-    gesture.angleDelta = uprightDelta(event.angleDelta(), event.modifiers());
-    gesture.pixelDelta = uprightDelta(event.pixelDelta(), event.modifiers());
+    const bool isUpright = !isTransposed(event);
+    gesture.angleDelta = isUpright ? event.angleDelta() : event.angleDelta().transposed();
+    gesture.pixelDelta = isUpright ? event.pixelDelta() : event.pixelDelta().transposed();
     gesture.receiver = receiver;
     return !reportWaitingClick() || report(gesture);
 }

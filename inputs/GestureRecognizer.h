@@ -51,7 +51,7 @@ struct MouseGesture
     QPointF position;           ///< where the pointer is now, in the coordinates of `receiver`
     QPointF globalBegin;        ///< where the button was pressed, on the screen
     QPointF globalPosition;     ///< where the pointer is now, on the screen
-    QPoint angleDelta;          ///< of the wheel, in eighths of a degree; vertical also with Alt
+    QPoint angleDelta;          ///< of the wheel, in eighths of a degree; see QWheelEvent
     QPoint pixelDelta;          ///< of the wheel, in pixels; null where the platform has none
     QPointer<QObject> receiver; ///< received the event; null if it was passed to `feed`
 };
@@ -73,7 +73,8 @@ struct MouseGesture
 /// - A drag begins when the pointer has moved by the platform's drag distance. A press that has
 ///   moved so far is not a click, even if no setting has the drag.
 /// - Each event of the wheel is a gesture, except while a button is pressed. It may be a small part
-///   of a notch; add up `MouseGesture::angleDelta`.
+///   of a notch; add up `MouseGesture::angleDelta`. With Alt, for which most platforms of Qt
+///   exchange the axes, the larger part of the delta is the vertical one.
 ///
 /// Shift, Control, Alt and Meta count as they are when the button is pressed, or when a touchpad
 /// begins to scroll. Other modifiers, such as that of the keypad, do not matter. Mouse events that

@@ -244,6 +244,15 @@ void tst_GestureRecognizer::wheelHasItsDelta()
     QCOMPARE(gesture.value, int(WheelGesture) | int(Qt::AltModifier));
     QCOMPARE(gesture.angleDelta, QPoint(0, -15));
     QCOMPARE(gesture.pixelDelta, QPoint(0, 7));
+    QWheelEvent transposed({3, 4}, {103, 104}, {-9, 1}, {-30, 2}, Qt::NoButton, Qt::AltModifier,
+                           Qt::NoScrollPhase, false);
+    QVERIFY(recognizer.feed(&transposed));
+    QCOMPARE(gesture.angleDelta, QPoint(2, -30));
+    QCOMPARE(gesture.pixelDelta, QPoint(1, -9));
+    QWheelEvent sideways({3, 4}, {103, 104}, {}, {-30, 2}, Qt::NoButton, Qt::ControlModifier,
+                         Qt::NoScrollPhase, false);
+    QVERIFY(recognizer.feed(&sideways));
+    QCOMPARE(gesture.angleDelta, QPoint(-30, 2));
     QCOMPARE(gesture.position, QPointF(3, 4));
     QCOMPARE(gesture.globalBegin, QPointF(103, 104));
 }
