@@ -119,10 +119,12 @@ void tst_WaylandWindow::verifyPicture()
         shown = pictureOfScreen(window->rect());
         return differingPixels(shown, window->grab().toImage()) < 1000; // such as the mouse pointer
     };
-    QVERIFY(QTest::qWaitFor(isShownAsDrawn));
+    const bool isAlike = QTest::qWaitFor(isShownAsDrawn);
     const QString name = QString(QTest::currentDataTag()).replace(": ", "-");
+    const QString file = QString(PICTURES_FOLDER "/%1.png").arg(name);
     QVERIFY(QDir().mkpath(PICTURES_FOLDER));
-    QVERIFY(shown.save(QString(PICTURES_FOLDER "/%1.png").arg(name)));
+    QVERIFY(shown.save(file));
+    QVERIFY2(isAlike, qPrintable(file));
 }
 
 int tst_WaylandWindow::differingPixels(const QImage &a, const QImage &b)

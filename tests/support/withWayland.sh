@@ -18,4 +18,8 @@ until [ -S "$folder/compositor" ]; do
     kill -0 "$compositor" 2>/dev/null || { cat "$folder/log"; exit 1; }
     sleep 0.05
 done
-WAYLAND_DISPLAY=compositor QT_QPA_PLATFORM=wayland DBUS_SESSION_BUS_ADDRESS="unix:path=$folder/no-bus" "$@"
+# On a busy machine the compositor may need longer than the tenth of a second after which Qt takes a
+# window for hidden.
+export QT_WAYLAND_FRAME_CALLBACK_TIMEOUT=60000
+export DBUS_SESSION_BUS_ADDRESS="unix:path=$folder/no-bus"
+WAYLAND_DISPLAY=compositor QT_QPA_PLATFORM=wayland "$@"
