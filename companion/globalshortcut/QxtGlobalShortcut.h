@@ -46,8 +46,8 @@ public:
 
     /// Returns whether hotkeys can be registered at all: on an X server (Qt platform "xcb") and on
     /// macOS, unless the library was built with MALTO_GLOBAL_HOTKEYS=OFF. On Wayland true until the
-    /// desktop, which is asked when the first hotkey is set, turns out to have no hotkeys, unless
-    /// it was built without its backend. False without an application object.
+    /// desktop answers that it has no hotkeys; it is asked when the first hotkey is set. False
+    /// there if the library was built without that backend, and without an application object.
     static bool isSupported();
 
     /// Why a hotkey is not registered.
