@@ -2,19 +2,17 @@
 
 #include "support/WindowFixture.h"
 
-#include <MaltoConfiguration/widgets/ConfWidgetMouseAction.h>
 #include <MaltoConfiguration/widgets/KeySequenceEdit.h>
 
 #include <QAction>
 #include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QxtGlobalShortcut>
 
-#include <functional>
-
-Q_DECLARE_METATYPE(std::function<void()>)
+#include <memory>
 
 /// A settings window with hotkeys, a shortcut and gestures, for tests of those that are used twice.
 class InputConflictsFixture

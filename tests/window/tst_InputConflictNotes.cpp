@@ -6,6 +6,10 @@
 
 #include <QJsonObject>
 
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
 namespace {
 
 int combined(Qt::KeyboardModifiers modifiers, Qt::Key key)

@@ -3,6 +3,10 @@
 
 #include <MaltoConfiguration/inputs/InputRegistry.h>
 
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
 /// Which answers are offered, and when a question ends without an answer.
 class tst_InputConflictOffers : public QObject, public InputConflictsFixture
 {
@@ -10,7 +14,11 @@ class tst_InputConflictOffers : public QObject, public InputConflictsFixture
 private Q_SLOTS:
     void initTestCase_data() { addLooks(); }
     void init() { create(); }
-    void cleanup() { destroy(); }
+    void cleanup()
+    {
+        destroy();
+        mOther = std::make_unique<QMainWindow>();
+    }
 
     void nothingToSwapWithAnEmptyValue();
     void swapThatDoesNotHelpIsNotOffered_data();
@@ -30,6 +38,9 @@ private Q_SLOTS:
     void clearedStoreIsSurvived();
     void registryOfTheHostIsUsed();
     void windowWithoutTheBitAsksNothing();
+
+private:
+    std::unique_ptr<QMainWindow> mOther = std::make_unique<QMainWindow>(); // of the host
 };
 
 void tst_InputConflictOffers::nothingToSwapWithAnEmptyValue()
@@ -53,6 +64,15 @@ void tst_InputConflictOffers::swapThatDoesNotHelpIsNotOffered_data()
         mPanValue = int(Qt::ControlModifier) | 4;
         mZoomValue = int(Qt::ControlModifier);
     }) << std::function<void()>([this] { choose(mZoom, 4); });
+    QTest::newRow("keys that meet others everywhere") << "Keys" << std::function<void()>([this] {
+        // The shortcut works in its window only, the hotkey would take it from this one.
+        auto *const other = new QAction("Find", mOther.get());
+        other->setShortcut(QKeySequence("Ctrl+S"));
+        mOther->addAction(other);
+        auto *const registry = new MtConf::InputRegistry(mFixture->manager.get());
+        registry->addActions(mHost.get());
+        registry->addActions(mOther.get());
+    }) << std::function<void()>([this] { record(mSave, Qt::Key_K); });
     QTest::newRow("double click and click")
         << "Mouse" << std::function<void()>([this] { mZoomValue = 8; })
         << std::function<void()>([this] { choose(mZoom, 4); });
@@ -136,32 +156,44 @@ void tst_InputConflictOffers::refusedHotkeyIsNotRegistered()
 
 void tst_InputConflictOffers::validatorMayDestroyEverything_data()
 {
+    QTest::addColumn<QString>("page");
     QTest::addColumn<std::function<void()>>("act");
-    QTest::newRow("closes the window")
-        << std::function<void()>([] { WindowFixture::window()->close(); });
-    QTest::newRow("deletes the window")
-        << std::function<void()>([] { delete WindowFixture::window(); });
-    QTest::newRow("shows another page")
-        << std::function<void()>([] { WindowFixture::window()->switchToView("Far"); });
-    QTest::newRow("destroys the manager")
-        << std::function<void()>([this] { mFixture->manager.reset(); });
+    for (const char *page : {"Keys", "Mouse"}) {
+        const auto name = [page](const char *what) { return QByteArray(page) + what; };
+        QTest::newRow(name(": closes the window"))
+            << page << std::function<void()>([] { WindowFixture::window()->close(); });
+        QTest::newRow(name(": deletes the window"))
+            << page << std::function<void()>([] { delete WindowFixture::window(); });
+        QTest::newRow(name(": shows another page"))
+            << page << std::function<void()>([] { WindowFixture::window()->switchToView("Far"); });
+        QTest::newRow(name(": destroys the manager"))
+            << page << std::function<void()>([this] { mFixture->manager.reset(); });
+    }
 }
 
 void tst_InputConflictOffers::validatorMayDestroyEverything()
 {
+    QFETCH(const QString, page);
     QFETCH(const std::function<void()>, act);
-    open();
+    open(page);
     bool isCalled = false;
-    mArea->setValidator([&](const QJsonValue &) {
-        if (!std::exchange(isCalled, true))
-            act();
-        return QString();
-    });
-    record(mWindow, Qt::Key_K);
+    for (ConfItem *const other : {mArea, mPan}) {
+        other->setValidator([&](const QJsonValue &) {
+            if (!std::exchange(isCalled, true))
+                act();
+            return QString();
+        });
+    }
+    if (page == "Keys")
+        record(mWindow, Qt::Key_K);
+    else
+        choose(mZoom, 4);
     QVERIFY(isCalled);
     QCoreApplication::processEvents();
     QCOMPARE(mWindowKeys, QKeySequence("Ctrl+L"));
     QCOMPARE(mAreaKeys, QKeySequence("Ctrl+K"));
+    QCOMPARE(mZoomValue, 2);
+    QCOMPARE(mPanValue, 4);
 }
 
 void tst_InputConflictOffers::filterOfTheHostIsAskedFirst()

@@ -177,15 +177,19 @@ void InputConflicts::showQuestion()
         tr("%1 is used by: %2").arg(inputInWords(mQuestion.wanted), namesOfUses(mQuestion.uses)));
 }
 
-/// Returns whether the only other one could use the former value, and the two would no longer be in
+/// Returns whether the only other one could use the former value, and the swap would leave no
 /// conflict.
 bool InputConflicts::isWorthASwap() const
 {
     if (!mRegistry || mQuestion.uses.size() != 1)
         return false;
-    const InputSetting row{mQuestion.wanted, mRegistry->isGlobal(mQuestion.key)};
-    const InputSetting other{mQuestion.former, mRegistry->isGlobal(mQuestion.uses.first().key)};
-    return hasEffect(other) && !doConflict(row, other);
+    const QString other = mQuestion.uses.first().key;
+    const InputSetting given{mQuestion.former, mRegistry->isGlobal(other)};
+    const InputSetting taken{mQuestion.wanted, mRegistry->isGlobal(mQuestion.key)};
+    const QList<InputUse> uses = conflictsWith(*mRegistry, other, mQuestion.former);
+    const auto isThisRow = [this](const InputUse &use) { return use.key == mQuestion.key; };
+    return hasEffect(given) && !doConflict(given, taken)
+           && std::all_of(uses.cbegin(), uses.cend(), isThisRow);
 }
 
 /// Returns whether all who use the value are settings that accept `value`.
