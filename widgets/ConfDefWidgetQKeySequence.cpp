@@ -121,24 +121,25 @@ void ConfDefWidgetQKeySequence::loadConf()
 
 void ConfDefWidgetQKeySequence::onKeySequenceChanged(QKeySequence sequence)
 {
-    QxtGlobalShortcut *const hotkey = shortcut();
+    QxtGlobalShortcut *hotkey = shortcut();
     // A hotkey without a global shortcut has no effect, so it is not stored. A sequence that the
     // global shortcut already has was set by the host, which decides whether to store it.
     if (!hotkey || hotkey->shortcut() == sequence) {
-        if (readValue<QKeySequence>() == sequence)
+        if (mItem->validator && readValue<QKeySequence>() == sequence)
             showMessage(QString()); // about other keys
         return;
     }
     const QPointer<ConfDefWidgetQKeySequence> self(this);
     // Keys that are refused must not be registered.
-    if (readValue<QKeySequence>() != sequence
+    if (mItem->validator && readValue<QKeySequence>() != sequence
         && !isAccepted(ConfValue::owned(sequence).toJsonValue()))
         return;
-    if (hotkey != shortcut()) // the validator has deleted or replaced it
+    hotkey = shortcut(); // the validator may have replaced it
+    if (!hotkey)
         return;
     registerKeys(hotkey, sequence);
     // Both calls run code of the host, which may delete the editor.
-    if (!self || !storeValue(sequence))
+    if (!self || !storeAccepted(sequence))
         return;
     refreshState();
     refreshLabelState();

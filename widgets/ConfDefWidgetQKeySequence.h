@@ -15,8 +15,9 @@ namespace MtConf {
 ///
 /// The host creates a `QxtGlobalShortcut` and sets it as the item's property "Shortcut"
 /// (`QVariant::fromValue(shortcut)`). The editor passes each new hotkey to this object and stores
-/// it. An item whose property is missing, null or of another type has no global shortcut; the
-/// editor then shows a recorded hotkey, but does not store it.
+/// it, unless the validator of the item refuses it. An item whose property is missing, null or of
+/// another type has no global shortcut; the editor then shows a recorded hotkey, but does not store
+/// it.
 ///
 /// The host may delete or replace the shortcut while the editor exists. If the shortcut is deleted,
 /// the editor sets the property to an invalid QVariant, so that no dangling pointer remains.
@@ -55,9 +56,10 @@ public:
 
 public Q_SLOTS:
     /// Sets `sequence` in the global shortcut and stores it. Does nothing if there is no global
-    /// shortcut or if it already has this sequence.
+    /// shortcut, if it already has this sequence, or if the validator of the item refuses it.
     void onKeySequenceChanged(QKeySequence sequence);
-    /// Shows the state of the stored hotkey on the button: not set, failed, registered or disabled.
+    /// Shows the state of the stored hotkey on the button: not set, pending, failed, registered or
+    /// disabled.
     /// Without a global shortcut an empty hotkey is shown as not set, and any other has no state.
     void refreshState();
     /// Calls `loadConf` if the global shortcut is not valid. That does not change a global shortcut

@@ -216,8 +216,8 @@ bool ConfWidgetMouseAction::isAcceptedByFilter(int gesture)
     if (!gestureFilter || mIsLoading || gesture == readValue<int>())
         return true;
     const auto filter = gestureFilter; // a copy: the host may replace it in the call
-    const QPointer<ConfWidgetMouseAction> self(this);
-    return filter(gesture) && self;
+    const Writing writing(this);
+    return filter(gesture) && writing.hasEditor();
 }
 
 void ConfWidgetMouseAction::refreshConflictState()

@@ -226,7 +226,7 @@ bool ConfigItemWidget::writeJson(const QJsonValue &value)
         showMessage(QString());
         return false;
     }
-    if (mItem->validator && !isAccepted(value))
+    if (!isAccepted(value))
         return false;
     const Writing writing(this);
     const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);

@@ -131,8 +131,8 @@ protected:
 
     /// Returns whether the validator of the item accepts `value`, and shows under the row why not.
     /// True without a validator and during `refresh`. Returns false if the validator has deleted
-    /// this editor; the caller must then return without using it. The functions that store a value
-    /// call it themselves.
+    /// this editor; the caller must then return without using it. Only editors that do something
+    /// with a value before they store it have to call it.
     bool isAccepted(const QJsonValue &value);
 
     /// Stores `value` if it differs from the stored value. Returns false if it does not differ, if
@@ -151,9 +151,15 @@ protected:
     /// editor; the caller must then return without using it.
     template<class T> bool storeValue(const T &value)
     {
-        if (mIsRefreshing)
-            return false;
         if (mItem->validator && !isAccepted(ConfValue::owned(value).toJsonValue()))
+            return false;
+        return storeAccepted(value);
+    }
+
+    /// The same as `storeValue` for a value about which the validator has been asked already.
+    template<class T> bool storeAccepted(const T &value)
+    {
+        if (mIsRefreshing)
             return false;
         const Writing writing(this);
         const ConfOperation edit(ConfStorage::instance(), ConfChange::Cause::Edited);
@@ -179,9 +185,9 @@ protected:
     ConfItem *mItem;          ///< the edited item
     QPointer<QWidget> mLabel; ///< the caption; null before the first `label()`
 
-private:
-    /// Exists while the editor stores a value. The control that the value comes from is handling an
-    /// event then, so its deletion and that of the editor's page wait.
+    /// Exists while the editor stores a value, or asks the host about it. The control that the
+    /// value comes from is handling an event then, so its deletion and that of the editor's page
+    /// wait.
     class MALTO_EXPORT Writing
     {
     public:
@@ -196,6 +202,7 @@ private:
         const std::unique_ptr<HostCodeScope> mScope;
     };
 
+private:
     friend class RowDependency;
 
     static void logNoItem();
