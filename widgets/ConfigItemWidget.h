@@ -191,10 +191,12 @@ protected:
     class MALTO_EXPORT Writing
     {
     public:
+        /// Begins to store a value of `editor`.
         explicit Writing(ConfigItemWidget *editor);
         ~Writing();
         Q_DISABLE_COPY(Writing)
 
+        /// Returns whether the editor still exists.
         bool hasEditor() const { return mEditor; }
 
     private:
