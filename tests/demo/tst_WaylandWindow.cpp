@@ -81,7 +81,9 @@ void tst_WaylandWindow::cleanup()
     if (DemoFixture::window())
         awaitFrames(DemoFixture::window());
     mDemo.reset();
-    const QStringList warnings = LogCapture::texts(QtWarningMsg) + LogCapture::texts(QtCriticalMsg);
+    QStringList warnings = LogCapture::texts(QtWarningMsg) + LogCapture::texts(QtCriticalMsg);
+    // Qt 5 asks for it itself when a widget of a window that is not active gets the focus.
+    warnings.removeAll(QStringLiteral("Wayland does not support QWindow::requestActivate()"));
     mLog.reset();
     QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
 }
