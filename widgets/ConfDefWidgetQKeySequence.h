@@ -59,8 +59,8 @@ public Q_SLOTS:
     /// shortcut, if it already has this sequence, or if the validator of the item refuses it.
     void onKeySequenceChanged(QKeySequence sequence);
     /// Shows the state of the stored hotkey on the button: not set, pending, failed, registered or
-    /// disabled.
-    /// Without a global shortcut an empty hotkey is shown as not set, and any other has no state.
+    /// disabled. Without a global shortcut an empty hotkey is shown as not set, and any other has
+    /// no state.
     void refreshState();
     /// Calls `loadConf` if the global shortcut is not valid. That does not change a global shortcut
     /// that has the stored hotkey already; with `sTellsReasons` it is set again.

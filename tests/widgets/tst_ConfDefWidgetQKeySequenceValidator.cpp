@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include <functional>
+
 Q_DECLARE_METATYPE(std::function<void()>)
 
 /// Hotkeys whose item has a validator.
